@@ -1,0 +1,39 @@
+// What the picture view needs from the controller.
+#pragma once
+
+#include "platform/coreimage/CIFilter.h"
+#include "platform/coreimage/CIImage.h"
+
+#include <memory>
+#include <string>
+
+class QMenu;
+class QString;
+
+/// In tests, a ten-line fake. Everything is called on the main thread.
+class ImageViewMaster {
+public:
+    virtual ~ImageViewMaster() = default;
+
+    /// The source picture, for its size; null when none is open.
+    virtual CIImage backImage() = 0;
+    /// The picture to show, null to show nothing; with `overBlack`, laid over opaque black.
+    virtual CIImage coreImageResult(bool overBlack) = 0;
+    /// The filter being edited, or null.
+    virtual std::shared_ptr<CIFilter> getCurrentFilter() = 0;
+    /// True when the current filter has inputs that are edited on the picture.
+    virtual bool isControlsPresent() = 0;
+    /// Sets an input, undoably.
+    virtual void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) = 0;
+    /// The menu for a right click on the picture; null for none. The master keeps it.
+    virtual QMenu* contextMenu() = 0;
+    /// Adds to the zoom, as a pinch does. (The double m is on purpose.)
+    virtual void updateZoommWithDelta(double delta) = 0;
+    /// Tells the zoom control what the view's zoom is now; doesn't come back to the view.
+    virtual void setZoom(float zoom) = 0;
+    virtual void setFilePath(const QString& path) = 0;
+    /// Replaces the picture, undoably.
+    virtual void undoPaste(const CIImage& image) = 0;
+    /// Reads a dropped file; null when it is no readable picture.
+    virtual CIImage readImage(const QString& path) = 0;
+};
