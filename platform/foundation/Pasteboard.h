@@ -1,0 +1,31 @@
+// Pictures on the clipboard.
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QStringList>
+
+class QMimeData;
+
+/// The general pasteboard: the desktop's clipboard, as far as pictures go. Main thread only.
+class Pasteboard : public QObject {
+    Q_OBJECT
+
+public:
+    static Pasteboard& generalPasteboard();
+
+    /// True when the clipboard holds a picture in any form that can be read; this counts as TIFF offered.
+    bool offersTIFF() const;
+    /// The picture as the bytes of a file, in the best form offered (no loss before loss); empty without one.
+    QByteArray pictureData() const;
+
+    /// Which of the offered types `pictureData` takes; empty when none is a picture.
+    static QString bestPictureType(const QStringList& offeredTypes);
+
+signals:
+    /// Somebody, here or in another program, put something else on the clipboard.
+    void changed();
+
+private:
+    Pasteboard();
+};

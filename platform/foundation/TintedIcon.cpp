@@ -1,0 +1,76 @@
+#include "platform/foundation/TintedIcon.h"
+
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/ResourcePaths.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+namespace {
+
+QColor tint(QIcon::Mode mode, QIcon::State state)
+{
+    const Look& look = Appearance::shared().look();
+    if (mode == QIcon::Disabled)
+        return look.disabledText;
+    return state == QIcon::On || mode == QIcon::Selected ? look.accentText : look.text;
+}
+
+class TintedIconEngine : public QIconEngine {
+public:
+    explicit TintedIconEngine(QString file)
+        : m_file(std::move(file))
+    {
+    }
+
+    QIconEngine* clone() const override { return new TintedIconEngine(m_file); }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const qreal scale = painter->device()->devicePixelRatioF();
+        QPixmap drawn = pixmap(rect.size() * scale, mode, state);
+        painter->drawPixmap(rect, drawn);
+    }
+
+    /// `size` is in device pixels.
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QColor color = tint(mode, state);
+        const QString key =
+            QStringLiteral("lumivex %1 %2 %3 %4").arg(m_file, color.name()).arg(size.width()).arg(size.height());
+        QPixmap pixmap;
+        if (QPixmapCache::find(key, &pixmap))
+            return pixmap;
+        pixmap = QPixmap(size);
+        pixmap.fill(Qt::transparent);
+        QSvgRenderer renderer(m_file);
+        renderer.setAspectRatioMode(Qt::KeepAspectRatio);
+        QPainter painter(&pixmap);
+        renderer.render(&painter);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn); // keeps the shape, changes the color
+        painter.fillRect(pixmap.rect(), color);
+        painter.end();
+        QPixmapCache::insert(key, pixmap);
+        return pixmap;
+    }
+
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override
+    {
+        QPixmap drawn = pixmap(size, mode, state);
+        drawn.setDevicePixelRatio(scale);
+        return drawn;
+    }
+
+private:
+    QString m_file;
+};
+
+} // namespace
+
+QIcon tintedIcon(const QString& name)
+{
+    const QString file = pathForResource(name, QStringLiteral("svg"));
+    return file.isEmpty() ? QIcon() : QIcon(new TintedIconEngine(file));
+}
