@@ -1,0 +1,57 @@
+// Makes the program's pictures: make_pictures FOLDER [name...]; without names, all of them.
+
+#include "tools/make_pictures/PictureFile.h"
+#include "tools/make_pictures/Textures.h"
+
+#include <vips/vips8>
+
+#include <functional>
+#include <iostream>
+#include <set>
+
+namespace {
+
+struct Product {
+    std::string name;
+    std::function<void(const std::string& file)> make;
+};
+
+const std::vector<Product>& products()
+{
+    static const std::vector<Product> kProducts = {
+        {"smoothtexture.tiff", [](const std::string& file) { writeTiff(smoothTexture(), Depth::Sixteen, file); }},
+        {"lightball.tiff", [](const std::string& file) { writeTiff(lightBall(), Depth::Eight, file); }},
+        {"restrictedshine.tiff", [](const std::string& file) { writeTiff(restrictedShine(), Depth::Eight, file); }},
+        {"colormap.tiff", [](const std::string& file) { writeTiff(colorMap(), Depth::Eight, file); }},
+        {"mask.tiff", [](const std::string& file) { writeTiff(disintegrateMask(), Depth::Sixteen, file); }},
+        {"16x16c.tif", [](const std::string& file) { writeTiff(controlPointMarker(), Depth::Eight, file); }},
+    };
+    return kProducts;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2 || VIPS_INIT(argv[0]) != 0) {
+        std::cerr << "usage: make_pictures FOLDER [name...]\n";
+        return 2;
+    }
+    const std::string folder = argv[1];
+    std::set<std::string> wanted(argv + 2, argv + argc);
+    const bool all = wanted.empty();
+    try {
+        for (const Product& product : products())
+            if (all || wanted.erase(product.name) > 0) {
+                std::cout << product.name << std::endl;
+                product.make(folder + "/" + product.name);
+            }
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << "\n";
+        return 1;
+    }
+    for (const std::string& name : wanted)
+        std::cerr << "no such picture: " << name << "\n";
+    vips_shutdown();
+    return wanted.empty() ? 0 : 2;
+}
