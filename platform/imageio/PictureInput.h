@@ -1,0 +1,47 @@
+// The bytes of one picture file, on disk or in memory.
+#pragma once
+
+#include "platform/imageio/PictureKind.h"
+#include "platform/imageio/Result.h"
+#include "platform/imageio/Vips.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+
+namespace imageio {
+
+class PictureInput {
+public:
+    /// Fails when there is no regular, readable file with at least one byte.
+    static Result<PictureInput> fromFile(const std::filesystem::path&);
+    static Result<PictureInput> fromMemory(std::span<const std::byte>);
+
+    /// How messages call the picture: "“name.jpg”" or "The picture".
+    const std::string& name() const { return m_name; }
+    PictureKind kind() const { return m_kind; }
+    ReadBytes reader() const;
+
+    /// Null with a pending libvips error when the file can't be opened.
+    VipsSourcePtr source() const;
+    /// All bytes, mapped; valid as long as the source lives. Empty when that fails.
+    static std::span<const std::byte> wholeContent(VipsSource*);
+
+    /// A path for libraries that read only files; empty for memory.
+    const std::filesystem::path& path() const { return m_path; }
+    std::span<const std::byte> memory() const { return m_memory; }
+
+private:
+    struct CloseFile {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+
+    std::string m_name;
+    std::filesystem::path m_path;
+    std::shared_ptr<std::FILE> m_file;
+    std::span<const std::byte> m_memory;
+    PictureKind m_kind = PictureKind::Unknown;
+};
+
+} // namespace imageio

@@ -1,0 +1,264 @@
+#include "platform/imageio/PictureKind.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+
+namespace imageio {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+std::string_view textOf(const std::vector<std::byte>& bytes)
+{
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+/// Numbers of a TIFF-like file, in its byte order; 0 past the end.
+class Numbers {
+public:
+    Numbers(const ReadBytes& read, bool littleEndian)
+        : m_read(read)
+        , m_littleEndian(littleEndian)
+    {
+    }
+    std::uint32_t u16(std::size_t offset) const { return number(offset, 2); }
+    std::uint32_t u32(std::size_t offset) const { return number(offset, 4); }
+
+private:
+    std::uint32_t number(std::size_t offset, std::size_t size) const
+    {
+        const auto bytes = m_read(offset, size);
+        if (bytes.size() < size)
+            return 0;
+        std::uint32_t value = 0;
+        for (std::size_t i = 0; i < size; ++i)
+            value = value << 8 | std::to_integer<std::uint32_t>(bytes[m_littleEndian ? size - 1 - i : i]);
+        return value;
+    }
+
+    const ReadBytes& m_read;
+    bool m_littleEndian;
+};
+
+// Tag numbers and values of TIFF 6.0, TIFF/EP and DNG.
+constexpr std::uint32_t kTagCompression = 259, kTagPhotometric = 262, kTagSubDirectories = 330, kTagDngVersion = 50706;
+constexpr std::uint32_t kPhotometricColorFilterArray = 32803, kPhotometricLinearRaw = 34892;
+
+bool isRawCompression(std::uint32_t compression)
+{
+    constexpr std::uint32_t kinds[] = {32767, 32769, 32770, 34713, 65000, 65535}; // what the camera makers use
+    return std::ranges::find(kinds, compression) != std::end(kinds);
+}
+
+struct DirectoryScan {
+    bool isRaw = false;
+    std::vector<std::size_t> next; // offsets of further directories
+};
+
+DirectoryScan scanDirectory(const Numbers& numbers, std::size_t offset)
+{
+    DirectoryScan scan;
+    const std::uint32_t count = std::min<std::uint32_t>(numbers.u16(offset), 200);
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::size_t entry = offset + 2 + std::size_t(12) * i;
+        const std::uint32_t tag = numbers.u16(entry), length = numbers.u32(entry + 4);
+        const std::uint32_t value = numbers.u16(entry + 2) == 3 ? numbers.u16(entry + 8) : numbers.u32(entry + 8);
+        if (tag == kTagDngVersion || (tag == kTagCompression && isRawCompression(value))
+            || (tag == kTagPhotometric && (value == kPhotometricColorFilterArray || value == kPhotometricLinearRaw)))
+            scan.isRaw = true;
+        if (tag == kTagSubDirectories && length == 1)
+            scan.next.push_back(value);
+        else if (tag == kTagSubDirectories)
+            for (std::uint32_t j = 0; j < std::min<std::uint32_t>(length, 8); ++j)
+                scan.next.push_back(numbers.u32(value + std::size_t(4) * j));
+    }
+    scan.next.push_back(numbers.u32(offset + 2 + std::size_t(12) * count));
+    return scan;
+}
+
+/// Most camera makers store their sensor data in a TIFF file with a directory of its own.
+bool isCameraTiff(const ReadBytes& read, bool littleEndian)
+{
+    const Numbers numbers(read, littleEndian);
+    std::vector<std::size_t> waiting{numbers.u32(4)};
+    for (int visited = 0; visited < 12 && !waiting.empty(); ++visited) { // directories may form a circle
+        const std::size_t offset = waiting.back();
+        waiting.pop_back();
+        if (offset == 0)
+            continue;
+        const DirectoryScan scan = scanDirectory(numbers, offset);
+        if (scan.isRaw)
+            return true;
+        waiting.insert(waiting.begin(), scan.next.begin(), scan.next.end());
+    }
+    return false;
+}
+
+PictureKind kindOfTiff(std::string_view head, const ReadBytes& read)
+{
+    const bool isClassic = head.starts_with("II*\0"sv) || head.starts_with("MM\0*"sv);
+    const bool isMakersMark = head.substr(8, 2) == "CR"sv || head.substr(8, 4) == "IIII"sv;
+    if (isClassic && (isMakersMark || isCameraTiff(read, head[0] == 'I')))
+        return PictureKind::CameraRaw;
+    return PictureKind::Tiff;
+}
+
+/// Files of the ISO base media family name their brands at the start.
+PictureKind kindOfBrands(std::string_view head)
+{
+    const std::size_t size = std::min<std::size_t>(head.size(), static_cast<unsigned char>(head[3]));
+    PictureKind kind = PictureKind::Unknown;
+    for (std::size_t at = 8; at + 4 <= size; at += 4) {
+        const std::string_view brand = head.substr(at, 4);
+        if (brand == "crx "sv)
+            return PictureKind::CameraRaw;
+        if (brand == "avif"sv || brand == "avis"sv)
+            return PictureKind::Avif;
+        for (const auto heif : {"heic"sv, "heix"sv, "heim"sv, "heis"sv, "hevc"sv, "hevx"sv, "mif1"sv, "msf1"sv})
+            if (brand == heif)
+                kind = PictureKind::Heif;
+    }
+    return kind;
+}
+
+bool isBmp(std::string_view head)
+{
+    if (!head.starts_with("BM"sv) || head.size() < 18)
+        return false;
+    constexpr unsigned char headerSizes[] = {12, 16, 40, 52, 56, 64, 108, 124};
+    return std::ranges::find(headerSizes, static_cast<unsigned char>(head[14])) != std::end(headerSizes)
+        && head.substr(15, 3) == "\0\0\0"sv;
+}
+
+bool isSgi(std::string_view head)
+{
+    return head.starts_with("\x01\xda"sv) && head.size() > 4 && (head[2] == 0 || head[2] == 1)
+        && (head[3] == 1 || head[3] == 2);
+}
+
+bool isSvg(std::string_view head)
+{
+    if (head.starts_with("\xef\xbb\xbf"sv))
+        head.remove_prefix(3);
+    const std::size_t start = head.find_first_not_of(" \t\r\n"sv);
+    return start != head.npos && head[start] == '<' && head.find("<svg"sv) != head.npos;
+}
+
+struct Signature {
+    std::string_view bytes;
+    PictureKind kind;
+};
+
+constexpr Signature kSignatures[] = {
+    {"\xff\xd8\xff"sv, PictureKind::Jpeg},
+    {"\x89PNG\r\n\x1a\n"sv, PictureKind::Png},
+    {"GIF8"sv, PictureKind::Gif},
+    {"\0\0\0\x0cjP  "sv, PictureKind::Jpeg2000},
+    {"\xff\x4f\xff\x51"sv, PictureKind::Jpeg2000},
+    {"\0\0\0\x0cJXL \r\n\x87\n"sv, PictureKind::JpegXl},
+    {"\xff\x0a"sv, PictureKind::JpegXl},
+    {"%PDF-"sv, PictureKind::Pdf},
+    {"\x76\x2f\x31\x01"sv, PictureKind::Exr},
+    {"8BPS"sv, PictureKind::Psd},
+    {"\0\0\x01\0"sv, PictureKind::Ico},
+    {"IIU\0"sv, PictureKind::CameraRaw},
+    {"IIRO"sv, PictureKind::CameraRaw},
+    {"IIRS"sv, PictureKind::CameraRaw},
+    {"MMOR"sv, PictureKind::CameraRaw},
+    {"FUJIFILMCCD-RAW"sv, PictureKind::CameraRaw},
+    {"II\x1a\0\0\0HEAPCCDR"sv, PictureKind::CameraRaw},
+    {"\0MRM"sv, PictureKind::CameraRaw},
+    {"FOVb"sv, PictureKind::CameraRaw},
+};
+
+} // namespace
+
+PictureKind kindOfContent(const ReadBytes& read)
+{
+    const auto bytes = read(0, 4096);
+    const std::string_view head = textOf(bytes);
+    if (head.size() < 12)
+        return PictureKind::Unknown;
+    for (const Signature& signature : kSignatures)
+        if (head.starts_with(signature.bytes))
+            return signature.kind;
+    for (const auto tiff : {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv})
+        if (head.starts_with(tiff))
+            return kindOfTiff(head, read);
+    if (head.starts_with("RIFF"sv) && head.substr(8, 4) == "WEBP"sv)
+        return PictureKind::WebP;
+    if (head.substr(4, 4) == "ftyp"sv)
+        return kindOfBrands(head);
+    if (isBmp(head))
+        return PictureKind::Bmp;
+    if (isSgi(head))
+        return PictureKind::Sgi;
+    return isSvg(head) ? PictureKind::Svg : PictureKind::Unknown;
+}
+
+const char* nameOfKind(PictureKind kind)
+{
+    switch (kind) {
+    case PictureKind::Unknown:
+        return "";
+    case PictureKind::Jpeg:
+        return "JPEG";
+    case PictureKind::Png:
+        return "PNG";
+    case PictureKind::Tiff:
+        return "TIFF";
+    case PictureKind::Gif:
+        return "GIF";
+    case PictureKind::Bmp:
+        return "BMP";
+    case PictureKind::WebP:
+        return "WebP";
+    case PictureKind::Heif:
+        return "HEIF";
+    case PictureKind::Avif:
+        return "AVIF";
+    case PictureKind::Jpeg2000:
+        return "JPEG 2000";
+    case PictureKind::JpegXl:
+        return "JPEG XL";
+    case PictureKind::Svg:
+        return "SVG";
+    case PictureKind::Pdf:
+        return "PDF";
+    case PictureKind::Exr:
+        return "OpenEXR";
+    case PictureKind::Psd:
+        return "PSD";
+    case PictureKind::Ico:
+        return "ICO";
+    case PictureKind::Sgi:
+        return "SGI";
+    case PictureKind::CameraRaw:
+        return "Camera raw";
+    }
+    return "";
+}
+
+int largestIconIndex(const ReadBytes& read)
+{
+    const Numbers numbers(read, true);
+    const std::uint32_t count = std::min<std::uint32_t>(numbers.u16(4), 256);
+    int best = 0;
+    std::uint32_t bestSize = 0, bestBits = 0;
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::size_t entry = 6 + std::size_t(16) * i;
+        const std::uint32_t sides = numbers.u16(entry), bits = numbers.u16(entry + 6);
+        const auto side = [](std::uint32_t stored) { return stored ? stored : 256u; };
+        const std::uint32_t size = side(sides & 255) * side(sides >> 8);
+        if (size > bestSize || (size == bestSize && bits > bestBits)) {
+            best = int(i);
+            bestSize = size;
+            bestBits = bits;
+        }
+    }
+    return best;
+}
+
+} // namespace imageio

@@ -1,0 +1,21 @@
+// Opens a picture with the loader for its kind; pixels are decoded when they are asked for.
+#pragma once
+
+#include "platform/imageio/PictureInput.h"
+
+namespace imageio {
+
+/// An opened picture and what has to outlive it.
+struct OpenPicture {
+    VipsSourcePtr source;
+    std::shared_ptr<const void> temporaryFile;
+    VipsImagePtr image; // as stored: neither upright nor in sRGB yet
+    int orientation = 1; // EXIF number that still has to be applied
+    bool isPremultiplied = false;
+};
+
+/// Opens what libvips reads, reading the header only. `maxSide` > 0 lets the decoder skip detail, as long as
+/// the longer side stays at least that long. A null image with a pending libvips error when it fails.
+OpenPicture openPicture(const PictureInput&, int maxSide);
+
+} // namespace imageio

@@ -1,0 +1,162 @@
+#include "platform/imageio/PictureReader.h"
+
+#include "platform/imageio/ImageLog.h"
+#include "platform/imageio/PictureColor.h"
+#include "platform/imageio/PictureLoad.h"
+#include "platform/imageio/PictureSink.h"
+#include "platform/imageio/RawReader.h"
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+using namespace imageio;
+
+Failure unknownFormat(const PictureInput& input)
+{
+    return {input.name() + " is not a picture of a kind that can be opened."};
+}
+
+Failure damaged(const PictureInput& input)
+{
+    imageLog(input.name() + " (" + nameOfKind(input.kind()) + "): " + takeVipsError());
+    return {input.name() + " is damaged or incomplete, so it can't be opened."};
+}
+
+Failure tooLarge(const PictureInput& input, int width, int height)
+{
+    return {input.name() + " is too large to be opened: " + std::to_string(width) + " × " + std::to_string(height)
+        + " pixels."};
+}
+
+/// At most `maxSide` pixels on the longer side. Transparent pixels don't bleed into their neighbors.
+VipsImagePtr reducedTo(VipsImagePtr image, int maxSide, bool isPremultiplied)
+{
+    const int longerSide = std::max(vips_image_get_width(image.get()), vips_image_get_height(image.get()));
+    if (maxSide <= 0 || longerSide <= maxSide)
+        return image;
+    const double factor = double(maxSide) / longerSide;
+    const auto resized = [factor](VipsImage* source) {
+        return derive(
+            [&](VipsImage** out) { return vips_resize(source, out, factor, "kernel", VIPS_KERNEL_LINEAR, nullptr); });
+    };
+    const int bands = vips_image_get_bands(image.get());
+    if (isPremultiplied || (bands != 2 && bands != 4))
+        return resized(image.get());
+    const VipsBandFormat format = vips_image_get_format(image.get());
+    const double fullAlpha = format == VIPS_FORMAT_UCHAR ? 255 : format == VIPS_FORMAT_USHORT ? 65535 : 1;
+    image =
+        derive([&](VipsImage** out) { return vips_premultiply(image.get(), out, "max_alpha", fullAlpha, nullptr); });
+    if (image)
+        image = resized(image.get());
+    if (image)
+        image = derive(
+            [&](VipsImage** out) { return vips_unpremultiply(image.get(), out, "max_alpha", fullAlpha, nullptr); });
+    return image ? derive([&](VipsImage** out) { return vips_cast(image.get(), out, format, nullptr); }) : nullptr;
+}
+
+Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
+{
+    OpenPicture picture = openPicture(input, options.maxSide);
+    if (!picture.image)
+        return damaged(input);
+    const int width = vips_image_get_width(picture.image.get()), height = vips_image_get_height(picture.image.get());
+    if (std::int64_t(width) * height > options.maxPixels)
+        return tooLarge(input, width, height);
+    VipsImagePtr image = toWorkingColor(std::move(picture.image));
+    if (image)
+        image = reducedTo(std::move(image), options.maxSide, picture.isPremultiplied);
+    if (!image)
+        return damaged(input);
+    SinkResult pulled = pullIntoBitmap(image.get(), picture.orientation,
+        picture.isPremultiplied ? CIAlpha::Premultiplied : CIAlpha::Straight, options);
+    switch (pulled.end) {
+    case SinkEnd::Complete:
+        return std::move(pulled.bitmap);
+    case SinkEnd::Damaged:
+        return damaged(input);
+    case SinkEnd::TimeOver:
+        return Failure{"Opening " + input.name() + " took too long."};
+    case SinkEnd::Cancelled:
+        return Failure{"Opening " + input.name() + " was given up."};
+    }
+    return damaged(input);
+}
+
+Result<CIBitmap> readChecked(const Result<PictureInput>& input, const ReadOptions& options)
+{
+    if (!input)
+        return input.failure();
+    if (input->kind() == PictureKind::Unknown)
+        return unknownFormat(*input);
+    try {
+        useVips();
+        return input->kind() == PictureKind::CameraRaw ? readRaw(*input, options) : decode(*input, options);
+    } catch (const std::bad_alloc&) {
+        return Failure{"There is not enough memory to open " + input->name() + "."};
+    } catch (const std::exception& error) {
+        imageLog(input->name() + ": " + error.what());
+        return Failure{input->name() + " can't be opened."};
+    }
+}
+
+Result<CIBitmap> logged(Result<CIBitmap> result)
+{
+    if (!result)
+        imageLog(result.message());
+    return result;
+}
+
+int bitsPerComponent(VipsImage* image)
+{
+    const auto format = vips_image_get_format(image);
+    return vips_image_get_coding(image) == VIPS_CODING_NONE ? int(vips_format_sizeof(format)) * 8 : 16;
+}
+
+PictureInfo infoOf(const OpenPicture& picture, PictureKind kind)
+{
+    VipsImage* image = picture.image.get();
+    PictureInfo info;
+    info.width = vips_image_get_width(image);
+    info.height = vips_image_get_height(image);
+    if (picture.orientation >= 5)
+        std::swap(info.width, info.height);
+    info.bitsPerComponent = bitsPerComponent(image);
+    info.isFloat = vips_band_format_isfloat(vips_image_get_format(image));
+    info.hasAlpha = vips_image_hasalpha(image) && vips_image_get_coding(image) == VIPS_CODING_NONE;
+    info.profileName = profileName(image);
+    info.formatName = nameOfKind(kind);
+    return info;
+}
+
+} // namespace
+
+Result<CIBitmap> readPicture(const std::filesystem::path& file, const ReadOptions& options)
+{
+    return logged(readChecked(PictureInput::fromFile(file), options));
+}
+
+Result<CIBitmap> readPicture(std::span<const std::byte> content, const ReadOptions& options)
+{
+    return logged(readChecked(PictureInput::fromMemory(content), options));
+}
+
+Result<PictureInfo> readPictureInfo(const std::filesystem::path& file)
+{
+    const Result<PictureInput> input = PictureInput::fromFile(file);
+    if (!input)
+        return input.failure();
+    if (input->kind() == PictureKind::Unknown)
+        return unknownFormat(*input);
+    try {
+        useVips();
+        if (input->kind() == PictureKind::CameraRaw)
+            return readRawInfo(*input);
+        const OpenPicture picture = openPicture(*input, 0);
+        return picture.image ? Result<PictureInfo>(infoOf(picture, input->kind())) : damaged(*input);
+    } catch (const std::exception& error) {
+        imageLog(input->name() + ": " + error.what());
+        return Failure{input->name() + " can't be opened."};
+    }
+}

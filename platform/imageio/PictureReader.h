@@ -1,0 +1,48 @@
+// Reads picture files.
+#pragma once
+
+#include "platform/coreimage/CIBitmap.h"
+#include "platform/imageio/Result.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+
+struct ReadOptions {
+    std::int64_t maxPixels = 500'000'000; // width times height; larger pictures are refused
+    int maxSide = 0; // px; when set, a larger picture is reduced while it is decoded. Quick, and good for a first view
+    std::chrono::seconds timeLimit{120};
+    const std::atomic<bool>* cancelled = nullptr; // set from another thread to give up; the result is then a failure
+};
+
+/// What the header of a picture file says.
+struct PictureInfo {
+    int width = 0, height = 0; // px, upright
+    int bitsPerComponent = 8;
+    bool isFloat = false;
+    bool hasAlpha = false;
+    std::string profileName; // of the embedded color profile; empty without one
+    std::string formatName; // "JPEG", "PNG", …
+};
+
+/// Reads a picture: upright, in sRGB, first frame or page, row 0 on top. Content decides the format, not the name.
+///
+/// The result is RGBA8 (sRGB) for files of up to 8 bits, RGBA16 (sRGB) for deeper ones and RGBAf (linear sRGB, not
+/// clipped) for floating-point ones. Alpha is straight (in OpenEXR files premultiplied, as they are stored), or opaque
+/// when no pixel is transparent. Drawings (SVG, PDF)
+/// are rendered 1024 to 8192 pixels large and see no other file.
+///
+/// Fails with a message fit to show when the file is missing, damaged, incomplete, of an unknown format or over
+/// `maxPixels`; the header is checked before memory is taken, and the technical reason is logged.
+/// Blocks while it reads; may be called from several threads at once.
+Result<CIBitmap> readPicture(const std::filesystem::path& file, const ReadOptions& = {});
+
+/// The same from bytes in memory, which must stay until the call returns.
+Result<CIBitmap> readPicture(std::span<const std::byte> content, const ReadOptions& = {});
+
+/// Size and kind of a picture without decoding it. The size is that of the picture itself also when `maxPixels`
+/// is exceeded.
+Result<PictureInfo> readPictureInfo(const std::filesystem::path& file);

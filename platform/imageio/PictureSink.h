@@ -1,0 +1,23 @@
+// Decodes a picture straight into a bitmap.
+#pragma once
+
+#include "platform/coreimage/CIBitmap.h"
+#include "platform/imageio/PictureReader.h"
+#include "platform/imageio/Vips.h"
+
+namespace imageio {
+
+enum class SinkEnd { Complete, Damaged, TimeOver, Cancelled };
+
+struct SinkResult {
+    CIBitmap bitmap; // null unless the end is Complete
+    SinkEnd end = SinkEnd::Damaged;
+};
+
+/// Pulls `image` (1 or 3 color bands, optional alpha; 8 or 16 bits or float) through once, strip by strip, and
+/// turns it upright on the way: no second copy of the picture is made. `orientation` is the EXIF number; `alpha`
+/// says what the pixels are if one of them is transparent.
+/// Throws std::bad_alloc when the bitmap has no room.
+SinkResult pullIntoBitmap(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions&);
+
+} // namespace imageio
