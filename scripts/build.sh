@@ -1,0 +1,21 @@
+# shellcheck shell=bash
+# Sourced by ./run, ./test and ./benchmark: configures and builds a preset.
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
+
+# Lets compiled files be shared between clones of the project.
+export CCACHE_BASEDIR=${CCACHE_BASEDIR:-$PWD} CCACHE_NOHASHDIR=${CCACHE_NOHASHDIR:-1}
+
+# build PRESET [-DNAME=VALUE ...] [-- TARGET ...]
+# Tests and benchmarks are left out unless they are asked for, now or in an earlier build of this preset.
+build() {
+    local preset=$1 options=() targets=()
+    shift
+    [[ -f build/$preset/CMakeCache.txt ]] || options=(-DLUMIVEX_TESTS=OFF -DLUMIVEX_BENCH=OFF)
+    while (($#)) && [[ $1 != -- ]]; do
+        options+=("$1")
+        shift
+    done
+    (($#)) && targets=(--target "${@:2}")
+    cmake --preset "$preset" --log-level=NOTICE "${options[@]}" >/dev/null
+    cmake --build "build/$preset" --parallel "$(nproc 2>/dev/null || echo 2)" "${targets[@]}"
+}
