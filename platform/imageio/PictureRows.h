@@ -1,0 +1,17 @@
+// A bitmap as a libvips image, converted row by row while it is read.
+#pragma once
+
+#include "platform/coreimage/CIBitmap.h"
+#include "platform/imageio/Vips.h"
+
+namespace imageio {
+
+struct RowLayout {
+    int bits = 8; // 8 or 16
+    bool hasAlpha = false; // straight; without it transparent pixels come out on white
+};
+
+/// The bitmap in sRGB. It must outlive the image. Null with a pending libvips error when that fails.
+VipsImagePtr imageOfBitmap(const CIBitmap&, RowLayout);
+
+} // namespace imageio

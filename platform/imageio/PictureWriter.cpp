@@ -1,0 +1,220 @@
+#include "platform/imageio/PictureWriter.h"
+
+#include "platform/imageio/ImageLog.h"
+#include "platform/imageio/PictureRows.h"
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <cstring>
+#include <new>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace imageio;
+
+using TargetPtr = std::unique_ptr<VipsTarget, ObjectUnref>;
+
+bool keepsAlpha(PictureFormat format) { return format != PictureFormat::Jpeg; }
+
+bool keepsSixteenBits(PictureFormat format)
+{
+    return format == PictureFormat::Png || format == PictureFormat::Tiff || format == PictureFormat::Jpeg2000;
+}
+
+RowLayout layoutFor(const CIBitmap& bitmap, const WriteOptions& options)
+{
+    const bool isDeepBitmap = bitmap.format() == CIFormat::RGBA16 || bitmap.format() == CIFormat::RGBAf;
+    const int wanted = options.bitsPerComponent ? options.bitsPerComponent : (isDeepBitmap ? 16 : 8);
+    RowLayout layout;
+    layout.bits = wanted > 8 && keepsSixteenBits(options.format) ? 16 : 8;
+    layout.hasAlpha = bitmap.alpha() != CIAlpha::Opaque && keepsAlpha(options.format);
+    return layout;
+}
+
+void attachSrgbProfile(VipsImage* image)
+{
+    VipsBlob* profile = nullptr;
+    if (vips_profile_load("srgb", &profile, nullptr) != 0) {
+        vips_error_clear(); // files without a profile count as sRGB too
+        return;
+    }
+    std::size_t size = 0;
+    const void* bytes = vips_blob_get(profile, &size);
+    vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, bytes, size);
+    vips_area_unref(VIPS_AREA(profile));
+}
+
+int encode(VipsImage* image, VipsTarget* target, const WriteOptions& options)
+{
+    const int quality = std::clamp(int(options.quality * 100 + 0.5), 1, 100);
+    switch (options.format) {
+    case PictureFormat::Jpeg:
+        return vips_jpegsave_target(image, target, "Q", quality, "optimize_coding", TRUE, nullptr);
+    case PictureFormat::Jpeg2000:
+        return vips_jp2ksave_target(image, target, "Q", quality, nullptr);
+    case PictureFormat::Tiff:
+        return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW, "predictor",
+            VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL, nullptr);
+    case PictureFormat::Gif:
+        return vips_gifsave_target(image, target, nullptr);
+    case PictureFormat::Png:
+        return vips_pngsave_target(image, target, "compression", 4, "filter", VIPS_FOREIGN_PNG_FILTER_SUB, nullptr);
+    case PictureFormat::WebP:
+        return vips_webpsave_target(image, target, "Q", quality, nullptr);
+    }
+    return -1;
+}
+
+/// False, with the reason logged, when the picture can't be encoded or its bytes can't be stored.
+bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& options)
+{
+    VipsImagePtr image = target ? imageOfBitmap(bitmap, layoutFor(bitmap, options)) : nullptr;
+    if (image) {
+        attachSrgbProfile(image.get());
+        if (options.dotsPerInch > 0)
+            image = derive([&](VipsImage** out) { // libvips counts dots per millimeter
+                const double resolution = options.dotsPerInch / 25.4;
+                return vips_copy(image.get(), out, "xres", resolution, "yres", resolution, nullptr);
+            });
+    }
+    if (image && encode(image.get(), target, options) == 0)
+        return true;
+    imageLog("A picture can't be written: " + takeVipsError());
+    return false;
+}
+
+/// A new file beside the target that disappears again unless it is committed.
+class FileBeside {
+public:
+    explicit FileBeside(const fs::path& target)
+        : m_target(target)
+    {
+        std::error_code error;
+        if (fs::is_symlink(target, error))
+            m_target = fs::weakly_canonical(target, error);
+        static std::atomic<unsigned> counter = 0;
+        for (int attempt = 0; attempt < 100 && m_descriptor < 0; ++attempt) {
+            m_path =
+                m_target.parent_path() / (".lumivex-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
+            m_descriptor = ::open(m_path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
+            if (m_descriptor < 0 && errno != EEXIST)
+                break;
+        }
+    }
+    ~FileBeside()
+    {
+        if (m_descriptor < 0)
+            return;
+        ::close(m_descriptor);
+        if (!m_isCommitted)
+            ::unlink(m_path.c_str());
+    }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    int descriptor() const { return m_descriptor; }
+
+    /// Brings the bytes to the disk and the file to its name; errno tells why that failed.
+    bool commit()
+    {
+        struct stat old { };
+        if (::stat(m_target.c_str(), &old) == 0 && ::fchmod(m_descriptor, old.st_mode & 07777) != 0)
+            imageLog("The permissions of " + m_target.string() + " can't be kept.");
+        m_isCommitted = ::fsync(m_descriptor) == 0 && ::rename(m_path.c_str(), m_target.c_str()) == 0;
+        return m_isCommitted;
+    }
+
+private:
+    fs::path m_target, m_path;
+    int m_descriptor = -1;
+    bool m_isCommitted = false;
+};
+
+Failure cannotWrite(const fs::path& file, int error)
+{
+    const Failure failure{"“" + file.filename().string() + "” can't be written"
+        + (error ? ": " + std::string(std::strerror(error)) : std::string()) + "."};
+    imageLog(failure.message);
+    return failure;
+}
+
+} // namespace
+
+Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const WriteOptions& options)
+{
+    if (bitmap.isNull())
+        return Failure{"There is no picture to write."};
+    try {
+        useVips();
+        FileBeside beside(file);
+        if (beside.descriptor() < 0)
+            return cannotWrite(file, errno);
+        errno = 0;
+        const TargetPtr target(vips_target_new_to_descriptor(beside.descriptor()));
+        if (!encodeTo(target.get(), bitmap, options))
+            return cannotWrite(file, errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0);
+        if (!beside.commit())
+            return cannotWrite(file, errno);
+        return {};
+    } catch (const std::exception& error) {
+        imageLog(error.what());
+        return cannotWrite(file, 0);
+    }
+}
+
+Result<void> writePng(const CIBitmap& bitmap, const fs::path& file) { return writePicture(bitmap, file); }
+
+Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const WriteOptions& options)
+{
+    const Failure failure{"The picture can't be encoded."};
+    if (bitmap.isNull())
+        return failure;
+    try {
+        useVips();
+        const TargetPtr target(vips_target_new_to_memory());
+        if (!encodeTo(target.get(), bitmap, options))
+            return failure;
+        std::size_t size = 0;
+        const std::unique_ptr<unsigned char, decltype(&g_free)> bytes(vips_target_steal(target.get(), &size), g_free);
+        const auto* first = reinterpret_cast<const std::byte*>(bytes.get());
+        return std::vector<std::byte>(first, first + size);
+    } catch (const std::exception& error) {
+        imageLog(error.what());
+        return failure;
+    }
+}
+
+std::optional<PictureFormat> formatForExtension(std::string_view extension)
+{
+    std::string lower(extension.substr(extension.starts_with('.') ? 1 : 0));
+    std::ranges::transform(
+        lower, lower.begin(), [](unsigned char c) { return char(c >= 'A' && c <= 'Z' ? c + 32 : c); });
+    struct Entry {
+        std::string_view extension;
+        PictureFormat format;
+    };
+    constexpr Entry entries[] = {
+        {"jpg", PictureFormat::Jpeg},
+        {"jpeg", PictureFormat::Jpeg},
+        {"jpe", PictureFormat::Jpeg},
+        {"jp2", PictureFormat::Jpeg2000},
+        {"j2k", PictureFormat::Jpeg2000},
+        {"jpf", PictureFormat::Jpeg2000},
+        {"jpeg-2000", PictureFormat::Jpeg2000},
+        {"tif", PictureFormat::Tiff},
+        {"tiff", PictureFormat::Tiff},
+        {"gif", PictureFormat::Gif},
+        {"png", PictureFormat::Png},
+        {"webp", PictureFormat::WebP},
+    };
+    for (const Entry& entry : entries)
+        if (lower == entry.extension)
+            return entry.format;
+    return std::nullopt;
+}
