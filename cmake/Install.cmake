@@ -1,0 +1,35 @@
+# What `cmake --install` puts where. Icons and pictures are installed by resources/, next to their lists.
+#
+# The engine is not meant for other programs, so it lies in a folder of its own. Builds of it for newer processors
+# stand in glibc-hwcaps/ beside it, where the dynamic loader looks first.
+set(LUMIVEX_ENGINE_DIR ${CMAKE_INSTALL_LIBDIR}/lumivex)
+file(RELATIVE_PATH engine_from_programs ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${LUMIVEX_ENGINE_DIR})
+
+foreach(program lumivex lumivex-render)
+    if(TARGET ${program})
+        set_target_properties(${program} PROPERTIES INSTALL_RPATH "$ORIGIN/${engine_from_programs}")
+        install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    endif()
+endforeach()
+if(TARGET coreimage)
+    install(TARGETS coreimage LIBRARY DESTINATION ${LUMIVEX_ENGINE_DIR} NAMELINK_SKIP)
+endif()
+
+set(id io.github.lumivex.Lumivex)
+install(FILES resources/${id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES resources/${id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+configure_file(docs/lumivex.1 ${CMAKE_BINARY_DIR}/docs/lumivex.1 @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/docs/lumivex.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES LICENSE README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+if(LUMIVEX_TESTS)
+    find_program(DESKTOP_FILE_VALIDATE desktop-file-validate)
+    find_program(APPSTREAMCLI appstreamcli)
+    if(DESKTOP_FILE_VALIDATE)
+        add_test(NAME desktop_entry COMMAND ${DESKTOP_FILE_VALIDATE} ${CMAKE_SOURCE_DIR}/resources/${id}.desktop)
+    endif()
+    if(APPSTREAMCLI)
+        add_test(NAME appstream COMMAND ${APPSTREAMCLI} validate --no-net
+                                        ${CMAKE_SOURCE_DIR}/resources/${id}.metainfo.xml)
+    endif()
+endif()
