@@ -33,7 +33,7 @@ struct PictureLayoutRequest {
     CIRect oldBounds; // view coordinates
     float zoom = 1;
     float previousZoom = 1;
-    CIPoint mouse; // view coordinates before the change
+    std::optional<CIPoint> mouse; // view coordinates before the change; nothing when no mouse asked for it
     bool force = true;
     PictureCenter center = PictureCenter::Toward;
 };
