@@ -31,11 +31,13 @@ protected:
     void dragLeaveEvent(QDragLeaveEvent*) override;
     void dropEvent(QDropEvent*) override;
     void mousePressEvent(QMouseEvent*) override;
+    void mouseMoveEvent(QMouseEvent*) override; // starts the drag: a mere click is none
 
 private:
     void concludeDragOperation(const QMimeData& pasteboard);
 
     QString m_filePath;
     QImage m_image;
+    QPoint m_pressed;
     bool m_dropHighlighted = false;
 };

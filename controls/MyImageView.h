@@ -42,9 +42,6 @@ public:
     /// Waits until the picture is rendered in full and shown; for tests and screenshots.
     bool waitForFrame(int milliseconds = 10000);
 
-    /// What the view can take: one file whose extension is that of a picture, and not PDF.
-    static bool isAcceptableFile(const QString& path);
-
     /// Scrolls so that the picture keeps its center when the visible part changes size.
     void visibleSizeChanged(const QSizeF& before);
 
@@ -68,6 +65,7 @@ protected:
     void keyPressEvent(QKeyEvent*) override;
     void keyReleaseEvent(QKeyEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
+    bool focusNextPrevChild(bool next) override; // Tab goes from point to point
     void contextMenuEvent(QContextMenuEvent*) override;
     void dragEnterEvent(QDragEnterEvent*) override;
     void dragLeaveEvent(QDragLeaveEvent*) override;
@@ -76,6 +74,23 @@ protected:
 private:
     struct Private;
 
+    void refreshFrame();
+    std::optional<FrameRequest> frameRequest() const;
+    void drawFrame(QPainter&) const;
+    void drawPoints(QPainter&) const;
+    void mouseContentMenu(const QPoint& globalPosition);
+    void mouseEntered();
+    void mouseExited();
+    void hover(const QPointF& position);
+    void dragGrabbedPoint(CIPoint to);
+    void selectPoint(std::optional<std::size_t> index);
+    bool moveSelectedPoint(int key, bool far);
+    bool isPanStart(const QMouseEvent&) const;
+    void startPan(const QPointF& position);
+    void endPan();
+    void updateCursor();
+    void showDropHighlight(bool shown);
+
     ImageViewMaster* controller = nullptr;
     bool movingNow = false;
     bool displayingPoints = false;
@@ -83,7 +98,7 @@ private:
     std::int32_t parmIndex = -1; // 0 while a point is grabbed
     std::string parmKey;
     std::uint32_t parmMode = ParmMode::kNothing;
-    float prev_zoom = 1; // before the last wheel step
+    float prev_zoom = 1; // of the present layout: what scroll positions are measured in
     float zoom = 1;
     bool dragEnter = false;
 

@@ -25,7 +25,6 @@ public:
 
 protected:
     bool viewportEvent(QEvent*) override;
-    void resizeEvent(QResizeEvent*) override;
     void scrollContentsBy(int dx, int dy) override;
 
 private:

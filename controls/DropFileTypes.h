@@ -1,0 +1,13 @@
+// Which dropped files the picture view takes.
+#pragma once
+
+class QMimeData;
+class QString;
+
+/// True when the extension is that of a picture and isn't PDF. Upper and lower case are told apart.
+bool isAcceptablePictureFile(const QString& path);
+
+/// The path of the first dropped file; empty when there is none on this computer.
+QString firstDroppedFile(const QMimeData&);
+/// The path of the dropped file if there is exactly one; else empty.
+QString onlyDroppedFile(const QMimeData&);

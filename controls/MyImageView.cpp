@@ -1,0 +1,251 @@
+#include "controls/MyImageView.h"
+
+#include "controls/AccessibleImageView.h"
+#include "controls/MyImageViewPrivate.h"
+#include "controls/PictureScrollView.h"
+#include "controls/PointMark.h"
+#include "controls/ZoomSteps.h"
+#include "platform/foundation/Look.h"
+
+#include <cmath>
+
+#include <QApplication>
+#include <QPainter>
+
+namespace {
+
+constexpr int kPaintPatience = 12; // ms that a repaint waits for a frame that is likely to be ready by then
+
+/// Constant and neutral, so that colors are judged rightly.
+QColor surround(const QPalette& palette)
+{
+    return (palette.color(QPalette::Window).lightness() < 128 ? Look::dark() : Look::light()).surround;
+}
+
+/// Grid steps per picture pixel: the screen's resolution, but never finer than the picture.
+double gridScale(double pixelsPerPicturePixel) { return std::min(pixelsPerPicturePixel, 1.0); }
+
+} // namespace
+
+MyImageView::MyImageView(PictureScrollView* scrollView)
+    : QWidget(scrollView)
+    , d(new Private)
+{
+    d->scrollView = scrollView;
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAcceptDrops(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(tr("Picture"));
+    setAccessibleDescription(
+        tr("Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms."));
+    setWhatsThis(tr("The picture as the filter shows it. Drag the points of the filter, zoom with the wheel, "
+                    "move the picture with the middle button or the space bar held."));
+    installAccessibleImageView();
+}
+
+MyImageView::~MyImageView() { delete d->dropHighlight; }
+
+void MyImageView::setController(ImageViewMaster* master)
+{
+    controller = master;
+    resizeViewBoundCenter(true, int(PictureCenter::None));
+    setNeedsDisplay();
+}
+
+void MyImageView::setContext(std::shared_ptr<CIContext> context)
+{
+    d->context = std::move(context);
+    d->renderer.reset();
+}
+
+void MyImageView::setNeedsDisplay()
+{
+    d->pictureChanged = true;
+    update();
+}
+
+// --- layout ---
+
+void MyImageView::setZoom(float newZoom)
+{
+    zoom = clampedZoom(newZoom);
+    resizeViewBoundCenter(true, int(PictureCenter::Toward));
+}
+
+void MyImageView::resizeViewBoundCenter(bool force, int center)
+{
+    const CIRect extent = controller ? controller->backImage().extent() : CIRect();
+    const PictureLayout layout = layOutPicture({.clip = d->scrollView->clipBounds(),
+        .pictureSize = {extent.width, extent.height},
+        .oldBounds = m_bounds,
+        .zoom = zoom,
+        .previousZoom = prev_zoom,
+        .mouse = d->eventMouse,
+        .force = force,
+        .center = PictureCenter(center)});
+    if (!layout.unchanged) {
+        const bool resized = m_bounds != layout.bounds;
+        m_bounds = layout.bounds;
+        prev_zoom = zoom;
+        d->pictureChanged = d->pictureChanged || resized; // some results fill the bounds
+        d->scrollView->setFrameSize(layout.frameSize);
+        if (layout.scrollTo)
+            d->scrollView->setScrollPosition(
+                {(layout.scrollTo->x - m_bounds.x) * zoom, (layout.scrollTo->y - m_bounds.y) * zoom});
+    }
+    viewTransformOffsetX = float(-m_bounds.x);
+    viewTransformOffsetY = float(-m_bounds.y);
+    update();
+    emit layoutChanged();
+}
+
+void MyImageView::visibleSizeChanged(const QSizeF& before)
+{
+    const CIRect clip = d->scrollView->clipBounds();
+    const CIPoint center{
+        m_bounds.x + (clip.x + before.width() / 2) / zoom, m_bounds.y + (clip.y + before.height() / 2) / zoom};
+    resizeViewBoundCenter(true, int(PictureCenter::None));
+    const CIRect after = d->scrollView->clipBounds();
+    d->scrollView->setScrollPosition(
+        {(center.x - m_bounds.x) * zoom - after.width / 2, (center.y - m_bounds.y) * zoom - after.height / 2});
+}
+
+CIRect MyImageView::visibleRect() const
+{
+    const CIRect clip = d->scrollView->clipBounds();
+    return {m_bounds.x + clip.x / zoom, m_bounds.y + clip.y / zoom, clip.width / zoom, clip.height / zoom};
+}
+
+/// The place of the view's origin, moved to the nearest corner of a device pixel.
+QPointF MyImageView::toWidget(CIPoint picture) const
+{
+    const CIRect seen = visibleRect();
+    const double ratio = devicePixelRatioF();
+    const auto snapped = [&](double v, double offset) { return (std::round(v * ratio + offset) - offset) / ratio; };
+    return {snapped(-seen.x * zoom, d->subpixel.x()) + picture.x * zoom,
+        snapped((seen.y + seen.height) * zoom, d->subpixel.y()) - picture.y * zoom};
+}
+
+CIPoint MyImageView::toPicture(const QPointF& widget) const
+{
+    const QPointF origin = toWidget({0, 0});
+    return {(widget.x() - origin.x()) / zoom, (origin.y() - widget.y()) / zoom};
+}
+
+// --- drawing ---
+
+/// The visible part of the picture, in whole steps of the grid that is rendered; nothing when none of it is seen.
+std::optional<FrameRequest> MyImageView::frameRequest() const
+{
+    if (d->picture.isNull())
+        return {};
+    const double pixelsPerPicturePixel = double(zoom) * devicePixelRatioF();
+    const double scale = gridScale(pixelsPerPicturePixel);
+    const CIPoint lowerLeft = toPicture({0, double(height())}), upperRight = toPicture({double(width()), 0});
+    // A corner on the grid stays there in spite of rounding errors.
+    constexpr double tiny = 1e-6;
+    int left = int(std::floor(lowerLeft.x * scale + tiny)), right = int(std::ceil(upperRight.x * scale - tiny));
+    int bottom = int(std::floor(lowerLeft.y * scale + tiny)), top = int(std::ceil(upperRight.y * scale - tiny));
+    const CIRect extent = d->picture.extent();
+    const auto limited = [](double v) { return int(std::clamp(v, -1e9, 1e9)); };
+    left = std::max(left, limited(std::floor(extent.left() * scale)));
+    bottom = std::max(bottom, limited(std::floor(extent.bottom() * scale)));
+    right = std::min(right, limited(std::ceil(extent.right() * scale)));
+    top = std::min(top, limited(std::ceil(extent.top() * scale)));
+    if (right <= left || top <= bottom)
+        return {};
+    return FrameRequest{d->picture, scale, left, top, {right - left, top - bottom}};
+}
+
+/// Brings the frame up to date, as far as that is quickly done.
+void MyImageView::refreshFrame()
+{
+    if (d->pictureChanged) {
+        d->pictureChanged = false;
+        d->picture = controller ? controller->coreImageResult(false) : CIImage();
+    }
+    if (d->picture.isNull())
+        d->frame.reset();
+    const std::optional<FrameRequest> request = frameRequest();
+    if (!request)
+        return;
+    if (!d->renderer) {
+        if (!d->context)
+            d->context = std::make_shared<CIContext>();
+        d->renderer = std::make_unique<FrameRenderer>(d->context);
+        connect(d->renderer.get(), &FrameRenderer::frameReady, this, qOverload<>(&QWidget::update));
+    }
+    d->renderer->request(*request);
+    const bool isShown = d->frame && d->frame->request == *request;
+    if (!isShown && d->renderer->isQuick(kPaintPatience))
+        d->renderer->waitForAnyFrame(kPaintPatience);
+    if (std::optional<Frame> newer = d->renderer->takeFrame())
+        d->frame = std::move(newer);
+}
+
+bool MyImageView::waitForFrame(int milliseconds)
+{
+    refreshFrame();
+    const bool finished = !frameRequest() || d->renderer->waitForFrame(milliseconds);
+    repaint();
+    return finished;
+}
+
+void MyImageView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QTransform device = painter.deviceTransform();
+    d->subpixel = {device.dx() - std::floor(device.dx()), device.dy() - std::floor(device.dy())};
+    painter.fillRect(rect(), surround(palette()));
+    refreshFrame();
+    drawFrame(painter);
+    const bool byKeyboard = d->selected && hasFocus();
+    if ((displayingPoints || byKeyboard) && !QApplication::activeModalWidget())
+        drawPoints(painter);
+}
+
+void MyImageView::drawFrame(QPainter& painter) const
+{
+    if (!d->frame || d->frame->pixels.isNull() || d->picture.isNull())
+        return;
+    const Frame& frame = *d->frame;
+    const double ratio = devicePixelRatioF();
+    const double step = double(zoom) * ratio / frame.scale(); // device pixels per pixel of the frame
+    const QImage& pixels = frame.pixels;
+
+    painter.save();
+    painter.translate(toWidget({0, 0}));
+    painter.scale(1 / ratio, 1 / ratio);
+    if (std::abs(step - 1) < 1e-6) {
+        painter.drawImage(QPoint(frame.left, -frame.top), pixels);
+    } else {
+        // Magnified pixels of the picture are shown as they are; a frame of another resolution is only a stand-in.
+        const bool standIn = frame.divisor > 1 || frame.scale() < 1;
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, standIn);
+        painter.drawImage(
+            QRectF(frame.left * step, -frame.top * step, pixels.width() * step, pixels.height() * step), pixels);
+    }
+    painter.restore();
+}
+
+void MyImageView::drawPoints(QPainter& painter) const
+{
+    const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
+    if (!filter)
+        return;
+    const std::vector<ControlPoint> points = controlPoints(*filter);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const ControlPoint& point = points[i];
+        const QPointF where = toWidget({std::floor(point.position.x) + 0.5, std::floor(point.position.y) + 0.5});
+        const bool grabbed = movingNow && point.key == parmKey && point.mode == parmMode;
+        const bool selected = hasFocus() && d->selected == i;
+        const bool hovered = selected || (displayingPoints && d->hovered == i);
+        drawPointMark(painter, where, zoom,
+            grabbed       ? PointEmphasis::Grabbed
+                : hovered ? PointEmphasis::Hovered
+                          : PointEmphasis::None);
+        if (selected)
+            drawPointLabel(painter, where, QString::fromStdString(point.label));
+    }
+}

@@ -1,0 +1,24 @@
+// How control points look on the picture.
+#pragma once
+
+#include <QPointF>
+
+class QPainter;
+class QRect;
+class QString;
+
+enum class PointEmphasis {
+    None,
+    Hovered, // a click would grab it
+    Grabbed,
+};
+
+/// Draws a cross hair with a circle in white over a black shadow, `where` in points. It looks the same at every zoom.
+void drawPointMark(QPainter&, QPointF where, float zoom, PointEmphasis);
+
+/// Draws the name of a point beside its mark.
+void drawPointLabel(QPainter&, QPointF where, const QString& label);
+
+/// The frame around what takes a dropped file, in a widget that is `area`.
+QRect dropHighlightRect(const QRect& area);
+void drawCGRect(QPainter&, const QRect&);
