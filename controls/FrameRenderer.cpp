@@ -19,6 +19,7 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 constexpr double kFrameTime = 16; // ms, one refresh of the screen
 constexpr Milliseconds kIdleTime{25}; // without a newer request, the frame is refined
 constexpr std::chrono::milliseconds kPatience{40}; // a first full frame may take this long before a coarse one
+constexpr double kOverhead = 1; // ms of a render that don't depend on its size
 constexpr int kCoarsest = 8;
 
 int floorDivided(int a, int b) { return int(std::floor(double(a) / b)); }
@@ -117,7 +118,8 @@ bool FrameRenderer::Private::renderAt(
     control = nullptr;
     if (thisRender.isCancelled())
         return false;
-    pixelTime = elapsed * divisor * divisor / (double(request.size.width()) * request.size.height());
+    const double perPixels = divisor > 1 ? std::max(0.0, elapsed - kOverhead) * divisor * divisor : elapsed;
+    pixelTime = perPixels / (double(request.size.width()) * request.size.height());
     finished = std::move(frame);
     finishedSerial = serial;
     finishedFull = divisor == 1;

@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include <QEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
