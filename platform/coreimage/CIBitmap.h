@@ -9,10 +9,10 @@
 
 /// How the pixels of a bitmap are stored: four components a pixel in the order of the name.
 enum class CIFormat {
-    RGBA8,  // 8 bits
-    BGRA8,  // 8 bits, the order of a little-endian 0xAARRGGBB word
+    RGBA8, // 8 bits
+    BGRA8, // 8 bits, the order of a little-endian 0xAARRGGBB word
     RGBA16, // 16 bits, native byte order
-    RGBAf,  // 32-bit float, may leave 0 to 1
+    RGBAf, // 32-bit float, may leave 0 to 1
 };
 
 enum class CIAlpha { Opaque, Straight, Premultiplied };
@@ -28,10 +28,10 @@ public:
     CIBitmap() = default;
     /// Zeroed pixels. Throws std::bad_alloc when there is no room.
     CIBitmap(int width, int height, CIFormat = CIFormat::RGBA8, CIAlpha = CIAlpha::Straight,
-             CIColorSpace = CIColorSpace::SRGB);
+        CIColorSpace = CIColorSpace::SRGB);
     /// Pixels that live elsewhere; `owner` keeps them alive. Never written to.
     CIBitmap(const void* pixels, int width, int height, std::size_t bytesPerRow, CIFormat, CIAlpha, CIColorSpace,
-             std::shared_ptr<const void> owner);
+        std::shared_ptr<const void> owner);
 
     bool isNull() const { return m_width <= 0 || m_height <= 0; }
     int width() const { return m_width; }

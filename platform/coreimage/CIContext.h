@@ -21,36 +21,34 @@ private:
     std::atomic<double> m_progress = 0;
 };
 
-/// Renders rectangles of images, in tiles, on all cores. One context may be used from several threads; it keeps
-/// what does not change between renders (reduced copies of bitmaps), never results.
+/// Renders rectangles of images, in tiles, on all cores. One context may be used from several threads. What does not
+/// change between renders (reduced copies of bitmaps) is kept with the images, results never are.
 class CIContext {
 public:
     enum class Arithmetic {
         Batches, // the processor's vector registers
-        Floats,  // one number at a time: the reference that tests compare with
+        Floats, // one number at a time: the reference that tests compare with
     };
 
-    explicit CIContext(Arithmetic = Arithmetic::Batches);
-    ~CIContext();
+    explicit CIContext(Arithmetic arithmetic = Arithmetic::Batches)
+        : m_arithmetic(arithmetic)
+    {
+    }
 
     /// Renders the pixels of `rect` (picture pixels, rounded out to whole grid steps) at `scale` grid steps per
     /// picture pixel, into a new bitmap of `format`. Where the image has no pixels the result is transparent.
     /// A null bitmap when the rectangle is empty or infinite, memory runs out, or the render was cancelled.
     CIBitmap render(const CIImage&, const CIRect& rect, double scale = 1, CIFormat = CIFormat::RGBA8,
-                    CIAlpha = CIAlpha::Straight, CIRenderControl* = nullptr) const;
+        CIAlpha = CIAlpha::Straight, CIRenderControl* = nullptr) const;
 
     /// The same into `target`, whose top left pixel is grid column `left`, grid row `top - 1` counted upwards
     /// (so its lower edge is `top - target.height()`). False when cancelled.
-    bool renderInto(CIBitmap& target, int left, int top, const CIImage&, double scale = 1,
-                    CIRenderControl* = nullptr) const;
+    bool renderInto(
+        CIBitmap& target, int left, int top, const CIImage&, double scale = 1, CIRenderControl* = nullptr) const;
 
     /// The whole image at a reduced size as a bitmap, say for a list of previews; at most `maxSide` pixels a side.
     CIBitmap renderThumbnail(const CIImage&, int maxSide) const;
 
-    /// Drops the reduced copies of bitmaps.
-    void clearCaches();
-
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    Arithmetic m_arithmetic;
 };

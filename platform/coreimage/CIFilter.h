@@ -68,10 +68,10 @@ inline const std::string kCICategoryXMPSerializable = "CICategoryXMPSerializable
 
 /// One input of a filter, in C++ types; the same facts as its dictionary in `CIFilter::attributes`.
 struct CIInputAttributes {
-    std::string key;         // "inputRadius"
+    std::string key; // "inputRadius"
     std::string displayName; // "Radius"
-    std::string className;   // value of kCIAttributeClass; affine transforms have "NSAffineTransform"
-    std::string type;        // value of kCIAttributeType, or empty
+    std::string className; // value of kCIAttributeClass; affine transforms have "NSAffineTransform"
+    std::string type; // value of kCIAttributeType, or empty
     CIValue defaultValue, identity;
     std::optional<double> min, max, sliderMin, sliderMax;
 };

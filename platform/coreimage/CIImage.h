@@ -16,7 +16,10 @@ class Node;
 class CIImage {
 public:
     CIImage() = default;
-    explicit CIImage(std::shared_ptr<const ci::Node> node) : m_node(std::move(node)) {}
+    explicit CIImage(std::shared_ptr<const ci::Node> node)
+        : m_node(std::move(node))
+    {
+    }
 
     /// The bitmap with its lower left corner at the origin.
     static CIImage fromBitmap(const CIBitmap&);

@@ -20,20 +20,56 @@ using CIDictionary = std::map<std::string, CIValue>;
 class CIValue {
 public:
     CIValue() = default; // nothing
-    CIValue(double v) : m_value(v) {}
-    CIValue(float v) : m_value(double(v)) {}
-    CIValue(int v) : m_value(double(v)) {}
-    CIValue(bool v) : m_value(v) {}
-    CIValue(CIVector v) : m_value(std::move(v)) {}
-    CIValue(CIColor v) : m_value(v) {}
-    CIValue(CIAffineTransform v) : m_value(v) {}
+    CIValue(double v)
+        : m_value(v)
+    {
+    }
+    CIValue(float v)
+        : m_value(double(v))
+    {
+    }
+    CIValue(int v)
+        : m_value(double(v))
+    {
+    }
+    CIValue(bool v)
+        : m_value(v)
+    {
+    }
+    CIValue(CIVector v)
+        : m_value(std::move(v))
+    {
+    }
+    CIValue(CIColor v)
+        : m_value(v)
+    {
+    }
+    CIValue(CIAffineTransform v)
+        : m_value(v)
+    {
+    }
     /// A null image is stored as nothing.
     CIValue(CIImage v);
-    CIValue(std::string v) : m_value(std::move(v)) {}
-    CIValue(const char* v) : m_value(std::string(v)) {}
-    CIValue(CIData v) : m_value(std::make_shared<const CIData>(std::move(v))) {}
-    CIValue(CIArray v) : m_value(std::make_shared<const CIArray>(std::move(v))) {}
-    CIValue(CIDictionary v) : m_value(std::make_shared<const CIDictionary>(std::move(v))) {}
+    CIValue(std::string v)
+        : m_value(std::move(v))
+    {
+    }
+    CIValue(const char* v)
+        : m_value(std::string(v))
+    {
+    }
+    CIValue(CIData v)
+        : m_value(std::make_shared<const CIData>(std::move(v)))
+    {
+    }
+    CIValue(CIArray v)
+        : m_value(std::make_shared<const CIArray>(std::move(v)))
+    {
+    }
+    CIValue(CIDictionary v)
+        : m_value(std::make_shared<const CIDictionary>(std::move(v)))
+    {
+    }
 
     bool isNothing() const { return std::holds_alternative<std::monostate>(m_value); }
     bool isNumber() const { return std::holds_alternative<double>(m_value) || isBoolean(); } // booleans count
@@ -63,6 +99,6 @@ public:
 
 private:
     std::variant<std::monostate, double, bool, CIVector, CIColor, CIAffineTransform, CIImage, std::string,
-                 std::shared_ptr<const CIData>, std::shared_ptr<const CIArray>, std::shared_ptr<const CIDictionary>>
+        std::shared_ptr<const CIData>, std::shared_ptr<const CIArray>, std::shared_ptr<const CIDictionary>>
         m_value;
 };

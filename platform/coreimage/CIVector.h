@@ -12,10 +12,22 @@
 class CIVector {
 public:
     CIVector() = default;
-    CIVector(std::initializer_list<double> values) : m_values(values) {}
-    explicit CIVector(std::vector<double> values) : m_values(std::move(values)) {}
-    explicit CIVector(CIPoint p) : m_values{p.x, p.y} {}
-    explicit CIVector(const CIRect& r) : m_values{r.x, r.y, r.width, r.height} {}
+    CIVector(std::initializer_list<double> values)
+        : m_values(values)
+    {
+    }
+    explicit CIVector(std::vector<double> values)
+        : m_values(std::move(values))
+    {
+    }
+    explicit CIVector(CIPoint p)
+        : m_values{p.x, p.y}
+    {
+    }
+    explicit CIVector(const CIRect& r)
+        : m_values{r.x, r.y, r.width, r.height}
+    {
+    }
 
     std::size_t count() const { return m_values.size(); }
     /// The component at `index`, or 0 past the end.
@@ -39,7 +51,10 @@ class CIColor {
 public:
     CIColor() = default; // opaque black
     CIColor(double red, double green, double blue, double alpha = 1)
-        : m_red(red), m_green(green), m_blue(blue), m_alpha(alpha)
+        : m_red(red)
+        , m_green(green)
+        , m_blue(blue)
+        , m_alpha(alpha)
     {
     }
 

@@ -1,0 +1,114 @@
+#include "platform/coreimage/CIContext.h"
+
+#include "platform/coreimage/graph/Node.h"
+#include "platform/coreimage/graph/Transfer.h"
+
+#include <algorithm>
+#include <tbb/blocked_range2d.h>
+#include <tbb/parallel_for.h>
+
+namespace {
+
+using namespace ci;
+
+/// Row by row graphs take wide tiles, that suit memory; the others take squarer ones, large against what they read
+/// around them and still within the second-level cache where that is possible.
+void tileSize(int reach, int& width, int& height)
+{
+    if (reach == 0) {
+        width = 512;
+        height = 32;
+        return;
+    }
+    width = std::clamp((4 * reach + 127) / 128 * 128, 128, 512);
+    height = std::clamp((4 * reach + 63) / 64 * 64, 64, 512);
+}
+
+struct Tiles {
+    GridRect area;
+    int width, height;
+    int columns() const { return (area.width() + width - 1) / width; }
+    int rows() const { return (area.height() + height - 1) / height; }
+    GridRect tile(int index) const
+    {
+        const int x = area.x0 + index % columns() * width, top = area.y1 - index / columns() * height; // from the top
+        return {x, std::max(top - height, area.y0), std::min(x + width, area.x1), top};
+    }
+};
+
+} // namespace
+
+bool CIContext::renderInto(
+    CIBitmap& target, int left, int top, const CIImage& image, double scale, CIRenderControl* control) const
+{
+    if (target.isNull() || image.isNull() || !(scale > 0))
+        return false;
+    const GridRect area{left, top - target.height(), left + target.width(), top};
+    Render render;
+    render.grid.scale = scale;
+    render.floats = m_arithmetic == Arithmetic::Floats;
+    render.control = control;
+    image.node()->prepare(render);
+    if (render.isCancelled())
+        return false;
+
+    const GridRect inside = render.grid.cellsIn(image.extent());
+    const GridRect common = area.intersected(inside);
+    const bool covered = common.width() == area.width() && common.height() == area.height();
+    const RowEncoder encoder(
+        target.format(), target.alpha(), target.colorSpace(), covered && image.node()->isOpaque(), render.floats);
+    Tiles tiles{area, 0, 0};
+    tileSize(image.node()->reach(render.grid), tiles.width, tiles.height);
+    const int count = tiles.columns() * tiles.rows();
+    const std::size_t pixelSize = bytesPerPixel(target.format()), stride = target.bytesPerRow();
+    std::byte* const pixels = target.mutableRow(0);
+    std::atomic<int> done = 0;
+    tbb::parallel_for(
+        tbb::blocked_range<int>(0, count, 1),
+        [&](const tbb::blocked_range<int>& range) {
+            for (int i = range.begin(); i < range.end() && !render.isCancelled(); ++i) {
+                const GridRect tile = tiles.tile(i);
+                Scratch& scratch = Scratch::ofThread();
+                const ScratchScope scope(scratch);
+                const auto reader = image.node()->open(render, tile, scratch);
+                for (int y = tile.y0; y < tile.y1; ++y)
+                    encoder.encode(reader->row(y), tile.width(),
+                        pixels + std::size_t(top - 1 - y) * stride + std::size_t(tile.x0 - left) * pixelSize);
+                if (control)
+                    control->setProgress(double(++done) / count);
+            }
+        },
+        tbb::simple_partitioner());
+    return !render.isCancelled();
+}
+
+CIBitmap CIContext::render(const CIImage& image, const CIRect& rect, double scale, CIFormat format, CIAlpha alpha,
+    CIRenderControl* control) const
+{
+    constexpr double kMostPixels = 4e9;
+    if (image.isNull() || rect.isEmpty() || rect.isInfinite() || !(scale > 0))
+        return {};
+    Grid grid;
+    grid.scale = scale;
+    const GridRect area = grid.cellsTouching(rect);
+    if (area.isEmpty() || double(area.width()) * area.height() > kMostPixels)
+        return {};
+    try {
+        CIBitmap bitmap(area.width(), area.height(), format, alpha,
+            format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : CIColorSpace::SRGB);
+        if (renderInto(bitmap, area.x0, area.y1, image, scale, control))
+            return bitmap;
+    } catch (const std::bad_alloc&) {
+    }
+    return {};
+}
+
+CIBitmap CIContext::renderThumbnail(const CIImage& image, int maxSide) const
+{
+    const CIRect extent = image.extent();
+    if (extent.isEmpty() || extent.isInfinite() || maxSide < 1)
+        return {};
+    const double scale = std::min(1.0, maxSide / std::max(extent.width, extent.height));
+    CIBitmap thumbnail = render(extent.isEmpty() ? CIImage() : image, extent, scale);
+    return thumbnail;
+}

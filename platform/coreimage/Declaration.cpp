@@ -1,0 +1,104 @@
+#include "platform/coreimage/Declaration.h"
+
+#include <map>
+#include <mutex>
+
+namespace ci {
+
+namespace {
+
+// Plug-ins may register while another thread lists filters.
+struct Registry {
+    std::mutex mutex;
+    std::map<std::string, Declaration, std::less<>> filters;
+};
+
+Registry& registry()
+{
+    static Registry filters;
+    return filters;
+}
+
+} // namespace
+
+const CIInputAttributes* Declaration::input(std::string_view key) const
+{
+    for (const CIInputAttributes& input : inputs)
+        if (input.key == key)
+            return &input;
+    return nullptr;
+}
+
+bool registerFilter(Declaration d)
+{
+    Registry& r = registry();
+    const std::lock_guard lock(r.mutex);
+    std::string name = d.name;
+    return r.filters.try_emplace(std::move(name), std::move(d)).second;
+}
+
+std::vector<const Declaration*> declarations()
+{
+    Registry& r = registry();
+    const std::lock_guard lock(r.mutex);
+    std::vector<const Declaration*> all;
+    for (const auto& [name, declaration] : r.filters)
+        all.push_back(&declaration);
+    return all;
+}
+
+const Declaration* findDeclaration(std::string_view name)
+{
+    Registry& r = registry();
+    const std::lock_guard lock(r.mutex);
+    const auto found = r.filters.find(name);
+    return found == r.filters.end() ? nullptr : &found->second;
+}
+
+CIInputAttributes image(std::string key, std::string displayName)
+{
+    return {std::move(key), std::move(displayName), "CIImage", kCIAttributeTypeImage, {}, {}, {}, {}, {}, {}};
+}
+
+CIInputAttributes number(std::string key, std::string displayName, const std::string& type, const Range& r)
+{
+    const auto value = [](std::optional<double> v) { return v ? CIValue(*v) : CIValue(); };
+    return {std::move(key), std::move(displayName), "NSNumber", type, value(r.standard), value(r.identity), r.min,
+        r.max, r.sliderMin, r.sliderMax};
+}
+
+CIInputAttributes vector(
+    std::string key, std::string displayName, const std::string& type, CIValue standard, CIValue identity)
+{
+    return {std::move(key), std::move(displayName), "CIVector", type, std::move(standard), std::move(identity), {}, {},
+        {}, {}};
+}
+
+CIInputAttributes color(
+    std::string key, std::string displayName, std::optional<CIColor> standard, const std::string& type)
+{
+    return {std::move(key), std::move(displayName), "CIColor", type, standard ? CIValue(*standard) : CIValue(), {}, {},
+        {}, {}, {}};
+}
+
+CIInputAttributes transform(std::string key, std::string displayName)
+{
+    const CIAffineTransform identity;
+    return {std::move(key), std::move(displayName), "NSAffineTransform", kCIAttributeTypeTransform, identity, identity,
+        {}, {}, {}, {}};
+}
+
+CIInputAttributes object(
+    std::string key, std::string displayName, std::string className, CIValue standard, std::string type)
+{
+    return {std::move(key), std::move(displayName), std::move(className), std::move(type), std::move(standard), {}, {},
+        {}, {}, {}};
+}
+
+CIInputAttributes boolean(std::string key, std::string displayName, bool standard, std::optional<double> identity)
+{
+    return number(std::move(key), std::move(displayName), kCIAttributeTypeBoolean,
+        {.standard = standard ? 1 : 0, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1, .identity = identity});
+}
+
+} // namespace ci

@@ -1,0 +1,215 @@
+#include "platform/coreimage/graph/Basics.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace ci {
+
+namespace {
+
+class ConstantReader : public RowReader {
+public:
+    ConstantReader(const Pixel<float>& color, int width, Scratch& scratch)
+        : m_row(allocateRow(scratch, width))
+    {
+        const std::size_t padded = std::size_t(width + kRowPadding - 1) / kRowPadding * kRowPadding;
+        std::fill_n(m_row.r, padded, color.r);
+        std::fill_n(m_row.g, padded, color.g);
+        std::fill_n(m_row.b, padded, color.b);
+        std::fill_n(m_row.a, padded, color.a);
+    }
+    Row row(int) override { return m_row; }
+
+private:
+    MutableRow m_row;
+};
+
+class ConstantNode : public Node {
+public:
+    explicit ConstantNode(const Pixel<float>& color)
+        : Node(CIRect::infinite(), color.a >= 1)
+        , m_color(color)
+    {
+    }
+    std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch& scratch) const override
+    {
+        return std::make_unique<ConstantReader>(m_color, area.width(), scratch);
+    }
+
+private:
+    Pixel<float> m_color;
+};
+
+void copyRow(const Row& from, const MutableRow& to, int width)
+{
+    std::copy_n(from.r, width, to.r);
+    std::copy_n(from.g, width, to.g);
+    std::copy_n(from.b, width, to.b);
+    std::copy_n(from.a, width, to.a);
+}
+
+class CropReader : public RowReader {
+public:
+    CropReader(std::unique_ptr<RowReader> source, const CIRect& extent, const Render& render, const GridRect& area,
+        Scratch& scratch)
+        : m_source(std::move(source))
+        , m_clip(extent, render, area)
+        , m_width(area.width())
+        , m_whole(m_clip.inside().x0 == area.x0 && m_clip.inside().x1 == area.x1)
+        , m_zeros(zeroRow(scratch, area.width()))
+        , m_out(m_whole ? MutableRow{} : allocateRow(scratch, area.width()))
+    {
+    }
+    Row row(int y) override
+    {
+        if (!m_clip.hasRow(y))
+            return m_zeros;
+        const Row source = m_source->row(y);
+        if (m_whole)
+            return source;
+        copyRow(source, m_out, m_width);
+        m_clip.clearOutside(m_out);
+        return m_out;
+    }
+
+private:
+    std::unique_ptr<RowReader> m_source;
+    ExtentClip m_clip;
+    int m_width;
+    bool m_whole;
+    Row m_zeros;
+    MutableRow m_out;
+};
+
+class CropNode : public WrapperNode {
+public:
+    CropNode(NodePtr source, const CIRect& rect)
+        : WrapperNode(source, source->extent().intersected(rect), source->isOpaque())
+    {
+    }
+    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        return std::make_unique<CropReader>(m_source->open(render, area, scratch), extent(), render, area, scratch);
+    }
+};
+
+class ShiftNode : public WrapperNode {
+public:
+    ShiftNode(NodePtr source, double dx, double dy)
+        : WrapperNode(source, source->extent().translated(dx, dy), source->isOpaque())
+        , m_dx(dx)
+        , m_dy(dy)
+    {
+    }
+    void prepare(const Render& render) const override { m_source->prepare(shifted(render)); }
+    int reach(const Grid& grid) const override { return m_source->reach(grid); }
+    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        return m_source->open(shifted(render), area, scratch);
+    }
+    std::shared_ptr<const GridCopy> copyFor(const Grid& grid) const override
+    {
+        return m_source->copyFor(shifted(grid));
+    }
+
+private:
+    Grid shifted(Grid grid) const
+    {
+        grid.phaseX -= m_dx * grid.scale;
+        grid.phaseY -= m_dy * grid.scale;
+        return grid;
+    }
+    Render shifted(const Render& render) const { return render.withGrid(shifted(render.grid)); }
+    double m_dx, m_dy;
+};
+
+/// Reads the nearest row inside, and repeats its end pixels.
+class ClampReader : public RowReader {
+public:
+    ClampReader(
+        const Node& source, const GridRect& inside, const Render& render, const GridRect& area, Scratch& scratch)
+        : m_inside(inside)
+        , m_area(area)
+        , m_read(nearest(area, inside))
+        , m_out(allocateRow(scratch, area.width()))
+    {
+        m_source = source.open(render, m_read, scratch);
+    }
+    Row row(int y) override
+    {
+        const Row source = m_source->row(std::clamp(y, m_inside.y0, m_inside.y1 - 1));
+        spread(source.r, m_out.r);
+        spread(source.g, m_out.g);
+        spread(source.b, m_out.b);
+        spread(source.a, m_out.a);
+        return m_out;
+    }
+
+private:
+    static GridRect nearest(const GridRect& area, const GridRect& inside)
+    {
+        const auto nearestSpan = [](int& from, int& to, int low, int high) {
+            from = std::clamp(from, low, high - 1);
+            to = std::clamp(to, from + 1, high);
+        };
+        GridRect r = area;
+        nearestSpan(r.x0, r.x1, inside.x0, inside.x1);
+        nearestSpan(r.y0, r.y1, inside.y0, inside.y1);
+        return r;
+    }
+    void spread(const float* from, float* to) const
+    {
+        const int width = m_area.width();
+        const int before = std::clamp(m_read.x0 - m_area.x0, 0, width);
+        const int copied = std::clamp(std::min(m_read.x1, m_area.x1) - m_area.x0 - before, 0, width - before);
+        std::fill_n(to, before, from[0]);
+        std::copy_n(from + std::max(0, m_area.x0 + before - m_read.x0), copied, to + before);
+        std::fill_n(to + before + copied, width - before - copied, from[m_read.width() - 1]);
+    }
+
+    GridRect m_inside, m_area, m_read;
+    MutableRow m_out;
+    std::unique_ptr<RowReader> m_source;
+};
+
+class ClampNode : public WrapperNode {
+public:
+    explicit ClampNode(NodePtr source)
+        : WrapperNode(source, CIRect::infinite(), source->isOpaque())
+    {
+    }
+    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        const GridRect inside = render.grid.cellsIn(m_source->extent());
+        if (inside.isEmpty()) // too small to have a cell of its own on this grid
+            return std::make_unique<ConstantReader>(Pixel<float>{0, 0, 0, 0}, area.width(), scratch);
+        return std::make_unique<ClampReader>(*m_source, inside, render, area, scratch);
+    }
+};
+
+} // namespace
+
+NodePtr constantNode(const Pixel<float>& color) { return std::make_shared<ConstantNode>(color); }
+
+NodePtr cropNode(NodePtr source, const CIRect& rect)
+{
+    if (rect.contains(source->extent()) && !source->extent().isInfinite())
+        return source;
+    return std::make_shared<CropNode>(std::move(source), rect);
+}
+
+NodePtr shiftNode(NodePtr source, double dx, double dy)
+{
+    if (dx == 0 && dy == 0)
+        return source;
+    return std::make_shared<ShiftNode>(std::move(source), dx, dy);
+}
+
+NodePtr clampNode(NodePtr source)
+{
+    if (source->extent().isInfinite() || source->extent().isEmpty())
+        return source;
+    return std::make_shared<ClampNode>(std::move(source));
+}
+
+} // namespace ci

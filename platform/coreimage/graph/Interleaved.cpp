@@ -1,0 +1,177 @@
+#include "platform/coreimage/graph/Interleaved.h"
+
+#include "platform/coreimage/graph/Basics.h"
+
+#include <algorithm>
+#include <atomic>
+#include <tbb/parallel_for.h>
+
+namespace ci {
+
+namespace {
+
+constexpr double kMostShared = 4e7; // cells; larger images are worked out where they are needed
+
+bool isWhole(double v) { return std::abs(v - std::round(v)) < 1e-9; }
+
+} // namespace
+
+void interleave(const Row& row, int count, float* p)
+{
+    int x = 0;
+    for (; x + 4 <= count; x += 4, p += 16) {
+        const Quad r = loadQuad(row.r + x), g = loadQuad(row.g + x), b = loadQuad(row.b + x), a = loadQuad(row.a + x);
+        const Quad rg0 = __builtin_shufflevector(r, g, 0, 4, 1, 5), rg1 = __builtin_shufflevector(r, g, 2, 6, 3, 7);
+        const Quad ba0 = __builtin_shufflevector(b, a, 0, 4, 1, 5), ba1 = __builtin_shufflevector(b, a, 2, 6, 3, 7);
+        const Quad out[4] = {__builtin_shufflevector(rg0, ba0, 0, 1, 4, 5),
+            __builtin_shufflevector(rg0, ba0, 2, 3, 6, 7), __builtin_shufflevector(rg1, ba1, 0, 1, 4, 5),
+            __builtin_shufflevector(rg1, ba1, 2, 3, 6, 7)};
+        __builtin_memcpy(p, out, sizeof out);
+    }
+    for (; x < count; ++x, p += 4)
+        p[0] = row.r[x], p[1] = row.g[x], p[2] = row.b[x], p[3] = row.a[x];
+}
+
+void deinterleave(const float* p, int count, const MutableRow& row)
+{
+    int x = 0;
+    for (; x + 4 <= count; x += 4, p += 16) {
+        const Quad q0 = loadQuad(p), q1 = loadQuad(p + 4), q2 = loadQuad(p + 8), q3 = loadQuad(p + 12);
+        const Quad rg0 = __builtin_shufflevector(q0, q1, 0, 4, 1, 5), rg1 = __builtin_shufflevector(q2, q3, 0, 4, 1, 5);
+        const Quad ba0 = __builtin_shufflevector(q0, q1, 2, 6, 3, 7), ba1 = __builtin_shufflevector(q2, q3, 2, 6, 3, 7);
+        const Quad r = __builtin_shufflevector(rg0, rg1, 0, 1, 4, 5), g = __builtin_shufflevector(rg0, rg1, 2, 3, 6, 7);
+        const Quad b = __builtin_shufflevector(ba0, ba1, 0, 1, 4, 5), a = __builtin_shufflevector(ba0, ba1, 2, 3, 6, 7);
+        __builtin_memcpy(row.r + x, &r, sizeof r);
+        __builtin_memcpy(row.g + x, &g, sizeof g);
+        __builtin_memcpy(row.b + x, &b, sizeof b);
+        __builtin_memcpy(row.a + x, &a, sizeof a);
+    }
+    for (; x < count; ++x, p += 4)
+        row.r[x] = p[0], row.g[x] = p[1], row.b[x] = p[2], row.a[x] = p[3];
+}
+
+void writeViewRow(float* memory, const GridRect& area, int y, const Row& row)
+{
+    const std::size_t stride = std::size_t(InterleavedView::strideFor(area));
+    float* p = memory + std::size_t(y - area.y0) * stride;
+    interleave(row, area.width(), p);
+    std::copy_n(p + stride - 8, 4, p + stride - 4);
+    if (y == area.y1 - 1)
+        std::copy_n(p, stride, p + stride);
+}
+
+std::shared_ptr<const GridCopy> GridCopy::make(const Node& node, const Render& render, double mostCells)
+{
+    auto copy = std::make_shared<GridCopy>();
+    copy->m_grid = render.grid;
+    copy->m_area = render.grid.cellsIn(node.extent());
+    GridRect& area = copy->m_area;
+    if (area.isEmpty() || double(area.width()) * area.height() > mostCells)
+        return nullptr;
+    area = area.grown(1, 1);
+    copy->m_pixels.reset(new float[InterleavedView::floatsFor(area)]); // not zeroed: every row is written below
+    const int band = std::max(64, 2 * node.reach(render.grid));
+    tbb::parallel_for(0, (area.height() + band - 1) / band, [&](int index) {
+        Scratch& scratch = Scratch::ofThread();
+        const ScratchScope scope(scratch);
+        GridRect rows = area;
+        rows.y0 += index * band;
+        rows.y1 = std::min(rows.y0 + band, area.y1);
+        const auto reader = node.open(render, rows, scratch);
+        for (int y = rows.y0; y < rows.y1; ++y)
+            writeViewRow(copy->m_pixels.get(), area, y, reader->row(y));
+    });
+    return render.isCancelled() ? nullptr : copy;
+}
+
+bool GridCopy::fits(const Grid& grid) const
+{
+    return grid.scale == m_grid.scale && isWhole(grid.phaseX - m_grid.phaseX) && isWhole(grid.phaseY - m_grid.phaseY);
+}
+
+InterleavedView GridCopy::viewOn(const Grid& grid) const
+{
+    const int dx = int(std::lround(m_grid.phaseX - grid.phaseX)), dy = int(std::lround(m_grid.phaseY - grid.phaseY));
+    const GridRect area{m_area.x0 + dx, m_area.y0 + dy, m_area.x1 + dx, m_area.y1 + dy};
+    return {area, InterleavedView::strideFor(area), m_pixels.get()};
+}
+
+namespace {
+
+class CopyReader : public RowReader {
+public:
+    CopyReader(std::shared_ptr<const GridCopy> copy, const CIRect& extent, const Render& render, const GridRect& area,
+        Scratch& scratch)
+        : m_copy(std::move(copy))
+        , m_view(m_copy->viewOn(render.grid))
+        , m_clip(extent, render, area)
+        , m_before(m_clip.inside().x0 - area.x0)
+        , m_zeros(zeroRow(scratch, area.width()))
+        , m_out(allocateRow(scratch, area.width()))
+    {
+    }
+    Row row(int y) override
+    {
+        if (!m_clip.hasRow(y))
+            return m_zeros;
+        deinterleave(m_view.at(m_clip.inside().x0, y), m_clip.inside().width(),
+            {m_out.r + m_before, m_out.g + m_before, m_out.b + m_before, m_out.a + m_before});
+        m_clip.clearOutside(m_out);
+        return m_out;
+    }
+
+private:
+    std::shared_ptr<const GridCopy> m_copy;
+    InterleavedView m_view;
+    ExtentClip m_clip;
+    int m_before;
+    Row m_zeros;
+    MutableRow m_out;
+};
+
+class SharedNode : public WrapperNode {
+public:
+    explicit SharedNode(NodePtr source)
+        : WrapperNode(source, source->extent(), source->isOpaque())
+    {
+    }
+    void prepare(const Render& render) const override
+    {
+        m_source->prepare(render);
+        if (const auto copy = m_copy.load(); copy && copy->fits(render.grid))
+            return;
+        m_copy.store(GridCopy::make(*m_source, render, kMostShared));
+    }
+    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        auto copy = copyFor(render.grid);
+        return copy ? readCopy(std::move(copy), extent(), render, area, scratch)
+                    : m_source->open(render, area, scratch);
+    }
+    std::shared_ptr<const GridCopy> copyFor(const Grid& grid) const override
+    {
+        auto copy = m_copy.load();
+        return copy && copy->fits(grid) ? copy : m_source->copyFor(grid);
+    }
+    int reach(const Grid& grid) const override { return copyFor(grid) ? 0 : m_source->reach(grid); }
+
+private:
+    mutable std::atomic<std::shared_ptr<const GridCopy>> m_copy; // of the last render's grid
+};
+
+} // namespace
+
+std::unique_ptr<RowReader> readCopy(std::shared_ptr<const GridCopy> copy, const CIRect& extent, const Render& render,
+    const GridRect& area, Scratch& scratch)
+{
+    return std::make_unique<CopyReader>(std::move(copy), extent, render, area, scratch);
+}
+
+NodePtr sharedNode(NodePtr source)
+{
+    if (source->extent().isInfinite() || source->extent().isEmpty())
+        return source;
+    return std::make_shared<SharedNode>(std::move(source));
+}
+
+} // namespace ci

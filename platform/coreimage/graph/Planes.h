@@ -1,0 +1,52 @@
+// A block of pixels as four planes: what passes read and write.
+#pragma once
+
+#include "platform/coreimage/graph/Node.h"
+
+namespace ci {
+
+/// Premultiplied linear pixels of `area`; rows are `stride` floats apart and padded to whole batches.
+struct Planes {
+    GridRect area;
+    std::size_t stride = 0;
+    float* plane[4] = {};
+
+    static Planes allocate(const GridRect& area, Scratch&);
+    float* line(int c, int y) const { return plane[c] + std::size_t(y - area.y0) * stride; }
+    float* at(int c, int x, int y) const { return line(c, y) + (x - area.x0); }
+    /// The row from column `x` on.
+    MutableRow row(int y, int x) const { return {at(0, x, y), at(1, x, y), at(2, x, y), at(3, x, y)}; }
+    MutableRow row(int y) const { return row(y, area.x0); }
+    /// Fills the area from a reader that was opened for it.
+    void fill(RowReader&) const;
+};
+
+/// Hands out the rows of a finished block.
+class PlanesReader : public RowReader {
+public:
+    PlanesReader(const Planes& planes, const CIRect& extent, const Render& render, const GridRect& area);
+    Row row(int y) override { return m_planes.row(y, m_x); }
+
+private:
+    Planes m_planes;
+    int m_x;
+};
+
+/// A sequence over whole blocks: separable blurs, morphology, medians. Lengths are picture pixels; `run` turns them
+/// into cells by the grid's scale.
+class PassKernel {
+public:
+    virtual ~PassKernel() = default;
+    /// How many cells around a block are read on each side.
+    struct Margin {
+        int x = 0, y = 0;
+    };
+    virtual Margin margin(const Grid&) const = 0;
+    /// `in` reads `area`, which covers `out` with the margin around it.
+    virtual void run(const Render&, RowReader& in, const GridRect& area, const Planes& out, Scratch&) const = 0;
+};
+
+/// `keepsOpaque`: where all that is read is opaque, so is the result.
+NodePtr passNode(NodePtr, std::shared_ptr<const PassKernel>, const CIRect& extent, bool keepsOpaque = false);
+
+} // namespace ci

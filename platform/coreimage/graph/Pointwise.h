@@ -1,0 +1,28 @@
+// Nodes whose every pixel depends on the pixels at the same place alone: color filters, blends, generators.
+#pragma once
+
+#include "platform/coreimage/graph/Node.h"
+#include "platform/coreimage/Values.h"
+
+namespace ci {
+
+/// A kernel made ready for one area: works on rows.
+class RowKernel {
+public:
+    virtual ~RowKernel() = default;
+    /// `count` cells from column `x` of row `y` on; `in` has one row for each image.
+    virtual void run(const Row* in, const MutableRow& out, const Grid& grid, int x, int y, int count) const = 0;
+};
+
+/// What a kernel is for the graph: the two builds of it, and what it promises.
+struct PointwiseKernel {
+    using Make = std::unique_ptr<RowKernel> (*)(const Values&, const Grid&, bool opaque);
+    Make batches, floats;
+    bool keepsAlpha = false; // alpha leaves as it came in with the first image
+    bool opaque = false; // alpha is 1 whatever comes in
+};
+
+NodePtr pointwiseNode(
+    const PointwiseKernel&, std::shared_ptr<const Values>, std::vector<NodePtr> images, const CIRect& extent);
+
+} // namespace ci

@@ -1,0 +1,286 @@
+#include "platform/coreimage/graph/Transfer.h"
+
+#include "platform/coreimage/kernel/Pixel.h"
+
+#include <cstring>
+#include <type_traits>
+
+namespace ci {
+
+namespace {
+
+using Words = xsimd::batch<std::int32_t>;
+static_assert(Words::size == Batch::size);
+
+// The float twins of loading and storing 32-bit pixels.
+template <class V>
+using WordsOf = std::conditional_t<std::is_same_v<V, float>, std::int32_t, Words>;
+
+inline float toFloat(std::int32_t w) { return float(w); }
+inline Batch toFloat(const Words& w) { return xsimd::to_float(w); }
+inline std::int32_t toWords(float v) { return std::int32_t(v); }
+inline Words toWords(const Batch& v) { return xsimd::to_int(v); }
+
+template <class V>
+WordsOf<V> loadWords(const std::byte* p)
+{
+    if constexpr (std::is_same_v<V, float>) {
+        std::int32_t w;
+        std::memcpy(&w, p, 4);
+        return w;
+    } else {
+        return Words::load_unaligned(reinterpret_cast<const std::int32_t*>(p));
+    }
+}
+
+template <class V>
+void storeWords(std::byte* p, const WordsOf<V>& w)
+{
+    if constexpr (std::is_same_v<V, float>)
+        std::memcpy(p, &w, 4);
+    else
+        w.store_unaligned(reinterpret_cast<std::int32_t*>(p));
+}
+
+// Chebyshev interpolations of the two curves of IEC 61966-2-1; the first takes the code 0 to 1, the second the
+// fourth root of the linear value, on which the curve is nearly straight.
+template <class V>
+V decodeCode(const V& c)
+{
+    const V curve = polynomial(c, 0.0506566446f, -0.235176109f, 0.481966718f, -0.616709141f, 0.785992942f, 0.498081157f,
+        0.034307856f, 0.000880719448f);
+    return select(c <= V(0.04045f), c * (1 / 12.92f), curve);
+}
+
+template <class V>
+V encodeLinear(const V& v) // 0 to 1
+{
+    const V root = sqrt(sqrt(v));
+    const V curve = polynomial(root, -0.0627589915f, 0.272752244f, -0.557555649f, 1.244214f, 0.164974f, -0.0616297056f);
+    return select(v <= V(0.0031308f), v * 12.92f, curve);
+}
+
+template <class V>
+Pixel<V> loadRow(const Row& row, int i)
+{
+    return {ci::loadRow<V>(row.r + i), ci::loadRow<V>(row.g + i), ci::loadRow<V>(row.b + i), ci::loadRow<V>(row.a + i)};
+}
+template <class V>
+void storeRow(const MutableRow& row, int i, const Pixel<V>& p)
+{
+    ci::storeRow(row.r + i, p.r);
+    ci::storeRow(row.g + i, p.g);
+    ci::storeRow(row.b + i, p.b);
+    ci::storeRow(row.a + i, p.a);
+}
+
+// --- reading
+
+template <class V, CIFormat F>
+Pixel<V> load8(const std::byte* p)
+{
+    const auto w = loadWords<V>(p);
+    const V low = toFloat(w & 255) * (1 / 255.0f), high = toFloat((w >> 16) & 255) * (1 / 255.0f);
+    const V green = toFloat((w >> 8) & 255) * (1 / 255.0f), a = toFloat((w >> 24) & 255) * (1 / 255.0f);
+    return F == CIFormat::RGBA8 ? Pixel<V>{low, green, high, a} : Pixel<V>{high, green, low, a};
+}
+
+template <class V, class T, int stride>
+Pixel<V> loadSpread(const T* p, float scale)
+{
+    if constexpr (std::is_same_v<V, float>) {
+        return {float(p[0]) * scale, float(p[1]) * scale, float(p[2]) * scale, float(p[3]) * scale};
+    } else {
+        alignas(64) float lanes[4][kLanes<V>];
+        for (int i = 0; i < kLanes<V>; ++i)
+            for (int c = 0; c < 4; ++c)
+                lanes[c][i] = float(p[i * stride + c]);
+        const V s(scale);
+        return {V::load_aligned(lanes[0]) * s, V::load_aligned(lanes[1]) * s, V::load_aligned(lanes[2]) * s,
+            V::load_aligned(lanes[3]) * s};
+    }
+}
+
+template <class V, CIFormat F>
+Pixel<V> loadCoded(const std::byte* p)
+{
+    if constexpr (F == CIFormat::RGBA16)
+        return loadSpread<V, std::uint16_t, 4>(reinterpret_cast<const std::uint16_t*>(p), 1 / 65535.0f);
+    else if constexpr (F == CIFormat::RGBAf)
+        return loadSpread<V, float, 4>(reinterpret_cast<const float*>(p), 1.0f);
+    else
+        return load8<V, F>(p);
+}
+
+// Half the range of a half: what hostile files call infinite stays a number, also when squared.
+template <class V>
+V finite(const V& v)
+{
+    return select(v == v, clamp(v, -65504.0f, 65504.0f), V(0.0f));
+}
+
+template <class V, CIFormat F, CIAlpha A, CIColorSpace S>
+Pixel<V> decodePixel(const std::byte* bytes)
+{
+    Pixel<V> p = loadCoded<V, F>(bytes);
+    if constexpr (F == CIFormat::RGBAf)
+        p = {finite(p.r), finite(p.g), finite(p.b), saturate(finite(p.a))};
+    if constexpr (A == CIAlpha::Premultiplied && S == CIColorSpace::SRGB)
+        p = unpremultiplied(p); // the curve applies to the color itself
+    if constexpr (S == CIColorSpace::SRGB) {
+        if constexpr (F == CIFormat::RGBA8 || F == CIFormat::BGRA8)
+            p = {decodeCode(p.r), decodeCode(p.g), decodeCode(p.b), p.a};
+        else
+            p = {linearFromSRGB(p.r), linearFromSRGB(p.g), linearFromSRGB(p.b), p.a};
+    }
+    if constexpr (A == CIAlpha::Opaque)
+        p.a = V(1.0f);
+    else if constexpr (A == CIAlpha::Straight || S == CIColorSpace::SRGB)
+        p = premultiplied(p);
+    return p;
+}
+
+template <class V, CIFormat F, CIAlpha A, CIColorSpace S>
+void decodeRow(const std::byte* pixels, int count, const MutableRow& row)
+{
+    constexpr int lanes = kLanes<V>;
+    const std::size_t size = bytesPerPixel(F);
+    int i = 0;
+    for (; i + lanes <= count; i += lanes)
+        storeRow(row, i, decodePixel<V, F, A, S>(pixels + std::size_t(i) * size));
+    if (i < count) { // the last few pixels, which may be the last of the memory
+        alignas(64) std::byte rest[16 * lanes] = {};
+        std::memcpy(rest, pixels + std::size_t(i) * size, std::size_t(count - i) * size);
+        storeRow(row, i, decodePixel<V, F, A, S>(rest));
+    }
+}
+
+// --- writing
+
+template <class V, CIFormat F>
+void storeCoded(std::byte* bytes, const Pixel<V>& p)
+{
+    if constexpr (F == CIFormat::RGBA8 || F == CIFormat::BGRA8) {
+        const auto code = [](const V& v) { return toWords(mulAdd(v, V(255.0f), V(0.5f))); };
+        const auto low = code(F == CIFormat::RGBA8 ? p.r : p.b), high = code(F == CIFormat::RGBA8 ? p.b : p.r);
+        storeWords<V>(bytes, low | (code(p.g) << 8) | (high << 16) | (code(p.a) << 24));
+    } else {
+        constexpr int lanes = kLanes<V>;
+        alignas(64) float planes[4][lanes];
+        ci::storeRow(planes[0], p.r);
+        ci::storeRow(planes[1], p.g);
+        ci::storeRow(planes[2], p.b);
+        ci::storeRow(planes[3], p.a);
+        for (int i = 0; i < lanes; ++i)
+            for (int c = 0; c < 4; ++c)
+                if constexpr (F == CIFormat::RGBA16)
+                    reinterpret_cast<std::uint16_t*>(bytes)[4 * i + c] = std::uint16_t(planes[c][i] * 65535 + 0.5f);
+                else
+                    reinterpret_cast<float*>(bytes)[4 * i + c] = planes[c][i];
+    }
+}
+
+template <class V, CIFormat F, CIAlpha A, CIColorSpace S, bool opaque>
+void encodePixel(std::byte* bytes, Pixel<V> p)
+{
+    constexpr bool clipped = F != CIFormat::RGBAf, coded = S == CIColorSpace::SRGB;
+    if constexpr (opaque)
+        p.a = V(1.0f);
+    else if constexpr (clipped)
+        p.a = saturate(p.a);
+    if constexpr (!opaque && (coded || clipped || A == CIAlpha::Straight))
+        p = unpremultiplied(p);
+    if constexpr (clipped)
+        p = {saturate(p.r), saturate(p.g), saturate(p.b), p.a};
+    if constexpr (coded) {
+        if constexpr (F == CIFormat::RGBA8 || F == CIFormat::BGRA8)
+            p = {encodeLinear(p.r), encodeLinear(p.g), encodeLinear(p.b), p.a};
+        else
+            p = {srgbFromLinear(p.r), srgbFromLinear(p.g), srgbFromLinear(p.b), p.a};
+    }
+    if constexpr (!opaque && A == CIAlpha::Premultiplied && (coded || clipped))
+        p = premultiplied(p);
+    storeCoded<V, F>(bytes, p);
+}
+
+template <class V, CIFormat F, CIAlpha A, CIColorSpace S, bool opaque>
+void encodeRow(const Row& row, int count, std::byte* pixels)
+{
+    constexpr int lanes = kLanes<V>;
+    const std::size_t size = bytesPerPixel(F);
+    int i = 0;
+    for (; i + lanes <= count; i += lanes)
+        encodePixel<V, F, A, S, opaque>(pixels + std::size_t(i) * size, loadRow<V>(row, i));
+    if (i < count) {
+        alignas(64) std::byte rest[16 * lanes];
+        encodePixel<V, F, A, S, opaque>(rest, loadRow<V>(row, i));
+        std::memcpy(pixels + std::size_t(i) * size, rest, std::size_t(count - i) * size);
+    }
+}
+
+// --- choosing one of them
+
+template <auto value>
+using Constant = std::integral_constant<decltype(value), value>;
+
+template <class F>
+auto withFormat(CIFormat format, F f)
+{
+    switch (format) {
+    case CIFormat::BGRA8:
+        return f(Constant<CIFormat::BGRA8>());
+    case CIFormat::RGBA16:
+        return f(Constant<CIFormat::RGBA16>());
+    case CIFormat::RGBAf:
+        return f(Constant<CIFormat::RGBAf>());
+    default:
+        return f(Constant<CIFormat::RGBA8>());
+    }
+}
+template <class F>
+auto withAlpha(CIAlpha alpha, F f)
+{
+    switch (alpha) {
+    case CIAlpha::Opaque:
+        return f(Constant<CIAlpha::Opaque>());
+    case CIAlpha::Premultiplied:
+        return f(Constant<CIAlpha::Premultiplied>());
+    default:
+        return f(Constant<CIAlpha::Straight>());
+    }
+}
+template <class F>
+auto withSpace(CIColorSpace space, F f)
+{
+    return space == CIColorSpace::SRGB ? f(Constant<CIColorSpace::SRGB>()) : f(Constant<CIColorSpace::LinearSRGB>());
+}
+
+} // namespace
+
+RowDecoder::RowDecoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool floats)
+{
+    m_decode = withFormat(format, [&](auto f) {
+        return withAlpha(alpha, [&](auto a) {
+            return withSpace(space,
+                [&](auto s) { return floats ? &decodeRow<float, f(), a(), s()> : &decodeRow<Batch, f(), a(), s()>; });
+        });
+    });
+}
+
+RowEncoder::RowEncoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool opaque, bool floats)
+{
+    m_encode = withFormat(format, [&](auto f) {
+        return withAlpha(alpha, [&](auto a) {
+            return withSpace(space, [&](auto s) {
+                constexpr auto F = f();
+                constexpr auto A = a();
+                constexpr auto S = s();
+                if (opaque || A == CIAlpha::Opaque)
+                    return floats ? &encodeRow<float, F, A, S, true> : &encodeRow<Batch, F, A, S, true>;
+                return floats ? &encodeRow<float, F, A, S, false> : &encodeRow<Batch, F, A, S, false>;
+            });
+        });
+    });
+}
+
+} // namespace ci

@@ -1,0 +1,249 @@
+// Gaussian blur at a cost that does not grow with the radius: the image is halved until the standard deviation is a
+// few cells, blurred there with a sampled Gaussian, and doubled back with the smooth weights 1/4, 3/4.
+#include "platform/coreimage/graph/Planes.h"
+#include "platform/coreimage/kernel/PointwiseFilter.h"
+#include "platform/coreimage/passes/Blur.h"
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+namespace ci {
+
+namespace {
+
+constexpr double kFewCells = 2.5; // below it halving once more would show
+constexpr double kReach = 3.0; // standard deviations beyond which weights are left out
+
+/// Floor division, also for cells left of zero.
+int floorDiv(int a, int b) { return a >= 0 ? a / b : -((b - 1 - a) / b); }
+
+int halvings(double sigma)
+{
+    int n = 0;
+    while (sigma / (2 << n) >= kFewCells)
+        ++n;
+    return n;
+}
+
+/// One half of the symmetric weights; [0] is the middle.
+std::vector<float> gaussianWeights(double sigma)
+{
+    const int radius = std::max(1, int(std::ceil(kReach * sigma)));
+    std::vector<float> weights(std::size_t(radius) + 1);
+    double sum = 0;
+    for (int k = 0; k <= radius; ++k) {
+        const double w = std::exp(-0.5 * k * k / (sigma * sigma));
+        weights[std::size_t(k)] = float(w);
+        sum += k ? 2 * w : w;
+    }
+    for (float& w : weights)
+        w = float(w / sum);
+    return weights;
+}
+
+/// Sums over pairs of floats `step` apart, to both sides of `p`.
+template <class V>
+V symmetricSum(const float* p, std::ptrdiff_t step, const std::vector<float>& weights)
+{
+    V sum = loadRow<V>(p) * V(weights[0]);
+    for (std::size_t k = 1; k < weights.size(); ++k) {
+        const std::ptrdiff_t d = std::ptrdiff_t(k) * step;
+        sum = mulAdd(loadRow<V>(p - d) + loadRow<V>(p + d), V(weights[k]), sum);
+    }
+    return sum;
+}
+
+/// Blurs `in` into `out`, which lies inside it by the radius on every side.
+template <class V>
+void convolve(const Planes& in, const Planes& out, const std::vector<float>& weights, Scratch& scratch)
+{
+    const ScratchScope scope(scratch);
+    const int width = in.area.width();
+    float* const line = scratch.floats(std::size_t(width + 2 * kRowPadding));
+    const int before = out.area.x0 - in.area.x0;
+    for (int y = out.area.y0; y < out.area.y1; ++y)
+        for (int c = 0; c < 4; ++c) {
+            const float* const middle = in.line(c, y);
+            for (int x = 0; x < width; x += kLanes<V>)
+                storeRow(line + x, symmetricSum<V>(middle + x, std::ptrdiff_t(in.stride), weights));
+            float* const to = out.line(c, y);
+            for (int x = 0; x < out.area.width(); x += kLanes<V>)
+                storeRow(to + x, symmetricSum<V>(line + before + x, 1, weights));
+        }
+}
+
+/// Means of 2 by 2 cells, as rows come in. Cell (i, j) of the half covers columns 2i, 2i + 1 and rows 2j, 2j + 1.
+class Halver {
+public:
+    Halver(const GridRect& area, Scratch& scratch)
+        : m_area(area)
+        , m_half{floorDiv(area.x0 + 1, 2), floorDiv(area.y0 + 1, 2), floorDiv(area.x1, 2), floorDiv(area.y1, 2)}
+        , m_row(allocateRow(scratch, m_half.width() + 1))
+    {
+    }
+    const GridRect& half() const { return m_half; }
+    /// True when `row()` is complete: the row y was an upper one.
+    bool add(int y, const Row& row)
+    {
+        const int line = floorDiv(y, 2);
+        if (line < m_half.y0 || line >= m_half.y1)
+            return false;
+        const bool upper = y - 2 * line == 1;
+        const int skip = 2 * m_half.x0 - m_area.x0;
+        const float* const from[4] = {row.r + skip, row.g + skip, row.b + skip, row.a + skip};
+        float* const to[4] = {m_row.r, m_row.g, m_row.b, m_row.a};
+        for (int c = 0; c < 4; ++c)
+            for (int x = 0; x < m_half.width(); ++x) {
+                const float pair = 0.25f * (from[c][2 * x] + from[c][2 * x + 1]);
+                to[c][x] = upper ? to[c][x] + pair : pair;
+            }
+        return upper;
+    }
+    int line(int y) const { return floorDiv(y, 2); }
+    const MutableRow& row() const { return m_row; }
+
+private:
+    GridRect m_area, m_half;
+    MutableRow m_row;
+};
+
+/// Reads rows through several halvers into planes of the coarsest grid.
+Planes readHalved(RowReader& in, const GridRect& area, int times, Scratch& scratch)
+{
+    std::vector<Halver> chain;
+    GridRect current = area;
+    for (int i = 0; i < times; ++i) {
+        chain.emplace_back(current, scratch);
+        current = chain.back().half();
+    }
+    const Planes coarse = Planes::allocate(current, scratch);
+    for (int y = area.y0; y < area.y1; ++y) {
+        Row row = in.row(y);
+        int line = y;
+        std::size_t i = 0;
+        while (i < chain.size() && chain[i].add(line, row)) {
+            line = chain[i].line(line);
+            row = chain[i].row();
+            ++i;
+        }
+        if (i == chain.size() && line >= current.y0 && line < current.y1) {
+            const MutableRow to = coarse.row(line);
+            std::copy_n(row.r, current.width(), to.r);
+            std::copy_n(row.g, current.width(), to.g);
+            std::copy_n(row.b, current.width(), to.b);
+            std::copy_n(row.a, current.width(), to.a);
+        }
+    }
+    return coarse;
+}
+
+/// The half-size cells that doubling to `area` reads.
+GridRect halfNeeded(const GridRect& area)
+{
+    return {floorDiv(area.x0 - 1, 2), floorDiv(area.y0 - 1, 2), floorDiv(area.x1, 2) + 1, floorDiv(area.y1, 2) + 1};
+}
+
+/// Doubles one line: cell 2i is 3/4 of i and 1/4 of i - 1, cell 2i + 1 is 3/4 of i and 1/4 of i + 1.
+template <class V>
+void doubleLine(const float* half, int halfLeft, float* to, int left, int width, float* pairs)
+{
+    const int first = floorDiv(left, 2), count = floorDiv(left + width - 1, 2) - first + 1;
+    const float* const middle = half + (first - halfLeft);
+    for (int i = 0; i < count; i += kLanes<V>) {
+        const V own = V(0.75f) * loadRow<V>(middle + i);
+        const V lower = mulAdd(V(0.25f), loadRow<V>(middle + i - 1), own);
+        const V upper = mulAdd(V(0.25f), loadRow<V>(middle + i + 1), own);
+        if constexpr (std::is_same_v<V, float>) {
+            pairs[2 * i] = lower;
+            pairs[2 * i + 1] = upper;
+        } else {
+            storeRow(pairs + 2 * i, xsimd::zip_lo(lower, upper));
+            storeRow(pairs + 2 * i + kLanes<V>, xsimd::zip_hi(lower, upper));
+        }
+    }
+    std::copy_n(pairs + (left - 2 * first), width, to);
+}
+
+template <class V>
+void doubled(const Planes& half, const Planes& out, Scratch& scratch)
+{
+    const ScratchScope scope(scratch);
+    const int halfWidth = half.area.width(), width = out.area.width();
+    float* const line = scratch.floats(std::size_t(halfWidth + 4 * kRowPadding)) + kRowPadding;
+    float* const pairs = scratch.floats(std::size_t(2 * halfWidth + 8 * kRowPadding));
+    for (int y = out.area.y0; y < out.area.y1; ++y) {
+        const int j = floorDiv(y, 2), other = y - 2 * j ? j + 1 : j - 1;
+        for (int c = 0; c < 4; ++c) {
+            const float *near = half.line(c, j), *far = half.line(c, other);
+            for (int x = 0; x < halfWidth; x += kLanes<V>)
+                storeRow(line + x, mulAdd(V(0.75f), loadRow<V>(near + x), V(0.25f) * loadRow<V>(far + x)));
+            doubleLine<V>(line, half.area.x0, out.line(c, y), out.area.x0, width, pairs);
+        }
+    }
+}
+
+class GaussianPass : public PassKernel {
+public:
+    explicit GaussianPass(double sigma)
+        : m_sigma(sigma)
+    {
+    }
+
+    Margin margin(const Grid& grid) const override
+    {
+        const double sigma = m_sigma * grid.scale;
+        const int cell = 1 << halvings(sigma);
+        const int reach = (int(std::ceil(kReach * sigma / cell)) + 4) * cell;
+        return {reach, reach};
+    }
+
+    void run(
+        const Render& render, RowReader& in, const GridRect& area, const Planes& out, Scratch& scratch) const override
+    {
+        if (render.floats)
+            blur<float>(render, in, area, out, scratch);
+        else
+            blur<Batch>(render, in, area, out, scratch);
+    }
+
+private:
+    template <class V>
+    void blur(const Render& render, RowReader& in, const GridRect& area, const Planes& out, Scratch& scratch) const
+    {
+        const double sigma = m_sigma * render.grid.scale;
+        const int times = halvings(sigma), cell = 1 << times;
+        // What halving and doubling add to the variance: (n² - 1) / 12 and (n² - 1) / 4 cells².
+        const double rest = sigma * sigma - (double(cell) * cell - 1) / 3;
+        const std::vector<float> weights = gaussianWeights(std::sqrt(std::max(rest, 1e-4)) / cell);
+        const Planes coarse = readHalved(in, area, times, scratch);
+        if (times == 0) {
+            convolve<V>(coarse, out, weights, scratch);
+            return;
+        }
+        std::vector<GridRect> sizes{out.area};
+        for (int i = 0; i < times; ++i)
+            sizes.push_back(halfNeeded(sizes.back()));
+        Planes current = Planes::allocate(sizes.back(), scratch);
+        convolve<V>(coarse, current, weights, scratch);
+        for (int i = times - 1; i >= 0; --i) {
+            const Planes next = i ? Planes::allocate(sizes[std::size_t(i)], scratch) : out;
+            doubled<V>(current, next, scratch);
+            current = next;
+        }
+    }
+    double m_sigma;
+};
+
+} // namespace
+
+CIImage gaussianBlur(const CIImage& image, double sigma)
+{
+    constexpr double kNothing = 0.05; // px; the weights of the neighbors would be zero
+    if (image.isNull() || sigma < kNothing)
+        return image;
+    const CIRect extent = image.extent().grown(std::ceil(kReach * sigma) + 1);
+    return CIImage(passNode(image.node(), std::make_shared<GaussianPass>(sigma), extent, true));
+}
+
+} // namespace ci
