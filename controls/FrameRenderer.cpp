@@ -41,6 +41,7 @@ struct FrameRenderer::Private {
     std::optional<Frame> finished;
     CIRenderControl* control = nullptr; // of the render under way
     bool refining = false; // a coarser frame of the same request has been finished
+    bool isFirstFullFrame = false; // nothing coarser came before
     bool hurry = false; // cancelled to start again with a coarser frame
     Clock::time_point started;
     double pixelTime = 0; // ms per pixel of the last full frame, or guessed from a coarser one; 0 is unknown
@@ -136,6 +137,7 @@ void FrameRenderer::Private::renderRequest(std::unique_lock<std::mutex>& lock)
     const std::uint64_t serial = newest;
     pending = hurry = refining = false;
     const int divisor = firstDivisor(request);
+    isFirstFullFrame = divisor == 1;
     if (divisor > 1) {
         if (!renderAt(divisor, request, serial, lock) || stop)
             return;
@@ -175,9 +177,10 @@ FrameRenderer::FrameRenderer(std::shared_ptr<CIContext> context, QObject* parent
     d->impatience.setInterval(kPatience);
     connect(&d->impatience, &QTimer::timeout, this, [this] {
         const std::lock_guard lock(d->mutex);
-        const bool slow = d->control && !d->refining && d->firstDivisor(d->wanted) == 1
-            && Clock::now() - d->started >= kPatience - std::chrono::milliseconds(1) && d->control->progress() < 0.6;
-        if (slow) {
+        const bool young = d->pending || (d->control && Clock::now() - d->started < kPatience);
+        if (young) {
+            d->impatience.start(); // it waited for an older render, or for a processor
+        } else if (d->control && d->isFirstFullFrame && d->control->progress() < 0.6) {
             d->hurry = true;
             d->control->cancel();
         }

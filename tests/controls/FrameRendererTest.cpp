@@ -65,7 +65,7 @@ TEST(FrameRenderer, FramesKeepTheirPixelsWhileLaterOnesAreRendered)
 TEST(FrameRenderer, ShowsACoarseFrameOfASlowPictureFirst)
 {
     FrameRenderer renderer(std::make_shared<CIContext>());
-    const CIImage image = slow(40);
+    const CIImage image = slow(20);
     renderer.request(wholeOf(image, 1200, 900));
     std::vector<int> divisors;
     QElapsedTimer timer;
