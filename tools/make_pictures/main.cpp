@@ -26,7 +26,7 @@ const std::vector<Product>& products()
         {"colormap.tiff", [](const std::string& file) { writeTiff(colorMap(), Depth::Eight, file); }},
         {"mask.tiff", [](const std::string& file) { writeTiff(disintegrateMask(), Depth::Sixteen, file); }},
         {"16x16c.tif", [](const std::string& file) { writeTiff(controlPointMarker(), Depth::Eight, file); }},
-        {"main_img.jpg", [](const std::string& file) { writeJpeg(landscape(1), 92, file); }},
+        {"main_img.jpg", [](const std::string& file) { writeJpeg(landscape(1), 90, file); }},
     };
     return kProducts;
 }

@@ -8,49 +8,49 @@ namespace {
 constexpr float kNearest = 75; // metres; nearer is meadow or water at its foot
 constexpr int kStripWidth = 128; // pixels
 
-struct Tree {
-    Vec foot;
-    float height; // metres
-    std::uint32_t seed;
-    bool golden;
-};
-
-/// Trees on a jittered grid that widens with distance, farthest first.
-std::vector<Tree> plant(const Terrain& terrain)
-{
-    std::vector<float> rows;
-    for (float z = kNearest; z < 7500; z += std::clamp(0.0021f * z, 4.6f, 14.0f))
-        rows.push_back(z);
-    std::vector<std::vector<Tree>> planted(rows.size());
-    inParallel(static_cast<int>(rows.size()), [&](int row) {
-        const float z = rows[static_cast<std::size_t>(row)], spacing = std::clamp(0.0021f * z, 4.6f, 14.0f);
-        const int side = static_cast<int>(0.64f * z / spacing) + 3;
-        for (int i = -side; i <= side; ++i) {
-            const std::uint32_t seed = static_cast<std::uint32_t>(row) * 8192u + static_cast<std::uint32_t>(i + 4096);
-            Random random(seed);
-            const float x = (static_cast<float>(i) + random.between(-0.5f, 0.5f)) * spacing;
-            const float tz = z + random.between(-0.5f, 0.5f) * spacing;
-            const float height = terrain.height(x, tz, 8);
-            if (height < 1.2f || height > 1200)
-                continue;
-            const float density = terrain.forest(x, tz, height, terrain.normal(x, tz, 12));
-            if (random.next() > density * 0.93f)
-                continue;
-            const float stand = 0.5f + quickFractal(x / 120, tz / 120, 611, 3); // 0...1, how old the trees are
-            const float tall = random.between(9, 17) + 13 * std::clamp(stand, 0.0f, 1.0f) * random.next();
-            const float larches = quickFractal(x / 240, tz / 240, 621, 3) + 0.00022f * height;
-            planted[static_cast<std::size_t>(row)].push_back(
-                {{x, height - 0.5f, tz}, tall * (1 - 0.35f * smoothStep(400, 950, height)), seed,
-                    random.next() < 0.015f + 0.62f * smoothStep(0.16f, 0.36f, larches)});
-        }
-    });
-    std::vector<Tree> trees;
-    for (auto row = planted.rbegin(); row != planted.rend(); ++row)
-        trees.insert(trees.end(), row->begin(), row->end());
-    return trees;
-}
+/// Metres between trees, or rows of them; farther away they may be sparser.
+float spacingAt(float z) { return std::clamp(0.0021f * z, 4.6f, 14.0f); }
 
 } // namespace
+
+Backdrop::Backdrop(const Terrain& terrain, const Sky& sky, const Vec& towardsSun)
+    : m_terrain(terrain)
+    , m_sky(sky)
+    , m_towardsSun(towardsSun)
+{
+    std::vector<float> rows;
+    for (float z = kNearest; z < 7500; z += spacingAt(z))
+        rows.push_back(z);
+    std::vector<std::vector<Tree>> planted(rows.size());
+    inParallel(static_cast<int>(rows.size()), [&](int number) {
+        const std::size_t row = static_cast<std::size_t>(number);
+        plantRow(rows[row], spacingAt(rows[row]), static_cast<std::uint32_t>(number), planted[row]);
+    });
+    for (auto row = planted.rbegin(); row != planted.rend(); ++row)
+        m_trees.insert(m_trees.end(), row->begin(), row->end());
+}
+
+void Backdrop::plantRow(float z, float spacing, std::uint32_t row, std::vector<Tree>& planted) const
+{
+    const int side = static_cast<int>(0.64f * z / spacing) + 3;
+    for (int i = -side; i <= side; ++i) {
+        const std::uint32_t seed = row * 8192u + static_cast<std::uint32_t>(i + 4096);
+        Random random(seed);
+        const float x = (static_cast<float>(i) + random.between(-0.5f, 0.5f)) * spacing;
+        const float tz = z + random.between(-0.5f, 0.5f) * spacing;
+        const float height = m_terrain.height(x, tz, 8);
+        if (height < 1.2f || height > 1200)
+            continue;
+        const float density = m_terrain.forest(x, tz, height, m_terrain.normal(x, tz, 12));
+        if (random.next() > density * 0.93f)
+            continue;
+        const float stand = 0.5f + quickFractal(x / 120, tz / 120, 611, 3); // 0...1, how old the trees are
+        const float tall = random.between(6, 17) + 15 * std::clamp(stand, 0.0f, 1.0f) * random.next();
+        const float larches = quickFractal(x / 240, tz / 240, 621, 3) + 0.00022f * height;
+        planted.push_back({{x, height - 0.5f, tz}, tall * (1 - 0.35f * smoothStep(400, 950, height)), seed,
+            random.next() < 0.012f + 0.66f * smoothStep(0.23f, 0.40f, larches)});
+    }
+}
 
 void Backdrop::draw(Canvas& canvas, const View& view) const
 {
@@ -123,11 +123,10 @@ Vec Backdrop::groundLight(const Vec& place, float footprint) const
     const float wood = m_terrain.forest(place.x, place.z, place.y, broad);
     albedo = mixed(albedo, Vec{0.030f, 0.042f, 0.016f}, smoothStep(0.15f, 0.7f, wood));
     const float beach = smoothStep(3.2f, 1.2f, place.y + 2 * grain);
-    albedo = mixed(albedo, Vec{0.30f, 0.27f, 0.23f} * (1 + 0.9f * grain), beach);
+    albedo = mixed(albedo, Vec{0.17f, 0.15f, 0.125f} * (1 + 1.3f * grain), beach);
     const float snow = smoothStep(-0.06f, 0.10f,
-        (place.y - 1320) / 1500 + 0.34f * blotch + 0.10f * grain
-            + 1.25f * (0.55f * normal.y + 0.45f * broad.y - 0.66f));
-    albedo = mixed(albedo, Vec{0.86f, 0.88f, 0.93f}, snow * smoothStep(950, 1250, place.y + 300 * blotch));
+        (place.y - 1320) / 1500 + 0.34f * blotch + 0.10f * grain + 1.7f * (0.60f * normal.y + 0.40f * broad.y - 0.64f));
+    albedo = mixed(albedo, Vec{0.78f, 0.80f, 0.85f}, snow * smoothStep(950, 1250, place.y + 300 * blotch));
 
     const float facing = std::max(0.0f, dot(normal, m_towardsSun));
     const float wrap = mixed(facing, std::max(0.0f, 0.25f + 0.75f * dot(normal, m_towardsSun)), 0.25f * snow);
@@ -141,7 +140,7 @@ float Backdrop::airBetween(const Vec& place, const View& view) const
     const float low = std::exp(-std::max(place.y, 0.0f) / 340); // mist lies in the valley
     const float thick = away / 38000 + std::max(0.0f, away - 1200) / 11000 * low * 0.40f;
     const float right = place.x / place.z, up = (place.y - view.eye) / place.z;
-    return 1 - std::exp(-thick * (1 + 1.6f * m_sky.glare(right, std::fabs(up))));
+    return 1 - std::exp(-thick * (0.85f + 0.75f * m_sky.glare(right, std::fabs(up))));
 }
 
 Vec Backdrop::throughAir(const Vec& light, const Vec& place, const View& view) const
@@ -152,11 +151,10 @@ Vec Backdrop::throughAir(const Vec& light, const Vec& place, const View& view) c
 
 void Backdrop::drawForest(Canvas& canvas, const View& view) const
 {
-    static const std::vector<Tree> trees = plant(m_terrain);
     const int strips = (canvas.width + kStripWidth - 1) / kStripWidth;
     inParallel(strips, [&](int number) {
         const Strip strip = {number * kStripWidth, std::min(canvas.width, (number + 1) * kStripWidth)};
-        for (const Tree& tree : trees) {
+        for (const Tree& tree : m_trees) {
             const float tall = tree.height * view.focal / tree.foot.z;
             const float x = view.pixelX(tree.foot.x, tree.foot.z), y = view.pixelY(tree.foot.y, tree.foot.z);
             if (x + 0.3f * tall < static_cast<float>(strip.first) || x - 0.3f * tall > static_cast<float>(strip.last))

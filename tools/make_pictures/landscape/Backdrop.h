@@ -8,15 +8,19 @@
 /// What lies behind the meadow, seen by one camera: sky, mountains and forest. Water is left to be filled in.
 class Backdrop {
 public:
-    Backdrop(const Terrain& terrain, const Sky& sky, const Vec& towardsSun)
-        : m_terrain(terrain)
-        , m_sky(sky)
-        , m_towardsSun(towardsSun)
-    {
-    }
+    /// Plants the forest. `terrain` and `sky` must outlive the backdrop.
+    Backdrop(const Terrain& terrain, const Sky& sky, const Vec& towardsSun);
     void draw(Canvas& canvas, const View& view) const;
 
 private:
+    struct Tree {
+        Vec foot;
+        float height; // metres
+        std::uint32_t seed;
+        bool golden;
+    };
+
+    void plantRow(float z, float spacing, std::uint32_t row, std::vector<Tree>& planted) const;
     void drawColumn(Canvas& canvas, const View& view, int x) const;
     void shadeColumn(Canvas& canvas, const View& view, int x) const;
     void drawForest(Canvas& canvas, const View& view) const;
@@ -27,4 +31,5 @@ private:
     const Terrain& m_terrain;
     const Sky& m_sky;
     Vec m_towardsSun;
+    std::vector<Tree> m_trees; // farthest first
 };

@@ -37,8 +37,8 @@ void drawLake(Canvas& canvas, const Canvas& mirrored, const View& view)
             const int my = std::clamp(static_cast<int>(sy), 0, mirrored.height - 1);
             const float fresnel = 0.02f + 0.98f * std::pow(1 - steep / std::sqrt(1 + steep * steep), 5.0f);
             const float shallow = std::exp(-std::max(0.0f, z - 40) / 90);
-            const Vec body = mixed(Vec{0.012f, 0.060f, 0.085f}, Vec{0.030f, 0.120f, 0.115f}, shallow);
-            canvas.color[index] = mixed(body, mirrored.color[mirrored.index(mx, my)], 0.15f + 0.85f * fresnel);
+            const Vec body = mixed(Vec{0.010f, 0.070f, 0.105f}, Vec{0.030f, 0.150f, 0.150f}, shallow);
+            canvas.color[index] = mixed(body, mirrored.color[mirrored.index(mx, my)], 0.28f + 0.72f * fresnel);
         }
     });
 }
@@ -92,7 +92,7 @@ float film(float x) { return std::clamp(x * (2.51f * x + 0.03f) / (x * (2.43f * 
 
 Raster developed(const std::vector<Vec>& pixels, const std::vector<Vec>& glow, int width, int height)
 {
-    constexpr float kExposure = 0.78f;
+    constexpr float kExposure = 0.74f;
     Raster picture(width, height, 3);
     for (int y = 0; y < height; ++y)
         for (int x = 0; x < width; ++x) {
@@ -100,9 +100,9 @@ Raster developed(const std::vector<Vec>& pixels, const std::vector<Vec>& glow, i
             const float dx = (static_cast<float>(x) + 0.5f) / static_cast<float>(width) - 0.5f;
             const float dy = (static_cast<float>(y) + 0.5f) / static_cast<float>(height) - 0.5f;
             const float vignette = 1 - 0.55f * std::pow(dx * dx + dy * dy, 1.25f);
-            const Vec light = (pixels[index] + glow[index] * 0.12f) * (kExposure * vignette);
+            const Vec light = (pixels[index] + glow[index] * 0.20f) * (kExposure * vignette);
             const float grey = luma(light);
-            const Vec rich = mixed(Vec{grey, grey, grey}, light, 1.10f);
+            const Vec rich = mixed(Vec{grey, grey, grey}, light, 1.17f);
             float* const out = picture.at(x, y);
             out[0] = encodeSrgb(film(std::max(rich.x, 0.0f)));
             out[1] = encodeSrgb(film(std::max(rich.y, 0.0f)));
@@ -121,9 +121,9 @@ Raster landscape(float scale)
     View mirror = view;
     mirror.eye = -kEye;
 
-    const Vec towardsSun = normalised({-0.88f, 0.27f, 0.30f});
+    const Vec towardsSun = normalised({-0.90f, 0.30f, 0.02f});
     const Terrain terrain(towardsSun);
-    const Sky sky(-0.235f, 0.165f);
+    const Sky sky(-0.182f, 0.150f);
     const Backdrop backdrop(terrain, sky, towardsSun);
 
     Canvas mirrored(width * kPerSide, static_cast<int>(view.horizon) + 2);

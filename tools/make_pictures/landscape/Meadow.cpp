@@ -43,7 +43,8 @@ struct Tuft {
 void drawGrass(Canvas& canvas, const Strip& strip, const View& view, const Tuft& tuft, Random& random)
 {
     const float dry = std::clamp(0.42f + 0.9f * quickFractal(tuft.x / 2.3f, tuft.z / 3.1f, 831, 3), 0.0f, 1.0f);
-    const float tall = random.between(0.16f, 0.42f) * (0.75f + 0.6f * dry);
+    const float clump = smoothStep(0.05f, 0.35f, quickFractal(tuft.x / 0.9f, tuft.z / 1.3f, 871, 2));
+    const float tall = random.between(0.14f, 0.40f) * (0.75f + 0.5f * dry) * (1 + 0.7f * clump);
     const Vec green = mixed(Vec{0.13f, 0.21f, 0.035f}, Vec{0.46f, 0.34f, 0.085f}, dry * random.between(0.3f, 1.2f));
     const Vec light = mixed(Vec{0.34f, 0.42f, 0.62f}, Vec{2.25f, 1.55f, 0.85f}, tuft.sun * random.between(0.5f, 1.1f));
     const float lean = tall * random.between(-0.38f, 0.55f);
@@ -59,7 +60,8 @@ void drawBloom(Canvas& canvas, const Strip& strip, const View& view, const Tuft&
     const float daisies = quickFractal(tuft.x / 2.2f, tuft.z / 4, 861, 2);
     const float chance = random.next();
     Flower flower = Flower::SeedGrass;
-    float tall = random.between(0.42f, 0.62f), common = 0.05f;
+    const float straws = smoothStep(0.05f, 0.3f, quickFractal(tuft.x / 1.9f, tuft.z / 3, 881, 2));
+    float tall = random.between(0.40f, 0.66f), common = 0.06f + 0.7f * straws;
     if (lupines > 0.06f && chance < 0.8f) {
         flower = Flower::Lupine;
         tall = random.between(0.34f, 0.62f);
@@ -67,11 +69,11 @@ void drawBloom(Canvas& canvas, const Strip& strip, const View& view, const Tuft&
     } else if (poppies > 0.10f && chance < 0.75f) {
         flower = Flower::Poppy;
         tall = random.between(0.28f, 0.48f);
-        common = 0.22f;
+        common = 0.30f;
     } else if (daisies > 0.04f && chance < 0.8f) {
         flower = Flower::Daisy;
         tall = random.between(0.24f, 0.44f);
-        common = 0.30f;
+        common = 0.42f;
     } else if (chance < 0.6f) {
         flower = Flower::Buttercup;
         tall = random.between(0.22f, 0.40f);
@@ -85,6 +87,25 @@ void drawBloom(Canvas& canvas, const Strip& strip, const View& view, const Tuft&
     drawFlower(canvas, strip, flower, stem, tuft.size, random);
 }
 
+/// Trees on the bank that frame the view.
+void drawFrame(Canvas& canvas, const Strip& strip, const View& view)
+{
+    struct Stand {
+        float x, z, height; // metres
+        bool golden;
+    };
+    constexpr Stand kStands[] = {{20.9f, 39, 14.5f, false}, {23.2f, 41, 18.5f, false}, {18.9f, 37, 7.0f, false},
+        {17.9f, 38, 4.6f, true}, {-20.6f, 39, 7.2f, false}, {-22.3f, 40, 10.5f, false}, {-19.2f, 38, 3.4f, true}};
+    for (const Stand& tree : kStands) {
+        const PlantLight light = {kSunlight * 0.8f, kSkylight * 0.9f, {}, 0};
+        const float foot = meadowHeight(tree.x, tree.z) - 0.1f;
+        drawConifer(canvas, strip,
+            {view.pixelX(tree.x, tree.z), view.pixelY(foot, tree.z), tree.height * view.focal / tree.z, tree.z - 3,
+                static_cast<std::uint32_t>(tree.x * 10 + 900), tree.golden},
+            light);
+    }
+}
+
 } // namespace
 
 void drawMeadow(Canvas& canvas, const View& view)
@@ -93,6 +114,7 @@ void drawMeadow(Canvas& canvas, const View& view)
     const int strips = (canvas.width + kStripWidth - 1) / kStripWidth;
     inParallel(strips, [&](int number) {
         const Strip strip = {number * kStripWidth, std::min(canvas.width, (number + 1) * kStripWidth)};
+        drawFrame(canvas, strip, view);
         std::uint32_t row = 0;
         for (float z = kEnd; z > kNear; z *= 0.9875f, ++row) {
             const float size = view.focal / z, spacing = std::max(0.011f, 3.2f / view.focal * z * 0.9f);

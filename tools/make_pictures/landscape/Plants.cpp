@@ -12,23 +12,29 @@ Vec needleColor(const Conifer& tree, Random& random)
     return mixed(Vec{0.030f, 0.058f, 0.026f}, Vec{0.052f, 0.075f, 0.026f}, tint);
 }
 
-/// One bough from the trunk to its tip, with twigs hanging off it when there are pixels for them.
-void drawBough(
-    Canvas& canvas, const Strip& strip, const Nib& root, const Nib& tip, const Vec& color, float away, Random& random)
+/// A bough: where it leaves the trunk, where it ends, and how long it is when seen from above.
+struct Bough {
+    Nib root, tip;
+    float length; // pixels
+    float out; // -1 to the left, 0 towards or away from the viewer, 1 to the right
+};
+
+/// Draws a bough, with twigs hanging off it when there are pixels for them.
+void drawBough(Canvas& canvas, const Strip& strip, const Bough& bough, const Vec& color, float away, Random& random)
 {
+    const auto& [root, tip, length, out] = bough;
     const Nib bend = {mixed(root.x, tip.x, 0.55f), mixed(root.y, tip.y, 0.35f), root.radius * 0.8f};
     drawStroke(canvas, strip, root, bend, color, away);
     drawStroke(canvas, strip, bend, tip, color, away);
-    const float span = std::hypot(tip.x - root.x, tip.y - root.y);
-    const int twigs = span > 9 ? std::min(34, static_cast<int>(span / 2.6f)) : 0;
+    const int twigs = length > 9 ? std::min(110, static_cast<int>(length / 2.0f)) : 0;
     for (int twig = 0; twig < twigs; ++twig) {
-        const float t = random.between(0.12f, 1.0f);
+        const float t = random.between(0.10f, 1.0f);
         const float x = mixed(root.x, tip.x, t), y = mixed(root.y, tip.y, t * t * 0.5f + t * 0.5f);
-        const float size = span * random.between(0.10f, 0.26f) * (1.15f - 0.6f * t);
-        const float side = tip.x > root.x ? 1.0f : -1.0f;
-        const Nib end = {x + side * size * random.between(0.1f, 0.9f), y + size * random.between(-0.15f, 0.95f), 0.35f};
-        const float shade = random.between(0.65f, 1.4f);
-        drawStroke(canvas, strip, {x, y, std::max(0.55f, size * 0.10f)}, end, color * shade, away);
+        const float size = length * random.between(0.08f, 0.22f) * (1.15f - 0.6f * t);
+        const float aside = 0.75f * out + random.between(-0.75f, 0.75f);
+        const Nib end = {x + size * aside, y + size * random.between(-0.10f, 0.80f), 0.35f};
+        const float shade = random.between(0.55f, 1.2f) + 0.35f * t;
+        drawStroke(canvas, strip, {x, y, std::clamp(size * 0.08f, 0.55f, 1.4f)}, end, color * shade, away);
     }
 }
 
@@ -51,7 +57,8 @@ void drawConifer(Canvas& canvas, const Strip& strip, const Conifer& tree, const 
     const Vec needles = needleColor(tree, random);
     const float width = tree.height * random.between(0.13f, 0.20f) * (tree.golden ? 1.12f : 1.0f);
     const float bare = random.between(0.02f, 0.09f), slender = random.between(0.8f, 1.15f);
-    const int rows = std::clamp(static_cast<int>(tree.height / 2.4f), 5, 54);
+    const int rows =
+        std::clamp(static_cast<int>(tree.height / (tree.height > 300 ? 8 : 2.4f)), 5, tree.height > 300 ? 150 : 54);
     const int boughs = std::clamp(static_cast<int>(tree.height / 14), 3, 9);
     const Vec bark = (light.sun * 0.35f + light.sky) * Vec{0.07f, 0.05f, 0.04f};
     drawStroke(canvas, strip, {tree.x, tree.y, std::max(0.5f, tree.height * 0.010f)},
@@ -61,8 +68,8 @@ void drawConifer(Canvas& canvas, const Strip& strip, const Conifer& tree, const 
         const float y = tree.y - tree.height * (bare + (1 - bare) * up);
         const float length = width * (std::pow(1 - up, slender) * 0.95f + 0.03f) * random.between(0.72f, 1.12f);
         for (int bough = 0; bough < boughs; ++bough) {
-            const float around = random.between(-kPi, kPi), out = std::cos(around);
-            const float near = std::sin(around); // towards the viewer when positive
+            const float around = (bough < boughs / 2 ? -1.0f : 1.0f) * random.between(0, kPi); // the far side first
+            const float out = std::cos(around), near = std::sin(around); // towards the viewer when positive
             const float reachOut = length * random.between(0.7f, 1.1f);
             const float droop = reachOut * random.between(0.18f, 0.62f) * (1 - 0.8f * up) - reachOut * 0.30f * up;
             // Lit from the left and above; the inside and the far side are dim.
@@ -71,9 +78,9 @@ void drawConifer(Canvas& canvas, const Strip& strip, const Conifer& tree, const 
             const float speckle = random.between(0.6f, 1.45f);
             const Vec lit =
                 needles * (light.sun * (facing * 1.15f * deep) + light.sky * (0.75f * deep + 0.15f)) * speckle;
-            const Nib root = {tree.x, y, std::max(0.55f, length * 0.10f)};
-            const Nib tip = {tree.x + reachOut * out, y + droop + reachOut * 0.12f * near, 0.4f};
-            drawBough(canvas, strip, root, tip, mixed(lit, light.haze, light.hazy), tree.away, random);
+            const Nib root = {tree.x, y, std::clamp(length * 0.10f, 0.55f, 2.2f)};
+            const Nib tip = {tree.x + reachOut * out, y + droop + reachOut * 0.16f * near, 0.4f};
+            drawBough(canvas, strip, {root, tip, reachOut, out}, mixed(lit, light.haze, light.hazy), tree.away, random);
         }
     }
 }
@@ -92,29 +99,51 @@ void drawBlade(Canvas& canvas, const Strip& strip, const Blade& blade, const Vec
 
 namespace {
 
+/// Fingered leaves around the foot of a lupine.
+void drawLeaves(Canvas& canvas, const Strip& strip, const Blade& stem, float size, Random& random)
+{
+    for (int leaf = 0; leaf < 7; ++leaf) {
+        const Nib joint = onBlade(stem, random.between(0.12f, 0.52f));
+        const float side = random.between(-1, 1), reach = size * random.between(0.03f, 0.075f);
+        const Nib hub = {joint.x + side * reach, joint.y - reach * random.between(0.1f, 0.6f), 0.5f};
+        const Vec green =
+            mixed(Vec{0.06f, 0.13f, 0.04f}, Vec{0.22f, 0.30f, 0.07f}, random.between(0.1f, 1) * (0.7f - 0.3f * side));
+        drawStroke(canvas, strip, {joint.x, joint.y, std::max(0.45f, size * 0.0012f)}, hub, green * 0.6f, stem.away);
+        for (int finger = 0; finger < 7; ++finger) {
+            const float angle = kPi * (0.08f + 0.84f * static_cast<float>(finger) / 6);
+            const float length = size * random.between(0.022f, 0.034f);
+            const Nib end = {hub.x + length * std::cos(angle), hub.y - 0.55f * length * std::sin(angle), 0.4f};
+            drawStroke(canvas, strip, {hub.x, hub.y, std::max(0.5f, size * 0.0030f)}, end,
+                green * random.between(0.75f, 1.25f), stem.away);
+        }
+    }
+}
+
 void drawLupine(Canvas& canvas, const Strip& strip, const Blade& stem, float size, Random& random)
 {
+    drawLeaves(canvas, strip, stem, size, random);
     const float hue = random.next();
     const Vec deep =
-        hue < 0.72f ? mixed(Vec{0.20f, 0.08f, 0.62f}, Vec{0.34f, 0.10f, 0.60f}, hue / 0.72f) : Vec{0.62f, 0.13f, 0.40f};
-    const float spike = stem.height * random.between(0.42f, 0.58f);
-    const int rings = std::clamp(static_cast<int>(spike / (0.0095f * size)), 4, 34);
-    const float wide = size * random.between(0.016f, 0.024f);
+        hue < 0.78f ? mixed(Vec{0.16f, 0.07f, 0.62f}, Vec{0.36f, 0.10f, 0.62f}, hue / 0.78f) : Vec{0.66f, 0.13f, 0.38f};
+    const float share = random.between(0.40f, 0.60f); // of the stem that blooms
+    const int rings = std::clamp(static_cast<int>(stem.height * share / (0.0125f * size)), 5, 26);
     for (int ring = 0; ring < rings; ++ring) {
         const float up = (static_cast<float>(ring) + 0.5f) / static_cast<float>(rings);
-        const float t = 1 - (1 - up) * spike / stem.height;
-        const Nib middle = onBlade(stem, t);
-        const float x = middle.x, y = middle.y;
-        const float radius = wide * (1.08f - 0.88f * up * up);
-        for (int petal = 0; petal < 5; ++petal) {
-            const float across = (static_cast<float>(petal) - 2) / 2 + random.between(-0.2f, 0.2f);
-            const float lit = mixed(1.6f, 0.40f, across * 0.5f + 0.5f) * random.between(0.6f, 1.4f);
-            const Vec pale =
-                mixed(deep, Vec{0.85f, 0.70f, 0.95f}, 0.22f * random.next() + 0.25f * (1 - up) * random.next());
+        const Nib middle = onBlade(stem, 1 - (1 - up) * share);
+        const float radius = size * 0.0215f * (1.0f - 0.80f * up * up) * random.between(0.85f, 1.1f);
+        const float bud = smoothStep(0.72f, 1.0f, up); // not open yet
+        for (int floret = 0; floret < 4; ++floret) {
+            const float across = (static_cast<float>(floret) - 1.5f) / 1.5f + random.between(-0.22f, 0.22f);
+            if (random.next() < 0.10f)
+                continue;
+            const float lit = mixed(1.55f, 0.42f, across * 0.5f + 0.5f) * random.between(0.7f, 1.3f);
+            const float x = middle.x + across * radius, y = middle.y + radius * random.between(-0.25f, 0.25f);
+            const float petal = size * 0.0085f * (1 - 0.62f * bud);
+            const Vec color = mixed(deep, Vec{0.20f, 0.24f, 0.16f}, 0.65f * bud) * lit;
+            drawEllipse(canvas, strip, {x, y, petal, petal * 0.72f, 0.7f * across}, color, stem.away);
             drawEllipse(canvas, strip,
-                {x + across * radius, y + radius * random.between(-0.35f, 0.35f), radius * 0.46f, radius * 0.30f,
-                    across * 0.9f},
-                pale * lit, stem.away);
+                {x + 0.25f * petal * across, y - 0.32f * petal, petal * 0.50f, petal * 0.30f, 0.7f * across},
+                mixed(color, Vec{0.95f, 0.75f, 1.0f} * lit, 0.45f * (1 - bud)), stem.away);
         }
     }
 }

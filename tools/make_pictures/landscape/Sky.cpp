@@ -6,14 +6,14 @@
 namespace {
 
 constexpr float kCloudBase = 2900, kCloudTop = 4700; // metres
-constexpr Vec kSunOnCloud = {2.3f, 1.02f, 0.50f};
-constexpr Vec kCloudShade = {0.22f, 0.22f, 0.40f};
+constexpr Vec kSunOnCloud = {1.95f, 0.80f, 0.38f};
+constexpr Vec kCloudShade = {0.20f, 0.235f, 0.39f};
 
 /// Thickness of cloud at a place, 0 where the air is clear.
 float cloudDensity(const Vec& p)
 {
     float sum = 0, strength = 0.5f, scale = 1 / 2100.0f;
-    for (std::uint32_t octave = 0; octave < 6; ++octave) {
+    for (std::uint32_t octave = 0; octave < 7; ++octave) {
         sum += strength * quickNoise3(p.x * scale + 4.1f, p.y * scale * 1.5f, p.z * scale * 0.85f, 500 + octave);
         strength *= 0.52f;
         scale *= 2.13f;
@@ -21,7 +21,7 @@ float cloudDensity(const Vec& p)
     const float level = (p.y - kCloudBase) / (kCloudTop - kCloudBase);
     const float shape = smoothStep(0, 0.12f, level) * (1 - 0.95f * level);
     const float weather = 0.30f * quickFractal(p.x / 15000 + 0.6f, p.z / 15000 + 0.2f, 520, 2);
-    return std::clamp((sum + weather - 0.12f - 0.30f * level) * 5, 0.0f, 1.0f) * shape;
+    return std::clamp((sum + weather - 0.12f - 0.30f * level) * 7, 0.0f, 1.0f) * shape;
 }
 
 } // namespace
@@ -37,7 +37,7 @@ Sky::Sky(float sunRight, float sunUp)
             const Vec ray = {right, std::max(up, 0.012f), 1};
             Vec light = air(right, up);
             const float halo = glare(right, up);
-            const Vec wisps = mixed(Vec{0.95f, 0.58f, 0.58f}, Vec{1.9f, 1.0f, 0.46f}, halo);
+            const Vec wisps = mixed(Vec{0.95f, 0.66f, 0.56f}, Vec{1.6f, 0.72f, 0.32f}, halo);
             light = mixed(light, wisps, 0.55f * cirrus(ray));
             const Cloud cloud = cumulus(ray);
             light = light * cloud.clear + cloud.light;
@@ -57,24 +57,26 @@ Vec Sky::air(float right, float up) const
     const Vec direction = normalised({right, up, 1});
     const float cosine = dot(direction, m_towardsSun), rise = std::max(direction.y, 0.0f);
     const float wide = glare(right, up);
-    const Vec zenith = {0.060f, 0.165f, 0.50f};
-    const Vec low = mixed(Vec{0.50f, 0.42f, 0.62f}, Vec{1.55f, 0.74f, 0.31f}, wide);
+    const Vec zenith = {0.048f, 0.185f, 0.50f};
+    const Vec low = mixed(Vec{0.50f, 0.46f, 0.62f}, Vec{1.30f, 0.54f, 0.22f}, wide);
     Vec light = mixed(zenith, low, std::exp(-rise * 5.2f));
-    light += Vec{1.0f, 0.60f, 0.28f} * (0.75f * std::exp(-(1 - cosine) * 70));
-    light += Vec{1.0f, 0.80f, 0.50f} * (2.2f * std::exp(-(1 - cosine) * 1400));
-    light += Vec{1.0f, 0.90f, 0.70f} * (26 * smoothStep(0.99990f, 0.99996f, cosine));
+    light += Vec{1.0f, 0.52f, 0.20f} * (0.9f * std::exp(-(1 - cosine) * 55));
+    light += Vec{1.0f, 0.80f, 0.50f} * (3.2f * std::exp(-(1 - cosine) * 1100));
+    light += Vec{1.0f, 0.88f, 0.66f} * (40 * smoothStep(0.999970f, 0.999985f, cosine));
     return light;
 }
 
 Vec Sky::haze(float right, float up) const
 {
     const float wide = glare(right, up);
-    return mixed(Vec{0.28f, 0.34f, 0.60f}, Vec{1.45f, 0.72f, 0.34f}, 0.95f * wide);
+    // Blue air away from the sun, rose in between, gold around it.
+    const Vec rosy = mixed(Vec{0.25f, 0.32f, 0.60f}, Vec{0.74f, 0.46f, 0.53f}, smoothStep(0.05f, 0.6f, wide));
+    return mixed(rosy, Vec{1.75f, 0.76f, 0.36f}, smoothStep(0.40f, 1.0f, wide));
 }
 
 Sky::Cloud Sky::cumulus(const Vec& ray) const
 {
-    constexpr int kSteps = 44;
+    constexpr int kSteps = 96;
     const float from = kCloudBase / ray.y, to = std::min(kCloudTop / ray.y, from + 16000);
     const Vec sun = normalised({-0.80f, 0.13f, 0.35f});
     const float halo = glare(ray.x, ray.y);

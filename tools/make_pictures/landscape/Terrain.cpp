@@ -16,14 +16,14 @@ constexpr std::array<Peak, 12> kPeaks = {{
     {3500, 8700, 2150, 3000},
     {850, 9900, 1850, 2500},
     {5600, 7600, 2100, 3400},
-    {-3900, 9300, 2250, 4000},
+    {-3900, 9300, 2350, 4000},
     {-5600, 8200, 2000, 3300},
     {-1700, 15500, 2150, 3600},
     {-4300, 16800, 2700, 4300},
     {600, 16500, 2500, 4000},
-    {-2500, 3700, 1080, 2350},
+    {-2750, 3500, 900, 2150},
     {2850, 4000, 1200, 2500},
-    {-4600, 5600, 1600, 2800},
+    {-4300, 5700, 1500, 2600},
 }};
 
 /// Distance in metres from the lake's shore, about; negative on the lake.
@@ -219,11 +219,11 @@ float Terrain::height(float x, float z, float footprint) const
         return result;
     // Rock is rough below the size of a cell, more so high up.
     const float rough = smoothStep(150, 900, result);
-    float amplitude = 5.5f * (0.08f + rough) * smoothStep(0, 30, result), wavelength = 26;
+    float amplitude = 9.0f * (0.08f + rough) * smoothStep(0, 30, result), wavelength = 26;
     for (std::uint32_t octave = 0; octave < 6 && wavelength > footprint * 1.5f; ++octave) {
         const float crest = 1 - std::fabs(quickNoise(x / wavelength, z / wavelength, 300 + octave));
         result += amplitude * (crest - 0.7f);
-        amplitude *= 0.52f;
+        amplitude *= 0.55f;
         wavelength *= 0.47f;
     }
     return result;
