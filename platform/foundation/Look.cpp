@@ -86,7 +86,8 @@ QMenuBar { background: @window; padding: 0 4px; border: none; }
 QMenuBar::item { background: transparent; padding: 4px 8px; border-radius: 4px; }
 QMenuBar::item:selected { background: @hover; }
 QMenu { background: @panel; border: 1px solid @border; padding: 4px; }
-QMenu::item { padding: 4px 24px 4px 24px; border-radius: 4px; }
+QMenu::item { padding: 5px 24px 5px 8px; border-radius: 4px; }
+QMenu::indicator { width: 16px; height: 16px; margin-left: 4px; }
 QMenu::item:selected { background: @accent; color: @accentText; }
 QMenu::item:disabled { color: @disabledText; background: transparent; }
 QMenu::separator { height: 1px; background: @separator; margin: 4px 8px; }

@@ -18,7 +18,7 @@ const QString kQtImageType = QStringLiteral("application/x-qt-image");
 
 Pasteboard::Pasteboard()
 {
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &Pasteboard::changed);
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &Pasteboard::lookAgain);
 }
 
 Pasteboard& Pasteboard::generalPasteboard()
@@ -51,10 +51,19 @@ QString Pasteboard::bestPictureType(const QStringList& offeredTypes)
     return offeredTypes.contains(kQtImageType) ? kQtImageType : QString();
 }
 
+void Pasteboard::lookAgain()
+{
+    m_offersTIFF.reset();
+    emit changed();
+}
+
 bool Pasteboard::offersTIFF() const
 {
-    const QMimeData* data = clipboardData();
-    return data && (data->hasImage() || !bestPictureType(data->formats()).isEmpty());
+    if (!m_offersTIFF) {
+        const QMimeData* data = clipboardData();
+        m_offersTIFF = data && (data->hasImage() || !bestPictureType(data->formats()).isEmpty());
+    }
+    return *m_offersTIFF;
 }
 
 QByteArray Pasteboard::pictureData() const

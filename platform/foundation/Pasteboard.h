@@ -5,7 +5,7 @@
 #include <QObject>
 #include <QStringList>
 
-class QMimeData;
+#include <optional>
 
 /// The general pasteboard: the desktop's clipboard, as far as pictures go. Main thread only.
 class Pasteboard : public QObject {
@@ -14,8 +14,11 @@ class Pasteboard : public QObject {
 public:
     static Pasteboard& generalPasteboard();
 
-    /// True when the clipboard holds a picture in any form that can be read; this counts as TIFF offered.
+    /// True when the clipboard holds a picture in any form that can be read; this counts as TIFF offered. Quick:
+    /// the clipboard's owner, often another program, is asked once after each change.
     bool offersTIFF() const;
+    /// Asks the owner anew, for desktops that tell of changes only the program in front.
+    void lookAgain();
     /// The picture as the bytes of a file, in the best form offered (no loss before loss); empty without one.
     QByteArray pictureData() const;
 
@@ -28,4 +31,6 @@ signals:
 
 private:
     Pasteboard();
+
+    mutable std::optional<bool> m_offersTIFF; // nothing until somebody wants to know
 };

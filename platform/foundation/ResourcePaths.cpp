@@ -26,7 +26,7 @@ QString pathForResource(const QString& name, const QString& type)
     const QString file = name + QLatin1Char('.') + type;
     const QStringList folders = resourceFolders();
     for (const QString& folder : folders)
-        for (const char* place : {"", "pictures/", "icons/"}) {
+        for (const char* place : {"", "pictures/", "icons/", "help/"}) {
             const QString path = folder + QLatin1Char('/') + QLatin1String(place) + file;
             if (QFileInfo(path).isFile())
                 return path;

@@ -12,5 +12,5 @@ QStringList resourceFolders();
 void setResourceFolders(const QStringList& folders);
 
 /// The path of the resource file `name`.`type`, such as ("main_img", "jpg"), or empty when there is none. It may lie
-/// in the folder itself or in one of its subfolders "pictures" and "icons".
+/// in the folder itself or in one of its subfolders "pictures", "icons" and "help".
 QString pathForResource(const QString& name, const QString& type);

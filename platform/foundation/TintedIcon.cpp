@@ -3,6 +3,7 @@
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/ResourcePaths.h"
 
+#include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmapCache>
@@ -10,22 +11,25 @@
 
 namespace {
 
-QColor tint(QIcon::Mode mode, QIcon::State state)
+QColor colorOf(IconTint tint, QIcon::Mode mode, QIcon::State state)
 {
     const Look& look = Appearance::shared().look();
     if (mode == QIcon::Disabled)
         return look.disabledText;
-    return state == QIcon::On || mode == QIcon::Selected ? look.accentText : look.text;
+    if (tint == IconTint::OnAccent || state == QIcon::On || mode == QIcon::Selected)
+        return look.accentText;
+    return tint == IconTint::Accent ? look.accentMark : look.text;
 }
 
 class TintedIconEngine : public QIconEngine {
 public:
-    explicit TintedIconEngine(QString file)
+    TintedIconEngine(QString file, IconTint tint)
         : m_file(std::move(file))
+        , m_tint(tint)
     {
     }
 
-    QIconEngine* clone() const override { return new TintedIconEngine(m_file); }
+    QIconEngine* clone() const override { return new TintedIconEngine(m_file, m_tint); }
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
@@ -37,7 +41,7 @@ public:
     /// `size` is in device pixels.
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        const QColor color = tint(mode, state);
+        const QColor color = colorOf(m_tint, mode, state);
         const QString key =
             QStringLiteral("lumivex %1 %2 %3 %4").arg(m_file, color.name()).arg(size.width()).arg(size.height());
         QPixmap pixmap;
@@ -65,12 +69,15 @@ public:
 
 private:
     QString m_file;
+    IconTint m_tint;
 };
 
 } // namespace
 
-QIcon tintedIcon(const QString& name)
+QIcon tintedIcon(const QString& name, IconTint tint)
 {
-    const QString file = pathForResource(name, QStringLiteral("svg"));
-    return file.isEmpty() ? QIcon() : QIcon(new TintedIconEngine(file));
+    QString file = QStringLiteral(":/icons/%1.svg").arg(name);
+    if (!QFile::exists(file))
+        file = pathForResource(name, QStringLiteral("svg"));
+    return file.isEmpty() ? QIcon() : QIcon(new TintedIconEngine(file, tint));
 }
