@@ -1,0 +1,17 @@
+// What the program is started with.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// True when the arguments ask for help or the version, before a "--".
+bool wantsOnlyText(int argc, const char* const* argv);
+
+/// Prints what was asked for; the exit code.
+int answerInText(const QStringList& arguments);
+
+/// The picture to open, empty for none; nothing, after a message to the error output, when the arguments can't be
+/// understood.
+std::optional<QString> pictureArgument(const QStringList& arguments);

@@ -1,0 +1,101 @@
+#include "app/FilterChain.h"
+
+#include "app/Log.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kLargestExcess = 1.3;
+
+bool hasInput(const CIFilter& filter, std::string_view key, std::string_view className)
+{
+    const CIInputAttributes* input = filter.attributesForKey(key);
+    return input && (className.empty() || input->className == className);
+}
+
+CIImage layOver(const CIImage& background, const CIImage& layer)
+{
+    const std::shared_ptr<CIFilter> over = CIFilter::filterWithName("CISourceOverCompositing");
+    over->setDefaults();
+    over->setValueForKey(background, "inputBackgroundImage");
+    over->setValueForKey(layer, "inputImage");
+    return over->outputImage();
+}
+
+CIImage croppedTo(const CIImage& image, const CIRect& rect)
+{
+    const std::shared_ptr<CIFilter> crop = CIFilter::filterWithName("CICrop");
+    crop->setDefaults();
+    crop->setValueForKey(image, "inputImage");
+    crop->setValueForKey(CIVector(rect), "inputRectangle");
+    return crop->outputImage();
+}
+
+} // namespace
+
+const char* pictureKey(const CIFilter& filter)
+{
+    return hasInput(filter, "inputBackgroundImage", "CIImage") ? "inputBackgroundImage" : "inputImage";
+}
+
+void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture)
+{
+    for (const std::string& key : filter.inputKeys())
+        if (hasInput(filter, key, "CIImage"))
+            filter.setValueForKey(picture, key);
+}
+
+bool filterHasMissingImage(const CIFilter& filter)
+{
+    const std::string fedWithPicture = pictureKey(filter);
+    const std::vector<std::string> keys = filter.inputKeys();
+    return std::any_of(keys.begin(), keys.end(), [&](const std::string& key) {
+        return key != fedWithPicture && hasInput(filter, key, "CIImage") && filter.valueForKey(key).isNothing();
+    });
+}
+
+CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSize)
+{
+    std::vector<CIImage> layers;
+    if (picture) {
+        if (!hasInput(filter, "inputImage", ""))
+            layers.push_back(picture);
+        else if (hasInput(filter, "inputBackgroundImage", ""))
+            filter.setValueForKey(picture, "inputBackgroundImage");
+        else
+            filter.setValueForKey(picture, "inputImage");
+    }
+    if (hasInput(filter, "inputExtent", "CIVector"))
+        filter.setValueForKey(CIVector{0, 0, viewSize.x, viewSize.y}, "inputExtent");
+
+    CIImage output = filter.outputImage();
+    const CIRect whole = picture.extent();
+    if (output && output.extent().width > kLargestExcess * whole.width
+        && output.extent().height > kLargestExcess * whole.height)
+        output = croppedTo(output, whole);
+    if (layers.empty())
+        return output;
+    const CIImage background = foldedLayers(layers);
+    return output ? layOver(background, output) : background;
+}
+
+CIImage foldedLayers(const std::vector<CIImage>& layers)
+{
+    if (layers.empty())
+        return {};
+    CIImage folded = layers.front();
+    for (std::size_t i = 1; i < layers.size(); ++i) {
+        folded = layOver(folded, layers[i]);
+        qCInfo(lumivexLog) << "We Are here 1";
+    }
+    return folded;
+}
+
+CIImage overBlack(const CIImage& image)
+{
+    const std::shared_ptr<CIFilter> black = CIFilter::filterWithName("CIConstantColorGenerator");
+    black->setDefaults();
+    black->setValueForKey(CIColor(0, 0, 0, 1), "inputColor");
+    return image ? layOver(black->outputImage(), image) : black->outputImage();
+}

@@ -1,0 +1,156 @@
+#include "app/CatalogueSearch.h"
+#include "app/DataSource.h"
+#include "app/OutlineModel.h"
+
+#include <gtest/gtest.h>
+#include <QAbstractItemModelTester>
+
+#include <algorithm>
+
+namespace {
+
+const FilterGroup* groupCalled(const DataSource& source, const QString& label)
+{
+    for (const auto& group : source.groups())
+        if (group->label == label)
+            return group.get();
+    return nullptr;
+}
+
+QStringList classesOf(const FilterGroup& group)
+{
+    QStringList names;
+    for (const auto& row : group.rows)
+        names << row->className;
+    return names;
+}
+
+QStringList inCategories(const std::vector<std::string>& categories)
+{
+    QStringList names;
+    for (const std::string& category : categories)
+        for (const std::string& name : CIFilter::filterNamesInCategory(category))
+            names << QString::fromStdString(name);
+    return names;
+}
+
+TEST(Catalogue, ListsTheCategoriesOfEachGroupOneAfterTheOther)
+{
+    const DataSource source;
+    const std::pair<const char*, std::vector<std::string>> expected[] = {
+        {"Geometry", {"CICategoryGeometryAdjustment"}},
+        {"Distortion", {"CICategoryDistortionEffect"}},
+        {"Halftone", {"CICategoryHalftoneEffect"}},
+        {"Focus", {"CICategorySharpen", "CICategoryBlur"}},
+        {"Stylize", {"CICategoryStylize"}},
+        {"Gradient", {"CICategoryGradient"}},
+        {"Color", {"CICategoryColorEffect", "CICategoryColorAdjustment"}},
+        {"Tile", {"CICategoryTileEffect"}},
+        {"Generator", {"CICategoryGenerator"}},
+    };
+    std::size_t shown = 0;
+    for (const auto& [label, categories] : expected) {
+        SCOPED_TRACE(label);
+        const QStringList names = inCategories(categories);
+        const FilterGroup* group = groupCalled(source, label);
+        ASSERT_EQ(group != nullptr, !names.isEmpty()) << "a group without filters is no group";
+        if (!group)
+            continue;
+        EXPECT_EQ(source.groups()[shown++].get(), group) << "groups keep their order";
+        EXPECT_EQ(classesOf(*group), names) << "neither sorted nor freed of duplicates";
+    }
+    EXPECT_EQ(shown, source.groups().size());
+}
+
+TEST(Catalogue, SkipsNamesWithoutAFilterAndTellsDisplayNames)
+{
+    const auto rows = DataSource::buildFilterDictionary({"CIGaussianBlur", "CINoSuchFilter", "CIGaussianBlur"});
+    ASSERT_EQ(rows.size(), 2u);
+    EXPECT_EQ(rows[0]->className, "CIGaussianBlur");
+    EXPECT_EQ(rows[1]->name, "Gaussian Blur");
+    EXPECT_TRUE(DataSource::buildFilterDictionary({}).empty());
+}
+
+TEST(Catalogue, KnowsWhichFiltersHavePointsOnThePicture)
+{
+    EXPECT_FALSE(DataSource::isControlsPresent("CIGaussianBlur"));
+    EXPECT_FALSE(DataSource::isControlsPresent("CINoSuchFilter"));
+    EXPECT_TRUE(DataSource::isControlsPresent("CICrop"));
+    EXPECT_TRUE(DataSource::isControlsPresent("CIAffineTransform"));
+}
+
+TEST(Catalogue, DescribesEachSetOfAttributesOnce)
+{
+    const auto described = DataSource::buildFilterDictionaryFull({"CICrop", "CINoSuchFilter", "CICrop"});
+    EXPECT_EQ(described.size(), CIFilter::filterWithName("CICrop")->inputKeys().size());
+    for (const auto& input : described)
+        EXPECT_EQ(input.entry.at("class").toString(), "CICrop");
+}
+
+TEST(Catalogue, AnswersAsAnOutline)
+{
+    const DataSource source;
+    ASSERT_FALSE(source.groups().empty());
+    const FilterGroup* group = source.groups().front().get();
+    const FilterRow* row = group->rows.front().get();
+    EXPECT_EQ(source.outlineViewNumberOfChildrenOfItem(nullptr), int(source.groups().size()));
+    EXPECT_EQ(source.outlineViewChildOfItem(0, nullptr), group);
+    EXPECT_EQ(source.outlineViewChildOfItem(0, group), row);
+    EXPECT_EQ(source.outlineViewChildOfItem(1000, group), nullptr);
+    EXPECT_EQ(source.outlineViewNumberOfChildrenOfItem(row), 0);
+    EXPECT_TRUE(source.outlineViewIsItemExpandable(group));
+    EXPECT_FALSE(source.outlineViewIsItemExpandable(row));
+    EXPECT_FALSE(source.outlineViewIsItemExpandable(nullptr));
+    EXPECT_FALSE(source.outlineViewShouldEditTableColumnItem("1", row));
+    EXPECT_EQ(source.outlineViewObjectValueForTableColumnByItem("1", group), group->label);
+    EXPECT_EQ(source.outlineViewObjectValueForTableColumnByItem("1", row), row->name);
+    EXPECT_FALSE(source.outlineViewObjectValueForTableColumnByItem("0", group).isValid());
+
+    FilterRow crop, blur;
+    crop.className = "CICrop";
+    blur.className = "CIGaussianBlur";
+    EXPECT_TRUE(source.outlineViewObjectValueForTableColumnByItem("0", &crop).isValid());
+    EXPECT_FALSE(source.outlineViewObjectValueForTableColumnByItem("0", &blur).isValid());
+}
+
+TEST(Catalogue, IsAModelWhoseGroupsCanNotBeSelected)
+{
+    const DataSource source;
+    OutlineModel model(source, {"1", "0"});
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QModelIndex group = model.index(1, 0);
+    const QModelIndex row = model.index(2, 0, group);
+    EXPECT_EQ(row.parent(), group);
+    EXPECT_FALSE(group.flags() & Qt::ItemIsSelectable);
+    EXPECT_TRUE(row.flags() & Qt::ItemIsSelectable);
+    EXPECT_EQ(row.data(OutlineModel::ItemRole).value<const OutlineItem*>(), source.groups()[1]->rows[2].get());
+}
+
+TEST(CatalogueSearch, FindsByDisplayNameClassNameAndGroup)
+{
+    const DataSource source;
+    OutlineModel model(source, {"1", "0"});
+    CatalogueSearch search;
+    search.setSourceModel(&model);
+    const auto found = [&](const QString& text) {
+        search.setText(text);
+        QStringList names;
+        for (int group = 0; group < search.rowCount(); ++group)
+            for (int row = 0; row < search.rowCount(search.index(group, 0)); ++row)
+                names << search.index(row, 0, search.index(group, 0)).data(Qt::ToolTipRole).toString();
+        return names;
+    };
+    const QStringList all = found("");
+    EXPECT_TRUE(found("  BLUR gauss ").contains("CIGaussianBlur"));
+    for (const QString& name : found("BLUR gauss"))
+        EXPECT_TRUE(name.contains("Gauss")) << name.toStdString();
+    EXPECT_EQ(found("CIGaussianBlur"), QStringList("CIGaussianBlur"));
+    EXPECT_EQ(search.firstMatch().data().toString(), "Gaussian Blur");
+    EXPECT_EQ(search.rowCount(), 1) << "groups without a match go away";
+    EXPECT_TRUE(found("no such filter").isEmpty());
+    EXPECT_FALSE(search.firstMatch().isValid());
+    EXPECT_EQ(found("focus").size(), inCategories({"CICategorySharpen", "CICategoryBlur"}).size());
+    EXPECT_EQ(found(""), all);
+}
+
+} // namespace

@@ -1,0 +1,72 @@
+#include "app/CommandLine.h"
+#include "app/UndoNames.h"
+#include "app/ZoomScale.h"
+#include "platform/coreimage/CIFilter.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+namespace {
+
+TEST(UndoNames, SplitKeysBeforeEveryCapitalAndDigit)
+{
+    const std::pair<const char*, const char*> words[] = {
+        {"Radius", "Radius"},
+        {"ShadingImage", "Shading Image"},
+        {"Color0", "Color 0"},
+        {"EV", "E V"},
+        {"Point12", "Point 1 2"},
+        {"radius", "radius"},
+        {"", ""},
+        {"X", "X"},
+        {"0", "0"},
+        {"aB", "a B"},
+        {"ÉtéÀ", "Été À"},
+        {"A B", "A  B"},
+    };
+    for (const auto& [key, expected] : words)
+        EXPECT_EQ(unInterCap1(QString::fromUtf8(key)), QString::fromUtf8(expected)) << key;
+}
+
+TEST(UndoNames, TellFilterAndParameter)
+{
+    const std::shared_ptr<CIFilter> blur = CIFilter::filterWithName("CIGaussianBlur");
+    ASSERT_TRUE(blur);
+    EXPECT_EQ(actionNameForFilterKey(*blur, "inputRadius"), "Change to Gaussian Blur Radius");
+    EXPECT_EQ(actionNameForFilterKey(*blur, "inputShadingImage"), "Change to Gaussian Blur Shading Image");
+    EXPECT_EQ(actionNameForFilterKey(*blur, "otherKeyB"), "Change to Gaussian Blur Key B");
+    EXPECT_EQ(actionNameForFilterKey(*blur, "in"), "Change to Gaussian Blur ");
+}
+
+TEST(ZoomScale, IsTwoStraightPiecesThatMeetAtActualSize)
+{
+    for (const auto& [position, zoom] :
+        {std::pair{0.0f, 0.1f}, {2.5f, 0.55f}, {5.0f, 1.0f}, {7.5f, 5.5f}, {10.0f, 10.0f}}) {
+        EXPECT_FLOAT_EQ(zoomOfSliderPosition(position), zoom);
+        EXPECT_NEAR(sliderPositionOfZoom(zoom), position, 1e-6f);
+    }
+    EXPECT_FLOAT_EQ(zoomThatFits(200, 100, 100, 100), 0.5f);
+    EXPECT_FLOAT_EQ(zoomThatFits(10, 50, 100, 100), 2.0f) << "a small picture is enlarged";
+    EXPECT_FLOAT_EQ(zoomThatFits(0, 50, 0, 100), 2.0f) << "the height decides where the width is no number";
+}
+
+TEST(CommandLine, TellsAQuestionFromAPictureOfThatName)
+{
+    const auto asks = [](auto... arguments) {
+        const std::array<const char*, sizeof...(arguments) + 1> argv{"lumivex", arguments...};
+        return wantsOnlyText(int(argv.size()), argv.data());
+    };
+    EXPECT_TRUE(asks("--version"));
+    EXPECT_TRUE(asks("a.png", "-h"));
+    EXPECT_FALSE(asks("--", "--help"));
+    EXPECT_FALSE(asks());
+
+    EXPECT_EQ(pictureArgument({"lumivex"}), QString());
+    EXPECT_EQ(pictureArgument({"lumivex", "a b.png"}), "a b.png");
+    EXPECT_EQ(pictureArgument({"lumivex", "--", "--help"}), "--help");
+    EXPECT_FALSE(pictureArgument({"lumivex", "--wrong"}));
+    EXPECT_FALSE(pictureArgument({"lumivex", "a.png", "b.png"}));
+}
+
+} // namespace
