@@ -1,0 +1,211 @@
+// The main window's controller: the center of the program.
+#pragma once
+
+#include "app/DataSource.h"
+#include "app/DefaultImages.h"
+#include "app/OutlineModel.h"
+#include "app/PictureFormats.h"
+#include "controls/ImageViewMaster.h"
+#include "platform/coreimage/CIContext.h"
+#include "platform/foundation/UndoManager.h"
+
+#include <QObject>
+#include <QPointer>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+class CatalogueSearch;
+class MainWindow;
+class MyImageView;
+class OutlineView;
+class QAbstractButton;
+class QAction;
+class QLabel;
+class QSlider;
+class QStackedWidget;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// Holds the picture and the current effect of each mode, and carries out what menus, buttons and views ask for.
+/// One lives for as long as the program. Operations that lack their input (no picture, no filter) quietly do nothing.
+///
+/// Changes of the user register their inverse with the undo manager. Main thread only.
+class Controller : public QObject, public ImageViewMaster {
+    Q_OBJECT
+
+public:
+    /// What the user edits with. Never stored: the mode buttons tell.
+    enum FilterMode { Standard = 0, ThreeD = 1, Custom = 2 };
+    enum class TerminateReply { Now, Cancel };
+
+    explicit Controller(MainWindow& window);
+    ~Controller() override;
+
+    static Controller* mainController();
+    static bool isDarkMode();
+
+    /// Start-up, once the window's interface is there.
+    void awakeFromNib();
+
+    // Modes: ControllerModes.cpp
+    unsigned filerMode() const;
+    /// The pressed button may be on already; the others are switched off here.
+    void changeFilterMode(QAbstractButton* sender);
+    void selectMenuMode(const QAction* sender); // by the item's tag: 1, 2, 3
+    void adjustViewsAndTabs();
+    void escapeEffect();
+    void clearAll();
+    void clearAllAndUpdate();
+    void onAppearanceChanged();
+
+    // Lists: ControllerSelection.cpp
+    /// `clicked` is the row that was clicked if it can't be selected (a group), else null.
+    void outlineViewSelectionDidChange(OutlineView& outlineView, const OutlineItem* clicked = nullptr);
+    void outlineViewSelectionDidChange_CIF(OutlineView& outlineView, const OutlineItem* item);
+    /// Shows only the filters that match; the current filter stays, seen or not.
+    void searchFilters(const QString& text);
+    /// Picks the first filter that is shown.
+    void takeFirstMatch();
+
+    // The picture and what the filter makes of it: ControllerFilterChain.cpp
+    /// Makes it the picture (null for none) and fits the views to it.
+    void setBackgroundImage(const CIImage& image);
+    CIImage backImage() override { return backgroundImage; }
+    CIImage filteredImage() const { return {}; } // results are never kept
+    CIRect getBgImageExtent() const { return backgroundImage.extent(); }
+    std::shared_ptr<CIFilter> getCurrentFilter() override { return currentFilter; }
+    void addFilterIndex(const QString& name, int index);
+    void _setupAllImageInputsToNotNil(CIFilter& filter);
+    void setAutomaticDefaults(CIFilter& filter);
+    bool filterHasMissingImage(const CIFilter& filter) const;
+    bool hasMissingImage() const;
+    CIImage coreImageResultForRect(const CIRect& rect);
+    CIImage coreImageResult(bool overBlack) override;
+    void applyBtn();
+    CIImage defaultTexture() { return texture.image(); }
+    CIImage defaultShadingEMap() { return shadingemap.image(); }
+    CIImage defaultAlphaEMap() { return alphaemap.image(); }
+    CIImage defaultRamp() { return ramp.image(); }
+    CIImage defaultMask() { return mask.image(); }
+    QString defaultTexturePath() const { return texture.path(); }
+    QString defaultShadingEMapPath() const { return shadingemap.path(); }
+    QString defaultAlphaEMapPath() const { return alphaemap.path(); }
+    QString defaultRampPath() const { return ramp.path(); }
+    QString defaultMaskPath() const { return mask.path(); }
+
+    // Parameters and undo: ControllerParameters.cpp
+    /// For filters made by `addFilterIndex`; the undo step keeps the filter alive.
+    void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) override;
+    void setDictValueForKey(
+        const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key);
+    void setActionNameForFilterKey(const CIFilter& filter, const std::string& key);
+    UndoManager* undoManager() { return &m_undoManager; }
+    void undo();
+    void redo();
+    void updateFilterControls(int tag);
+    void clearControls();
+    bool isControlsPresent() override;
+
+    // Edits and zoom: ControllerEdits.cpp
+    void paste();
+    void undoPaste(const CIImage& image) override;
+    void zoomChanged();
+    void setZoom(float zoom) override; // moves the slider only
+    void updateZoommWithDelta(double delta) override;
+    void zoomTo(float zoom); // slider and view
+    void zoomIn();
+    void zoomOut();
+    void zoomToFit();
+
+    // Files: ControllerFiles.cpp
+    void openImg();
+    void openImgPanelDidEnd(int returnCode, const QStringList& files);
+    /// Opens a picture file as the open panel does.
+    void openFile(const QString& path);
+    void setFilePath(const QString& path) override; // empty for none
+    QString getFilePath() const { return _filePath; }
+    void updateWinTitle();
+    CIImage readImage(const QString& path) override;
+    /// How the picture's pixels are stored; results that replace the picture are stored alike.
+    CIFormat pictureFormat() const { return m_pictureFormat; }
+
+    // Buttons, menus and views: ControllerMenus.cpp
+    void updateView();
+    void updateLayout();
+    void updateMainBtnState();
+    /// Enables, names and ticks the item; answers whether it is enabled.
+    bool validateMenuItem(QAction& item);
+    void validateMenuItems();
+    QMenu* contextMenu() override { return contentMenuOutlet; }
+    void displayHelp();
+    void orderFrontAboutPanel();
+
+    // Window and application: ControllerWindow.cpp
+    bool windowShouldClose() const { return !m_wasChanged; }
+    void windowWillClose();
+    void windowDidResize();
+    void windowDidUpdate();
+    void windowDidBecomeVisible();
+    void keyUp(int key);
+    void applicationDidFinishLaunching();
+    void applicationDidBecomeActive();
+    TerminateReply applicationShouldTerminate();
+    void applicationWillTerminate();
+    void terminate();
+
+    bool wasChanged() const { return m_wasChanged; }
+
+private:
+    void connectInterface();
+    void connectActions();
+    void connectLists();
+    void connectZoom();
+    void setDefaultImagePaths();
+    void restoreWindowFrame();
+    bool hasCurrentItem() const;
+    std::shared_ptr<CIFilter> sharedFilter(const CIFilter& filter);
+    void setSharedFilterValueForKey(
+        const std::shared_ptr<CIFilter>& filter, const CIValue& value, const std::string& key);
+    void registerUndoPaste();
+    void fitZoom();
+    void showFilterName(bool shown);
+    void updatePictureInfo();
+    int askToSaveChanges();
+
+    MainWindow& m_window;
+    Ui::MainWindow& ui;
+    UndoManager m_undoManager;
+    DataSource m_dataSource;
+    OutlineModel m_catalogue;
+    std::shared_ptr<CIContext> m_context;
+
+    // The interface, by the names under which it is known.
+    OutlineView* listView;
+    QAbstractButton *standardBtn, *threeDBtn, *customBtn;
+    QStackedWidget *filterTabView, *mainTabView; // the page's index is the filter mode
+    QSlider* zoomSlider;
+    QWidget* zoomSuperView;
+    MyImageView* ciView;
+    QWidget* placeCntrlView;
+    QAbstractButton* pasteBtn;
+    QMenu* contentMenuOutlet;
+
+    CIImage backgroundImage;
+    std::shared_ptr<CIFilter> currentFilter;
+    DefaultImage texture, shadingemap, alphaemap, ramp, mask;
+    QString _filePath;
+    bool m_wasChanged = false;
+    bool needsUpdate = false;
+
+    std::vector<std::weak_ptr<CIFilter>> m_madeFilters; // all that undo steps may still need
+    PictureFormats m_formats;
+    CIFormat m_pictureFormat = CIFormat::RGBA8;
+    QString m_readFailure; // why the last file could not be read; empty when it could
+    CatalogueSearch* m_search;
+    const OutlineItem* m_chosenRow = nullptr; // whose filter is the current one; it may be hidden by the search
+    bool m_selectionIsOurs = false; // the selection changes on our own account: no choice of the user
+};

@@ -1,0 +1,92 @@
+#include "app/Controller.h"
+#include "app/MainWindow.h"
+#include "app/PictureFiles.h"
+#include "platform/imageio/PictureReader.h"
+#include "ui_MainWindow.h"
+
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace {
+
+QString depthText(CIFormat format)
+{
+    switch (format) {
+    case CIFormat::RGBA16:
+        return Controller::tr("sRGB 16-bit");
+    case CIFormat::RGBAf:
+        return Controller::tr("sRGB 32-bit float");
+    default:
+        return Controller::tr("sRGB 8-bit");
+    }
+}
+
+} // namespace
+
+void Controller::openImg()
+{
+    auto* panel = new QFileDialog(&m_window, tr("Open Picture"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setWindowModality(Qt::WindowModal);
+    panel->setNameFilters({tr("Pictures (%1)").arg(pictureFilePatterns()), tr("All files (*)")});
+    if (!_filePath.isEmpty())
+        panel->setDirectory(QFileInfo(_filePath).absolutePath());
+    connect(panel, &QFileDialog::finished, this,
+        [this, panel](int code) { openImgPanelDidEnd(code, panel->selectedFiles()); });
+    panel->open();
+}
+
+void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
+{
+    if (returnCode == QDialog::Accepted && !files.isEmpty())
+        openFile(files.first());
+}
+
+void Controller::openFile(const QString& path)
+{
+    setFilePath(path);
+    setBackgroundImage(readImage(path));
+}
+
+void Controller::setFilePath(const QString& path)
+{
+    _filePath = path;
+    updateWinTitle();
+}
+
+void Controller::updateWinTitle()
+{
+    QString title = QStringLiteral("Lumivex");
+    if (!_filePath.isEmpty())
+        title += QStringLiteral("::%1").arg(QFileInfo(_filePath).fileName());
+    m_window.setWindowTitle(title);
+}
+
+CIImage Controller::readImage(const QString& path)
+{
+    m_readFailure.clear();
+    if (path.isEmpty())
+        return {};
+    const Result<CIBitmap> read = readPicture(QFile::encodeName(path).toStdString());
+    if (!read) {
+        m_readFailure = QString::fromStdString(read.message());
+        return {};
+    }
+    const CIImage image = CIImage::fromBitmap(read.value());
+    m_formats.remember(image, read.value().format());
+    return image;
+}
+
+void Controller::updatePictureInfo()
+{
+    const CIRect extent = backgroundImage.extent();
+    QString text = m_readFailure.isEmpty() ? tr("No picture") : m_readFailure;
+    if (backgroundImage)
+        text = tr("%1 × %2 px · %3", "width, height, color space and depth")
+                   .arg(std::lround(extent.width))
+                   .arg(std::lround(extent.height))
+                   .arg(depthText(m_pictureFormat));
+    ui.pictureInfoField->setText(text);
+}

@@ -1,0 +1,131 @@
+#include "app/Baking.h"
+#include "app/Controller.h"
+#include "app/FilterChain.h"
+#include "controls/MyImageView.h"
+
+#include <QGuiApplication>
+
+#include <initializer_list>
+#include <string_view>
+
+namespace {
+
+const CIColor kHalfWhite(1, 1, 1, 0.5);
+const CIColor kHalfBlack(0, 0, 0, 0.5);
+const CIColor kHalfOrange(1, 0.5, 0, 0.5);
+constexpr float kMinusQuarterPi = -0.7853982f;
+
+bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names)
+{
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// The hourglass for as long as it lives.
+struct BusyCursor {
+    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
+};
+
+CIImage movedToOrigin(const CIImage& image)
+{
+    const CIRect extent = image.extent();
+    return extent.isInfinite() ? CIImage() : image.transformed(CIAffineTransform::translation(-extent.x, -extent.y));
+}
+
+} // namespace
+
+void Controller::setBackgroundImage(const CIImage& image)
+{
+    backgroundImage = image;
+    m_pictureFormat = m_formats.formatOf(image, m_pictureFormat); // an edited picture is as deep as it was
+    m_formats.remember(image, m_pictureFormat);
+    fitZoom();
+    updatePictureInfo();
+    updateView();
+    validateMenuItems();
+}
+
+void Controller::addFilterIndex(const QString& name, int index)
+{
+    currentFilter = CIFilter::filterWithName(name.toStdString());
+    if (currentFilter) {
+        std::erase_if(m_madeFilters, [](const std::weak_ptr<CIFilter>& filter) { return filter.expired(); });
+        m_madeFilters.push_back(currentFilter);
+        currentFilter->setDefaults();
+        _setupAllImageInputsToNotNil(*currentFilter);
+        setAutomaticDefaults(*currentFilter);
+    }
+    updateFilterControls(index);
+}
+
+void Controller::_setupAllImageInputsToNotNil(CIFilter& filter)
+{
+    setupAllImageInputsToNotNil(filter, backgroundImage);
+}
+
+void Controller::setAutomaticDefaults(CIFilter& filter)
+{
+    const std::string& name = filter.name();
+    if (name == "CIGlassDistortion") {
+        filter.setValueForKey(defaultTexture(), "inputTexture");
+    } else if (name == "CIRippleTransition") {
+        filter.setValueForKey(defaultAlphaEMap(), "inputShadingImage");
+    } else if (name == "CIPageCurlTransition") {
+        filter.setValueForKey(defaultAlphaEMap(), "inputShadingImage");
+        filter.setValueForKey(kMinusQuarterPi, "inputAngle");
+    } else if (name == "CIShadedMaterial") {
+        filter.setValueForKey(defaultShadingEMap(), "inputShadingImage");
+    } else if (name == "CIColorMap") {
+        filter.setValueForKey(defaultRamp(), "inputGradientImage");
+    } else if (name == "CIDisintegrateWithMaskTransition") {
+        filter.setValueForKey(defaultMask(), "inputMaskImage");
+    } else if (name == "CICircularWrap") {
+        const CIRect bounds = ciView->bounds();
+        filter.setValueForKey(
+            CIVector{float(bounds.x + bounds.width * 0.5), float(bounds.y + bounds.height * 0.5)}, "inputCenter");
+    } else if (isOneOf(name,
+                   {"CIGaussianGradient", "CILinearGradient", "CIRadialGradient", "CIStripesGenerator",
+                       "CICheckerboardGenerator"})) {
+        filter.setValueForKey(kHalfWhite, "inputColor0");
+        filter.setValueForKey(kHalfBlack, "inputColor1");
+    } else if (name == "CIConstantColorGenerator") {
+        filter.setValueForKey(kHalfOrange, "inputColor");
+    }
+}
+
+bool Controller::filterHasMissingImage(const CIFilter& filter) const { return ::filterHasMissingImage(filter); }
+
+bool Controller::hasMissingImage() const { return currentFilter && filterHasMissingImage(*currentFilter); }
+
+CIImage Controller::coreImageResultForRect(const CIRect& rect)
+{
+    return currentFilter ? filteredPicture(*currentFilter, backgroundImage, {rect.width, rect.height})
+                         : backgroundImage;
+}
+
+CIImage Controller::coreImageResult(bool overBlack)
+{
+    if (hasMissingImage())
+        return {};
+    const CIImage result = coreImageResultForRect(ciView->bounds());
+    return overBlack ? ::overBlack(result) : result;
+}
+
+void Controller::applyBtn()
+{
+    if (filerMode() == Standard) {
+        if (CIImage applied = movedToOrigin(coreImageResult(false))) {
+            if (currentFilter) {
+                const BusyCursor busy;
+                // Pixels from here on; only where there is no memory for them the recipe itself.
+                if (const CIImage baked = bakedImage(*m_context, applied, m_pictureFormat))
+                    applied = baked;
+            }
+            registerUndoPaste();
+            m_undoManager.setActionName(tr("Apply"));
+            setBackgroundImage(applied);
+            m_wasChanged = true;
+        }
+    }
+    clearAllAndUpdate();
+}

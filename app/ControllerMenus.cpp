@@ -1,0 +1,138 @@
+#include "app/Controller.h"
+#include "app/HelpWindow.h"
+#include "app/MainWindow.h"
+#include "app/OutlineView.h"
+#include "controls/MyImageView.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/Pasteboard.h"
+#include "platform/foundation/ResourcePaths.h"
+#include "ui_MainWindow.h"
+
+#include <QCoreApplication>
+#include <QMessageBox>
+
+void Controller::connectInterface()
+{
+    connectActions();
+    connectLists();
+    connectZoom();
+    for (QAbstractButton* button : {standardBtn, threeDBtn, customBtn})
+        connect(button, &QAbstractButton::clicked, this, [this, button] { changeFilterMode(button); });
+    connect(ui.applyBtn, &QAbstractButton::clicked, this, &Controller::applyBtn);
+    connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
+    connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
+}
+
+void Controller::connectActions()
+{
+    const auto on = [this](QAction* action, auto operation) {
+        connect(action, &QAction::triggered, this, [this, operation] { (this->*operation)(); });
+    };
+    on(ui.actionOpen, &Controller::openImg);
+    on(ui.actionQuit, &Controller::terminate);
+    on(ui.actionUndo, &Controller::undo);
+    on(ui.actionRedo, &Controller::redo);
+    on(ui.actionPaste, &Controller::paste);
+    on(ui.actionApply, &Controller::applyBtn);
+    on(ui.actionClearEffect, &Controller::escapeEffect);
+    on(ui.actionZoomIn, &Controller::zoomIn);
+    on(ui.actionZoomOut, &Controller::zoomOut);
+    on(ui.actionFit, &Controller::zoomToFit);
+    on(ui.actionHelp, &Controller::displayHelp);
+    on(ui.actionAbout, &Controller::orderFrontAboutPanel);
+    connect(ui.actionActualSize, &QAction::triggered, this, [this] { zoomTo(1); });
+
+    int tag = 0;
+    for (QAction* action : {ui.actionStandard, ui.action3D, ui.actionCustom}) {
+        action->setData(++tag);
+        connect(action, &QAction::triggered, this, [this, action] {
+            selectMenuMode(action);
+            validateMenuItems();
+        });
+    }
+    for (const auto& [action, choice] : {std::pair{ui.actionFollowDesktop, Appearance::Choice::System},
+             {ui.actionLight, Appearance::Choice::Light}, {ui.actionDark, Appearance::Choice::Dark}})
+        connect(action, &QAction::triggered, this, [this, choice = choice] {
+            Appearance::shared().setChoice(choice);
+            validateMenuItems();
+        });
+    const QList<QMenu*> menus = ui.menuBar->findChildren<QMenu*>();
+    for (QMenu* menu : menus)
+        connect(menu, &QMenu::aboutToShow, this, &Controller::validateMenuItems);
+    connect(contentMenuOutlet, &QMenu::aboutToShow, this, &Controller::validateMenuItems);
+}
+
+void Controller::updateView()
+{
+    if (filerMode() == Standard)
+        ciView->setNeedsDisplay();
+}
+
+void Controller::updateLayout()
+{
+    if (!needsUpdate)
+        QMetaObject::invokeMethod(this, &Controller::windowDidUpdate, Qt::QueuedConnection);
+    needsUpdate = true;
+}
+
+void Controller::updateMainBtnState()
+{
+    pasteBtn->setEnabled(Pasteboard::generalPasteboard().offersTIFF());
+    ui.applyBtn->setEnabled(hasCurrentItem());
+    validateMenuItems();
+}
+
+bool Controller::validateMenuItem(QAction& item)
+{
+    bool enabled = true;
+    if (&item == ui.actionUndo) {
+        enabled = m_undoManager.canUndo();
+        item.setText(m_undoManager.undoMenuItemTitle());
+    } else if (&item == ui.actionRedo) {
+        enabled = m_undoManager.canRedo();
+        item.setText(m_undoManager.redoMenuItemTitle());
+    } else if (&item == ui.actionPaste) {
+        enabled = Pasteboard::generalPasteboard().offersTIFF();
+        pasteBtn->setEnabled(enabled);
+    } else if (&item == ui.actionClearEffect || &item == ui.actionApply) {
+        enabled = hasCurrentItem();
+    } else if (&item == ui.actionStandard || &item == ui.action3D || &item == ui.actionCustom) {
+        item.setChecked(item.data().toUInt() - 1 == filerMode());
+    } else if (&item == ui.actionFollowDesktop || &item == ui.actionLight || &item == ui.actionDark) {
+        const QAction* const choices[] = {ui.actionFollowDesktop, ui.actionLight, ui.actionDark};
+        item.setChecked(&item == choices[int(Appearance::shared().choice())]);
+    } else if (&item == ui.actionZoomIn || &item == ui.actionZoomOut || &item == ui.actionFit
+        || &item == ui.actionActualSize) {
+        enabled = filerMode() != ThreeD;
+    } else if (&item == ui.actionFullScreen) {
+        item.setChecked(m_window.isFullScreen());
+    } else if (&item == ui.actionHelp) {
+        item.setVisible(!HelpWindow::firstPage().isEmpty());
+    }
+    item.setEnabled(enabled);
+    return enabled;
+}
+
+void Controller::validateMenuItems()
+{
+    const QList<QAction*> items = m_window.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QAction* item : items)
+        validateMenuItem(*item);
+}
+
+void Controller::displayHelp()
+{
+    if (!HelpWindow::firstPage().isEmpty())
+        HelpWindow::show(m_window);
+}
+
+void Controller::orderFrontAboutPanel()
+{
+    QMessageBox about(&m_window);
+    about.setWindowTitle(tr("About Lumivex"));
+    about.setWindowModality(Qt::WindowModal);
+    about.setIconPixmap(m_window.windowIcon().pixmap(QSize(64, 64), m_window.devicePixelRatioF()));
+    about.setText(tr("<b>Lumivex %1</b>").arg(QCoreApplication::applicationVersion()));
+    about.setInformativeText(tr("A picture editor with live filters."));
+    about.exec();
+}

@@ -1,0 +1,233 @@
+#include "app/MainWindow.h"
+
+#include "app/Controller.h"
+#include "app/OutlineView.h"
+#include "controls/MyImageView.h"
+#include "controls/PictureScrollView.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/TintedIcon.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QMenu>
+#include <QShortcut>
+
+#include <array>
+
+MainWindow::MainWindow()
+    : ui(std::make_unique<Ui::MainWindow>())
+    , m_contextMenu(new QMenu(this))
+{
+    ui->setupUi(this);
+    setLayout();
+    setIcons();
+    setShortcuts();
+    setButtons();
+    m_contextMenu->addActions({ui->actionApply, ui->actionClearEffect, ui->actionPaste});
+    m_contextMenu->addSeparator();
+    m_contextMenu->addActions({ui->actionZoomIn, ui->actionZoomOut, ui->actionActualSize, ui->actionFit});
+    dress();
+    connect(&Appearance::shared(), &Appearance::changed, this, &MainWindow::dress);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setLayout()
+{
+    ui->splitter->setStretchFactor(0, 0);
+    ui->splitter->setStretchFactor(1, 1);
+    ui->splitter->setStretchFactor(2, 0);
+    ui->splitter->setSizes({248, 760, 272});
+    ui->searchField->installEventFilter(this);
+    connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
+        ui->searchField->setFocus(Qt::ShortcutFocusReason);
+        ui->searchField->selectAll();
+    });
+    connect(ui->actionFullScreen, &QAction::triggered, this,
+        [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
+    ui->listView->setFocus();
+}
+
+void MainWindow::setIcons()
+{
+    const std::pair<QAction*, const char*> icons[] = {
+        {ui->actionOpen, "open"},
+        {ui->actionUndo, "undo"},
+        {ui->actionRedo, "redo"},
+        {ui->actionPaste, "paste"},
+        {ui->actionZoomIn, "zoom-in"},
+        {ui->actionZoomOut, "zoom-out"},
+        {ui->actionActualSize, "actual-size"},
+        {ui->actionFit, "fit"},
+    };
+    for (const auto& [action, name] : icons) {
+        action->setIcon(tintedIcon(QLatin1String(name)));
+        action->setIconVisibleInMenu(false);
+    }
+    ui->standardBtn->setIcon(tintedIcon(QStringLiteral("mode-standard")));
+    ui->threeDBtn->setIcon(tintedIcon(QStringLiteral("mode-3d")));
+    ui->customBtn->setIcon(tintedIcon(QStringLiteral("mode-custom")));
+    ui->applyBtn->setIcon(tintedIcon(QStringLiteral("apply"), IconTint::OnAccent));
+    ui->searchField->addAction(tintedIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    setWindowIcon(QIcon(QStringLiteral(":/icons/io.github.lumivex.Lumivex.svg")));
+}
+
+void MainWindow::setShortcuts()
+{
+    // Written out: the platform leaves some of the standard ones empty.
+    const std::pair<QAction*, QList<QKeySequence>> shortcuts[] = {
+        {ui->actionOpen, {Qt::CTRL | Qt::Key_O}},
+        {ui->actionQuit, {Qt::CTRL | Qt::Key_Q}},
+        {ui->actionUndo, {Qt::CTRL | Qt::Key_Z}},
+        {ui->actionRedo, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}},
+        {ui->actionPaste, {Qt::CTRL | Qt::Key_V}},
+        {ui->actionFindFilter, {Qt::CTRL | Qt::Key_F}},
+        {ui->actionApply, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
+        {ui->actionClearEffect, {Qt::Key_Escape}},
+        {ui->actionStandard, {Qt::CTRL | Qt::Key_1}},
+        {ui->action3D, {Qt::CTRL | Qt::Key_2}},
+        {ui->actionCustom, {Qt::CTRL | Qt::Key_3}},
+        {ui->actionZoomIn, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}},
+        {ui->actionZoomOut, {Qt::CTRL | Qt::Key_Minus}},
+        {ui->actionActualSize, {Qt::CTRL | Qt::ALT | Qt::Key_0}},
+        {ui->actionFit, {Qt::CTRL | Qt::Key_0}},
+        {ui->actionFullScreen, {Qt::Key_F11}},
+        {ui->actionHelp, {Qt::Key_F1}},
+    };
+    for (const auto& [action, keys] : shortcuts)
+        action->setShortcuts(keys);
+    ui->actionQuit->setMenuRole(QAction::QuitRole);
+    ui->actionAbout->setMenuRole(QAction::AboutRole);
+    const auto* nextPane = new QShortcut(Qt::Key_F6, this);
+    connect(nextPane, &QShortcut::activated, this, &MainWindow::focusNextPane);
+}
+
+void MainWindow::setButtons()
+{
+    const std::pair<QToolButton*, QAction*> buttons[] = {
+        {ui->openBtn, ui->actionOpen},
+        {ui->undoBtn, ui->actionUndo},
+        {ui->redoBtn, ui->actionRedo},
+        {ui->pasteBtn, ui->actionPaste},
+        {ui->fitBtn, ui->actionFit},
+        {ui->actualSizeBtn, ui->actionActualSize},
+    };
+    for (const auto& [button, action] : buttons) {
+        const QString tip = button->toolTip();
+        action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, action->shortcut().toString(QKeySequence::NativeText)));
+        button->setDefaultAction(action);
+    }
+    ui->applyBtn->setProperty("prominent", true);
+}
+
+/// What depends on the look.
+void MainWindow::dress()
+{
+    const Look& look = Appearance::shared().look();
+    const auto sheet = [](const char* rule, auto... colors) { return QString::fromLatin1(rule).arg(colors.name()...); };
+    ui->toolRow->setStyleSheet(sheet("#toolRow { background: %1; border: none; border-bottom: 1px solid %2; }"
+                                     "#modeGroup { background: %3; border: 1px solid %2; border-radius: 8px; }"
+                                     "#modeGroup QToolButton { padding: 3px 2px 3px 6px; }",
+        look.window, look.separator, look.panel));
+    ui->statusRow->setStyleSheet(sheet("#statusRow { background: %1; border: none; border-top: 1px solid %2; }"
+                                       "QLabel { color: %3; }",
+        look.window, look.separator, look.secondaryText));
+    for (QWidget* panel : {ui->sideBar, ui->controlPanel})
+        panel->setStyleSheet(sheet("#sideBar, #controlPanel, #placeCntrlView, QScrollArea { background: %1; }"
+                                   "#filterNameField { color: %2; font-weight: 600; padding: 12px 16px; }"
+                                   "#filterNameLine { background: %3; }"
+                                   "#filterHintField, #filter3DNote, #filterCustomNote { color: %4; }"
+                                   "#filterHintField { padding: 12px 16px; }",
+            look.panel, look.text, look.separator, look.secondaryText));
+    ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }"
+                                         "#openGLNote, #customEffNote { color: %2; }",
+        look.surround, look.secondaryText));
+}
+
+void MainWindow::focusNextPane()
+{
+    const std::array<QWidget*, 4> panes{
+        ui->listView, ui->pictureScrollView->viewport(), ui->controlScrollArea, ui->zoomSlider};
+    std::size_t current = panes.size() - 1;
+    for (std::size_t i = 0; i < panes.size(); ++i)
+        if (panes[i]->hasFocus() || panes[i]->isAncestorOf(focusWidget()))
+            current = i;
+    for (std::size_t step = 1; step <= panes.size(); ++step) {
+        QWidget* pane = panes[(current + step) % panes.size()];
+        if (!pane->isVisible() || !pane->isEnabled())
+            continue;
+        if (pane == ui->controlScrollArea) {
+            pane = nullptr;
+            for (QWidget* row : ui->placeCntrlView->findChildren<QWidget*>())
+                if (!pane && row->isVisible() && row->focusPolicy() & Qt::TabFocus)
+                    pane = row;
+            if (!pane)
+                continue;
+        }
+        pane->setFocus(Qt::TabFocusReason);
+        return;
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    event->setAccepted(!m_controller || m_controller->windowShouldClose());
+    if (m_controller && event->isAccepted())
+        m_controller->windowWillClose();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    if (m_controller)
+        m_controller->windowDidResize();
+}
+
+void MainWindow::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (m_controller && !m_wasShown) {
+        m_wasShown = true;
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                if (m_controller)
+                    m_controller->windowDidBecomeVisible();
+            },
+            Qt::QueuedConnection); // after the layout
+    }
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) { m_pressedKeys.insert(event->key()); }
+
+void MainWindow::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!event->isAutoRepeat() && m_pressedKeys.remove(event->key()) && m_controller)
+        m_controller->keyUp(event->key());
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    return (watched == ui->searchField && searchFieldEvent(event)) || QMainWindow::eventFilter(watched, event);
+}
+
+/// Escape empties the field and only then is the effect's; Down goes to the list.
+bool MainWindow::searchFieldEvent(QEvent* event)
+{
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const bool clears = key == Qt::Key_Escape && !ui->searchField->text().isEmpty();
+    if (event->type() == QEvent::ShortcutOverride) {
+        if (clears)
+            event->accept();
+        return clears;
+    }
+    if (clears)
+        ui->searchField->clear();
+    else if (key == Qt::Key_Down)
+        ui->listView->setFocus(Qt::TabFocusReason);
+    else
+        return false;
+    return true;
+}

@@ -1,0 +1,51 @@
+// The main window.
+#pragma once
+
+#include <QMainWindow>
+#include <QSet>
+
+#include <memory>
+
+class Controller;
+
+namespace Ui {
+class MainWindow;
+}
+
+/// The interface of resources/MainWindow.ui with its icons, keys and looks. What happens is up to the controller.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    Ui::MainWindow& interface() { return *ui; }
+    /// The menu of a right click on the picture.
+    QMenu* contextMenu() { return m_contextMenu; }
+    /// Is told of what happens to the window; null for nobody.
+    void setController(Controller* controller) { m_controller = controller; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setIcons();
+    void setShortcuts();
+    void setButtons();
+    void setLayout();
+    void dress();
+    void focusNextPane();
+    bool searchFieldEvent(QEvent* event);
+
+    std::unique_ptr<Ui::MainWindow> ui;
+    QMenu* m_contextMenu = nullptr;
+    Controller* m_controller = nullptr;
+    QSet<int> m_pressedKeys; // whose releases are for this window: those after a sheet's Escape are not
+    bool m_wasShown = false;
+};

@@ -1,0 +1,43 @@
+// The program's list with groups.
+#pragma once
+
+#include "app/OutlineDataSource.h"
+
+#include <QTreeView>
+
+/// A tree view of an OutlineModel, straight or through a proxy, in the program's own look. Groups can be walked over
+/// and opened with the keyboard (Left, Right, Return) but not selected.
+class OutlineView : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit OutlineView(QWidget* parent = nullptr);
+
+    /// Null when no row is selected.
+    const OutlineItem* selectedItem() const;
+    /// Selects and shows the row, if the list has it just now.
+    void selectItem(const OutlineItem* item);
+    /// Selects the row; for groups and invalid indexes nothing.
+    void selectRow(const QModelIndex& index);
+    void deselectAll() { selectionModel()->clearSelection(); }
+
+    bool isItemExpanded(const OutlineItem* item) const { return isExpanded(indexOfItem(item)); }
+    void setItemExpanded(const OutlineItem* item, bool expanded) { setExpanded(indexOfItem(item), expanded); }
+
+    void setModel(QAbstractItemModel* model) override;
+
+signals:
+    void selectionDidChange();
+    /// A click, or Return, on a row that can't be selected.
+    void groupClicked(const OutlineItem* item);
+
+protected:
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    QModelIndex indexOfItem(const OutlineItem* item, const QModelIndex& parent = {}) const;
+    void paintCell(QPainter& painter, const QModelIndex& cell, bool selected) const;
+};

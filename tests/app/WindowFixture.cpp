@@ -1,0 +1,92 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/UserDefaults.h"
+#include "ui_MainWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QImage>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+WindowTest::WindowTest()
+{
+    controller.awakeFromNib();
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+}
+
+WindowTest::~WindowTest() = default;
+
+QString WindowTest::pictureFile(const QString& name, int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(QColor(200, 100, 50));
+    const QString path = folder.filePath(name);
+    EXPECT_TRUE(image.save(path));
+    return path;
+}
+
+void WindowTest::click(const OutlineItem* row)
+{
+    ASSERT_TRUE(row);
+    OutlineView& list = *ui.listView;
+    const QModelIndexList found = list.model()->match(list.model()->index(0, 0), OutlineModel::ItemRole,
+        QVariant::fromValue(row), 1, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(found.size(), 1);
+    list.scrollTo(found.first());
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(found.first()).center());
+}
+
+void WindowTest::pick(const QString& className)
+{
+    const DataSource source;
+    const FilterRow* wanted = source.rowForClass(className);
+    ASSERT_TRUE(wanted) << className.toStdString();
+    OutlineView& list = *ui.listView;
+    const QModelIndexList found = list.model()->match(
+        list.model()->index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(found.size(), 1);
+    click(found.first().data(OutlineModel::ItemRole).value<const OutlineItem*>());
+}
+
+const OutlineItem* WindowTest::groupOf(const QString& className) const
+{
+    const OutlineView& list = *ui.listView;
+    const QModelIndexList found = list.model()->match(
+        list.model()->index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
+    return found.isEmpty() ? nullptr : found.first().parent().data(OutlineModel::ItemRole).value<const OutlineItem*>();
+}
+
+void WindowTest::answering(const QString& button, const std::function<void()>& operation)
+{
+    bool pressed = false;
+    QTimer::singleShot(0, [&] {
+        auto* sheet = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(sheet);
+        for (QAbstractButton* candidate : sheet->buttons())
+            if (candidate->text() == button) {
+                pressed = true;
+                candidate->click();
+                return;
+            }
+        sheet->reject();
+    });
+    operation();
+    EXPECT_TRUE(pressed) << "no button " << button.toStdString();
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    UserDefaults::standardUserDefaults().setFile(folder.filePath("defaults.ini"));
+    Appearance::shared().dressApplication();
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

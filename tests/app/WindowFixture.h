@@ -1,0 +1,35 @@
+// The real window with the real controller, for tests.
+#pragma once
+
+#include "app/Controller.h"
+#include "app/MainWindow.h"
+
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace Ui {
+class MainWindow;
+}
+
+class WindowTest : public testing::Test {
+protected:
+    WindowTest();
+    ~WindowTest() override;
+
+    /// Answers the path of a small picture file, `width` by `height` pixels of one color.
+    QString pictureFile(const QString& name, int width, int height);
+    void pick(const QString& className); // a filter, as by a click
+    const OutlineItem* groupOf(const QString& className) const;
+    void click(const OutlineItem* row);
+    QAction* action(const char* name) const { return window.findChild<QAction*>(QLatin1String(name)); }
+    /// Runs the operation, and presses the button of that text in the sheet that it opens.
+    static void answering(const QString& button, const std::function<void()>& operation);
+
+    QTemporaryDir folder;
+    MainWindow window;
+    Controller controller{window};
+    Ui::MainWindow& ui = window.interface();
+    UndoManager& undo = *controller.undoManager();
+};

@@ -1,0 +1,183 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "controls/MyImageView.h"
+#include "controls/PictureScrollView.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/UserDefaults.h"
+#include "ui_MainWindow.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTest>
+#include <QTimer>
+
+namespace {
+
+TEST_F(WindowTest, MenusTellWhatCanBeDone)
+{
+    EXPECT_FALSE(action("actionUndo")->isEnabled());
+    EXPECT_FALSE(action("actionRedo")->isEnabled());
+    EXPECT_FALSE(action("actionApply")->isEnabled());
+    EXPECT_TRUE(action("actionStandard")->isChecked());
+    EXPECT_TRUE(action("actionOpen")->isEnabled());
+    pick("CIGaussianBlur");
+    EXPECT_TRUE(action("actionApply")->isEnabled());
+    EXPECT_TRUE(action("actionClearEffect")->isEnabled());
+    controller.applyBtn();
+    EXPECT_EQ(action("actionUndo")->isEnabled(), undo.canUndo());
+    action("action3D")->trigger();
+    EXPECT_TRUE(action("action3D")->isChecked());
+    EXPECT_FALSE(action("actionStandard")->isChecked());
+    EXPECT_FALSE(action("actionZoomIn")->isEnabled());
+    EXPECT_EQ(action("actionUndo")->text(), "Undo");
+}
+
+TEST_F(WindowTest, StandardKeysAreThereAndDifferFromEachOther)
+{
+    QHash<QKeySequence, QAction*> taken;
+    for (QAction* item : window.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly))
+        for (const QKeySequence& key : item->shortcuts()) {
+            EXPECT_FALSE(taken.contains(key)) << key.toString().toStdString();
+            taken.insert(key, item);
+        }
+    for (const char* key :
+        {"Ctrl+O", "Ctrl+Q", "Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+V", "Ctrl+=", "Ctrl++", "Ctrl+-", "F11"})
+        EXPECT_TRUE(taken.contains(QKeySequence(QLatin1String(key)))) << key;
+}
+
+TEST_F(WindowTest, EscapeDropsTheFilterButFirstTheSearch)
+{
+    pick("CIGaussianBlur");
+    QTest::keyClicks(ui.searchField, "gauss");
+    EXPECT_TRUE(controller.getCurrentFilter());
+    ui.searchField->setFocus();
+    QTest::keyClick(ui.searchField, Qt::Key_Escape);
+    EXPECT_TRUE(ui.searchField->text().isEmpty());
+    EXPECT_TRUE(controller.getCurrentFilter());
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(controller.getCurrentFilter());
+}
+
+TEST_F(WindowTest, SearchingKeepsTheFilterAndReturnTakesTheFirstMatch)
+{
+    pick("CIGaussianBlur");
+    const std::shared_ptr<CIFilter> blur = controller.getCurrentFilter();
+    const OutlineItem* row = ui.listView->selectedItem();
+    QTest::keyClicks(ui.searchField, "no such filter");
+    EXPECT_EQ(controller.getCurrentFilter(), blur);
+    EXPECT_FALSE(ui.listView->selectedItem());
+    ui.searchField->clear();
+    EXPECT_EQ(ui.listView->selectedItem(), row);
+    EXPECT_EQ(controller.getCurrentFilter(), blur) << "the same one, not made anew";
+
+    QTest::keyClicks(ui.searchField, "cicrop");
+    QTest::keyClick(ui.searchField, Qt::Key_Return);
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CICrop");
+    EXPECT_TRUE(controller.isControlsPresent());
+}
+
+TEST_F(WindowTest, ArrowsWalkTheListAndReturnFoldsGroups)
+{
+    const OutlineItem* group = groupOf("CIGaussianBlur");
+    pick("CIGaussianBlur");
+    const OutlineItem* row = ui.listView->selectedItem();
+    QTest::keyClick(ui.listView, Qt::Key_Down);
+    QTest::keyClick(ui.listView, Qt::Key_Up);
+    EXPECT_EQ(ui.listView->selectedItem(), row);
+    QTest::keyClick(ui.listView, Qt::Key_Left); // to the group
+    EXPECT_TRUE(ui.listView->isItemExpanded(group)) << "walking over a group doesn't fold it";
+    QTest::keyClick(ui.listView, Qt::Key_Return);
+    EXPECT_FALSE(ui.listView->isItemExpanded(group));
+}
+
+TEST_F(WindowTest, UnsavedChangesKeepTheWindowOpenAndAskWhenQuitting)
+{
+    EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Now);
+    pick("CIGaussianBlur");
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    answering(
+        "Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Cancel); });
+    answering(
+        "Don't Save", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Now); });
+}
+
+TEST_F(WindowTest, ComesBackWhereItWas)
+{
+    window.resize(900, 600);
+    EXPECT_TRUE(window.close());
+    MainWindow second;
+    Controller secondController(second);
+    secondController.awakeFromNib();
+    EXPECT_EQ(second.size(), QSize(900, 600));
+    UserDefaults::standardUserDefaults().removeObjectForKey("Velmora");
+}
+
+TEST_F(WindowTest, OpenPanelIsASheetOfTheWindow)
+{
+    controller.openImg();
+    auto* panel = window.findChild<QFileDialog*>();
+    ASSERT_TRUE(panel);
+    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
+    panel->reject();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(controller.getFilePath().isEmpty());
+}
+
+TEST_F(WindowTest, FollowsTheLook)
+{
+    for (const char* choice : {"actionDark", "actionLight"}) {
+        action(choice)->trigger();
+        EXPECT_TRUE(action(choice)->isChecked());
+        const QColor corner =
+            window.grab().toImage().pixelColor(4, ui.toolRow->y() + window.menuWidget()->height() + 4);
+        EXPECT_EQ(corner, Appearance::shared().look().window) << choice;
+        EXPECT_EQ(Controller::isDarkMode(), Appearance::shared().isDark());
+    }
+    action("actionFollowDesktop")->trigger();
+}
+
+TEST_F(WindowTest, EveryControlHasANameAndEveryIconButtonATip)
+{
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_TRUE(face);
+        EXPECT_FALSE(face->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+        if (qobject_cast<QAbstractButton*>(widget)) {
+            EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->objectName().toStdString();
+            EXPECT_FALSE(qobject_cast<QAbstractButton*>(widget)->icon().isNull()) << widget->objectName().toStdString();
+        }
+    }
+}
+
+TEST(Program, AnswersQuestionsWithoutADisplay)
+{
+    const auto run = [](const QStringList& arguments) {
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(display));
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(LUMIVEX_PROGRAM), arguments);
+        EXPECT_TRUE(program.waitForFinished());
+        EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        return std::pair{program.exitCode(), QString::fromUtf8(program.readAllStandardOutput())};
+    };
+    const auto [versionCode, version] = run({"--version"});
+    EXPECT_EQ(versionCode, 0);
+    EXPECT_TRUE(version.startsWith("lumivex 0.")) << version.toStdString();
+    const auto [helpCode, help] = run({"--help"});
+    EXPECT_EQ(helpCode, 0);
+    EXPECT_TRUE(help.contains("[picture]"));
+    EXPECT_NE(run({"--help", "--wrong"}).first, 0);
+}
+
+} // namespace
