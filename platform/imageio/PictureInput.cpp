@@ -25,7 +25,8 @@ Result<PictureInput> PictureInput::fromFile(const fs::path& path)
         input.m_file = std::shared_ptr<std::FILE>(file, CloseFile());
     else
         return Failure{input.m_name + " can't be read: " + std::strerror(errno) + "."};
-    if (input.reader()(0, 1).empty())
+    input.m_size = std::size_t(fs::file_size(path, error));
+    if (error || input.m_size == 0)
         return Failure{input.m_name + " is empty."};
     input.m_kind = kindOfContent(input.reader());
     return input;
@@ -35,6 +36,7 @@ Result<PictureInput> PictureInput::fromMemory(std::span<const std::byte> content
 {
     PictureInput input;
     input.m_memory = content;
+    input.m_size = content.size();
     input.m_name = "The picture";
     if (content.empty())
         return Failure{"The picture is empty."};

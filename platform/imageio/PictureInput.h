@@ -21,6 +21,7 @@ public:
     /// How messages call the picture: "“name.jpg”" or "The picture".
     const std::string& name() const { return m_name; }
     PictureKind kind() const { return m_kind; }
+    std::size_t size() const { return m_size; } // bytes
     ReadBytes reader() const;
 
     /// Null with a pending libvips error when the file can't be opened.
@@ -41,6 +42,7 @@ private:
     std::filesystem::path m_path;
     std::shared_ptr<std::FILE> m_file;
     std::span<const std::byte> m_memory;
+    std::size_t m_size = 0;
     PictureKind m_kind = PictureKind::Unknown;
 };
 

@@ -30,6 +30,16 @@ Failure tooLarge(const PictureInput& input, int width, int height)
         + " pixels."};
 }
 
+/// The JPEG decoder fills up what is missing with grey, which makes a few bytes a picture of any size. Even a blank
+/// picture takes a bit for every block of 64 pixels.
+bool claimsTooMuch(const PictureInput& input, int width, int height)
+{
+    constexpr double kMaxPixelsPerByte = 64 * 8 * 4; // color at half the resolution takes hardly more; be generous
+    constexpr double kHeaderBytes = 1000;
+    return input.kind() == PictureKind::Jpeg
+        && double(width) * height > kMaxPixelsPerByte * (double(input.size()) + kHeaderBytes);
+}
+
 /// At most `maxSide` pixels on the longer side. Transparent pixels don't bleed into their neighbors.
 VipsImagePtr reducedTo(VipsImagePtr image, int maxSide, bool isPremultiplied)
 {
@@ -64,6 +74,10 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
     const int width = vips_image_get_width(picture.image.get()), height = vips_image_get_height(picture.image.get());
     if (std::int64_t(width) * height > options.maxPixels)
         return tooLarge(input, width, height);
+    if (claimsTooMuch(input, width, height)) {
+        imageLog(input.name() + " has too few bytes for its size.");
+        return damaged(input);
+    }
     VipsImagePtr image = toWorkingColor(std::move(picture.image));
     if (image)
         image = reducedTo(std::move(image), options.maxSide, picture.isPremultiplied);

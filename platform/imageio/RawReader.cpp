@@ -12,6 +12,8 @@ namespace {
 
 Failure damaged(const PictureInput& input, int error)
 {
+    if (error == LIBRAW_CANCELLED_BY_CALLBACK)
+        return {"Opening " + input.name() + " took too long or was given up."};
     imageLog(input.name() + ": LibRaw: " + libraw_strerror(error));
     if (error == LIBRAW_UNSUPPORTED_THUMBNAIL || error == LIBRAW_FILE_UNSUPPORTED)
         return {input.name() + " comes from a camera whose raw format is not known."};
@@ -113,8 +115,6 @@ Result<CIBitmap> readRaw(const PictureInput& input, const ReadOptions& options)
     int error = raw->unpack();
     if (!error)
         error = raw->dcraw_process();
-    if (error == LIBRAW_CANCELLED_BY_CALLBACK)
-        return Failure{"Opening " + input.name() + " took too long or was given up."};
     return error ? Result<CIBitmap>(damaged(input, error)) : developed(*raw, input);
 }
 
