@@ -1,16 +1,24 @@
 #include "platform/coreimage/CIBitmap.h"
 
+#include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <new>
 
 namespace {
 
+/// Zeroed without being touched: the system gives pages as they are first written, and large bitmaps cost no time
+/// or memory before.
 std::shared_ptr<std::byte> allocate(std::size_t bytes)
 {
-    constexpr std::align_val_t kLine{64};
-    auto* pixels = static_cast<std::byte*>(::operator new(bytes + 64, kLine)); // room to read whole batches
-    std::memset(pixels, 0, bytes + 64);
-    return {pixels, [](std::byte* p) { ::operator delete (p, std::align_val_t{64}); }};
+    constexpr std::size_t kLine = 64; // rows start on a cache line, and whole batches may be read past the end
+    void* block = std::calloc(bytes + 2 * kLine, 1);
+    if (!block)
+        throw std::bad_alloc();
+    void* start = block;
+    std::size_t room = bytes + 2 * kLine;
+    auto* pixels = static_cast<std::byte*>(std::align(kLine, bytes + kLine, start, room));
+    return {pixels, [block](std::byte*) { std::free(block); }};
 }
 
 } // namespace
