@@ -1,5 +1,6 @@
 // Gaussian blur at a cost that does not grow with the radius: the image is halved until the standard deviation is a
 // few cells, blurred there with a sampled Gaussian, and doubled back with the smooth weights 1/4, 3/4.
+#include "platform/coreimage/graph/Interleaved.h"
 #include "platform/coreimage/graph/Planes.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 #include "platform/coreimage/passes/Blur.h"
@@ -144,6 +145,23 @@ GridRect halfNeeded(const GridRect& area)
     return {floorDiv(area.x0 - 1, 2), floorDiv(area.y0 - 1, 2), floorDiv(area.x1, 2) + 1, floorDiv(area.y1, 2) + 1};
 }
 
+void storeZipped(float* to, float a, float b)
+{
+    to[0] = a;
+    to[1] = b;
+}
+void storeZipped(float* to, const Batch& a, const Batch& b)
+{
+    alignas(64) float first[kLanes<Batch>], second[kLanes<Batch>];
+    a.store_aligned(first);
+    b.store_aligned(second);
+    for (int i = 0; i < kLanes<Batch>; i += 4) {
+        const Quad p = loadQuad(first + i), q = loadQuad(second + i);
+        const Quad pairs[2] = {__builtin_shufflevector(p, q, 0, 4, 1, 5), __builtin_shufflevector(p, q, 2, 6, 3, 7)};
+        __builtin_memcpy(to + 2 * i, pairs, sizeof pairs);
+    }
+}
+
 /// Doubles one line: cell 2i is 3/4 of i and 1/4 of i - 1, cell 2i + 1 is 3/4 of i and 1/4 of i + 1.
 template <class V>
 void doubleLine(const float* half, int halfLeft, float* to, int left, int width, float* pairs)
@@ -154,13 +172,7 @@ void doubleLine(const float* half, int halfLeft, float* to, int left, int width,
         const V own = V(0.75f) * loadRow<V>(middle + i);
         const V lower = mulAdd(V(0.25f), loadRow<V>(middle + i - 1), own);
         const V upper = mulAdd(V(0.25f), loadRow<V>(middle + i + 1), own);
-        if constexpr (std::is_same_v<V, float>) {
-            pairs[2 * i] = lower;
-            pairs[2 * i + 1] = upper;
-        } else {
-            storeRow(pairs + 2 * i, xsimd::zip_lo(lower, upper));
-            storeRow(pairs + 2 * i + kLanes<V>, xsimd::zip_hi(lower, upper));
-        }
+        storeZipped(pairs + 2 * i, lower, upper);
     }
     std::copy_n(pairs + (left - 2 * first), width, to);
 }
