@@ -202,8 +202,18 @@ const CIValue& Values::value(std::string_view key) const
     for (std::size_t i = 0; i < m_values.size(); ++i)
         if (m_declaration->inputs[i].key == key)
             return m_values[i];
+    for (const auto& [name, worked] : m_workedOut)
+        if (name == key)
+            return worked;
     static const CIValue nothing;
     return nothing;
+}
+
+Values Values::with(std::string key, CIValue value) const
+{
+    Values copy = *this;
+    copy.m_workedOut.emplace_back(std::move(key), std::move(value));
+    return copy;
 }
 
 std::vector<CIImage> Values::images() const

@@ -25,10 +25,14 @@ public:
     CIImage image(std::string_view key = "inputImage") const { return value(key).toImage(); }
     /// The images, in the order of the inputs; empty ones are null.
     std::vector<CIImage> images() const;
+    /// A copy with one value more under a key of its own, for what a recipe works out once and its kernels read, such
+    /// as a table. Copies share data.
+    Values with(std::string key, CIValue value) const;
 
 private:
     const Declaration* m_declaration;
     std::vector<CIValue> m_values; // one for each input, in order
+    std::vector<std::pair<std::string, CIValue>> m_workedOut;
 };
 
 /// What a kernel's constructor reads its inputs from, as numbers spread over all lanes.

@@ -1,4 +1,5 @@
 // Color effects.
+#include "platform/coreimage/kernel/DisplayValues.h"
 #include "platform/coreimage/kernel/SampleFilter.h"
 
 namespace ci {
@@ -30,7 +31,7 @@ struct ColorMap {
     Pixel<V> operator()(const Sampler<V>& image, const Sampler<V>& ramp, const Point<V>& here) const
     {
         const Pixel<V> p = image(here);
-        const V lightness = saturate(srgbFromLinear(luma(unpremultiplied(p))));
+        const V lightness = saturate(displayFromLinear(luma(unpremultiplied(p))));
         return ramp(Point<V>{mulAdd(lightness, span, left), middle}) * p.a;
     }
     static CIRect regionOfInterest(const Values& in, std::size_t image, const CIRect& wanted)

@@ -1,4 +1,5 @@
 // Tone: what becomes of a component's value.
+#include "platform/coreimage/kernel/DisplayValues.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 
 namespace ci {
@@ -51,7 +52,8 @@ struct ColorPosterize {
     }
     Pixel<V> operator()(const Pixel<V>& p) const
     {
-        return eachColor(p, [&](const V& c) { return linearFromSRGB(V(round(V(srgbFromLinear(c) * steps)) * step)); });
+        return eachColor(
+            p, [&](const V& c) { return linearFromDisplay(V(round(V(displayFromLinear(c) * steps)) * step)); });
     }
     V steps, step;
 };

@@ -1,6 +1,6 @@
 #include "platform/coreimage/graph/Transfer.h"
 
-#include "platform/coreimage/kernel/Pixel.h"
+#include "platform/coreimage/kernel/DisplayValues.h"
 
 #include <cstring>
 #include <type_traits>
@@ -40,24 +40,6 @@ void storeWords(std::byte* p, const WordsOf<V>& w)
         std::memcpy(p, &w, 4);
     else
         w.store_unaligned(reinterpret_cast<std::int32_t*>(p));
-}
-
-// Chebyshev interpolations of the two curves of IEC 61966-2-1; the first takes the code 0 to 1, the second the
-// fourth root of the linear value, on which the curve is nearly straight.
-template <class V>
-V decodeCode(const V& c)
-{
-    const V curve = polynomial(c, 0.0506566446f, -0.235176109f, 0.481966718f, -0.616709141f, 0.785992942f, 0.498081157f,
-        0.034307856f, 0.000880719448f);
-    return select(c <= V(0.04045f), c * (1 / 12.92f), curve);
-}
-
-template <class V>
-V encodeLinear(const V& v) // 0 to 1
-{
-    const V root = sqrt(sqrt(v));
-    const V curve = polynomial(root, -0.0627589915f, 0.272752244f, -0.557555649f, 1.244214f, 0.164974f, -0.0616297056f);
-    return select(v <= V(0.0031308f), v * 12.92f, curve);
 }
 
 template <class V>
