@@ -1,49 +1,7 @@
 // Color filters: values worked out by hand, on single pixels.
-#include "tests/coreimage/Pictures.h"
-
-#include <array>
-#include <gtest/gtest.h>
+#include "tests/coreimage/Colors.h"
 
 using namespace pictures;
-
-namespace {
-
-using Color = std::array<double, 4>; // straight, linear
-
-double linear(double coded) { return coded <= 0.04045 ? coded / 12.92 : std::pow((coded + 0.055) / 1.055, 2.4); }
-double coded(double light) { return light <= 0.0031308 ? 12.92 * light : 1.055 * std::pow(light, 1 / 2.4) - 0.055; }
-double luma(const Color& c) { return 0.2126 * c[0] + 0.7152 * c[1] + 0.0722 * c[2]; }
-
-CIBitmap flat(const Color& c, int width = 3, int height = 3)
-{
-    CIBitmap bitmap(width, height, CIFormat::RGBAf, CIAlpha::Straight, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < height; ++y) {
-        const auto row = bitmap.mutableRow<float>(y);
-        for (std::size_t i = 0; i < row.size(); ++i)
-            row[i] = float(c[i % 4]);
-    }
-    return bitmap;
-}
-
-/// What the filter makes of one color.
-Color result(const std::string& name, const Color& c, const CIDictionary& inputs = {})
-{
-    const auto f = filter(name, CIImage::fromBitmap(flat(c)));
-    for (const auto& [key, value] : inputs)
-        f->setValueForKey(value, key);
-    const CIBitmap out = CIContext().render(f->outputImage(), {1, 1, 1, 1}, 1, CIFormat::RGBAf, CIAlpha::Straight);
-    return {at(out, 0, 0, 0), at(out, 0, 0, 1), at(out, 0, 0, 2), at(out, 0, 0, 3)};
-}
-
-void expectColor(const Color& actual, const Color& expected, double tolerance = 1e-5)
-{
-    for (std::size_t c = 0; c < 4; ++c)
-        EXPECT_NEAR(actual[c], expected[c], tolerance) << "component " << c;
-}
-
-const Color kSome{0.5, 0.25, 0.1, 1}, kThin{0.5, 0.25, 0.1, 0.5};
-
-} // namespace
 
 TEST(Color, AmountsThatChangeNothingKeepEveryBit)
 {
@@ -133,13 +91,12 @@ TEST(Components, AreComparedAndMeasured)
     const Color mask = result("CIMaskToAlpha", kSome);
     expectColor(mask, {1, 1, 1, luma(kSome)});
     expectColor(
-        result("CIColorAbsoluteDifference", {0.2, 0.9, 0.5, 1}, {{"inputImage2", CIImage::fromBitmap(flat(kSome))}}),
-        {0.3, 0.65, 0.4, 1});
+        result("CIColorAbsoluteDifference", {0.2, 0.9, 0.5, 1}, {{"inputImage2", flat(kSome)}}), {0.3, 0.65, 0.4, 1});
 }
 
 TEST(Vignettes, LeaveTheMiddleAndDarkenTheRim)
 {
-    const CIImage gray = CIImage::fromBitmap(flat({0.5, 0.5, 0.5, 1}, 61, 81));
+    const CIImage gray = flat({0.5, 0.5, 0.5, 1}, 61, 81);
     const auto vignette = filter("CIVignette", gray);
     vignette->setValueForKey(1, "inputIntensity");
     const CIBitmap out = rendered(vignette->outputImage(), gray.extent());

@@ -1,0 +1,187 @@
+// Colors looked up in tables that come with the filter.
+#include "platform/coreimage/kernel/DisplayValues.h"
+#include "platform/coreimage/kernel/PointwiseFilter.h"
+#include "platform/coreimage/kernel/Table.h"
+
+namespace ci {
+namespace {
+
+/// Whether a table is meant for display values; without a color space it is, as most are made so.
+bool isForDisplay(const Values& in) { return in.value("inputColorSpace").toString() != "linearSRGB"; }
+
+int sideOf(const Values& in) { return int(in.number("inputCubeDimension")); }
+
+/// True when the data hold a whole cube of premultiplied float pixels.
+bool hasCube(const Values& in, std::string_view key)
+{
+    const auto side = std::size_t(sideOf(in));
+    return tableOf(in, key).size() >= 4 * side * side * side;
+}
+
+/// The cube that changes nothing, the smallest there is.
+CIData identityCube()
+{
+    std::vector<float> pixels;
+    for (int i = 0; i < 8; ++i)
+        pixels.insert(pixels.end(), {float(i & 1), float(i >> 1 & 1), float(i >> 2), 1});
+    return tableData(pixels);
+}
+
+/// Looks a straight color up.
+template <class V>
+struct Lookup {
+    Lookup(const Values& in, std::string_view key, bool display)
+        : cube(tableOf(in, key), sideOf(in), in.flag("inputExtrapolate"))
+        , display(display)
+    {
+    }
+    Pixel<V> operator()(const Pixel<V>& p) const
+    {
+        if (!display)
+            return cube(p);
+        return premultiplied(linearFromDisplay(unpremultiplied(cube(displayFromLinear(p)))));
+    }
+    Cube<V> cube;
+    bool display;
+};
+
+template <class V>
+struct ColorCube {
+    explicit ColorCube(const Inputs<V>& in)
+        : lookup(in.values(), "inputCubeData", false)
+    {
+    }
+    Pixel<V> operator()(const Pixel<V>& p) const { return lookup(unpremultiplied(p)) * p.a; }
+    Lookup<V> lookup;
+};
+
+template <class V>
+struct ColorCubeWithColorSpace {
+    explicit ColorCubeWithColorSpace(const Inputs<V>& in)
+        : lookup(in.values(), "inputCubeData", isForDisplay(in.values()))
+    {
+    }
+    Pixel<V> operator()(const Pixel<V>& p) const { return lookup(unpremultiplied(p)) * p.a; }
+    Lookup<V> lookup;
+};
+
+/// The first cube where the mask is black, the second where it is white.
+template <class V>
+struct ColorCubesMixedWithMask {
+    explicit ColorCubesMixedWithMask(const Inputs<V>& in)
+        : dark(in.values(), "inputCube0Data", isForDisplay(in.values()))
+        , light(in.values(), "inputCube1Data", isForDisplay(in.values()))
+    {
+    }
+    Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& mask) const
+    {
+        const Pixel<V> straight = unpremultiplied(p);
+        return mix(dark(straight), light(straight), saturate(luma(mask))) * p.a;
+    }
+    Lookup<V> dark, light;
+};
+
+template <template <class> class K>
+CIImage lookedUp(const Values& in, const std::vector<CIImage>& images, std::initializer_list<const char*> cubes)
+{
+    for (const char* key : cubes)
+        if (!hasCube(in, key))
+            return images[0];
+    return pointwise<K>(in, images, images[0].extent());
+}
+
+CIInputAttributes cubeDimension()
+{
+    return count("inputCubeDimension", "Cube Dimension", {.standard = 2, .min = 2, .max = 128, .identity = 2});
+}
+CIInputAttributes cubeData(std::string key, std::string displayName)
+{
+    CIInputAttributes input = object(std::move(key), std::move(displayName), "NSData", identityCube());
+    input.identity = input.defaultValue;
+    return input;
+}
+CIInputAttributes extrapolate()
+{
+    return number("inputExtrapolate", "Extrapolate", kCIAttributeTypeBoolean, {.standard = 0});
+}
+CIInputAttributes colorSpace() { return object("inputColorSpace", "Color Space", "NSObject"); }
+
+const RecipeFilter colorCube{
+    {.name = "CIColorCube",
+        .displayName = "Color Cube",
+        .category = kCICategoryColorEffect,
+        .usage = Anything,
+        .inputs = {image(), cubeDimension(), cubeData("inputCubeData", "Cube Data"), extrapolate()}},
+    [](const Values& in) { return lookedUp<ColorCube>(in, {in.image()}, {"inputCubeData"}); }};
+
+const RecipeFilter colorCubeWithColorSpace{
+    {.name = "CIColorCubeWithColorSpace",
+        .displayName = "Color Cube with ColorSpace",
+        .category = kCICategoryColorEffect,
+        .usage = Anything,
+        .inputs = {image(), cubeDimension(), cubeData("inputCubeData", "Cube Data"), extrapolate(), colorSpace()}},
+    [](const Values& in) { return lookedUp<ColorCubeWithColorSpace>(in, {in.image()}, {"inputCubeData"}); }};
+
+const RecipeFilter colorCubesMixedWithMask{
+    {.name = "CIColorCubesMixedWithMask",
+        .displayName = "Color Cubes Mixed With Mask",
+        .category = kCICategoryColorEffect,
+        .usage = Anything,
+        .inputs = {image(), image("inputMaskImage", "Mask Image"), cubeDimension(),
+            cubeData("inputCube0Data", "Cube 0 Data"), cubeData("inputCube1Data", "Cube 1 Data"), colorSpace(),
+            extrapolate()}},
+    [](const Values& in) {
+        return lookedUp<ColorCubesMixedWithMask>(
+            in, {in.image(), in.image("inputMaskImage")}, {"inputCube0Data", "inputCube1Data"});
+    }};
+
+/// Three curves: triples of floats at even distances over the domain.
+template <class V>
+struct ColorCurves {
+    static constexpr bool straight = true, keepsAlpha = true;
+    explicit ColorCurves(const Inputs<V>& in)
+        : red(tableOf(in.values(), "red"))
+        , green(tableOf(in.values(), "green"))
+        , blue(tableOf(in.values(), "blue"))
+        , display(isForDisplay(in.values()))
+    {
+        const CIVector domain = in.values().vector("inputCurvesDomain");
+        start = V(float(domain.X()));
+        perSpan = V(1 / std::max(float(domain.Y() - domain.X()), 1e-6f));
+    }
+    Pixel<V> operator()(const Pixel<V>& p) const
+    {
+        const Pixel<V> q = display ? displayFromLinear(p) : p;
+        const auto at = [&](const V& c) { return V((c - start) * perSpan); };
+        const Pixel<V> mapped{red(at(q.r)), green(at(q.g)), blue(at(q.b)), p.a};
+        return display ? linearFromDisplay(mapped) : mapped;
+    }
+    Curve<V> red, green, blue;
+    bool display;
+    V start, perSpan;
+};
+
+const RecipeFilter colorCurves{{.name = "CIColorCurves",
+                                   .displayName = "Color Curves",
+                                   .category = kCICategoryColorEffect,
+                                   .usage = AnyVideo,
+                                   .inputs = {image(),
+                                       object("inputCurvesData", "Curves Data", "NSData",
+                                           tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
+                                       vector("inputCurvesDomain", "Curves Domain", {}, CIVector{0, 1}), colorSpace()}},
+    [](const Values& in) {
+        const CIImage source = in.image();
+        const auto triples = tableOf(in, "inputCurvesData");
+        if (triples.size() < 6)
+            return source;
+        std::vector<float> curves[3];
+        for (std::size_t i = 0; i + 2 < triples.size(); i += 3)
+            for (std::size_t c = 0; c < 3; ++c)
+                curves[c].push_back(triples[i + c]);
+        const Values ready =
+            in.with("red", tableData(curves[0])).with("green", tableData(curves[1])).with("blue", tableData(curves[2]));
+        return pointwise<ColorCurves>(ready, {source}, source.extent());
+    }};
+
+} // namespace
+} // namespace ci
