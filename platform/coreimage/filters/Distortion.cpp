@@ -31,6 +31,64 @@ const WarpFilter<BumpDistortion> bumpDistortion{{.name = "CIBumpDistortion",
         distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 600}),
         scalar("inputScale", "Scale", {.standard = 0.5, .sliderMin = -1, .sliderMax = 1, .identity = 0})}}};
 
+/// Turns the picture about the center, by inputAngle there and less and less up to inputRadius.
+template <class V>
+struct TwirlDistortion {
+    explicit TwirlDistortion(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , perRadius(1.0f / max(in.scalar("inputRadius"), 1e-3f))
+        , angle(in.scalar("inputAngle"))
+    {
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        const V left = max(V(1.0f - length(d) * perRadius), 0.0f);
+        return center + rotated(d, V(-angle * left * left));
+    }
+    Point<V> center;
+    V perRadius, angle;
+};
+
+const WarpFilter<TwirlDistortion> twirlDistortion{{.name = "CITwirlDistortion",
+    .displayName = "Twirl Distortion",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        distance(
+            "inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 500, .identity = 300}),
+        angle(
+            "inputAngle", "Angle", {.standard = M_PI, .sliderMin = -4 * M_PI, .sliderMax = 4 * M_PI, .identity = 0})}}};
+
+/// Draws the picture within inputRadius towards the center: distances, as parts of the radius, are raised to a power.
+template <class V>
+struct PinchDistortion {
+    explicit PinchDistortion(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , perRadius2(1.0f / max(V(in.scalar("inputRadius") * in.scalar("inputRadius")), 1e-6f))
+    {
+        const V scale = in.scalar("inputScale");
+        power = -0.5f * scale / (1.0f + scale);
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        const V part = clamp(V(dot(d, d) * perRadius2), 1e-12f, 1.0f);
+        return center + d * exp2(V(power * log2(part)));
+    }
+    Point<V> center;
+    V perRadius2, power;
+};
+
+const WarpFilter<PinchDistortion> pinchDistortion{{.name = "CIPinchDistortion",
+    .displayName = "Pinch Distortion",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        distance(
+            "inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 1000, .identity = 0}),
+        scalar("inputScale", "Scale", {.standard = 0.5, .min = 0, .sliderMin = 0, .sliderMax = 2, .identity = 0})}}};
+
 /// Wraps the picture around a circle: its lower edge lies on the circle of inputRadius, x runs along the arc.
 template <class V>
 struct CircularWrap {

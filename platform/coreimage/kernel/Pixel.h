@@ -69,6 +69,14 @@ V length(const Point<V>& p)
     return sqrt(dot(p, p));
 }
 
+/// Turned counterclockwise by an angle in radians.
+template <class V>
+Point<V> rotated(const Point<V>& p, const V& angle)
+{
+    const V c = cos(angle), s = sin(angle);
+    return {c * p.x - s * p.y, s * p.x + c * p.y};
+}
+
 template <class V>
 Pixel<V> mix(const Pixel<V>& p, const Pixel<V>& q, const V& t)
 {

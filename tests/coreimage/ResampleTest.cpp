@@ -1,0 +1,96 @@
+// Resizing: sums of shares, the rim, and what a plain double loop makes of a window.
+#include "platform/coreimage/passes/Resample.h"
+#include "tests/coreimage/Pictures.h"
+
+#include <gtest/gtest.h>
+
+using namespace pictures;
+
+namespace {
+
+double lanczos(double x)
+{
+    const auto sinc = [](double v) { return v == 0 ? 1 : std::sin(M_PI * v) / (M_PI * v); };
+    return std::abs(x) < 3 ? sinc(x) * sinc(x / 3) : 0;
+}
+
+/// One pixel of the bitmap resized by `factor`, summed up over the whole window at once.
+double slowLanczos(const CIBitmap& source, double factor, int column, int row, int c)
+{
+    const double spread = std::max(1.0, 1 / factor), x = (column + 0.5) / factor, y = (row + 0.5) / factor;
+    double sum = 0, weights = 0;
+    for (int j = int(y - 3 * spread) - 2; j < y + 3 * spread + 2; ++j)
+        for (int i = int(x - 3 * spread) - 2; i < x + 3 * spread + 2; ++i) {
+            const double weight = lanczos((i + 0.5 - x) / spread) * lanczos((j + 0.5 - y) / spread);
+            weights += weight;
+            sum += weight
+                * double(at(source, std::clamp(i, 0, source.width() - 1), std::clamp(j, 0, source.height() - 1), c));
+        }
+    return sum / weights;
+}
+
+} // namespace
+
+TEST(Resample, AgreesWithThePlainDoubleSum)
+{
+    const CIBitmap source = noise(37, 23);
+    for (const double factor : {0.31, 0.5, 1.7, 6.0}) {
+        SCOPED_TRACE(factor);
+        const CIImage image = ci::lanczosScaled(CIImage::fromBitmap(source), factor, factor);
+        const CIBitmap out = rendered(image, {0, 0, std::floor(37 * factor), std::floor(23 * factor)});
+        for (int y = 0; y < out.height(); y += 3)
+            for (int x = 0; x < out.width(); x += 2)
+                for (int c = 0; c < 4; ++c)
+                    ASSERT_NEAR(double(at(out, x, y, c)), slowLanczos(source, factor, x, y, c), 2e-5) << x << ", " << y;
+    }
+}
+
+TEST(Resample, GivesTheSizeThatWasAskedFor)
+{
+    const CIImage image = CIImage::fromBitmap(noise8(33, 21)).transformed(CIAffineTransform::translation(-7, 90));
+    for (const auto& [width, height] : {std::pair{66, 11}, {1, 1}, {20, 20}, {33, 21}}) {
+        const CIImage out = ci::resampled(image, width, height);
+        EXPECT_EQ(out.extent(), (CIRect{0, 0, double(width), double(height)}));
+        const CIBitmap pixels = rendered(out, out.extent());
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                EXPECT_NEAR(at(pixels, x, y, 3), 1, 1e-5f) << "the rim of an opaque picture stays opaque";
+    }
+    EXPECT_TRUE(ci::resampled(image, 0, 5).isNull());
+    EXPECT_EQ(
+        difference(rendered(ci::resampled(image, 33, 21), {0, 0, 33, 21}), rendered(image, {-7, 90, 33, 21})).largest,
+        0);
+}
+
+TEST(Resample, RowsMayBeAskedForInAnyTiles)
+{
+    const CIImage image = ci::lanczosScaled(CIImage::fromBitmap(noise(300, 411)), 1.3, 0.9);
+    const CIBitmap whole = rendered(image, {0, 0, 390, 369}), part = rendered(image, {101, 203, 50, 9});
+    for (int y = 0; y < 9; ++y)
+        for (int x = 0; x < 50; ++x)
+            ASSERT_NEAR(at(part, x, y, 1), at(whole, 101 + x, 203 + y, 1), 1e-6f);
+}
+
+TEST(Resample, KeepsTheLargestOfWhatAPixelCovers)
+{
+    CIBitmap source(6, 4, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 6; ++x)
+            for (int c = 0; c < 4; ++c)
+                source.mutableRow<float>(3 - y)[std::size_t(4 * x + c)] = c == 3 ? 1 : float(10 * y + x);
+    const CIBitmap out = rendered(ci::maximumScaled(CIImage::fromBitmap(source), 1 / 3.0, 0.5), {0, 0, 2, 2});
+    EXPECT_EQ(at(out, 0, 0, 0), 12);
+    EXPECT_EQ(at(out, 1, 0, 0), 15);
+    EXPECT_EQ(at(out, 1, 1, 2), 35);
+}
+
+TEST(Resample, CubicWindowsReproduceARamp)
+{
+    CIBitmap ramp(40, 1, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+    for (int x = 0; x < 40; ++x)
+        for (int c = 0; c < 4; ++c)
+            ramp.mutableRow<float>(0)[std::size_t(4 * x + c)] = c == 3 ? 1 : float(x) + 0.5f;
+    const CIBitmap out = rendered(ci::cubicScaled(CIImage::fromBitmap(ramp), 2, 1, 1 / 3.0, 1 / 3.0), {0, 0, 80, 1});
+    for (int x = 8; x < 72; ++x)
+        EXPECT_NEAR(at(out, x, 0, 0), (float(x) + 0.5f) / 2, 1e-4f);
+}
