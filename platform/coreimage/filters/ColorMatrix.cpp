@@ -78,11 +78,18 @@ struct WhitePointAdjust {
     Pixel<V> white;
 };
 
+CIInputAttributes whiteColor()
+{
+    CIInputAttributes input = color("inputColor", "Color", CIColor{1, 1, 1, 1});
+    input.identity = input.defaultValue;
+    return input;
+}
+
 const ColorFilter<WhitePointAdjust> whitePointAdjust{{.name = "CIWhitePointAdjust",
     .displayName = "White Point Adjust",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(), color("inputColor", "Color", CIColor{1, 1, 1, 1})}}};
+    .inputs = {image(), whiteColor()}}};
 
 /// Shades of the tint in place of the picture's colors, as far as the intensity says.
 template <class V>
