@@ -22,6 +22,9 @@ struct GridRect {
     GridRect intersected(const GridRect&) const;
 };
 
+/// Division that rounds down, also for cells left of zero.
+inline int floorDiv(int a, int b) { return a >= 0 ? a / b : -((b - 1 - a) / b); }
+
 /// The lattice a render is computed on. The center of cell (i, j) lies at picture position
 /// ((i + 0.5 + phaseX) / scale, (j + 0.5 + phaseY) / scale).
 struct Grid {

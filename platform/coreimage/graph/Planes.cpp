@@ -58,6 +58,7 @@ public:
         , m_kernel(std::move(kernel))
     {
     }
+    void prepare(const Render& render) const override { m_source->prepare(halved(render)); }
     int reach(const Grid& grid) const override
     {
         const auto [x, y] = m_kernel->margin(grid);
@@ -69,8 +70,11 @@ public:
         {
             const ScratchScope scope(scratch);
             const auto [x, y] = m_kernel->margin(render.grid);
-            const GridRect read = area.grown(x, y);
-            const auto in = m_source->open(render, read, scratch);
+            const int cell = 1 << m_kernel->halvings(render.grid);
+            const GridRect wide = area.grown(x, y);
+            const GridRect read{
+                floorDiv(wide.x0, cell), floorDiv(wide.y0, cell), -floorDiv(-wide.x1, cell), -floorDiv(-wide.y1, cell)};
+            const auto in = m_source->open(halved(render), read, scratch);
             if (!render.isCancelled())
                 m_kernel->run(render, *in, read, out, scratch);
         }
@@ -78,6 +82,11 @@ public:
     }
 
 private:
+    Render halved(const Render& render) const
+    {
+        const double cell = 1 << m_kernel->halvings(render.grid);
+        return render.withGrid({render.grid.scale / cell, render.grid.phaseX / cell, render.grid.phaseY / cell});
+    }
     std::shared_ptr<const PassKernel> m_kernel;
 };
 

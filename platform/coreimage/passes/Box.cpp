@@ -100,6 +100,9 @@ CIImage boxBlur(const CIImage& image, double width, double height)
 {
     if (image.isNull() || (width <= 1 && height <= 1))
         return image;
+    constexpr double kWidest = 1000; // px
+    width = std::min(width, kWidest);
+    height = std::min(height, kWidest);
     const CIRect extent = image.extent().grown(std::ceil((width - 1) / 2), std::ceil((height - 1) / 2));
     return CIImage(passNode(image.node(), std::make_shared<BoxPass>(width, height), extent, true));
 }

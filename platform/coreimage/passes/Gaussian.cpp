@@ -14,12 +14,10 @@ namespace ci {
 namespace {
 
 constexpr double kFewCells = 2.5; // below it halving once more would show
+constexpr double kWidest = 2e4; // px; wider, any picture has long become one color
 constexpr double kReach = 3.0; // standard deviations beyond which weights are left out
 
-/// Floor division, also for cells left of zero.
-int floorDiv(int a, int b) { return a >= 0 ? a / b : -((b - 1 - a) / b); }
-
-int halvings(double sigma)
+int halvingsFor(double sigma)
 {
     int n = 0;
     while (sigma / (2 << n) >= kFewCells)
@@ -205,7 +203,7 @@ public:
     Margin margin(const Grid& grid) const override
     {
         const double sigma = m_sigma * grid.scale;
-        const int cell = 1 << halvings(sigma);
+        const int cell = 1 << halvingsFor(sigma);
         const int reach = (int(std::ceil(kReach * sigma / cell)) + 4) * cell;
         return {reach, reach};
     }
@@ -224,11 +222,11 @@ private:
     void blur(const Render& render, RowReader& in, const GridRect& area, const Planes& out, Scratch& scratch) const
     {
         const double sigma = m_sigma * render.grid.scale;
-        const int times = halvings(sigma), cell = 1 << times;
+        const int times = halvingsFor(sigma), cell = 1 << times;
         // What halving and doubling add to the variance: (n² - 1) / 12 and (n² - 1) / 4 cells².
         const double rest = sigma * sigma - (double(cell) * cell - 1) / 3;
         const std::vector<float> weights = gaussianWeights(std::sqrt(std::max(rest, 1e-4)) / cell);
-        const Planes coarse = readHalved(in, area, times, scratch);
+        const Planes coarse = readHalved(in, area, times - halvings(render.grid), scratch);
         if (times == 0) {
             convolve<V>(coarse, out, weights, scratch);
             return;
@@ -244,6 +242,7 @@ private:
             current = next;
         }
     }
+    static constexpr int kOwn = 3; // halvings done here, row by row; the rest by the image itself
     double m_sigma;
 };
 
@@ -254,6 +253,7 @@ CIImage gaussianBlur(const CIImage& image, double sigma)
     constexpr double kNothing = 0.05; // px; the weights of the neighbors would be zero
     if (image.isNull() || sigma < kNothing)
         return image;
+    sigma = std::min(sigma, kWidest);
     const CIRect extent = image.extent().grown(std::ceil(kReach * sigma) + 1);
     return CIImage(passNode(image.node(), std::make_shared<GaussianPass>(sigma), extent, true));
 }
