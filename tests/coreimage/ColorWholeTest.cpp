@@ -55,9 +55,9 @@ TEST(Vibrance, HelpsPaleColorsAndSparesSkin)
             / (*std::max_element(c.begin(), c.end() - 1) - *std::min_element(c.begin(), c.end() - 1));
     };
     const double pale = gain({0.3, 0.35, 0.4, 1}), vivid = gain({0.02, 0.1, 0.6, 1}), skin = gain({0.4, 0.345, 0.3, 1});
-    EXPECT_NEAR(pale, 1.75, 1e-4); // one and as much as it lacks
-    EXPECT_LT(vivid, 1.05);
-    EXPECT_NEAR(skin, 1 + 0.75 * 0.3, 0.01);
+    EXPECT_NEAR(pale, 1 + std::sqrt(0.75), 1e-4);
+    EXPECT_LT(vivid, 1.2);
+    EXPECT_NEAR(skin, 1 + 0.3 * std::sqrt(0.75), 0.01);
     expectColor(result("CIVibrance", kGray, {{"inputAmount", -1}}), kGray);
     EXPECT_LT(result("CIVibrance", {0.3, 0.35, 0.4, 1}, {{"inputAmount", -1}})[2], 0.37);
 }

@@ -124,7 +124,7 @@ struct Vibrance {
     Pixel<V> operator()(const Pixel<V>& p) const
     {
         const V most = max(max(p.r, p.g), p.b), least = min(min(p.r, p.g), p.b), span = most - least;
-        const V pale = 1.0f - saturate(V(span / max(most, 1e-4f)));
+        const V pale = sqrt(clamp(V(least / max(most, 1e-4f)), 0.0f, 1.0f)); // 1 for grays, much as the eye grades it
         // Skin lies around 27 degrees of hue: red the most, blue the least, green a little below the middle.
         const V hue = (p.g - least) / max(span, 1e-4f);
         const V skin = select(p.r >= most && p.b <= least, saturate(1.0f - abs(V(hue - 0.45f)) * (1 / 0.35f)), V(0.0f));

@@ -27,58 +27,69 @@ CIData identityCube()
     return tableData(pixels);
 }
 
-/// Looks a straight color up.
 template <class V>
-struct Lookup {
-    Lookup(const Values& in, std::string_view key, bool display)
-        : cube(tableOf(in, key), sideOf(in), in.flag("inputExtrapolate"))
-        , display(display)
-    {
-    }
-    Pixel<V> operator()(const Pixel<V>& p) const
-    {
-        if (!display)
-            return cube(p);
-        return premultiplied(linearFromDisplay(unpremultiplied(cube(displayFromLinear(p)))));
-    }
-    Cube<V> cube;
-    bool display;
-};
+Cube<V> cubeOf(const Values& in, std::string_view key)
+{
+    return Cube<V>(tableOf(in, key), sideOf(in), in.flag("inputExtrapolate"));
+}
 
 template <class V>
 struct ColorCube {
     explicit ColorCube(const Inputs<V>& in)
-        : lookup(in.values(), "inputCubeData", false)
+        : cube(cubeOf<V>(in.values(), "inputCubeData"))
     {
     }
-    Pixel<V> operator()(const Pixel<V>& p) const { return lookup(unpremultiplied(p)) * p.a; }
-    Lookup<V> lookup;
+    Pixel<V> operator()(const Pixel<V>& p) const { return cube(unpremultiplied(p)) * p.a; }
+    Cube<V> cube;
+};
+
+/// The color space that tables are made for: into it, and with the premultiplied color that was found back to light.
+struct TableSpace {
+    explicit TableSpace(const Values& in)
+        : display(isForDisplay(in))
+    {
+    }
+    template <class V>
+    Pixel<V> into(const Pixel<V>& p) const
+    {
+        return display ? displayFromLinear(unpremultiplied(p)) : unpremultiplied(p);
+    }
+    template <class V>
+    Pixel<V> back(const Pixel<V>& found) const
+    {
+        return display ? premultiplied(linearFromDisplay(unpremultiplied(found))) : found;
+    }
+    bool display;
 };
 
 template <class V>
 struct ColorCubeWithColorSpace {
     explicit ColorCubeWithColorSpace(const Inputs<V>& in)
-        : lookup(in.values(), "inputCubeData", isForDisplay(in.values()))
+        : space(in.values())
+        , cube(cubeOf<V>(in.values(), "inputCubeData"))
     {
     }
-    Pixel<V> operator()(const Pixel<V>& p) const { return lookup(unpremultiplied(p)) * p.a; }
-    Lookup<V> lookup;
+    Pixel<V> operator()(const Pixel<V>& p) const { return space.back(cube(space.into(p))) * p.a; }
+    TableSpace space;
+    Cube<V> cube;
 };
 
-/// The first cube where the mask is black, the second where it is white.
+/// The first cube where the mask is black, the second where it is white; mixed in the cubes' color space.
 template <class V>
 struct ColorCubesMixedWithMask {
     explicit ColorCubesMixedWithMask(const Inputs<V>& in)
-        : dark(in.values(), "inputCube0Data", isForDisplay(in.values()))
-        , light(in.values(), "inputCube1Data", isForDisplay(in.values()))
+        : space(in.values())
+        , dark(cubeOf<V>(in.values(), "inputCube0Data"))
+        , light(cubeOf<V>(in.values(), "inputCube1Data"))
     {
     }
     Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& mask) const
     {
-        const Pixel<V> straight = unpremultiplied(p);
-        return mix(dark(straight), light(straight), saturate(luma(mask))) * p.a;
+        const Pixel<V> at = space.into(p);
+        return space.back(mix(dark(at), light(at), saturate(luma(mask)))) * p.a;
     }
-    Lookup<V> dark, light;
+    TableSpace space;
+    Cube<V> dark, light;
 };
 
 template <template <class> class K>

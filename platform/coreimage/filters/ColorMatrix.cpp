@@ -100,8 +100,8 @@ Pixel<V> tinted(const Pixel<V>& p, const Pixel<V>& tint, const V& intensity)
         mix(p.b, light * tint.b, intensity), p.a};
 }
 
-/// The brown of old prints. The tint is the one of the usual sepia matrix for display values (white becomes 1.351,
-/// 1.203, 0.937), brought to linear light and to luminance 1.
+/// The brown of old prints: by eye, between the usual sepia matrix for display values and the pigment itself, with the
+/// luminance of the picture.
 template <class V>
 struct SepiaTone {
     static constexpr bool keepsAlpha = true;
@@ -111,7 +111,7 @@ struct SepiaTone {
     }
     Pixel<V> operator()(const Pixel<V>& p) const
     {
-        return tinted(p, Pixel<V>{V(1.254f), V(0.968f), V(0.569f), V(1.0f)}, intensity);
+        return tinted(p, Pixel<V>{V(1.42f), V(0.93f), V(0.456f), V(1.0f)}, intensity);
     }
     V intensity;
 };

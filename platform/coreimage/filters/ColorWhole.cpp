@@ -83,7 +83,7 @@ struct DocumentEnhancer {
     static constexpr float kInk = 0.15f, kPaper = 0.85f; // of the surroundings' light
     explicit DocumentEnhancer(const Inputs<V>& in)
         : amount(min(in.scalar("inputAmount"), 1.0f))
-        , darker(max(V(in.scalar("inputAmount")), 1.0f))
+        , darker(max(V(in.scalar("inputAmount") - 1.0f), 0.0f))
     {
     }
     Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& around) const
@@ -92,7 +92,8 @@ struct DocumentEnhancer {
         const auto enhanced = [&](const V& c, const V& paper) {
             const V ratio = c / max(paper, 0.01f);
             const V stretched = saturate(V((ratio - kInk) * (1 / (kPaper - kInk))));
-            return mix(c, V(pow(max(stretched, 1e-6f), darker) * p.a), amount);
+            // Beyond 1 the amount darkens what is neither black nor white.
+            return mix(c, V(stretched / mulAdd(darker, 1.0f - stretched, V(1.0f)) * p.a), amount);
         };
         return {enhanced(p.r, around.r), enhanced(p.g, around.g), enhanced(p.b, around.b), p.a};
     }
