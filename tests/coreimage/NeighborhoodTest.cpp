@@ -92,3 +92,44 @@ TEST(Median, IsTheFifthOfNine)
         return double(nine[4]);
     });
 }
+
+TEST(Convolution, WeighsNeighborsAsAPageIsRead)
+{
+    const CIBitmap source = dot(9, 9, 4, 4);
+    const CIBitmap out = result("CIConvolutionRGB3X3", source,
+        {{"inputWeights", CIVector{0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9}}, {"inputBias", 0.25}});
+    EXPECT_NEAR(at(out, 5, 3, 0), 0.35, 1e-6); // sees the dot at its upper left
+    EXPECT_NEAR(at(out, 3, 4, 1), 0.85, 1e-6); // at its right
+    EXPECT_NEAR(at(out, 4, 5, 2), 1.05, 1e-6); // below
+    EXPECT_NEAR(at(out, 2, 4, 0), 0.25, 1e-6);
+    EXPECT_EQ(at(out, 3, 3, 3), 1);
+    const CIBitmap wide =
+        result("CIConvolution9Horizontal", source, {{"inputWeights", CIVector{1, 0, 0, 0, 0, 0, 0, 0, 2}}});
+    EXPECT_NEAR(at(wide, 8, 4, 0), 1, 1e-6);
+    EXPECT_NEAR(at(wide, 0, 4, 0), 2, 1e-6);
+    EXPECT_TRUE(made("CIConvolution5X5", source, {{"inputBias", 0.1}}).extent().isInfinite());
+    const CIBitmap same = noise(31, 7);
+    EXPECT_EQ(difference(result("CIConvolution7X7", same, {}), same).largest, 0);
+}
+
+TEST(Edges, MeasureTheSlopeOfARamp)
+{
+    CIBitmap ramp(40, 30, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x) {
+            const float height = 0.01f * float(x) + 0.02f * float(29 - y);
+            const float pixel[4] = {0.5f * height, height, 0.25f, 1};
+            std::copy_n(pixel, 4, ramp.mutableRow<float>(y).data() + 4 * x);
+        }
+    // A step of 1 answers 1, so a slope answers twice its rise in a pixel; also where a pixel is half a cell.
+    for (const double scale : {1.0, 0.5}) {
+        const CIBitmap slopes = rendered(made("CISobelGradients", ramp, {}), {10, 10, 20, 10}, scale);
+        EXPECT_NEAR(at(slopes, 3, 3, 0), 0.02, 1e-5) << scale;
+        EXPECT_NEAR(at(slopes, 3, 3, 1), 0.04, 1e-5) << scale;
+        EXPECT_EQ(at(slopes, 3, 3, 2), 0);
+    }
+    const CIBitmap edges = result("CIEdges", ramp, {{"inputIntensity", 10}});
+    EXPECT_NEAR(at(edges, 20, 15, 1), 10 * std::hypot(0.02, 0.04), 1e-4);
+    EXPECT_EQ(at(edges, 20, 15, 2), 0);
+    EXPECT_NEAR(at(edges, 0, 15, 1), 10 * std::hypot(0.01, 0.04), 1e-4); // the edge pixel goes on outside
+}
