@@ -133,3 +133,52 @@ TEST(Edges, MeasureTheSlopeOfARamp)
     EXPECT_EQ(at(edges, 20, 15, 2), 0);
     EXPECT_NEAR(at(edges, 0, 15, 1), 10 * std::hypot(0.01, 0.04), 1e-4); // the edge pixel goes on outside
 }
+
+TEST(MotionBlur, SpreadsADotAlongTheAngle)
+{
+    const CIBitmap source = dot(41, 41, 20, 20);
+    const CIBitmap level = result("CIMotionBlur", source, {{"inputRadius", 5}, {"inputAngle", 0}});
+    expectEach(level, 1e-6, [](int x, int y, int c) {
+        const double inside =
+            std::clamp(std::min(x + 6.0, 46.0 - x), 0.0, 11.0) / 11; // of the window, over the picture
+        return c == 3 ? inside : y == 20 && std::abs(x - 20) <= 5 ? 1 / 11.0 : 0;
+    });
+    const CIBitmap upright = result("CIMotionBlur", source, {{"inputRadius", 5}, {"inputAngle", M_PI / 2}});
+    EXPECT_NEAR(at(upright, 20, 24, 0), 1 / 11.0, 1e-6);
+    EXPECT_EQ(at(upright, 21, 20, 0), 0);
+    const CIBitmap slanted = result("CIMotionBlur", source, {{"inputRadius", 10}, {"inputAngle", 0.4}});
+    double sum = 0, x = 0, y = 0, tilt = 0, length = 0;
+    for (int j = 0; j < 41; ++j)
+        for (int i = 0; i < 41; ++i) {
+            const double v = double(at(slanted, i, j, 1));
+            sum += v, x += v * (i - 20), y += v * (j - 20), tilt += v * (i - 20) * (j - 20);
+            length += v * ((i - 20) * (i - 20) + (j - 20) * (j - 20));
+        }
+    EXPECT_NEAR(sum, 1, 1e-4); // no light is lost, none moves
+    EXPECT_NEAR(x, 0, 1e-3);
+    EXPECT_NEAR(y, 0, 1e-3);
+    EXPECT_NEAR(tilt, std::sin(0.8) / 2 * 10.5 * 10.5 / 3, 0.5);
+    EXPECT_NEAR(length, 10.5 * 10.5 / 3, 1);
+}
+
+TEST(ZoomBlur, PicksUpWhatLiesTowardTheCenter)
+{
+    // Columns of one color each: the blurred value depends on x alone, and can be summed up directly.
+    CIBitmap stripes(600, 60, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+    const auto color = [](double x) { return 0.5 + 0.5 * std::sin(x * 0.05); };
+    for (int y = 0; y < 60; ++y)
+        for (int x = 0; x < 600; ++x)
+            for (std::size_t c = 0; c < 4; ++c)
+                stripes.mutableRow<float>(y)[std::size_t(4 * x) + c] = c == 3 ? 1 : float(color(x + 0.5));
+    const CIBitmap out = result("CIZoomBlur", stripes, {{"inputAmount", 30}, {"inputCenter", CIVector{50, 30}}});
+    for (const int x : {60, 150, 400, 590}) {
+        double sum = 0, weights = 0;
+        for (double t = -0.9995; t < 1; t += 0.001) {
+            const double s = 1 - 5 / 22.0 * (1 - t), weight = std::exp(-0.55 * t * t);
+            sum += weight * color(50 + s * (x + 0.5 - 50));
+            weights += weight;
+        }
+        EXPECT_NEAR(at(out, x, 30, 0), sum / weights, 0.01) << x;
+    }
+    EXPECT_EQ(difference(result("CIZoomBlur", stripes, {{"inputAmount", 0}}), stripes).largest, 0);
+}

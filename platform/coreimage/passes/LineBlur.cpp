@@ -1,0 +1,455 @@
+// Blurs along parallel lines, or along rays. The image is first read along the lines: one value for each line and each
+// step along the axis that the lines follow most. Sums run along that axis, so that the mean over any window is a
+// difference of two sums, whatever its length. Then each pixel takes the mean at its place between two lines.
+#include "platform/coreimage/passes/LineBlur.h"
+
+#include "platform/coreimage/graph/Basics.h"
+#include "platform/coreimage/graph/Interleaved.h"
+#include "platform/coreimage/graph/Planes.h"
+#include "platform/coreimage/kernel/Batch.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace ci {
+
+namespace {
+
+// Everything is measured in cells: `u` along the main axis, `v` across it, both from an origin.
+
+/// A part of a window and the height of its weights.
+struct Box {
+    double from, to, weight;
+};
+constexpr int kMostBoxes = 5;
+struct Window {
+    std::array<Box, kMostBoxes> boxes;
+    int count = 0;
+};
+
+struct Span {
+    double low, high;
+    Span united(const Span& s) const { return {std::min(low, s.low), std::max(high, s.high)}; }
+};
+
+/// A bundle of lines. Line j lies at v = start(u) + j spread(u).
+class Lines {
+public:
+    virtual ~Lines() = default;
+    virtual double start(double u) const = 0;
+    virtual double spread(double u) const = 0;
+    virtual Window windowAt(double u) const = 0;
+    /// The places across, at `u`, whose pixels belong to this bundle.
+    virtual Span covered(double u) const = 0;
+    int count = 0;
+};
+
+class ParallelLines : public Lines {
+public:
+    /// Enough lines for a block.
+    ParallelLines(double slope, double reach, Span u, Span v)
+        : m_slope(slope)
+        , m_reach(reach)
+    {
+        const double a = slope * u.low, b = slope * u.high;
+        // At u = 0 they run through the centers of cells: level lines lose nothing.
+        m_first = v.low + 0.5 + std::floor(-std::max(a, b)) - 1;
+        count = int(std::ceil(v.high - std::min(a, b)) - m_first) + 2;
+    }
+    double start(double u) const override { return m_first + m_slope * u; }
+    double spread(double) const override { return 1; }
+    Window windowAt(double u) const override
+    {
+        const double half = m_reach + 0.5; // cells reach half a step beyond their centers
+        return {{Box{u - half, u + half, 0.5 / half}}, 1};
+    }
+    Span covered(double) const override { return {-1e9, 1e9}; }
+
+private:
+    double m_slope, m_reach, m_first;
+};
+
+class Rays : public Lines {
+public:
+    Rays(double farthest, Span u, Span v, bool withDiagonal)
+        : m_farthest(farthest)
+        , m_withDiagonal(withDiagonal)
+    {
+        double low = 1, high = -1; // slopes
+        for (const double across : {v.low, v.high})
+            for (const double along : {u.low, u.high}) {
+                const double slope = std::clamp(across / (std::abs(along) < 1e-6 ? 1e-6 : along), -1.0, 1.0);
+                low = std::min(low, slope), high = std::max(high, slope);
+            }
+        if (u.low < 1 && u.high > -1)
+            low = -1, high = 1;
+        m_step = 1 / std::max({1.0, std::abs(u.low), std::abs(u.high)});
+        m_first = low - m_step;
+        count = int(std::ceil((high - low) / m_step)) + 4;
+    }
+    double start(double u) const override { return m_first * u; }
+    double spread(double u) const override { return m_step * u; }
+    Window windowAt(double u) const override
+    {
+        // The bell as a stack of boxes: what each adds to the ones around it.
+        static constexpr std::array<double, kMostBoxes + 1> kSides{1, 0.86, 0.7, 0.52, 0.3, 0};
+        static const std::array<double, kMostBoxes> heights = bellHeights(kSides);
+        const double middle = u * (1 + m_farthest) / 2;
+        const double half = std::max(std::abs(u * (1 - m_farthest)) / 2, 0.25);
+        Window window;
+        double total = 0;
+        for (const double side : kSides)
+            if (window.count < kMostBoxes) {
+                const auto i = std::size_t(window.count++);
+                window.boxes[i] = {middle - side * half, middle + side * half, heights[i]};
+                total += heights[i] * 2 * side * half;
+            }
+        for (Box& box : window.boxes)
+            box.weight /= total;
+        return window;
+    }
+    Span covered(double u) const override
+    {
+        const double side = m_withDiagonal ? std::abs(u) + 1e-6 : std::abs(u) - 1e-6;
+        return {-side, side};
+    }
+
+private:
+    static std::array<double, kMostBoxes> bellHeights(const std::array<double, kMostBoxes + 1>& sides)
+    {
+        std::array<double, kMostBoxes> heights{};
+        double below = 0;
+        for (std::size_t i = 0; i < kMostBoxes; ++i) {
+            const double t = (sides[i] + sides[i + 1]) / 2, level = std::exp(-0.55 * t * t);
+            heights[i] = level - below;
+            below = level;
+        }
+        return heights;
+    }
+    double m_farthest, m_step, m_first;
+    bool m_withDiagonal;
+};
+
+/// Which way the main axis runs, and where the origin lies in cells.
+struct Frame {
+    bool upright; // u is y
+    double originU, originV;
+};
+
+/// Reads lines, sums along them and writes one block of interleaved pixels.
+template <class V>
+class LineBlurrer {
+public:
+    LineBlurrer(const Node& source, const Render& render, const Frame& frame, const Lines& lines, Scratch& scratch)
+        : m_source(source)
+        , m_render(render)
+        , m_frame(frame)
+        , m_lines(lines)
+        , m_scratch(scratch)
+        , m_floats(std::size_t(4 * lines.count))
+        , m_stride(m_floats + 2 * kRowPadding)
+    {
+    }
+
+    /// `out` has rows of `stride` floats, its first pixel is the block's lower left one.
+    void blur(const GridRect& block, float* out, std::ptrdiff_t stride)
+    {
+        const bool upright = m_frame.upright;
+        const int from = upright ? block.y0 : block.x0, to = upright ? block.y1 : block.x1;
+        const ScratchScope scope(m_scratch);
+        chooseSteps(from, to);
+        m_sums = m_scratch.floats(m_stride * std::size_t(m_steps + 2));
+        std::fill_n(m_sums, 2 * m_stride, 0.0f);
+        for (int step = 0; step < m_steps; step += kChunk)
+            readChunk(step, std::min(step + kChunk, m_steps));
+        float* const means = m_scratch.floats(m_stride);
+        for (int i = from; i < to; ++i) {
+            const double u = i + 0.5 - m_frame.originU;
+            meansAt(u, means);
+            const std::ptrdiff_t alongStep = upright ? stride : 4, acrossStep = upright ? 4 : stride;
+            write(u, means, upright ? block.x0 : block.y0, upright ? block.x1 : block.y1, out + (i - from) * alongStep,
+                acrossStep);
+        }
+    }
+
+private:
+    static constexpr int kChunk = 64; // steps read at a time, as a block of the image of their own
+    static constexpr int kMostSteps = 20000; // to each side of the block
+
+    /// The steps that the block's windows reach and the image has.
+    void chooseSteps(int from, int to)
+    {
+        const Span read = windowOver(from, to);
+        const GridRect known = m_render.grid.cellsIn(m_source.extent());
+        const int low = std::max(m_frame.upright ? known.y0 : known.x0, from - kMostSteps) - 1;
+        const int high = std::min(m_frame.upright ? known.y1 : known.x1, to + kMostSteps) + 1;
+        m_first = int(std::clamp(std::floor(read.low + m_frame.originU) - 1, double(low), double(high)));
+        m_steps = int(std::clamp(std::ceil(read.high + m_frame.originU) + 1, double(m_first), double(high))) - m_first;
+    }
+
+    Span windowOver(int from, int to) const
+    {
+        Span all{1e9, -1e9};
+        for (int i = from; i < to; ++i) {
+            const Window window = m_lines.windowAt(i + 0.5 - m_frame.originU);
+            for (int k = 0; k < window.count; ++k)
+                all = all.united({window.boxes[std::size_t(k)].from, window.boxes[std::size_t(k)].to});
+        }
+        return all;
+    }
+
+    Span acrossAt(double u) const
+    {
+        const double a = m_lines.start(u), b = a + m_lines.spread(u) * (m_lines.count - 1);
+        return {std::min(a, b), std::max(a, b)};
+    }
+
+    /// Adds the steps `from` to `to` - 1 to the running sums.
+    void readChunk(int from, int to)
+    {
+        const ScratchScope scope(m_scratch);
+        const auto along = [&](int step) { return m_first + step + 0.5 - m_frame.originU; };
+        const Span across = acrossAt(along(from)).united(acrossAt(along(to - 1)));
+        const int low = int(std::floor(across.low + m_frame.originV)) - 1;
+        const int high = int(std::ceil(across.high + m_frame.originV)) + 1;
+        const GridRect wanted = m_frame.upright ? GridRect{low, m_first + from, high, m_first + to}
+                                                : GridRect{m_first + from, low, m_first + to, high};
+        const InterleavedView view = viewOf(wanted);
+        for (int step = from; step < to; ++step)
+            addStep(view, step, along(step));
+    }
+
+    InterleavedView viewOf(const GridRect& wanted)
+    {
+        m_copy = m_source.copyFor(m_render.grid);
+        if (m_copy)
+            return m_copy->viewOn(m_render.grid);
+        const GridRect known = m_render.grid.cellsIn(m_source.extent()).grown(1, 1);
+        GridRect area = wanted.intersected(known);
+        if (area.isEmpty()) // one transparent pixel beside the image
+            area = {known.x0, known.y0, known.x0 + 1, known.y0 + 1};
+        float* const pixels = m_scratch.floats(InterleavedView::floatsFor(area));
+        const ScratchScope scope(m_scratch);
+        const auto reader = m_source.open(m_render, area, m_scratch);
+        for (int y = area.y0; y < area.y1; ++y)
+            writeViewRow(pixels, area, y, reader->row(y));
+        return {area, InterleavedView::strideFor(area), pixels};
+    }
+
+    /// Reads the lines at one step, linearly between the two cells across, on top of the sums before.
+    void addStep(const InterleavedView& view, int step, double u)
+    {
+        const bool upright = m_frame.upright;
+        const int fixed = m_first + step;
+        const float* const before = m_sums + std::size_t(step) * m_stride;
+        float* const sums = m_sums + std::size_t(step + 1) * m_stride;
+        const int low = upright ? view.area.x0 : view.area.y0,
+                  last = (upright ? view.area.width() : view.area.height()) - 1;
+        const bool outside =
+            upright ? fixed < view.area.y0 || fixed >= view.area.y1 : fixed < view.area.x0 || fixed >= view.area.x1;
+        if (outside) {
+            std::copy_n(before, m_floats, sums);
+            return;
+        }
+        const float* const base = upright ? view.at(view.area.x0, fixed) : view.at(fixed, view.area.y0);
+        const std::ptrdiff_t stride = upright ? 4 : view.stride;
+        const float start = float(m_lines.start(u) + m_frame.originV - 0.5 - low), spread = float(m_lines.spread(u));
+        const float farthest = float(last);
+        for (int j = 0; j < m_lines.count; ++j) {
+            const float v = std::clamp(start + float(j) * spread, 0.0f, farthest);
+            const int cell = int(v);
+            const float* const p = base + cell * stride;
+            const Quad near = loadQuad(p);
+            const Quad value = near + (v - float(cell)) * (loadQuad(p + stride) - near);
+            const Quad sum = loadQuad(before + 4 * j) + value;
+            __builtin_memcpy(sums + 4 * j, &sum, sizeof sum);
+        }
+    }
+
+    /// The sum up to place `u`, which lies between two steps: the lower one and the share of the next.
+    std::pair<const float*, float> sumTo(double u) const
+    {
+        const double place = std::clamp(u + m_frame.originU - m_first, 0.0, std::max(0.0, m_steps - 1e-6));
+        const double step = std::floor(place);
+        return {m_sums + std::size_t(step) * m_stride, float(place - step)};
+    }
+
+    void meansAt(double u, float* means) const
+    {
+        const Window window = m_lines.windowAt(u);
+        for (int k = 0; k < window.count; ++k) {
+            const Box& box = window.boxes[std::size_t(k)];
+            const auto [low, lowPart] = sumTo(box.from);
+            const auto [high, highPart] = sumTo(box.to);
+            const V weight(float(box.weight)), a(lowPart), b(highPart);
+            for (std::size_t i = 0; i < m_floats; i += std::size_t(kLanes<V>)) {
+                const V below = mix(loadRow<V>(low + i), loadRow<V>(low + m_stride + i), a);
+                const V above = mix(loadRow<V>(high + i), loadRow<V>(high + m_stride + i), b);
+                const V sum = (above - below) * weight;
+                storeRow(means + i, k ? loadRow<V>(means + i) + sum : sum);
+            }
+        }
+    }
+
+    /// Writes the pixels across at `u` that belong to the bundle, linearly between two lines.
+    void write(double u, const float* means, int from, int to, float* out, std::ptrdiff_t step) const
+    {
+        double spread = m_lines.spread(u);
+        if (std::abs(spread) < 1e-9)
+            spread = 1e-9;
+        const Span covered = m_lines.covered(u);
+        const int first = std::max(from, int(std::ceil(covered.low + m_frame.originV - 0.5)));
+        const int last = std::min(to - 1, int(std::floor(covered.high + m_frame.originV - 0.5)));
+        const float start = float((0.5 - m_frame.originV - m_lines.start(u)) / spread), perCell = float(1 / spread);
+        const float farthest = float(m_lines.count - 2) + 0.999f;
+        for (int i = first; i <= last; ++i) {
+            const float line = std::clamp(start + float(i) * perCell, 0.0f, farthest);
+            const int j = int(line);
+            const Quad near = loadQuad(means + 4 * j);
+            const Quad value = near + (line - float(j)) * (loadQuad(means + 4 * j + 4) - near);
+            __builtin_memcpy(out + (i - from) * step, &value, sizeof value);
+        }
+    }
+
+    const Node& m_source;
+    const Render& m_render;
+    Frame m_frame;
+    const Lines& m_lines;
+    Scratch& m_scratch;
+    std::size_t m_floats, m_stride; // of all lines at one step
+    int m_first = 0, m_steps = 0;
+    float* m_sums = nullptr; // up to the lower side of each step
+    std::shared_ptr<const GridCopy> m_copy;
+};
+
+/// What both blurs share: a block of interleaved pixels that `fill` writes.
+class LineBlurNode : public WrapperNode {
+public:
+    using WrapperNode::WrapperNode;
+    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        const Planes out = Planes::allocate(area, scratch);
+        const GridRect block = area.intersected(render.grid.cellsIn(extent()));
+        if (!block.isEmpty() && !render.isCancelled()) {
+            const ScratchScope scope(scratch);
+            const std::ptrdiff_t stride = 4 * block.width();
+            float* const pixels = scratch.floats(std::size_t(stride) * std::size_t(block.height()));
+            fill(render, block, pixels, stride, scratch);
+            for (int y = block.y0; y < block.y1; ++y)
+                deinterleave(pixels + (y - block.y0) * stride, block.width(), out.row(y, block.x0));
+        }
+        return std::make_unique<PlanesReader>(out, extent(), render, area);
+    }
+
+protected:
+    virtual void fill(const Render&, const GridRect& block, float* pixels, std::ptrdiff_t stride, Scratch&) const = 0;
+
+    void blur(const Render& render, const Frame& frame, const Lines& lines, const GridRect& block, float* pixels,
+        std::ptrdiff_t stride, Scratch& scratch) const
+    {
+        if (render.floats)
+            LineBlurrer<float>(*m_source, render, frame, lines, scratch).blur(block, pixels, stride);
+        else
+            LineBlurrer<Batch>(*m_source, render, frame, lines, scratch).blur(block, pixels, stride);
+    }
+};
+
+class ParallelBlurNode : public LineBlurNode {
+public:
+    ParallelBlurNode(NodePtr source, const CIRect& extent, double angle, double reach)
+        : LineBlurNode(source, extent, source->isOpaque() && source->extent().isInfinite())
+        , m_dx(std::cos(angle))
+        , m_dy(std::sin(angle))
+        , m_reach(reach)
+    {
+    }
+    int reach(const Grid& grid) const override
+    {
+        return int(std::ceil(m_reach * grid.scale)) + 1 + m_source->reach(grid);
+    }
+
+protected:
+    void fill(const Render& render, const GridRect& block, float* pixels, std::ptrdiff_t stride,
+        Scratch& scratch) const override
+    {
+        const bool upright = std::abs(m_dy) > std::abs(m_dx);
+        const double slope = upright ? m_dx / m_dy : m_dy / m_dx;
+        const double reach = m_reach * render.grid.scale * std::max(std::abs(m_dx), std::abs(m_dy));
+        // The lines pass through the picture's origin: tiles must agree on where they run.
+        const Frame frame{upright, upright ? -render.grid.phaseY : -render.grid.phaseX,
+            upright ? -render.grid.phaseX : -render.grid.phaseY};
+        const Span x{block.x0 + render.grid.phaseX, block.x1 + render.grid.phaseX};
+        const Span y{block.y0 + render.grid.phaseY, block.y1 + render.grid.phaseY};
+        const ParallelLines lines(slope, reach, upright ? y : x, upright ? x : y);
+        blur(render, frame, lines, block, pixels, stride, scratch);
+    }
+
+private:
+    double m_dx, m_dy, m_reach;
+};
+
+class RayBlurNode : public LineBlurNode {
+public:
+    RayBlurNode(NodePtr source, const CIRect& extent, CIPoint center, double farthest)
+        : LineBlurNode(source, extent, source->isOpaque() && source->extent().isInfinite())
+        , m_center(center)
+        , m_farthest(farthest)
+    {
+    }
+    int reach(const Grid& grid) const override { return 64 + m_source->reach(grid); }
+
+protected:
+    void fill(const Render& render, const GridRect& block, float* pixels, std::ptrdiff_t stride,
+        Scratch& scratch) const override
+    {
+        const Grid& grid = render.grid;
+        const CIPoint origin{m_center.x * grid.scale - grid.phaseX, m_center.y * grid.scale - grid.phaseY};
+        const Span x{block.x0 - origin.x, block.x1 - origin.x}, y{block.y0 - origin.y, block.y1 - origin.y};
+        // Rays that rise less than the diagonals are followed along x, the others along y.
+        const auto nearest = [](const Span& s) { return s.low > 0 ? s.low : s.high < 0 ? -s.high : 0.0; };
+        const auto farthest = [](const Span& s) { return std::max(std::abs(s.low), std::abs(s.high)); };
+        if (nearest(y) <= farthest(x)) {
+            const Rays rays(m_farthest, x, y, true);
+            blur(render, {false, origin.x, origin.y}, rays, block, pixels, stride, scratch);
+        }
+        if (nearest(x) <= farthest(y)) {
+            const Rays rays(m_farthest, y, x, false);
+            blur(render, {true, origin.y, origin.x}, rays, block, pixels, stride, scratch);
+        }
+    }
+
+private:
+    CIPoint m_center;
+    double m_farthest;
+};
+
+} // namespace
+
+CIImage blurAlong(const CIImage& image, double angle, double reach)
+{
+    constexpr double kFarthest = 1000; // px
+    reach = std::min(reach, kFarthest);
+    if (image.isNull() || reach < 0.05)
+        return image;
+    const CIRect extent = image.extent().grown(
+        std::ceil(reach * std::abs(std::cos(angle))), std::ceil(reach * std::abs(std::sin(angle))));
+    return CIImage(std::make_shared<ParallelBlurNode>(image.node(), extent, angle, reach));
+}
+
+CIImage blurToward(const CIImage& image, CIPoint center, double farthest)
+{
+    if (image.isNull() || std::abs(farthest - 1) < 1e-3)
+        return image;
+    const CIRect& e = image.extent();
+    CIRect extent = e;
+    if (!e.isInfinite()) {
+        const double grow = 1 / farthest;
+        extent = e.united(CIRect{center.x + (e.x - center.x) * grow, center.y + (e.y - center.y) * grow, e.width * grow,
+                              e.height * grow})
+                     .roundedOut();
+    }
+    return CIImage(std::make_shared<RayBlurNode>(image.node(), extent, center, farthest));
+}
+
+} // namespace ci
