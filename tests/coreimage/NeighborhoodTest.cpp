@@ -182,3 +182,25 @@ TEST(ZoomBlur, PicksUpWhatLiesTowardTheCenter)
     }
     EXPECT_EQ(difference(result("CIZoomBlur", stripes, {{"inputAmount", 0}}), stripes).largest, 0);
 }
+
+TEST(Mosaic, PatchesAreOfOneColorAndKeepTheMean)
+{
+    const CIBitmap source = smooth(200, 160);
+    const CIBitmap out = result("CICrystallize", source, {{"inputRadius", 20}});
+    int edges = 0;
+    double sum = 0, whole = 0;
+    for (int y = 0; y < 160; ++y)
+        for (int x = 1; x < 200; ++x) {
+            edges += at(out, x, y, 0) != at(out, x - 1, y, 0);
+            sum += double(at(out, x, y, 0)), whole += double(at(source, x, y, 0));
+        }
+    EXPECT_GT(edges, 160 * 6);
+    EXPECT_LT(edges, 160 * 14); // about one for each patch across
+    EXPECT_NEAR(sum / whole, 1, 0.02);
+    const CIBitmap hexagons =
+        result("CIHexagonalPixellate", source, {{"inputScale", 30}, {"inputCenter", CIVector{100, 80}}});
+    EXPECT_EQ(at(hexagons, 100, 80, 0), at(hexagons, 113, 80, 0)); // the width across flats is 30
+    EXPECT_NE(at(hexagons, 100, 80, 0), at(hexagons, 116, 80, 0));
+    EXPECT_EQ(at(hexagons, 100, 80, 0), at(hexagons, 100, 96, 0)); // and the corners lie 17 up and down
+    EXPECT_NE(at(hexagons, 100, 80, 0), at(hexagons, 100, 99, 0));
+}
