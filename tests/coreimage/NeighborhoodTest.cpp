@@ -134,6 +134,19 @@ TEST(Edges, MeasureTheSlopeOfARamp)
     EXPECT_NEAR(at(edges, 0, 15, 1), 10 * std::hypot(0.01, 0.04), 1e-4); // the edge pixel goes on outside
 }
 
+TEST(Sharpen, WithoutContrastOrAmountKeepsEveryBit)
+{
+    const CIBitmap source = noise(37, 23);
+    for (const char* name : {"CIUnsharpMask", "CISharpenLuminance"}) {
+        const char* amount = name == std::string("CIUnsharpMask") ? "inputIntensity" : "inputSharpness";
+        EXPECT_EQ(difference(result(name, source, {{amount, 0}}), source).largest, 0) << name;
+        EXPECT_EQ(difference(result(name, source, {{"inputRadius", 0}}), source).largest, 0) << name;
+    }
+    const CIBitmap out = result("CIUnsharpMask", dot(31, 31, 15, 15), {{"inputRadius", 2}, {"inputIntensity", 0.5}});
+    EXPECT_NEAR(at(out, 15, 15, 0), 1.5 - 0.5 / (2 * M_PI * 4), 2e-3);
+    EXPECT_LT(at(out, 17, 15, 0), -0.01);
+}
+
 TEST(MotionBlur, SpreadsADotAlongTheAngle)
 {
     const CIBitmap source = dot(41, 41, 20, 20);
@@ -203,4 +216,33 @@ TEST(Mosaic, PatchesAreOfOneColorAndKeepTheMean)
     EXPECT_NE(at(hexagons, 100, 80, 0), at(hexagons, 116, 80, 0));
     EXPECT_EQ(at(hexagons, 100, 80, 0), at(hexagons, 100, 96, 0)); // and the corners lie 17 up and down
     EXPECT_NE(at(hexagons, 100, 80, 0), at(hexagons, 100, 99, 0));
+}
+
+TEST(MaskBlend, TakesTheNamedComponentOfTheMask)
+{
+    const CIImage white = CIImage::fromColor(CIColor(1, 1, 1)), mask = CIImage::fromColor(CIColor(1, 0, 0.5, 1));
+    const auto mixed = [&](const char* name) {
+        const auto f = filter(name, white);
+        f->setValueForKey(CIImage::fromColor(CIColor(0, 0, 0)), "inputBackgroundImage");
+        f->setValueForKey(mask, "inputMaskImage");
+        return double(at(rendered(f->outputImage(), {0, 0, 1, 1}), 0, 0, 0));
+    };
+    const double half = 0.21404; // 0.5 in linear light
+    EXPECT_NEAR(mixed("CIBlendWithRedMask"), 1, 1e-6);
+    EXPECT_NEAR(mixed("CIBlendWithBlueMask"), half, 1e-4);
+    EXPECT_NEAR(mixed("CIBlendWithAlphaMask"), 1, 1e-6);
+    EXPECT_NEAR(mixed("CIBlendWithMask"), 0.2126 + 0.0722 * half, 1e-4);
+}
+
+TEST(Glow, BloomOnlyAddsLightGloomOnlyTakesIt)
+{
+    const CIBitmap source = smooth(90, 70);
+    const CIBitmap bright = result("CIBloom", source, {}), dark = result("CIGloom", source, {});
+    expectEach(source, 0, [&](int x, int y, int c) {
+        EXPECT_GE(at(bright, x, y, c) + 1e-6f, at(source, x, y, c));
+        EXPECT_LE(at(dark, x, y, c), at(source, x, y, c) + 1e-6f);
+        return double(at(source, x, y, c));
+    });
+    EXPECT_EQ(difference(result("CIBloom", source, {{"inputIntensity", 0}}), source).largest, 0);
+    EXPECT_EQ(made("CIBloom", source, {}).extent(), (CIRect{-31, -31, 152, 132}));
 }
