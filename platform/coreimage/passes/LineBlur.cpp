@@ -84,9 +84,10 @@ public:
             }
         if (u.low < 1 && u.high > -1)
             low = -1, high = 1;
-        m_step = 1 / std::max({1.0, std::abs(u.low), std::abs(u.high)});
-        m_first = low - m_step;
-        count = int(std::ceil((high - low) / m_step)) + 4;
+        // A cell apart or less where they are farthest apart. Powers of two, so that most tiles share their rays.
+        m_step = std::exp2(-std::ceil(std::log2(std::max({1.0, std::abs(u.low), std::abs(u.high)}))));
+        m_first = (std::floor(low / m_step) - 1) * m_step;
+        count = int(std::ceil((high - m_first) / m_step)) + 2;
     }
     double start(double u) const override { return m_first * u; }
     double spread(double u) const override { return m_step * u; }
