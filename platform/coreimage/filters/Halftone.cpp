@@ -54,7 +54,9 @@ struct Dots {
         const V part = fine ? V(0.5f * screen.cell) : screen.cell;
         // Dots that even parts of a cell can't show fade into the gray that they average to.
         visible = saturate(V(0.5f / part - 1.0f));
-        perEdge = 1.0f / max(screen.softness, V(part * 4.4f)); // heights rise by at most 4.4 in a period
+        softness = screen.softness;
+        subcell = part;
+        blunt = 2.5f * part * part; // no dot is finer than a part
         offset = 0.25f * in.step();
     }
     V operator()(const V& tone, const Point<V>& from) const
@@ -62,6 +64,9 @@ struct Dots {
         // The level below which the share `tone` of all heights lies; an odd polynomial within 1.2 %.
         const V t = 2.0f * tone - 1.0f, t2 = t * t;
         const V level = t * polynomial(t2, -0.231325f, 0.679021f, 0.552304f);
+        // How steeply heights cross the level: less around small dots than halfway.
+        const V slope = min(V(kTwoPi * sqrt(max(V(1.0f - abs(level) + blunt), 0.0f))), 4.44f);
+        const V perEdge = 1.0f / max(softness, V(subcell * slope));
         const auto light = [&](const V& x, const V& y) {
             const V u = axis.x * x + axis.y * y, v = axis.x * y - axis.y * x;
             const V height = 0.5f * (cosineOfTurns(u) + cosineOfTurns(v));
@@ -75,7 +80,7 @@ struct Dots {
     }
 
     Point<V> axis; // periods per px
-    V visible, perEdge, offset;
+    V visible, softness, subcell, blunt, offset;
     bool fine; // few cells to a period: four parts of each are looked at
 };
 
