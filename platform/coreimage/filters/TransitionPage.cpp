@@ -18,6 +18,7 @@ struct Roll {
             extent = in.image().extent();
         const Span span(bounded(extent), angle);
         line = span.low + in.number("inputTime") * (span.length() + radius);
+        left = std::clamp((span.high + radius - line) / radius, 0.0, 1.0);
     }
     /// Where a corner of the page has gone to.
     CIPoint turned(CIPoint page) const
@@ -43,7 +44,8 @@ struct Roll {
         }
         return all.roundedOut();
     }
-    double angle, radius, line;
+    double angle, radius, line; // px
+    double left; // 1 until the line leaves the extent, 0 when the roll has left it too
 };
 
 /// The roll as kernels see it: places along the angle, counted from the line.
@@ -168,7 +170,7 @@ struct PlainBack {
 template <class V>
 struct Shadow {
     explicit Shadow(const Inputs<V>& in)
-        : amount(in.scalar("inputShadowAmount"))
+        : amount(in.scalar("inputShadowAmount") * float(Roll(in.values()).left))
     {
     }
     Pixel<V> operator()(const Pixel<V>& p) const { return {V(0.0f), V(0.0f), V(0.0f), p.a * amount}; }
