@@ -1,5 +1,6 @@
 // Halftone screens: light and shade as the share of an area that is inked. They work in linear light, where the mean of
 // black and white is what the eye sees from afar, so a screened picture keeps its brightness.
+#include "platform/coreimage/filters/Waves.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 
 namespace ci {
@@ -28,15 +29,6 @@ V lines(const Screen<V>& screen, const V& tone, const V& turns)
         return mulAdd(whole, tone, clamp(V(t - whole - 0.5f * (1.0f - tone)), 0.0f, tone));
     };
     return saturate(V((lightUpTo(turns + 0.5f * width) - lightUpTo(turns - 0.5f * width)) / width));
-}
-
-/// The cosine of whole turns, to five digits.
-template <class V>
-V cosineOfTurns(const V& turns)
-{
-    const V quarter = 0.25f - abs(V(turns - round(turns)));
-    const V s = quarter * quarter;
-    return quarter * polynomial(s, 39.2f, -76.58f, 81.5997f, -41.34155f, 6.283185f);
 }
 
 inline float anyLane(float v) { return v; }

@@ -1,6 +1,7 @@
 // Rays: light that is brighter in some directions than in others.
 #pragma once
 
+#include "platform/coreimage/filters/Waves.h"
 #include "platform/coreimage/kernel/Pixel.h"
 
 #include <array>
@@ -21,11 +22,11 @@ public:
     /// Never negative; with strength and contrast 1 the standard deviation is 0.4.
     V operator()(const Point<V>& from) const
     {
-        const V angle = atan2(from.y, from.x);
+        const V turns = atan2(from.y, from.x) * (1 / kTwoPi);
         V sum(0.0f);
         for (std::size_t i = 0; i < kFrequencies.size(); ++i) {
             const float f = kFrequencies[i], turn = i % 2 ? f : -f;
-            sum = sum + cos(V(angle * f + (kPhases[i] + m_time * (0.13f * turn))));
+            sum = sum + cosineOfTurns(V(turns * f + (kPhases[i] + m_time * (0.13f * turn)) * (1 / kTwoPi)));
         }
         const V hard = sum * m_contrast * 0.2f; // standard deviation 0.45 at contrast 1
         return max(V(1.0f + m_strength * hard / (1.0f + 0.25f * abs(hard))), 0.0f);
