@@ -31,6 +31,36 @@ const WarpFilter<BumpDistortion> bumpDistortion{{.name = "CIBumpDistortion",
         distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 600}),
         scalar("inputScale", "Scale", {.standard = 0.5, .sliderMin = -1, .sliderMax = 1, .identity = 0})}}};
 
+/// The same along one direction: a fold that starts from a line through the center at inputAngle.
+template <class V>
+struct BumpDistortionLinear {
+    explicit BumpDistortionLinear(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , perRadius2(1.0f / max(V(in.scalar("inputRadius") * in.scalar("inputRadius")), 1e-6f))
+        , scale(in.scalar("inputScale"))
+    {
+        const V angle = in.scalar("inputAngle");
+        across = {-sin(angle), cos(angle)};
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const V d = dot(here - center, across);
+        const V inside = max(V(1.0f - d * d * perRadius2), 0.0f);
+        return here - across * V(d * scale * inside * inside);
+    }
+    Point<V> center, across;
+    V perRadius2, scale;
+};
+
+const WarpFilter<BumpDistortionLinear> bumpDistortionLinear{{.name = "CIBumpDistortionLinear",
+    .displayName = "Bump Distortion Linear",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 600, .identity = 0}),
+        angle("inputAngle", "Angle", {.standard = 0, .sliderMin = 0, .sliderMax = 2 * M_PI, .identity = 0}),
+        scalar("inputScale", "Scale", {.standard = 0.5, .min = -1, .sliderMin = 0, .sliderMax = 1, .identity = 1})}}};
+
 /// Turns the picture about the center, by inputAngle there and less and less up to inputRadius.
 template <class V>
 struct TwirlDistortion {
@@ -59,6 +89,35 @@ const WarpFilter<TwirlDistortion> twirlDistortion{{.name = "CITwirlDistortion",
             "inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 500, .identity = 300}),
         angle(
             "inputAngle", "Angle", {.standard = M_PI, .sliderMin = -4 * M_PI, .sliderMax = 4 * M_PI, .identity = 0})}}};
+
+/// Turns like a whirlpool, where speed falls with the distance from its eye, and ends at inputRadius.
+template <class V>
+struct VortexDistortion {
+    explicit VortexDistortion(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , perRadius(1.0f / max(in.scalar("inputRadius"), 1e-3f))
+        , angle(in.scalar("inputAngle"))
+    {
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        const V left = max(V(1.0f - length(d) * perRadius), 0.0f);
+        return center + rotated(d, V(-angle * left * left / (21.0f - 20.0f * left)));
+    }
+    Point<V> center;
+    V perRadius, angle;
+};
+
+const WarpFilter<VortexDistortion> vortexDistortion{{.name = "CIVortexDistortion",
+    .displayName = "Vortex Distortion",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 800, .identity = 0}),
+        angle("inputAngle", "Angle",
+            {.standard = 18 * M_PI, .sliderMin = -30 * M_PI, .sliderMax = 30 * M_PI, .identity = 0})},
+    .tolerance = 1e-3f}}; // last bits of the angle, many turns in
 
 /// Draws the picture within inputRadius towards the center: distances, as parts of the radius, are raised to a power.
 template <class V>
@@ -132,65 +191,105 @@ const RecipeFilter circularWrap{
         return source.extent().isInfinite() ? source : warp<CircularWrap>(in, source, CircularWrap<float>::extent(in));
     }};
 
-/// Bends light by the slope of the texture, which is repeated around the center.
+/// What was at the center is pushed to the rim of the hole, as a stream flows around a cylinder.
 template <class V>
-struct GlassDistortion {
-    explicit GlassDistortion(const Inputs<V>& in)
-        : scale(in.scalar("inputScale"))
-        , apart(max(in.step(), 1.0f))
+struct AroundHole {
+    explicit AroundHole(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , radius2(in.scalar("inputRadius") * in.scalar("inputRadius"))
     {
-    }
-    Pixel<V> operator()(const Sampler<V>& image, const Sampler<V>& texture, const Point<V>& here) const
-    {
-        const auto height = [&](const V& dx, const V& dy) { return luma(texture({here.x + dx, here.y + dy})); };
-        const V bend = scale / apart;
-        const V dx = clamp(V(bend * (height(apart, V(0.0f)) - height(-apart, V(0.0f)))), -kFarthest, kFarthest);
-        const V dy = clamp(V(bend * (height(V(0.0f), apart) - height(V(0.0f), -apart))), -kFarthest, kFarthest);
-        return image({here.x + dx, here.y + dy});
-    }
-    static CIRect regionOfInterest(const Values& in, std::size_t image, const CIRect& wanted)
-    {
-        return wanted.grown(
-            image == 0 ? std::min(double(kFarthest), 2 * in.number("inputScale")) : 2 / std::min(1.0, wanted.width));
-    }
-    static constexpr float kFarthest = 200; // px; steeper texture does not bend more
-    V scale, apart;
-};
-
-template <class V>
-struct Repeat {
-    explicit Repeat(const Inputs<V>& in)
-        : origin(in.point("inputCenter"))
-    {
-        const CIRect tile = in.values().image("inputTexture").extent();
-        left = V(float(tile.left())), bottom = V(float(tile.bottom()));
-        width = V(float(tile.width)), height = V(float(tile.height));
     }
     Point<V> operator()(const Point<V>& here) const
     {
-        return {left + wrap(V(here.x - origin.x), width), bottom + wrap(V(here.y - origin.y), height)};
+        const Point<V> d = here - center;
+        return center + d * max(V(1.0f - radius2 / max(dot(d, d), V(1e-6f))), 0.0f);
     }
-    Point<V> origin;
-    V left, bottom, width, height;
+    Point<V> center;
+    V radius2;
 };
 
-const RecipeFilter glassDistortion{
-    {.name = "CIGlassDistortion",
-        .displayName = "Glass Distortion",
+/// Transparent within the radius, with a rim of one cell.
+template <class V>
+struct Hole {
+    explicit Hole(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , radius(in.scalar("inputRadius"))
+        , perStep(1.0f / in.step())
+    {
+    }
+    Pixel<V> operator()(const Pixel<V>& p, const Point<V>& here) const
+    {
+        return p * saturate(V(mulAdd(length(here - center) - radius, perStep, V(0.5f))));
+    }
+    Point<V> center;
+    V radius, perStep;
+};
+
+const RecipeFilter holeDistortion{
+    {.name = "CIHoleDistortion",
+        .displayName = "Hole Distortion",
         .category = kCICategoryDistortionEffect,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputTexture", "Texture"), center(),
-            distance("inputScale", "Scale",
-                {.standard = 200, .min = 0, .sliderMin = 0.01, .sliderMax = 500, .identity = 0})},
-        .tolerance = 2e-2f}, // a last bit at the texture's seam moves the place by a pixel's fraction
+        .inputs = {image(), center(),
+            distance("inputRadius", "Radius",
+                {.standard = 150, .min = 0.01, .sliderMin = 0.01, .sliderMax = 1000, .identity = 0.1})}},
     [](const Values& in) {
-        const CIImage source = in.image(), texture = in.image("inputTexture");
-        if (texture.extent().isInfinite() || texture.extent().isEmpty())
-            return source;
-        const CIImage tile = CIImage(clampNode(sharedNode(texture.node())));
-        const CIImage repeated = warp<Repeat>(in, tile, CIRect::infinite());
-        return general<GlassDistortion>(in, {source, repeated}, source.extent());
+        const CIImage source = in.image();
+        return pointwise<Hole>(in, {warp<AroundHole>(in, source, source.extent())}, source.extent());
     }};
+
+/// The colors on a circle run outwards from it.
+template <class V>
+struct CircleSplash {
+    explicit CircleSplash(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , radius(in.scalar("inputRadius"))
+    {
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        return center + d * min(V(radius / max(length(d), V(1e-3f))), 1.0f);
+    }
+    static CIRect extent(const Values&) { return CIRect::infinite(); }
+    Point<V> center;
+    V radius;
+};
+
+const WarpFilter<CircleSplash> circleSplashDistortion{{.name = "CICircleSplashDistortion",
+    .displayName = "Circle Splash Distortion",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        distance("inputRadius", "Radius", {.standard = 150, .min = 0, .sliderMin = 0, .sliderMax = 1000})}}};
+
+/// The same, and the streaks wind around the circle in logarithmic spirals.
+template <class V>
+struct LightTunnel {
+    explicit LightTunnel(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , rotation(in.scalar("inputRotation"))
+        , radius(max(in.scalar("inputRadius"), 1e-2f))
+    {
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        const V out = max(V(length(d) / radius), 1.0f);
+        return center + rotated(d, V(-rotation * log(out))) * V(1.0f / out);
+    }
+    static CIRect extent(const Values&) { return CIRect::infinite(); }
+    Point<V> center;
+    V rotation, radius;
+};
+
+const WarpFilter<LightTunnel> lightTunnel{{.name = "CILightTunnel",
+    .displayName = "Light Tunnel Distortion",
+    .category = kCICategoryDistortionEffect,
+    .usage = Video | HighDynamicRange,
+    .inputs = {image(), center(),
+        angle("inputRotation", "Rotation", {.standard = 0, .sliderMin = 0, .sliderMax = M_PI / 2, .identity = 0}),
+        distance("inputRadius", "Radius", {.standard = 100, .sliderMin = 1, .sliderMax = 500, .identity = 0})}}};
 
 } // namespace
 } // namespace ci

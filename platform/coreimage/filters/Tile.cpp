@@ -1,4 +1,5 @@
 // Tiles: the plane covered with parts of the picture.
+#include "platform/coreimage/graph/Projection.h"
 #include "platform/coreimage/kernel/SampleFilter.h"
 
 namespace ci {
@@ -35,7 +36,9 @@ const RecipeFilter affineTile{{.name = "CIAffineTile",
             return source.transformed(in.transform("inputTransform"));
         if (!in.transform("inputTransform").inverted())
             return CIImage();
-        return warp<AffineTile>(in, CIImage(clampNode(sharedNode(source.node()))), CIRect::infinite());
+        const CIAffineTransform t = in.transform("inputTransform");
+        const double magnification = std::max(std::hypot(t.a, t.b), std::hypot(t.c, t.d));
+        return warp<AffineTile>(in, CIImage(clampNode(sharedNode(source.node()))), CIRect::infinite(), magnification);
     }};
 
 /// Angles around the center are folded, mirrored each time, into one sector of half a turn over inputCount.
@@ -78,6 +81,80 @@ const WarpFilter<Kaleidoscope> kaleidoscope{{.name = "CIKaleidoscope",
     .inputs = {image(), scalar("inputCount", "Count", {.standard = 6, .min = 1, .sliderMin = 1, .sliderMax = 64}),
         center(),
         angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0})}}};
+
+/// Each square of inputWidth shows the picture around its middle, reduced by inputScale and turned.
+template <class V>
+struct OpTile {
+    explicit OpTile(const Inputs<V>& in)
+        : center(in.point("inputCenter"))
+        , width(max(in.scalar("inputWidth"), 1.0f))
+    {
+        const V angle = in.scalar("inputAngle"), scale = in.scalar("inputScale");
+        c = scale * cos(angle), s = scale * sin(angle);
+    }
+    Point<V> operator()(const Point<V>& here) const
+    {
+        const Point<V> d = here - center;
+        const Point<V> middle{floor(V(d.x / width + 0.5f)) * width, floor(V(d.y / width + 0.5f)) * width};
+        const Point<V> q = d - middle;
+        return center + middle + Point<V>{c * q.x - s * q.y, s * q.x + c * q.y};
+    }
+    static CIRect extent(const Values&) { return CIRect::infinite(); }
+    Point<V> center;
+    V width, c, s;
+};
+
+const RecipeFilter opTile{
+    {.name = "CIOpTile",
+        .displayName = "Op Tile",
+        .category = kCICategoryTileEffect,
+        .usage = Video | HighDynamicRange,
+        .inputs = {image(), center(),
+            scalar(
+                "inputScale", "Scale", {.standard = 2.8, .min = 0, .sliderMin = 0.1, .sliderMax = 10, .identity = 1}),
+            angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0}),
+            distance(
+                "inputWidth", "Width", {.standard = 65, .min = 0, .sliderMin = 1, .sliderMax = 1000, .identity = 65})},
+        .tolerance = 2e-3f}, // last bits of places beside a seam
+    [](const Values& in) {
+        return warp<OpTile>(in, in.image(), CIRect::infinite(), 1 / std::max(in.number("inputScale"), 1e-2));
+    }};
+
+/// The picture repeated without end on a plane, of which one tile lies between the four points.
+const RecipeFilter perspectiveTile{{.name = "CIPerspectiveTile",
+                                       .displayName = "Perspective Tile",
+                                       .category = kCICategoryTileEffect,
+                                       .usage = Video | HighDynamicRange,
+                                       .inputs = {image(), position("inputTopLeft", "Top Left", {118, 484}),
+                                           position("inputTopRight", "Top Right", {646, 507}),
+                                           position("inputBottomRight", "Bottom Right", {548, 140}),
+                                           position("inputBottomLeft", "Bottom Left", {155, 153})},
+                                       .tolerance = 5e-3f}, // last bits of places beside a seam, far away
+    [](const Values& in) {
+        const CIImage source = in.image();
+        if (source.extent().isInfinite() || source.extent().isEmpty())
+            return source;
+        const auto map = Projection::between(Quadrilateral::of(source.extent()),
+            {in.point("inputBottomLeft"), in.point("inputBottomRight"), in.point("inputTopRight"),
+                in.point("inputTopLeft")});
+        return map ? projectedTiles(source, *map) : CIImage();
+    }};
+
+/// The pixels at the rectangle's edges repeated without end.
+const RecipeFilter clampFilter{{.name = "CIClamp",
+                                   .displayName = "Clamp",
+                                   .category = kCICategoryTileEffect,
+                                   .usage = Video | HighDynamicRange,
+                                   .inputs = {image(), rectangle("inputExtent", "Extent", {0, 0, 640, 80})}},
+    [](const Values& in) { return in.image().cropped(in.rect("inputExtent")).clampedToExtent(); }};
+
+/// Transformed, and the edge pixels repeated without end.
+const RecipeFilter affineClamp{{.name = "CIAffineClamp",
+                                   .displayName = "Affine Clamp",
+                                   .category = kCICategoryTileEffect,
+                                   .usage = Video | HighDynamicRange,
+                                   .inputs = {image(), transform()}},
+    [](const Values& in) { return in.image().clampedToExtent().transformed(in.transform("inputTransform")); }};
 
 } // namespace
 } // namespace ci

@@ -44,7 +44,8 @@ CIImage affine(const CIImage& image, const CIAffineTransform& t)
     if (!inverse)
         return {};
     const Values values(inverseDeclaration(), {{"inverse", *inverse}});
-    return warp<AffineWarp>(values, image, t.mapRect(image.extent()));
+    const double magnification = std::max(std::hypot(t.a, t.b), std::hypot(t.c, t.d));
+    return warp<AffineWarp>(values, image, t.mapRect(image.extent()), magnification);
 }
 
 CIImage sourceOver(const CIImage& image, const CIImage& background)

@@ -96,7 +96,7 @@ Projection Projection::facing(CIPoint p) const
 CIRect Projection::mapRect(const CIRect& r) const
 {
     // The rectangle's corners, cut off where less than a part of the middle's depth remains.
-    constexpr double kNearest = 0.1;
+    constexpr double kNearest = 0.2;
     const Projection front = facing(r.center());
     const double least = kNearest * front.depth(r.center());
     const Quadrilateral q = Quadrilateral::of(r);
@@ -185,6 +185,18 @@ std::optional<Values> valuesFor(const CIImage& image, const Projection& map)
         {{"inverse", CIVector(std::vector<double>(back.m.begin(), back.m.end()))}, {"inputImage", image}});
 }
 
+/// In the middle of the image.
+double magnificationOf(const CIImage& image, const Projection& map)
+{
+    if (image.extent().isInfinite())
+        return 1;
+    const CIPoint c = image.extent().center();
+    const CIPoint p = map.map({c.x - 0.5, c.y - 0.5}), x = map.map({c.x + 0.5, c.y - 0.5}),
+                  y = map.map({c.x - 0.5, c.y + 0.5});
+    const double m = std::max(std::hypot(x.x - p.x, x.y - p.y), std::hypot(y.x - p.x, y.y - p.y));
+    return std::isfinite(m) && m > 0 ? m : 1;
+}
+
 } // namespace
 
 CIImage projected(const CIImage& image, const Projection& map, const CIRect& extent)
@@ -192,7 +204,7 @@ CIImage projected(const CIImage& image, const Projection& map, const CIRect& ext
     if (image.isNull())
         return {};
     const auto values = valuesFor(image, map);
-    return values ? warp<ProjectiveWarp>(*values, image, extent) : CIImage();
+    return values ? warp<ProjectiveWarp>(*values, image, extent, magnificationOf(image, map)) : CIImage();
 }
 
 CIImage projectedTiles(const CIImage& image, const Projection& map)
@@ -201,7 +213,7 @@ CIImage projectedTiles(const CIImage& image, const Projection& map)
         return image;
     const auto values = valuesFor(image, map);
     const CIImage tile(clampNode(sharedNode(image.node())));
-    return values ? warp<ProjectiveTiles>(*values, tile, CIRect::infinite()) : CIImage();
+    return values ? warp<ProjectiveTiles>(*values, tile, CIRect::infinite(), magnificationOf(image, map)) : CIImage();
 }
 
 } // namespace ci

@@ -1,6 +1,7 @@
 #include "platform/coreimage/graph/Sample.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -50,24 +51,27 @@ constexpr int kSmallestBlock = 16; // cells a side; below it a far-flung region 
 class SampleNode : public Node {
 public:
     SampleNode(const SampleKernels& kernels, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
-        const CIRect& extent, bool opaque)
+        const CIRect& extent, bool opaque, double magnification)
         : Node(extent, opaque)
         , m_kernels(kernels)
         , m_values(std::move(values))
         , m_images(std::move(images))
+        , m_magnification(stepped(magnification))
     {
     }
     void prepare(const Render& render) const override
     {
-        for (const NodePtr& image : m_images)
-            image->prepare(render);
+        for (std::size_t i = 0; i < m_images.size(); ++i)
+            m_images[i]->prepare(render.withGrid(imageGrid(i, render.grid)));
     }
     int reach(const Grid& grid) const override
     {
-        int most = 0;
-        for (const NodePtr& image : m_images)
-            most = std::max(most, image->reach(grid));
-        return most + 1;
+        double most = 0;
+        for (std::size_t i = 0; i < m_images.size(); ++i) {
+            const Grid cells = imageGrid(i, grid);
+            most = std::max(most, m_images[i]->reach(cells) * grid.scale / cells.scale);
+        }
+        return int(most) + 1;
     }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
@@ -81,6 +85,24 @@ public:
     }
 
 private:
+    /// In steps, so that a slider's move does not need a newly reduced image each time.
+    double stepped(double magnification) const
+    {
+        const CIRect extent = m_images.empty() ? CIRect() : m_images.back()->extent();
+        const double smallest = extent.isInfinite() ? 1 : std::min(extent.width, extent.height);
+        constexpr double kFewest = 16; // cells that are left of an image, however small it becomes
+        const double least = std::min(1.0, kFewest / std::max(smallest, kFewest));
+        return std::clamp(std::exp2(std::ceil(2 * std::log2(magnification) - 0.01) / 2), least, 1e4);
+    }
+    Grid imageGrid(std::size_t index, const Grid& grid) const
+    {
+        if (index + 1 < m_images.size())
+            return grid;
+        // A bitmap has no more detail than its pixels.
+        const double scale = std::min(grid.scale * m_magnification, std::max(grid.scale, 1.0));
+        return m_magnification == 1 || scale == grid.scale ? grid : Grid{scale};
+    }
+
     /// Blocks whose places lie far apart in the images are split, so that no block reads much more than it writes.
     void fill(SampleKernel& kernel, const Render& render, const Planes& out, const GridRect& block, Scratch& scratch,
         double readBefore) const
@@ -88,15 +110,19 @@ private:
         if (render.isCancelled())
             return;
         const ScratchScope scope(scratch);
+        std::vector<SampledArea> areas;
+        areas.reserve(m_images.size());
         std::vector<GridRect> regions;
         double read = 0;
         for (std::size_t i = 0; i < m_images.size(); ++i) {
-            const GridRect known = render.grid.cellsIn(m_images[i]->extent());
-            regions.push_back(kernel.region(i, render.grid, block, scratch));
-            if (m_images[i]->copyFor(render.grid))
-                continue; // reading it anywhere costs nothing
-            const GridRect inside = regions.back().intersected(known);
-            read += double(inside.width()) * inside.height();
+            const Render on = render.withGrid(imageGrid(i, render.grid));
+            regions.push_back(kernel.region(i, render.grid, on.grid, block, areas.data(), scratch));
+            if (i < kernel.guideCount())
+                areas.emplace_back(*m_images[i], on, regions[i], scratch);
+            else if (!m_images[i]->copyFor(on.grid)) { // reading a copy anywhere costs nothing
+                const GridRect inside = regions[i].intersected(on.grid.cellsIn(m_images[i]->extent()));
+                read += double(inside.width()) * inside.height();
+            }
         }
         const double written = double(block.width()) * block.height();
         const bool shrinks = read < 0.9 * readBefore; // else splitting only reads the same again
@@ -113,24 +139,23 @@ private:
                 fill(kernel, render, out, second, scratch, read);
             return;
         }
-        std::vector<SampledArea> areas;
-        areas.reserve(m_images.size());
-        for (std::size_t i = 0; i < m_images.size(); ++i)
-            areas.emplace_back(*m_images[i], render, regions[i], scratch);
+        for (std::size_t i = areas.size(); i < m_images.size(); ++i)
+            areas.emplace_back(*m_images[i], render.withGrid(imageGrid(i, render.grid)), regions[i], scratch);
         kernel.run(areas.data(), render.grid, out, block);
     }
 
     SampleKernels m_kernels;
     std::shared_ptr<const Values> m_values;
     std::vector<NodePtr> m_images;
+    double m_magnification; // of the last image
 };
 
 } // namespace
 
 NodePtr sampleNode(const SampleKernels& kernels, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
-    const CIRect& extent, bool opaque)
+    const CIRect& extent, bool opaque, double magnification)
 {
-    return std::make_shared<SampleNode>(kernels, std::move(values), std::move(images), extent, opaque);
+    return std::make_shared<SampleNode>(kernels, std::move(values), std::move(images), extent, opaque, magnification);
 }
 
 } // namespace ci

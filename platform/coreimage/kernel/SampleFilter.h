@@ -7,6 +7,13 @@
 //     static CIRect extent(const Values&);                // default: that of the first image
 // };
 //
+// A guided warp asks another image first; it reads that around its own place, or where `guideRegion` says:
+// template <class V> struct Example {
+//     explicit Example(const Inputs<V>& in);
+//     Point<V> operator()(const Sampler<V>& guide, const Point<V>& here) const;
+//     static CIRect guideRegion(const Values&, const CIRect& wanted);
+// };
+//
 // A general kernel gets one sampler for each image and says what it reads of each:
 // template <class V> struct Example {
 //     explicit Example(const Inputs<V>& in);
@@ -51,28 +58,42 @@ void storePart(const MutableRow& row, int i, int count, const Pixel<V>& p)
     std::copy_n(planes[3], rest, row.a + i);
 }
 
+/// The picture rectangle of a block of cells.
+inline CIRect rectOf(const Grid& grid, const GridRect& block)
+{
+    const double step = 1 / grid.scale;
+    return {
+        (block.x0 + grid.phaseX) * step, (block.y0 + grid.phaseY) * step, block.width() * step, block.height() * step};
+}
+
 template <template <class> class K, class V>
 class WarpKernelOf : public SampleKernel {
 public:
     WarpKernelOf(const Values& values, const Grid& grid)
-        : m_kernel(Inputs<V>(values, grid.step()))
+        : m_values(values)
+        , m_kernel(Inputs<V>(values, grid.step()))
     {
     }
+    std::size_t guideCount() const override { return kGuides; }
 
-    GridRect region(std::size_t, const Grid& grid, const GridRect& block, Scratch& scratch) override
+    GridRect region(std::size_t index, const Grid& grid, const Grid& imageGrid, const GridRect& block,
+        const SampledArea* guides, Scratch& scratch) override
     {
+        if (index < kGuides)
+            return guideRegion(grid, block);
+        m_step = imageGrid.step();
         m_stride = std::size_t(block.width() + kRowPadding);
         m_x = scratch.floats(m_stride * std::size_t(block.height()));
         m_y = scratch.floats(m_stride * std::size_t(block.height()));
+        const V scale(float(imageGrid.scale));
         V left(kFar), right(-kFar), bottom(kFar), top(-kFar);
         for (int y = block.y0; y < block.y1; ++y) {
             float* const x = m_x + std::size_t(y - block.y0) * m_stride;
             float* const up = m_y + std::size_t(y - block.y0) * m_stride;
             forEachPlace<V>(grid, block, y, [&](int i, const Point<V>& here) {
                 // Places in cells; NaN and what is out of this world become a far one, transparent in the end.
-                const Point<V> there = m_kernel(here);
-                const V cx = clamp(V(there.x * V(float(grid.scale))), -kFar, kFar);
-                const V cy = clamp(V(there.y * V(float(grid.scale))), -kFar, kFar);
+                const Point<V> there = place(guides, here);
+                const V cx = clamp(V(there.x * scale), -kFar, kFar), cy = clamp(V(there.y * scale), -kFar, kFar);
                 storeRow(x + i, cx);
                 storeRow(up + i, cy);
                 left = min(cx, left), right = max(cx, right);
@@ -80,26 +101,43 @@ public:
             });
         }
         const auto cell = [](double v) { return int(std::floor(v)); };
-        return {cell(lowest(left) - grid.phaseX - 0.5), cell(lowest(bottom) - grid.phaseY - 0.5),
-            cell(-lowest(V(-right)) - grid.phaseX - 0.5) + 2, cell(-lowest(V(-top)) - grid.phaseY - 0.5) + 2};
+        return {cell(lowest(left) - imageGrid.phaseX - 0.5), cell(lowest(bottom) - imageGrid.phaseY - 0.5),
+            cell(-lowest(V(-right)) - imageGrid.phaseX - 0.5) + 2, cell(-lowest(V(-top)) - imageGrid.phaseY - 0.5) + 2};
     }
 
-    void run(const SampledArea* images, const Grid& grid, const Planes& out, const GridRect& block) override
+    void run(const SampledArea* images, const Grid&, const Planes& out, const GridRect& block) override
     {
-        const V step(grid.step());
+        const V step(m_step);
         for (int y = block.y0; y < block.y1; ++y) {
             const std::size_t start = std::size_t(y - block.y0) * m_stride;
             const MutableRow row = out.row(y, block.x0);
             for (int i = 0; i < block.width(); i += kLanes<V>) {
                 const std::size_t at = start + std::size_t(i);
                 const Point<V> there{loadRow<V>(m_x + at) * step, loadRow<V>(m_y + at) * step};
-                storePart(row, i, block.width(), images[0].linear(there));
+                storePart(row, i, block.width(), images[kGuides].linear(there));
             }
         }
     }
 
 private:
     static constexpr float kFar = 1e8f;
+    static constexpr bool kGuided = std::invocable<const K<V>&, Sampler<V>, Point<V>>;
+    static constexpr std::size_t kGuides = kGuided ? 1 : 0;
+
+    Point<V> place([[maybe_unused]] const SampledArea* guides, const Point<V>& here) const
+    {
+        if constexpr (kGuided)
+            return m_kernel(Sampler<V>(guides[0]), here);
+        else
+            return m_kernel(here);
+    }
+    GridRect guideRegion(const Grid& grid, const GridRect& block) const
+    {
+        if constexpr (requires { K<V>::guideRegion(m_values, CIRect()); })
+            return grid.cellsTouching(K<V>::guideRegion(m_values, rectOf(grid, block)));
+        else
+            return block;
+    }
     static double lowest(float v) { return double(v); }
     static double lowest(const Batch& v)
     {
@@ -108,7 +146,9 @@ private:
         return double(*std::min_element(lanes, lanes + kLanes<Batch>));
     }
 
+    const Values& m_values;
     K<V> m_kernel;
+    float m_step = 1; // of the image's grid
     std::size_t m_stride = 0;
     float *m_x = nullptr, *m_y = nullptr; // places of the block, in cells
 };
@@ -122,12 +162,10 @@ public:
     {
     }
 
-    GridRect region(std::size_t index, const Grid& grid, const GridRect& block, Scratch&) override
+    GridRect region(std::size_t index, const Grid& grid, const Grid& imageGrid, const GridRect& block,
+        const SampledArea*, Scratch&) override
     {
-        const double step = 1 / grid.scale;
-        const CIRect wanted{(block.x0 + grid.phaseX) * step, (block.y0 + grid.phaseY) * step, block.width() * step,
-            block.height() * step};
-        return grid.cellsTouching(K<V>::regionOfInterest(m_values, index, wanted));
+        return imageGrid.cellsTouching(K<V>::regionOfInterest(m_values, index, rectOf(grid, block)));
     }
     void run(const SampledArea* images, const Grid& grid, const Planes& out, const GridRect& block) override
     {
@@ -178,14 +216,24 @@ inline std::vector<NodePtr> nodesOf(const std::vector<CIImage>& images)
 
 } // namespace detail
 
-/// The image that a warp makes of another.
+/// The image that a warp makes of another. `magnification`: see sampleNode.
 template <template <class> class K>
-CIImage warp(const Values& values, const CIImage& source, const CIRect& extent)
+CIImage warp(const Values& values, const CIImage& source, const CIRect& extent, double magnification = 1)
 {
     const SampleKernels kernels{&detail::makeSampleKernel<detail::WarpKernelOf<K, Batch>>,
         &detail::makeSampleKernel<detail::WarpKernelOf<K, float>>};
     const bool opaque = source.extent().isInfinite() && source.node()->isOpaque();
-    return CIImage(sampleNode(kernels, std::make_shared<Values>(values), {source.node()}, extent, opaque));
+    return CIImage(
+        sampleNode(kernels, std::make_shared<Values>(values), {source.node()}, extent, opaque, magnification));
+}
+
+/// The image that a guided warp makes of `source`.
+template <template <class> class K>
+CIImage guidedWarp(const Values& values, const CIImage& guide, const CIImage& source, const CIRect& extent)
+{
+    const SampleKernels kernels{&detail::makeSampleKernel<detail::WarpKernelOf<K, Batch>>,
+        &detail::makeSampleKernel<detail::WarpKernelOf<K, float>>};
+    return CIImage(sampleNode(kernels, std::make_shared<Values>(values), detail::nodesOf({guide, source}), extent));
 }
 
 /// The image that a general kernel makes of others.
