@@ -1,53 +1,7 @@
 // Filters that look at the pixels around: slow twins, identities and values worked out by hand.
-#include "tests/coreimage/Pictures.h"
-
-#include <functional>
-#include <gtest/gtest.h>
+#include "tests/coreimage/Neighborhood.h"
 
 using namespace pictures;
-
-namespace {
-
-CIImage made(const std::string& name, const CIBitmap& source, const CIDictionary& inputs)
-{
-    const auto f = filter(name, CIImage::fromBitmap(source));
-    for (const auto& [key, value] : inputs)
-        f->setValueForKey(value, key);
-    return f->outputImage();
-}
-
-CIBitmap result(const std::string& name, const CIBitmap& source, const CIDictionary& inputs)
-{
-    return rendered(made(name, source, inputs), CIImage::fromBitmap(source).extent());
-}
-
-float outsideZero(const CIBitmap& b, int x, int y, int c)
-{
-    return x < 0 || y < 0 || x >= b.width() || y >= b.height() ? 0 : at(b, x, y, c);
-}
-
-/// One bright opaque pixel on opaque black.
-CIBitmap dot(int width, int height, int x, int y)
-{
-    CIBitmap bitmap(width, height, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int line = 0; line < height; ++line)
-        for (std::size_t i = 3; i < bitmap.mutableRow<float>(line).size(); i += 4)
-            bitmap.mutableRow<float>(line)[i] = 1;
-    for (std::size_t c = 0; c < 3; ++c)
-        bitmap.mutableRow<float>(height - 1 - y)[std::size_t(4 * x) + c] = 1;
-    return bitmap;
-}
-
-/// Compares each component of each pixel with what `expected(x, y, c)` says.
-void expectEach(const CIBitmap& out, double tolerance, const std::function<double(int, int, int)>& expected)
-{
-    for (int y = 0; y < out.height(); ++y)
-        for (int x = 0; x < out.width(); ++x)
-            for (int c = 0; c < 4; ++c)
-                ASSERT_NEAR(double(at(out, x, y, c)), expected(x, y, c), tolerance) << x << ", " << y << ", " << c;
-}
-
-} // namespace
 
 TEST(Morphology, EqualsASearchThroughTheNeighborhood)
 {

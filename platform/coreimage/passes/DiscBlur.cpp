@@ -1,0 +1,186 @@
+// Means over discs, a row at a time: sums along the rows turn each chord into the difference of two values. Large discs
+// are summed on a halved image, so that a disc never has more than a few rows.
+#include "platform/coreimage/passes/DiscBlur.h"
+
+#include "platform/coreimage/graph/Planes.h"
+#include "platform/coreimage/kernel/PointwiseFilter.h"
+#include "platform/coreimage/kernel/Table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace ci {
+
+namespace {
+
+constexpr double kMostCells = 12; // the radius above which the image is halved
+constexpr double kWidest = 2000; // px
+
+/// The part of a disc in one row of cells: `half` cells to each side of the middle.
+struct Chord {
+    int row;
+    float half, weight;
+};
+
+void addDisc(std::vector<Chord>& chords, double radius, double weight)
+{
+    constexpr int kParts = 16; // a row is wider at one side than at the other
+    const int rows = int(std::ceil(radius + 0.5)) - 1;
+    for (int row = -rows; row <= rows; ++row) {
+        double half = 0;
+        for (int part = 0; part < kParts; ++part) {
+            const double y = row + (part + 0.5) / kParts - 0.5;
+            half += std::sqrt(std::max(0.0, radius * radius - y * y)) / kParts;
+        }
+        chords.push_back({row, float(half), float(weight)});
+    }
+}
+
+class DiscPass : public PassKernel {
+public:
+    explicit DiscPass(const Disc& disc)
+        : m_disc(disc)
+    {
+    }
+    int halvings(const Grid& grid) const override
+    {
+        return std::max(0, int(std::ceil(std::log2(radiusOn(grid) / kMostCells))));
+    }
+    Margin margin(const Grid& grid) const override
+    {
+        const int cell = 1 << halvings(grid), reach = (int(std::ceil(radiusOn(grid) / cell)) + 3) * cell;
+        return {reach, reach};
+    }
+    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
+        Scratch& scratch) const override
+    {
+        const Planes in = Planes::allocate(area, scratch);
+        in.fill(reader);
+        if (render.floats)
+            blur<float>(render.grid, in, out, scratch);
+        else
+            blur<Batch>(render.grid, in, out, scratch);
+    }
+
+private:
+    /// In cells. At radius 0 the disc is as large as a pixel.
+    double radiusOn(const Grid& grid) const
+    {
+        const double r = m_disc.radius * grid.scale;
+        return std::sqrt(r * r + 1 / M_PI);
+    }
+
+    std::vector<Chord> chordsOn(const Grid& grid, int cell) const
+    {
+        std::vector<Chord> chords;
+        const double radius = radiusOn(grid) / cell, inner = radius * m_disc.ringFrom;
+        addDisc(chords, radius, 1 + m_disc.ringAmount);
+        if (m_disc.ringAmount > 0 && inner > 0.5)
+            addDisc(chords, inner, -m_disc.ringAmount);
+        double total = 0;
+        for (const Chord& chord : chords)
+            total += 2 * double(chord.half) * double(chord.weight);
+        for (Chord& chord : chords)
+            chord.weight = float(double(chord.weight) / total);
+        return chords;
+    }
+
+    template <class V>
+    void blur(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
+    {
+        const int times = halvings(grid), cell = 1 << times;
+        const std::vector<Chord> chords = chordsOn(grid, cell);
+        const GridRect& to = out.area;
+        const Planes coarse = times == 0
+            ? out
+            : Planes::allocate({floorDiv(to.x0, cell) - 1, floorDiv(to.y0, cell) - 1, floorDiv(to.x1 - 1, cell) + 2,
+                                   floorDiv(to.y1 - 1, cell) + 2},
+                scratch);
+        for (int c = 0; c < 4; ++c) {
+            const ScratchScope scope(scratch);
+            means<V>(in, coarse, c, chords, scratch);
+            if (times > 0)
+                enlarge<V>(coarse, out, c, cell, scratch);
+        }
+    }
+
+    template <class V>
+    static void means(const Planes& in, const Planes& out, int c, const std::vector<Chord>& chords, Scratch& scratch)
+    {
+        // sums[x] is what lies left of column x.
+        const std::size_t stride = in.stride + kRowPadding;
+        float* const sums = scratch.floats(stride * std::size_t(in.area.height()) + kRowPadding);
+        for (int y = in.area.y0; y < in.area.y1; ++y) {
+            const float* const line = in.line(c, y);
+            float* const sum = sums + std::size_t(y - in.area.y0) * stride;
+            double total = 0;
+            for (int x = 0; x < in.area.width(); ++x) {
+                sum[x] = float(total);
+                total += double(line[x]);
+            }
+            sum[in.area.width()] = float(total);
+        }
+        const int left = out.area.x0 - in.area.x0, width = out.area.width();
+        for (int y = out.area.y0; y < out.area.y1; ++y) {
+            float* const to = out.line(c, y);
+            for (std::size_t k = 0; k < chords.size(); ++k) {
+                const Chord& chord = chords[k];
+                const float* const sum = sums + std::size_t(y + chord.row - in.area.y0) * stride + left;
+                // The chord ends `half` beyond the middle of a cell, between two sums on either side.
+                const float end = chord.half + 0.5f;
+                const int whole = int(std::floor(end));
+                const V part(end - float(whole)), weight(chord.weight);
+                for (int x = 0; x < width; x += kLanes<V>) {
+                    const V right = mix(loadRow<V>(sum + x + whole), loadRow<V>(sum + x + whole + 1), part);
+                    const V before = mix(loadRow<V>(sum + x + 1 - whole), loadRow<V>(sum + x - whole), part);
+                    const V mean = (right - before) * weight;
+                    storeRow(to + x, k ? loadRow<V>(to + x) + mean : mean);
+                }
+            }
+        }
+    }
+
+    /// Reads the coarse cells linearly.
+    template <class V>
+    static void enlarge(const Planes& coarse, const Planes& out, int c, int cell, Scratch& scratch)
+    {
+        const int width = out.area.width(), coarseWidth = coarse.area.width();
+        const auto room = std::size_t(std::max(width, coarseWidth) + 2 * kRowPadding);
+        float *const columns = scratch.floats(room), *const parts = scratch.floats(room),
+                     *const line = scratch.floats(room);
+        const auto place = [&](int i) { return (float(i) + 0.5f) / float(cell) - 0.5f; };
+        for (int x = 0; x < width + kRowPadding; ++x) {
+            const float at = place(out.area.x0 + std::min(x, width - 1)) - float(coarse.area.x0);
+            columns[x] = std::floor(at);
+            parts[x] = at - columns[x];
+        }
+        for (int y = out.area.y0; y < out.area.y1; ++y) {
+            const float at = place(y), low = std::floor(at);
+            const float *below = coarse.line(c, int(low)), *above = coarse.line(c, int(low) + 1);
+            for (int x = 0; x < coarseWidth; x += kLanes<V>)
+                storeRow(line + x, mix(loadRow<V>(below + x), loadRow<V>(above + x), V(at - low)));
+            float* const to = out.line(c, y);
+            for (int x = 0; x < width; x += kLanes<V>) {
+                const V column = loadRow<V>(columns + x);
+                storeRow(to + x, mix(gather(line, column), gather(line + 1, column), loadRow<V>(parts + x)));
+            }
+        }
+    }
+
+    Disc m_disc;
+};
+
+} // namespace
+
+CIImage discBlur(const CIImage& image, const Disc& disc)
+{
+    if (image.isNull() || disc.radius < 0.05)
+        return image;
+    Disc limited = disc;
+    limited.radius = std::min(disc.radius, kWidest);
+    return CIImage(passNode(
+        image.node(), std::make_shared<DiscPass>(limited), image.extent().grown(std::ceil(limited.radius) + 1), true));
+}
+
+} // namespace ci

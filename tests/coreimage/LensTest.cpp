@@ -1,0 +1,63 @@
+// Lens and mask blurs, noise reduction, drawings and lights.
+#include "tests/coreimage/Neighborhood.h"
+
+using namespace pictures;
+
+TEST(DiscBlur, IsTheMeanOverTheDisc)
+{
+    // Small discs cell by cell, large ones on a halved image: both as the mean of finely spaced points.
+    for (const auto& [radius, tolerance] : {std::pair{4.0, 2e-3}, {30.0, 8e-3}}) {
+        const CIBitmap source = smooth(120, 100);
+        const CIBitmap out = result("CIDiscBlur", source, {{"inputRadius", radius}});
+        for (const auto& [x, y] : {std::pair{60, 50}, {45, 61}}) {
+            double sum = 0, count = 0;
+            for (double dy = -radius; dy <= radius; dy += 0.25)
+                for (double dx = -radius; dx <= radius; dx += 0.25)
+                    if (dx * dx + dy * dy <= radius * radius) {
+                        sum += double(at(source, int(x + 0.5 + dx), int(y + 0.5 + dy), 0));
+                        ++count;
+                    }
+            EXPECT_NEAR(at(out, x, y, 0), sum / count, tolerance) << radius;
+        }
+        EXPECT_NEAR(at(out, 60, 50, 3), 1, 1e-5);
+    }
+    // The outline is round and lies at the radius.
+    const CIBitmap spot = result("CIDiscBlur", dot(61, 61, 30, 30), {{"inputRadius", 10}});
+    const double level = 1 / (M_PI * 100 + 1);
+    EXPECT_NEAR(at(spot, 39, 30, 0), level, 1e-5);
+    EXPECT_NEAR(at(spot, 36, 36, 0), level, 1e-5);
+    EXPECT_LT(at(spot, 40, 30, 0), 0.7 * level);
+    EXPECT_EQ(at(spot, 38, 38, 0), 0);
+    const CIBitmap ring = result("CIBokehBlur", dot(61, 61, 30, 30),
+        {{"inputRadius", 10}, {"inputRingAmount", 1}, {"inputRingSize", 0.2}, {"inputSoftness", 0}});
+    EXPECT_NEAR(at(ring, 38, 30, 0), 1.5 * double(at(ring, 30, 30, 0)), 0.1 * level);
+}
+
+TEST(MaskedVariableBlur, BlursByTheLightOfTheMask)
+{
+    const CIBitmap source = noise(60, 50);
+    const auto under = [&](double gray) {
+        return result("CIMaskedVariableBlur", source,
+            {{"inputRadius", 5}, {"inputMask", CIImage::fromColor(CIColor(gray, gray, gray))}});
+    };
+    EXPECT_EQ(difference(under(0), source).largest, 0);
+    const CIBitmap soft = result("CIGaussianBlur", source, {{"inputRadius", 5.85}});
+    EXPECT_LT(difference(under(1), soft).largest, 1e-5);
+    EXPECT_LT(difference(under(0.8), soft).mean, difference(under(0.5), soft).mean);
+}
+
+TEST(NoiseReduction, SmoothsNoiseAndKeepsEdges)
+{
+    CIBitmap step(40, 20, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 40; ++x)
+            for (std::size_t c = 0; c < 4; ++c)
+                step.mutableRow<float>(y)[std::size_t(4 * x) + c] =
+                    c == 3 ? 1 : (x < 20 ? 0.2f : 0.8f) + ((x + y) % 2 ? 0.005f : -0.005f);
+    const CIBitmap out = result("CINoiseReduction", step, {{"inputSharpness", 0}});
+    EXPECT_NEAR(at(out, 10, 10, 0), 0.2, 1e-3);
+    EXPECT_NEAR(at(out, 19, 10, 0), 0.2, 0.006);
+    EXPECT_NEAR(at(out, 20, 10, 0), 0.8, 0.006);
+    EXPECT_EQ(
+        difference(result("CINoiseReduction", step, {{"inputNoiseLevel", 0}, {"inputSharpness", 0}}), step).largest, 0);
+}
