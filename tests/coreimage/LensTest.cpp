@@ -61,3 +61,47 @@ TEST(NoiseReduction, SmoothsNoiseAndKeepsEdges)
     EXPECT_EQ(
         difference(result("CINoiseReduction", step, {{"inputNoiseLevel", 0}, {"inputSharpness", 0}}), step).largest, 0);
 }
+
+TEST(Canny, DrawsAStepAsOneLine)
+{
+    CIBitmap step(40, 30, CIFormat::RGBA8, CIAlpha::Opaque);
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x)
+            std::fill_n(step.mutableRow<std::uint8_t>(y).data() + 4 * x, 4, x < 20 ? 40 : 200);
+    const CIBitmap out = result("CICannyEdgeDetector", step, {});
+    for (int y = 0; y < 30; ++y) {
+        float line = 0;
+        for (int x = 0; x < 40; ++x) {
+            line += at(out, x, y, 0);
+            EXPECT_TRUE(at(out, x, y, 0) == 0 || x == 19 || x == 20);
+        }
+        EXPECT_EQ(line, 1) << y;
+    }
+    // A ridge that fades below the upper threshold goes on for as many pixels as there are passes.
+    const auto length = [](int passes) {
+        CIBitmap fading(60, 30, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
+        for (int y = 0; y < 30; ++y)
+            for (int x = 0; x < 60; ++x)
+                for (std::size_t c = 0; c < 4; ++c)
+                    fading.mutableRow<float>(y)[std::size_t(4 * x) + c] = c == 3 ? 1 : y < 15 ? 0.002f * float(x) : 0;
+        const CIBitmap lines = result("CICannyEdgeDetector", fading,
+            {{"inputGaussianSigma", 0}, {"inputThresholdHigh", 0.08}, {"inputThresholdLow", 0.01},
+                {"inputHysteresisPasses", passes}});
+        float sum = 0;
+        for (int x = 0; x < 50; ++x)
+            for (int y = 12; y < 18; ++y)
+                sum += at(lines, x, y, 0);
+        return sum;
+    };
+    EXPECT_EQ(length(4) - length(0), 4);
+}
+
+TEST(Drawings, AreInkOnNothing)
+{
+    const CIBitmap flat = result("CILineOverlay", noise8(40, 30), {{"inputEdgeIntensity", 0}});
+    EXPECT_EQ(difference(flat, CIBitmap(40, 30, CIFormat::RGBAf)).largest, 0);
+    const CIBitmap lines = result("CILineOverlay", dot(30, 30, 15, 15), {});
+    EXPECT_EQ(at(lines, 14, 15, 0), 0);
+    EXPECT_GT(at(lines, 14, 15, 3), 0.9f);
+    EXPECT_EQ(at(lines, 5, 5, 3), 0);
+}
