@@ -1,20 +1,11 @@
 #include "app/UndoNames.h"
 
+#include "controls/ParameterText.h"
 #include "platform/coreimage/CIFilter.h"
 
 #include <QCoreApplication>
 
-QString unInterCap1(const QString& key)
-{
-    QString words = key;
-    for (qsizetype i = 1; i < words.size(); ++i) {
-        const QChar c = words.at(i);
-        const bool startsWord = c != c.toLower() || (c >= QLatin1Char('0') && c <= QLatin1Char('9'));
-        if (startsWord)
-            words.insert(i++, QLatin1Char(' '));
-    }
-    return words;
-}
+QString unInterCap1(const QString& key) { return wordsOfKey(key); }
 
 QString actionNameForFilterKey(const CIFilter& filter, const QString& key)
 {
