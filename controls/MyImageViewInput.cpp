@@ -196,6 +196,7 @@ void MyImageView::dragGrabbedPoint(CIPoint to)
         return;
     parmMode = dragged->mode;
     controller->setFilterValueForKey(*filter, dragged->value, parmKey);
+    controller->setActionNameForFilterKey(*filter, parmKey);
     setNeedsDisplay();
 }
 
@@ -256,6 +257,7 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
     }
     const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(point.key), point.mode, to);
     controller->setFilterValueForKey(*filter, dragged->value, point.key);
+    controller->setActionNameForFilterKey(*filter, point.key);
     setNeedsDisplay();
     return true;
 }

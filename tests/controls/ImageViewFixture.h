@@ -17,6 +17,7 @@ struct FakeMaster : ImageViewMaster {
     std::shared_ptr<CIFilter> filter;
     bool nothingToShow = false;
     std::vector<CIValue> sent;
+    std::vector<std::string> named; // the keys of steps
     std::vector<float> zooms;
     std::vector<QString> log;
     QMenu menu;
@@ -31,6 +32,7 @@ struct FakeMaster : ImageViewMaster {
         f.setValueForKey(value, key);
         sent.push_back(value);
     }
+    void setActionNameForFilterKey(const CIFilter&, const std::string& key) override { named.push_back(key); }
     QMenu* contextMenu() override { return &menu; }
     void updateZoommWithDelta(double delta) override { zooms.push_back(float(delta)); }
     void setZoom(float zoom) override { zooms.push_back(zoom); }
