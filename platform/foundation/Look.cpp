@@ -106,6 +106,14 @@ QPushButton:default:hover, QPushButton[prominent="true"]:hover { border-color: @
 QPushButton:disabled, QPushButton:default:disabled, QPushButton[prominent="true"]:disabled
     { color: @disabledText; background: transparent; border-color: @border; }
 
+QPushButton[mini="true"] { border-radius: 4px; padding: 0 8px; min-height: 0; }
+QPushButton[bezelStyle="8"] { border-radius: 0; }
+
+ReadoutField { background: @window; border: 1px solid transparent; border-radius: 4px; padding: 0; }
+ReadoutField[bezeled="true"], ReadoutField:hover { background: @field; border-color: @border; }
+ReadoutField:focus { background: @field; border-color: @accentMark; }
+ColorWell { min-height: 0; padding: 0; }
+
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px; padding: 4px; }
 QToolButton:hover { background: @hover; }
 QToolButton:pressed { background: @pressed; }

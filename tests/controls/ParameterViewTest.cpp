@@ -1,0 +1,345 @@
+#include "PanelFixture.h"
+
+#include "controls/CaptionLabel.h"
+#include "controls/ColorWell.h"
+#include "controls/DropImageView.h"
+#include "controls/PanelCheckBox.h"
+#include "controls/PictureConversion.h"
+#include "controls/TextDescription.h"
+#include "platform/coreimage/CIContext.h"
+
+#include <cmath>
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace {
+
+const std::vector<std::string> kSentRadius{"set inputRadius", "name inputRadius", "update"};
+
+TEST_F(RowTest, SliderSendsWhatItIsMovedToAndNothingWhenItStays)
+{
+    const auto blur = filterNamed("CIGaussianBlur");
+    row.addSliderForFilterKeyMaster(blur, "inputRadius", master);
+    auto& slider = part<ValueSlider>("slider");
+    auto& readout = part<ReadoutField>("readoutTextField");
+    EXPECT_EQ(slider.geometry(), QRect(94, row.height() - 16, 288 - 145, 16));
+    EXPECT_EQ(readout.geometry(), QRect(288 - 47, row.height() - 16, 43, 16));
+    EXPECT_EQ(slider.value(), 10);
+    EXPECT_EQ(readout.text().trimmed(), "10.00");
+
+    slider.moveTo(25);
+    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), 25);
+    EXPECT_EQ(readout.text(), "25.00");
+    EXPECT_EQ(master.log, kSentRadius);
+    slider.moveTo(25);
+    QTest::mouseClick(&slider, Qt::LeftButton, {}, QPoint(6 + int(25.0 / slider.maximum() * (143 - 12)), 8));
+    EXPECT_EQ(master.sent.size(), 1u) << "pressing the handle is no change";
+}
+
+TEST_F(RowTest, ADragIsOneStepAndShiftMakesItFiner)
+{
+    row.addSliderForFilterKeyMaster(filterNamed("CIGaussianBlur"), "inputRadius", master);
+    auto& slider = part<ValueSlider>("slider");
+    QTest::mousePress(&slider, Qt::LeftButton, {}, {60, 8});
+    const double start = slider.value();
+    const auto drag = [&](QPoint to, Qt::KeyboardModifiers modifiers) {
+        QMouseEvent event(QEvent::MouseMove, to, slider.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, modifiers);
+        QApplication::sendEvent(&slider, &event);
+    };
+    drag({80, 8}, {});
+    const double coarse = slider.value() - start;
+    drag({100, 8}, Qt::ShiftModifier);
+    EXPECT_NEAR(slider.value() - start - coarse, coarse / 10, 1e-6);
+    EXPECT_EQ(master.openChanges, 1);
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, {100, 8});
+    EXPECT_EQ(master.openChanges, 0);
+    EXPECT_EQ(master.sent.size(), 3u);
+    EXPECT_EQ(std::count(master.log.begin(), master.log.end(), "begin"), 1);
+
+    QTest::mousePress(&slider, Qt::LeftButton, {}, {60, 8});
+    delete &row; // the panel may be built anew at any time
+    EXPECT_EQ(master.openChanges, 0);
+}
+
+TEST_F(RowTest, KeysAndWheelStepTheSlider)
+{
+    const auto blur = filterNamed("CIGaussianBlur");
+    row.addSliderForFilterKeyMaster(blur, "inputRadius", master);
+    auto& slider = part<ValueSlider>("slider");
+    slider.setFocus();
+    const double step = slider.singleStep();
+    QTest::keyClick(&slider, Qt::Key_Right);
+    EXPECT_DOUBLE_EQ(slider.value(), 10 + step);
+    QTest::keyClick(&slider, Qt::Key_Down);
+    QTest::keyClick(&slider, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_NEAR(slider.value(), 10 + step / 10, 1e-9);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(slider.value(), slider.minimum());
+    wheel(slider, 120);
+    EXPECT_DOUBLE_EQ(slider.value(), slider.minimum() + step);
+    wheel(slider, 60);
+    EXPECT_DOUBLE_EQ(slider.value(), slider.minimum() + step) << "half a notch";
+    wheel(slider, 60, Qt::ShiftModifier);
+    EXPECT_NEAR(slider.value(), slider.minimum() + 1.1 * step, 1e-9);
+    QTest::keyClick(&slider, Qt::Key_End);
+    wheel(slider, 120);
+    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), slider.maximum());
+    master.standard["inputRadius"] = 10;
+    QTest::keyClick(&slider, Qt::Key_Delete);
+    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), 10);
+}
+
+TEST_F(RowTest, TypedNumbersAreTakenAsTheyAre)
+{
+    const auto blur = filterNamed("CIGaussianBlur");
+    row.addSliderForFilterKeyMaster(blur, "inputRadius", master);
+    auto& readout = part<ReadoutField>("readoutTextField");
+    type(readout, "250,5");
+    EXPECT_EQ(blur->valueForKey("inputRadius").toFloat(), 250.5f) << "beyond the slider";
+    EXPECT_EQ(readout.text(), "250,5") << "and stays as typed";
+    EXPECT_EQ(part<ValueSlider>("slider").value(), 250.5);
+    EXPECT_EQ(master.log, kSentRadius);
+    QTest::keyClick(&readout, Qt::Key_Return);
+    type(readout, "250.5");
+    EXPECT_EQ(master.sent.size(), 1u) << "the same number";
+    for (const char* bad : {"abc", "nan", "1e300", "-inf", " "}) {
+        type(readout, bad, Qt::Key_Tab);
+        EXPECT_EQ(readout.text(), "250.5") << bad;
+    }
+    readout.setFocus();
+    QTest::keyClicks(&readout, "99");
+    QTest::keyClick(&readout, Qt::Key_Escape);
+    EXPECT_EQ(readout.text(), "250.5");
+    EXPECT_EQ(master.sent.size(), 1u);
+}
+
+TEST_F(RowTest, AnglesAreShownInDegrees)
+{
+    const auto filter = filterNamed("CIHueAdjust");
+    filter->setValueForKey(std::acos(0.0), "inputAngle");
+    row.addSliderForFilterKeyMaster(filter, "inputAngle", master);
+    EXPECT_EQ(part<ReadoutField>("readoutTextField").text(), "90.0");
+    type(part<ReadoutField>("readoutTextField"), "45");
+    EXPECT_FLOAT_EQ(filter->valueForKey("inputAngle").toFloat(), 0.785398f);
+    EXPECT_TRUE(part<ValueSlider>("slider").valueText().endsWith("°"));
+}
+
+TEST_F(RowTest, DoubleClickOnTheCaptionBringsTheStandardValueBack)
+{
+    const auto blur = filterNamed("CIGaussianBlur");
+    row.addSliderForFilterKeyMaster(blur, "inputRadius", master);
+    master.standard["inputRadius"] = 10;
+    auto& caption = part<CaptionLabel>("labelTextField");
+    QTest::mouseDClick(&caption, Qt::LeftButton);
+    EXPECT_TRUE(master.log.empty()) << "it is there";
+    part<ValueSlider>("slider").moveTo(40);
+    master.log.clear();
+    QTest::mouseDClick(&caption, Qt::LeftButton);
+    EXPECT_EQ(master.log, kSentRadius);
+    EXPECT_EQ(part<ValueSlider>("slider").value(), 10);
+    EXPECT_EQ(part<ReadoutField>("readoutTextField").text(), "10.00");
+}
+
+TEST_F(RowTest, VectorFollowsEveryKeyAndIsOneStep)
+{
+    const auto matrix = filterNamed("CIColorMatrix");
+    row.addVectorForFilterKeyMaster(matrix, "inputGVector", master);
+    auto& y = part<ReadoutField>("readout2TextField");
+    EXPECT_EQ(y.text(), "1.000");
+    const int field = (288 - 5 - 95) / 4;
+    EXPECT_EQ(
+        part<ReadoutField>("readout4TextField").geometry(), QRect(3 * (field + 5) + 80, row.height() - 16, field, 16));
+    y.setFocus();
+    y.selectAll();
+    QTest::keyClick(&y, '0');
+    QTest::keyClick(&y, '.');
+    QTest::keyClick(&y, '5');
+    EXPECT_EQ(matrix->valueForKey("inputGVector").toVector(), (CIVector{0, 0.5, 0, 0}));
+    EXPECT_EQ(master.openChanges, 1);
+    QTest::keyClick(&y, Qt::Key_Return);
+    EXPECT_EQ(master.openChanges, 0);
+    EXPECT_EQ(master.sent.size(), 4u) << "three keys and the end";
+
+    type(y, "x");
+    EXPECT_EQ(y.text(), "0.500");
+    EXPECT_EQ(matrix->valueForKey("inputGVector").toVector(), (CIVector{0, 0.5, 0, 0}));
+    y.selectAll();
+    QTest::keyClicks(&y, "3");
+    QTest::keyClick(&y, Qt::Key_Escape);
+    EXPECT_EQ(matrix->valueForKey("inputGVector").toVector(), (CIVector{0, 0.5, 0, 0})) << "given up";
+    EXPECT_EQ(y.text(), "0.500");
+    EXPECT_EQ(master.openChanges, 0);
+}
+
+TEST_F(RowTest, TransformKeepsItsTranslation)
+{
+    const auto filter = filterNamed("CIAffineTransform");
+    filter->setValueForKey(CIAffineTransform::translation(7, 8), "inputTransform");
+    row.addTransformForFilterKeyMaster(filter, "inputTransform", master);
+    EXPECT_EQ(part<ReadoutField>("scaleReadoutTextField").text(), "1.00");
+    EXPECT_EQ(part<ReadoutField>("angleReadoutTextField").text(), "0.0");
+    EXPECT_EQ(part<ReadoutField>("stretchReadoutTextField").text(), "1.00");
+    EXPECT_EQ(part<ReadoutField>("skewReadoutTextField").text(), "0.00");
+    part<ValueSlider>("scaleSlider").moveTo(1);
+    EXPECT_EQ(filter->valueForKey("inputTransform").toTransform(), (CIAffineTransform{10, 0, 0, 10, 7, 8}));
+    EXPECT_EQ(part<ReadoutField>("scaleReadoutTextField").text(), "10.00");
+    type(part<ReadoutField>("angleReadoutTextField"), "90");
+    const CIAffineTransform turned = filter->valueForKey("inputTransform").toTransform();
+    EXPECT_NEAR(turned.b, 10, 1e-5);
+    EXPECT_NEAR(turned.c, -10, 1e-5);
+    EXPECT_EQ(master.sent.size(), 2u);
+    type(part<ReadoutField>("stretchReadoutTextField"), "999999");
+    EXPECT_EQ(part<ReadoutField>("stretchReadoutTextField").text(), "1.00") << "a million times ten is out of reason";
+    EXPECT_EQ(filter->valueForKey("inputTransform").toTransform(), turned);
+    type(part<ReadoutField>("scaleReadoutTextField"), "0");
+    for (const CIValue& value : master.sent)
+        EXPECT_TRUE(std::isfinite(value.toTransform().a));
+}
+
+TEST_F(RowTest, CheckBoxSendsBooleans)
+{
+    const auto filter = filterNamed("CIColorMatrix"); // any filter will do: the row asks only for the value
+    filter->setValueForKey(true, "inputRVector");
+    row.addCheckBoxForFilterKeyMaster(filter, "inputRVector", master);
+    auto& box = part<PanelCheckBox>("checkBox");
+    EXPECT_TRUE(box.isChecked());
+    QTest::mouseClick(&box, Qt::LeftButton, {}, {5, 8});
+    ASSERT_EQ(master.sent.size(), 1u);
+    EXPECT_TRUE(master.sent[0].isBoolean());
+    EXPECT_FALSE(master.sent[0].toBool());
+}
+
+TEST_F(RowTest, ColorsAreTriedBeforeTheyArePicked)
+{
+    const auto filter = filterNamed("CIConstantColorGenerator");
+    const CIColor before(1, 0.5, 0.25, 0.5);
+    filter->setValueForKey(before, "inputColor");
+    row.addColorWellForFilterKeyMaster(filter, "inputColor", master);
+    auto& well = part<ColorWell>("colorWell");
+    EXPECT_NEAR(double(well.color().alphaF()), 0.5, 1e-4);
+    for (const bool accepted : {false, true}) {
+        QTest::mouseClick(&well, Qt::LeftButton);
+        ASSERT_TRUE(well.panel());
+        EXPECT_TRUE(well.panel()->testOption(QColorDialog::ShowAlphaChannel));
+        well.panel()->setCurrentColor(QColor(0, 255, 0, 128));
+        EXPECT_EQ(filter->valueForKey("inputColor").toColor().green(), 1) << "seen at once";
+        EXPECT_TRUE(master.sent.empty());
+        accepted ? well.panel()->accept() : well.panel()->reject();
+        EXPECT_EQ(master.sent.size(), accepted ? 1u : 0u);
+        EXPECT_EQ(filter->valueForKey("inputColor").toColor() == before, !accepted);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    EXPECT_NEAR(filter->valueForKey("inputColor").toColor().alpha(), 128 / 255.0, 1e-4);
+}
+
+TEST_F(RowTest, ImageWellTakesFilesAndKeepsItsPictureForBadOnes)
+{
+    master.picture = CIImage::fromColor(CIColor(1, 0, 0)).cropped({0, 0, 30, 20});
+    const auto filter = filterNamed("CIGlassDistortion");
+    row.addImageWellForFilterKeyMaster(filter, "inputTexture", master);
+    auto& well = part<DropImageView>("imageView");
+    EXPECT_TRUE(well.image().isNull());
+    const auto drop = [&](const char* path) {
+        well.setFilePath1(QLatin1String(path));
+        emit well.imageDropped();
+    };
+    drop("/good.png");
+    EXPECT_EQ(well.image().size(), QSize(64, 43));
+    EXPECT_TRUE(filter->valueForKey("inputTexture").toImage().isSameAs(master.picture));
+    drop("/bad.png");
+    EXPECT_EQ(well.image().size(), QSize(64, 43));
+    EXPECT_EQ(std::count(master.log.begin(), master.log.end(), "failure /bad.png"), 1);
+    EXPECT_TRUE(filter->valueForKey("inputTexture").isNothing()) << "the master is told";
+
+    QTest::mouseClick(&part<QPushButton>("pushButton"), Qt::LeftButton);
+    auto* panel = row.findChild<QFileDialog*>();
+    ASSERT_TRUE(panel);
+    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
+    panel->reject();
+    EXPECT_EQ(master.sent.size(), 2u);
+}
+
+TEST_F(RowTest, TextSliderEditsADictionary)
+{
+    const auto text = std::make_shared<CIDictionary>();
+    (*text)["pointSize"] = 12;
+    row.addSliderForTextKeyLoHiMaster(text, "pointSize", 4, 100, master);
+    EXPECT_EQ(part<CaptionLabel>("labelTextField").fullText(), "point Size");
+    part<ValueSlider>("slider").moveTo(24);
+    EXPECT_EQ((*text)["pointSize"].toFloat(), 24);
+    type(part<ReadoutField>("readoutTextField"), "30");
+    EXPECT_EQ((*text)["pointSize"].toFloat(), 30);
+    EXPECT_EQ(master.log, (std::vector<std::string>{"dict pointSize", "update", "dict pointSize", "update"}));
+}
+
+TEST(Captions, AreCutToFit)
+{
+    const QFont font;
+    const QFontMetrics metrics(rowFont(font));
+    EXPECT_EQ(ellipsizedText("Radius", font, 200), "Radius");
+    EXPECT_EQ(ellipsizedText("Replacement Color 1", font, 400), "Replace With 1");
+    for (int width = 30; width < 150; width += 7) {
+        const QString cut = ellipsizedText("Gray Component Replacement", font, float(width));
+        EXPECT_TRUE(cut.endsWith("..."));
+        EXPECT_LE(metrics.horizontalAdvance(cut), width - 5);
+    }
+    EXPECT_EQ(ellipsizedText("Radius", font, 0), "...");
+}
+
+TEST(Pictures, GoBetweenTheEngineAndTheWindowUnchanged)
+{
+    QImage opaque(3, 2, QImage::Format_RGB888), clear(3, 2, QImage::Format_ARGB32);
+    for (int y = 0; y < 2; ++y)
+        for (int x = 0; x < 3; ++x) {
+            opaque.setPixelColor(x, y, QColor(x * 100, y * 200, 30));
+            clear.setPixelColor(x, y, QColor(x * 100, y * 200, 30, x * 127));
+        }
+    for (const QImage& picture : {opaque, clear}) {
+        const CIImage image = ParameterView::CIImageWithNSImage(picture);
+        EXPECT_EQ(image.extent(), (CIRect{0, 0, 3, 2}));
+        const QImage back = pictureOfImage(image, image.extent());
+        ASSERT_EQ(back.size(), picture.size());
+        for (int y = 0; y < 2; ++y)
+            for (int x = 0; x < 3; ++x) {
+                const QColor expected = picture.convertToFormat(back.format()).pixelColor(x, y);
+                const QColor got = back.pixelColor(x, y);
+                EXPECT_EQ(got.alpha(), expected.alpha());
+                EXPECT_NEAR(got.red(), expected.red(), 2);
+                EXPECT_NEAR(got.green(), expected.green(), 2);
+            }
+    }
+    EXPECT_TRUE(imageOfPicture({}).isNull());
+    EXPECT_TRUE(pictureOfImage(CIImage(), {}).isNull());
+    EXPECT_EQ(thumbnailSize({0, 0, 4000, 3000}), QSize(64, 48));
+    EXPECT_EQ(thumbnailSize({0, 0, 10000, 5}), QSize(64, 1));
+    EXPECT_EQ(thumbnailSize({0, 0, 5, 10}), QSize(32, 64));
+    EXPECT_TRUE(thumbnailOf(CIImage::fromColor({})).isNull());
+}
+
+TEST(Text, DiffersFromADescriptionByAnyEntry)
+{
+    QTextDocument text;
+    QTextCursor cursor(&text);
+    QTextCharFormat format;
+    format.setFontFamilies({"Inter"});
+    format.setFontPointSize(12);
+    format.setForeground(QColor(255, 0, 0));
+    format.setProperty(TextShadowOffset, QPointF(1, -2));
+    format.setProperty(TextShadowColor, QColor(0, 0, 255));
+    cursor.insertText("words", format);
+    CIDictionary same{{"string", "words"}, {"font", "Inter"}, {"pointSize", 12}, {"colorRed", 1}, {"colorAlpha", 1},
+        {"isShadow", 1}, {"shadowOffsetX", 1}, {"shadowOffsetY", -2}, {"shadowColorBlue", 1}, {"shadowColorAlpha", 1}};
+    EXPECT_FALSE(textDiffers(text, same));
+    for (const auto& [key, value] : same) {
+        CIDictionary other = same;
+        other.erase(key);
+        EXPECT_TRUE(textDiffers(text, other)) << key;
+    }
+    same["underlineStyle"] = 1;
+    EXPECT_TRUE(textDiffers(text, same));
+}
+
+} // namespace
