@@ -6,17 +6,20 @@
 #include "app/OutlineModel.h"
 #include "app/PictureFormats.h"
 #include "controls/ImageViewMaster.h"
+#include "controls/ParameterMaster.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <array>
 #include <memory>
 #include <vector>
 
 class CatalogueSearch;
+class FilterView;
 class MainWindow;
 class MyImageView;
 class OutlineView;
@@ -34,7 +37,7 @@ class MainWindow;
 /// One lives for as long as the program. Operations that lack their input (no picture, no filter) quietly do nothing.
 ///
 /// Changes of the user register their inverse with the undo manager. Main thread only.
-class Controller : public QObject, public ImageViewMaster {
+class Controller : public QObject, public ImageViewMaster, public ParameterMaster {
     Q_OBJECT
 
 public:
@@ -101,14 +104,22 @@ public:
     /// For filters made by `addFilterIndex`; the undo step keeps the filter alive.
     void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) override;
     void setDictValueForKey(
-        const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key);
-    void setActionNameForFilterKey(const CIFilter& filter, const std::string& key);
+        const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key) override;
+    void setActionNameForFilterKey(const CIFilter& filter, const std::string& key) override;
+    void beginChange() override { m_undoManager.beginUndoGrouping(); }
+    void endChange() override { m_undoManager.endUndoGrouping(); }
+    CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override;
     UndoManager* undoManager() { return &m_undoManager; }
     void undo();
     void redo();
+
+    // The panel: ControllerPanel.cpp
+    /// Builds the rows of the current filter; nothing without one.
     void updateFilterControls(int tag);
     void clearControls();
     bool isControlsPresent() override;
+    /// Makes rounded buttons square, in the view and all that is in it.
+    void changeControlsStyle(QWidget* view);
 
     // Edits and zoom: ControllerEdits.cpp
     void paste();
@@ -130,11 +141,13 @@ public:
     QString getFilePath() const { return _filePath; }
     void updateWinTitle();
     CIImage readImage(const QString& path) override;
+    void showReadFailure(const QString& path) override;
+    QStringList pictureNameFilters() override;
     /// How the picture's pixels are stored; results that replace the picture are stored alike.
     CIFormat pictureFormat() const { return m_pictureFormat; }
 
     // Buttons, menus and views: ControllerMenus.cpp
-    void updateView();
+    void updateView() override;
     void updateLayout();
     void updateMainBtnState();
     /// Enables, names and ticks the item; answers whether it is enabled.
@@ -172,8 +185,12 @@ private:
         const std::shared_ptr<CIFilter>& filter, const CIValue& value, const std::string& key);
     void registerUndoPaste();
     void fitZoom();
+    std::shared_ptr<CIFilter> newFilter(const std::string& name);
+    void buildPanel(int tag);
+    void rebuildPanel();
     void showFilterName(bool shown);
     void updatePictureInfo();
+    void showMessage(const QString& text);
     int askToSaveChanges();
 
     MainWindow& m_window;
@@ -205,7 +222,9 @@ private:
     PictureFormats m_formats;
     CIFormat m_pictureFormat = CIFormat::RGBA8;
     QString m_readFailure; // why the last file could not be read; empty when it could
+    QTimer m_messageEnd;
     CatalogueSearch* m_search;
+    QPointer<FilterView> m_panel;
     const OutlineItem* m_chosenRow = nullptr; // whose filter is the current one; it may be hidden by the search
     bool m_selectionIsOurs = false; // the selection changes on our own account: no choice of the user
 };

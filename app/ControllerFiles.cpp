@@ -4,11 +4,18 @@
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 
+#include <QAccessible>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include <chrono>
+
 namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kMessageTime = 8s;
 
 QString depthText(CIFormat format)
 {
@@ -30,7 +37,7 @@ void Controller::openImg()
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
-    panel->setNameFilters({tr("Pictures (%1)").arg(pictureFilePatterns()), tr("All files (*)")});
+    panel->setNameFilters(pictureNameFilters());
     if (!_filePath.isEmpty())
         panel->setDirectory(QFileInfo(_filePath).absolutePath());
     connect(panel, &QFileDialog::finished, this,
@@ -77,6 +84,27 @@ CIImage Controller::readImage(const QString& path)
     const CIImage image = CIImage::fromBitmap(read.value());
     m_formats.remember(image, read.value().format());
     return image;
+}
+
+QStringList Controller::pictureNameFilters()
+{
+    return {tr("Pictures (%1)").arg(pictureFilePatterns()), tr("All files (*)")};
+}
+
+void Controller::showReadFailure(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    showMessage(m_readFailure.isEmpty() ? tr("%1 can't be read").arg(name)
+                                        : tr("%1: %2", "file name, what is wrong").arg(name, m_readFailure));
+}
+
+/// For a while, in the status bar.
+void Controller::showMessage(const QString& text)
+{
+    ui.pictureInfoField->setText(text);
+    m_messageEnd.start(kMessageTime);
+    QAccessibleEvent alert(ui.pictureInfoField, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
 void Controller::updatePictureInfo()

@@ -47,15 +47,24 @@ void Controller::setBackgroundImage(const CIImage& image)
 
 void Controller::addFilterIndex(const QString& name, int index)
 {
-    currentFilter = CIFilter::filterWithName(name.toStdString());
+    currentFilter = newFilter(name.toStdString());
     if (currentFilter) {
         std::erase_if(m_madeFilters, [](const std::weak_ptr<CIFilter>& filter) { return filter.expired(); });
         m_madeFilters.push_back(currentFilter);
-        currentFilter->setDefaults();
-        _setupAllImageInputsToNotNil(*currentFilter);
-        setAutomaticDefaults(*currentFilter);
     }
     updateFilterControls(index);
+}
+
+/// With the values that a filter has when it is chosen; null for an unknown name.
+std::shared_ptr<CIFilter> Controller::newFilter(const std::string& name)
+{
+    const std::shared_ptr<CIFilter> filter = CIFilter::filterWithName(name);
+    if (filter) {
+        filter->setDefaults();
+        _setupAllImageInputsToNotNil(*filter);
+        setAutomaticDefaults(*filter);
+    }
+    return filter;
 }
 
 void Controller::_setupAllImageInputsToNotNil(CIFilter& filter)

@@ -1,6 +1,8 @@
 #include "app/Controller.h"
 #include "app/OutlineView.h"
+#include "controls/FilterView.h"
 #include "controls/MyImageView.h"
+#include "platform/foundation/Appearance.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -90,5 +92,7 @@ void Controller::onAppearanceChanged()
         button->setChecked(button->isChecked());
         button->update();
     }
+    if (m_panel)
+        m_panel->setBorderColor(Appearance::shared().look().separator);
     updateView();
 }

@@ -1,10 +1,5 @@
 #include "app/Controller.h"
-#include "app/MainWindow.h"
 #include "app/UndoNames.h"
-#include "controls/ControlPoints.h"
-#include "ui_MainWindow.h"
-
-#include <algorithm>
 
 /// The owner of a filter that was made here; null for others.
 std::shared_ptr<CIFilter> Controller::sharedFilter(const CIFilter& filter)
@@ -59,35 +54,8 @@ void Controller::redo()
     updateLayout();
 }
 
-void Controller::updateFilterControls(int)
+CIValue Controller::standardValueForKey(const CIFilter& filter, const std::string& key)
 {
-    if (currentFilter)
-        ui.filterNameField->setText(QString::fromStdString(currentFilter->displayName()));
-    showFilterName(currentFilter != nullptr);
-}
-
-void Controller::clearControls()
-{
-    while (QWidget* row = placeCntrlView->findChild<QWidget*>({}, Qt::FindDirectChildrenOnly))
-        delete row;
-    showFilterName(false);
-}
-
-/// The name above the rows, or a hint where there is none.
-void Controller::showFilterName(bool shown)
-{
-    ui.filterNameField->setVisible(shown);
-    ui.filterNameLine->setVisible(shown);
-    ui.filterHintField->setVisible(!shown && filerMode() == Standard);
-}
-
-bool Controller::isControlsPresent()
-{
-    if (!currentFilter)
-        return false;
-    const std::vector<std::string> keys = currentFilter->inputKeys();
-    return std::any_of(keys.begin(), keys.end(), [this](const std::string& key) {
-        const CIInputAttributes* input = currentFilter->attributesForKey(key);
-        return input && hasControlPoint(*input);
-    });
+    const std::shared_ptr<CIFilter> fresh = newFilter(filter.name());
+    return fresh ? fresh->valueForKey(key) : CIValue();
 }

@@ -38,6 +38,8 @@ Controller::Controller(MainWindow& window)
     , m_search(new CatalogueSearch(this))
 {
     standardBtn->setChecked(true);
+    m_messageEnd.setSingleShot(true);
+    connect(&m_messageEnd, &QTimer::timeout, this, &Controller::updatePictureInfo);
     ciView->setContext(m_context);
     ciView->setController(this);
     connectInterface();

@@ -20,8 +20,7 @@ void Controller::windowDidUpdate()
     if (!needsUpdate)
         return;
     needsUpdate = false;
-    clearControls();
-    updateFilterControls(111);
+    rebuildPanel();
 }
 
 void Controller::windowDidBecomeVisible()

@@ -37,7 +37,7 @@ void MainWindow::setLayout()
     ui->splitter->setStretchFactor(0, 0);
     ui->splitter->setStretchFactor(1, 1);
     ui->splitter->setStretchFactor(2, 0);
-    ui->splitter->setSizes({248, 760, 272});
+    ui->splitter->setSizes({248, 732, 300});
     ui->searchField->installEventFilter(this);
     connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
         ui->searchField->setFocus(Qt::ShortcutFocusReason);

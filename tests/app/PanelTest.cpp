@@ -1,0 +1,315 @@
+// The panel in the real window, for every filter of the catalogue.
+#include "WindowFixture.h"
+
+#include "controls/BezelStyle.h"
+#include "controls/CaptionLabel.h"
+#include "controls/ColorWell.h"
+#include "controls/DropImageView.h"
+#include "controls/FilterView.h"
+#include "controls/MyImageView.h"
+#include "controls/PanelCheckBox.h"
+#include "controls/ParameterView.h"
+#include "controls/PictureScrollView.h"
+#include "controls/ReadoutField.h"
+#include "controls/ValueSlider.h"
+#include "ui_MainWindow.h"
+
+#include <QFile>
+#include <QScrollBar>
+#include <QTest>
+
+#include <cmath>
+
+namespace {
+
+class PanelTest : public WindowTest {
+protected:
+    PanelTest()
+    {
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    /// All filters, by the road of a chosen row but without a click each.
+    template <class F>
+    void forEachFilter(F check)
+    {
+        for (const std::string& name : CIFilter::filterNamesInCategory("")) {
+            SCOPED_TRACE(name);
+            controller.clearAll();
+            controller.addFilterIndex(QString::fromStdString(name), 111);
+            ASSERT_TRUE(controller.getCurrentFilter());
+            settle();
+            check(*controller.getCurrentFilter());
+            undo.removeAllActions();
+        }
+    }
+    static void settle()
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    FilterView* panel() const { return ui.placeCntrlView->findChild<FilterView*>(); }
+    std::vector<ParameterView*> rows() const
+    {
+        const auto found = ui.placeCntrlView->findChildren<ParameterView*>();
+        return {found.begin(), found.end()};
+    }
+    template <class T>
+    T& control(const char* name) const
+    {
+        T* found = ui.placeCntrlView->findChild<T*>(QLatin1String(name));
+        if (!found)
+            throw std::runtime_error(name);
+        return *found;
+    }
+    QRect inPanel(const QWidget& widget) const
+    {
+        return QRect(widget.mapTo(ui.placeCntrlView, QPoint()), widget.size());
+    }
+};
+
+TEST_F(PanelTest, RowsNeitherOverlapNorHideAnything)
+{
+    for (int width : {1280, 900}) {
+        window.resize(width, 700);
+        forEachFilter([&](const CIFilter&) {
+            std::vector<QRect> taken;
+            for (ParameterView* row : rows())
+                for (QWidget* part : row->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+                    const QRect place = inPanel(*part);
+                    EXPECT_TRUE(row->rect().contains(part->geometry())) << part->objectName().toStdString();
+                    EXPECT_TRUE(ui.placeCntrlView->rect().contains(place)) << part->objectName().toStdString();
+                    for (const QRect& other : taken)
+                        EXPECT_FALSE(place.intersects(other)) << part->objectName().toStdString();
+                    taken.push_back(place);
+                    EXPECT_FALSE(part->toolTip().isEmpty()) << part->objectName().toStdString();
+                    if (const auto* caption = qobject_cast<CaptionLabel*>(part)) {
+                        EXPECT_LE(caption->fontMetrics().horizontalAdvance(caption->text()), caption->width());
+                        continue;
+                    }
+                    EXPECT_FALSE(part->accessibleName().isEmpty()) << part->objectName().toStdString();
+                    if (const auto* box = qobject_cast<PanelCheckBox*>(part)) {
+                        EXPECT_LE(box->fontMetrics().horizontalAdvance(box->text()), box->width() - 20);
+                    }
+                }
+        });
+    }
+}
+
+TEST_F(PanelTest, EverySliderChangesItsValueAndUndoBringsBothBack)
+{
+    forEachFilter([&](CIFilter& filter) {
+        const std::size_t count = ui.placeCntrlView->findChildren<ValueSlider*>().size();
+        for (std::size_t i = 0; i < count; ++i) {
+            ValueSlider* slider = ui.placeCntrlView->findChildren<ValueSlider*>()[qsizetype(i)];
+            if (!slider->isEnabled())
+                continue;
+            SCOPED_TRACE(slider->accessibleName().toStdString());
+            const double before = slider->value();
+            const CIDictionary values = [&] {
+                CIDictionary all;
+                for (const std::string& key : filter.inputKeys())
+                    if (key != "inputExtent") // every frame sets it
+                        all[key] = filter.valueForKey(key);
+                return all;
+            }();
+            const auto isAsBefore = [&] {
+                return std::all_of(values.begin(), values.end(),
+                    [&](const auto& entry) { return filter.valueForKey(entry.first) == entry.second; });
+            };
+            slider->moveTo(before == slider->maximum() ? slider->minimum() : slider->maximum());
+            EXPECT_FALSE(isAsBefore());
+            EXPECT_TRUE(undo.undoActionName().startsWith("Change to")) << undo.undoActionName().toStdString();
+            controller.undo();
+            settle();
+            EXPECT_TRUE(isAsBefore());
+            ValueSlider* again = ui.placeCntrlView->findChildren<ValueSlider*>()[qsizetype(i)];
+            EXPECT_FLOAT_EQ(float(again->value()), float(before));
+        }
+    });
+}
+
+TEST_F(PanelTest, NoNonsenseReachesAFilter)
+{
+    forEachFilter([&](CIFilter& filter) {
+        const std::shared_ptr<CIFilter> fresh = CIFilter::filterWithName(filter.name());
+        fresh->setDefaults();
+        for (ReadoutField* field : ui.placeCntrlView->findChildren<ReadoutField*>())
+            for (const char* nonsense : {"nan", "inf", "1e30", "-1e39", "0/0"}) {
+                field->setFocus();
+                field->setText({});
+                QTest::keyClicks(field, nonsense);
+                QTest::keyClick(field, Qt::Key_Return);
+            }
+        for (const std::string& key : filter.inputKeys()) {
+            const CIValue value = filter.valueForKey(key);
+            if (value == fresh->valueForKey(key))
+                continue; // some standard values are without an end
+            std::vector<double> numbers{value.toDouble()};
+            if (value.isVector())
+                numbers = value.toVector().values();
+            if (value.isTransform())
+                numbers = {value.toTransform().a, value.toTransform().b, value.toTransform().c, value.toTransform().d};
+            for (double number : numbers)
+                EXPECT_LE(std::abs(number), 2e6) << key; // and false for what is no number
+        }
+    });
+}
+
+TEST_F(PanelTest, OtherControlsChangeTheirValueToo)
+{
+    forEachFilter([&](CIFilter& filter) {
+        for (PanelCheckBox* box : ui.placeCntrlView->findChildren<PanelCheckBox*>()) {
+            const bool before = box->isChecked();
+            box->click();
+            EXPECT_TRUE(undo.canUndo()) << box->accessibleName().toStdString();
+            EXPECT_NE(box->isChecked(), before);
+        }
+        for (ColorWell* well : ui.placeCntrlView->findChildren<ColorWell*>()) {
+            const QColor color(1, 2, 3, 4);
+            well->pick(color);
+            EXPECT_TRUE(undo.canUndo()) << well->accessibleName().toStdString();
+        }
+        bool found = filter.inputKeys().empty() || ui.placeCntrlView->findChildren<ColorWell*>().isEmpty();
+        for (const std::string& key : filter.inputKeys())
+            found = found || std::abs(filter.valueForKey(key).toColor().blue() - 3 / 255.0) < 1e-3;
+        EXPECT_TRUE(found);
+    });
+}
+
+TEST_F(PanelTest, WalksBackAndForthByName)
+{
+    pick("CIGaussianBlur");
+    control<ValueSlider>("slider").moveTo(30);
+    control<ValueSlider>("slider").moveTo(50);
+    EXPECT_EQ(undo.undoMenuItemTitle(), "Undo Change to Gaussian Blur Radius");
+    EXPECT_EQ(action("actionUndo")->text(), "Undo Change to Gaussian Blur Radius");
+    ValueSlider& slider = control<ValueSlider>("slider");
+    slider.setFocus();
+    ui.controlScrollArea->verticalScrollBar()->setValue(0);
+    action("actionUndo")->trigger();
+    settle();
+    EXPECT_EQ(control<ValueSlider>("slider").value(), 30);
+    EXPECT_EQ(window.focusWidget(), &control<ValueSlider>("slider")) << "the new panel keeps the keyboard where it was";
+    EXPECT_EQ(undo.redoMenuItemTitle(), "Redo Change to Gaussian Blur Radius");
+    action("actionUndo")->trigger();
+    settle();
+    EXPECT_EQ(control<ReadoutField>("readoutTextField").text(), "10.00");
+    action("actionRedo")->trigger();
+    action("actionRedo")->trigger();
+    settle();
+    EXPECT_EQ(control<ValueSlider>("slider").value(), 50);
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(), 50);
+
+    QTest::mouseDClick(&control<CaptionLabel>("labelTextField"), Qt::LeftButton);
+    EXPECT_EQ(control<ValueSlider>("slider").value(), 10);
+    controller.undo();
+    settle();
+    EXPECT_EQ(control<ValueSlider>("slider").value(), 50) << "one step";
+}
+
+TEST_F(PanelTest, ADragAndATypedVectorAreOneStepEach)
+{
+    pick("CIColorMatrix");
+    ReadoutField& field = control<ReadoutField>("readout1TextField");
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, "0.25");
+    QTest::keyClick(&field, Qt::Key_Return);
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRVector").toVector().X(), 0.25);
+    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
+    settle();
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRVector").toVector().X(), 1);
+    EXPECT_FALSE(undo.canUndo());
+
+    pick("CIGaussianBlur");
+    ValueSlider& slider = control<ValueSlider>("slider");
+    QTest::mousePress(&slider, Qt::LeftButton, {}, {40, 8});
+    for (int x = 45; x < 80; x += 5) {
+        QMouseEvent event(QEvent::MouseMove, QPointF(x, 8), slider.mapToGlobal(QPointF(x, 8)), Qt::NoButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&slider, &event);
+    }
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, {75, 8});
+    EXPECT_NE(controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(), 10);
+    controller.undo();
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(), 10);
+}
+
+TEST_F(PanelTest, UnreadableFilesAreToldInTheStatusBar)
+{
+    pick("CIGlassDistortion");
+    DropImageView& well = control<DropImageView>("imageView");
+    const QImage shown = well.image();
+    EXPECT_FALSE(shown.isNull());
+    const QString path = folder.filePath("broken.png");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("no picture");
+    file.close();
+    well.setFilePath1(path);
+    emit well.imageDropped();
+    EXPECT_EQ(well.image(), shown);
+    EXPECT_TRUE(ui.pictureInfoField->text().contains("broken.png")) << ui.pictureInfoField->text().toStdString();
+    controller.undo();
+    settle();
+    EXPECT_TRUE(controller.getCurrentFilter()->valueForKey("inputTexture").isImage());
+    control<DropImageView>("imageView").setFilePath1(pictureFile("good.png", 20, 10));
+    emit control<DropImageView>("imageView").imageDropped();
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputTexture").toImage().extent(), (CIRect{0, 0, 20, 10}));
+}
+
+TEST_F(PanelTest, ScrollsWhenThereIsNoRoomAndTabGoesDown)
+{
+    window.resize(900, 520);
+    std::string longest;
+    int most = 0;
+    forEachFilter([&](const CIFilter& filter) {
+        const int height = panel()->minimumHeight();
+        if (height > most) {
+            most = height;
+            longest = filter.name();
+        }
+        int last = -1;
+        for (const QWidget* part : panel()->controls()) {
+            const int top = inPanel(*part).top();
+            EXPECT_GE(top, last - 8) << part->objectName().toStdString();
+            last = std::max(last, top);
+        }
+    });
+    controller.clearAll();
+    controller.addFilterIndex(QString::fromStdString(longest), 111);
+    settle();
+    QScrollBar* bar = ui.controlScrollArea->verticalScrollBar();
+    EXPECT_EQ(bar->maximum() > 0, most > ui.controlScrollArea->viewport()->height());
+    const std::vector<QWidget*> controls = panel()->controls();
+    controls.front()->setFocus();
+    for (QWidget* control : controls) {
+        EXPECT_TRUE(control->hasFocus()) << control->objectName().toStdString();
+        QTest::keyClick(control, Qt::Key_Tab);
+    }
+}
+
+TEST_F(PanelTest, RestylingMakesRoundedPushButtonsSquare)
+{
+    pick("CIGlassDistortion");
+    QPushButton& choose = control<QPushButton>("pushButton");
+    EXPECT_EQ(bezelStyle(choose), BezelStyle::Rounded);
+    controller.changeControlsStyle(ui.placeCntrlView);
+    EXPECT_EQ(bezelStyle(choose), BezelStyle::TexturedSquare);
+    EXPECT_EQ(bezelStyle(*ui.openBtn), BezelStyle::None);
+}
+
+TEST_F(PanelTest, DraggedPointsAreNamedAsWell)
+{
+    pick("CIBumpDistortion");
+    if (!controller.isControlsPresent())
+        GTEST_SKIP() << "no such filter yet";
+    MyImageView& view = *ui.pictureScrollView->imageView();
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Tab);
+    QTest::keyClick(&view, Qt::Key_Right);
+    EXPECT_EQ(undo.undoActionName(), "Change to Bump Distortion Center");
+}
+
+} // namespace
