@@ -66,8 +66,8 @@ struct Line {
 /// Large pictures are worked out where they are needed, rather than kept whole.
 CIImage keptIfSmall(const CIImage& image)
 {
-    constexpr double kMost = 4e6; // px
-    return image.extent().width * image.extent().height <= kMost ? CIImage(sharedNode(image.node())) : image;
+    constexpr double kMost = 6e6; // cells
+    return CIImage(sharedNode(image.node(), kMost));
 }
 
 /// Around each pixel of the small picture, the line that makes it out of the guide at its size; these lines, enlarged,

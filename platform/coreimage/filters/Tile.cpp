@@ -38,7 +38,7 @@ const RecipeFilter affineTile{{.name = "CIAffineTile",
             return CIImage();
         const CIAffineTransform t = in.transform("inputTransform");
         const double magnification = std::max(std::hypot(t.a, t.b), std::hypot(t.c, t.d));
-        return warp<AffineTile>(in, CIImage(clampNode(sharedNode(source.node()))), CIRect::infinite(), magnification);
+        return warp<AffineTile>(in, CIImage(sharedTileNode(source.node())), CIRect::infinite(), magnification);
     }};
 
 /// Angles around the center are folded, mirrored each time, into one sector of half a turn over inputCount.

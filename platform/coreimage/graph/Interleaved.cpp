@@ -10,8 +10,6 @@ namespace ci {
 
 namespace {
 
-constexpr double kMostShared = 4e7; // cells; larger images are worked out where they are needed
-
 bool isWhole(double v) { return std::abs(v - std::round(v)) < 1e-9; }
 
 } // namespace
@@ -131,8 +129,9 @@ private:
 
 class SharedNode : public WrapperNode {
 public:
-    explicit SharedNode(NodePtr source)
+    SharedNode(NodePtr source, double mostCells)
         : WrapperNode(source, source->extent(), source->isOpaque())
+        , m_mostCells(mostCells)
     {
     }
     void prepare(const Render& render) const override
@@ -140,7 +139,7 @@ public:
         m_source->prepare(render);
         if (const auto copy = m_copy.load(); copy && copy->fits(render.grid))
             return;
-        m_copy.store(GridCopy::make(*m_source, render, kMostShared));
+        m_copy.store(GridCopy::make(*m_source, render, m_mostCells));
     }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
@@ -156,6 +155,7 @@ public:
     int reach(const Grid& grid) const override { return copyFor(grid) ? 0 : m_source->reach(grid); }
 
 private:
+    double m_mostCells;
     mutable std::atomic<std::shared_ptr<const GridCopy>> m_copy; // of the last render's grid
 };
 
@@ -167,11 +167,20 @@ std::unique_ptr<RowReader> readCopy(std::shared_ptr<const GridCopy> copy, const 
     return std::make_unique<CopyReader>(std::move(copy), extent, render, area, scratch);
 }
 
-NodePtr sharedNode(NodePtr source)
+NodePtr sharedNode(NodePtr source, double mostCells)
 {
     if (source->extent().isInfinite() || source->extent().isEmpty())
         return source;
-    return std::make_shared<SharedNode>(std::move(source));
+    return std::make_shared<SharedNode>(std::move(source), mostCells);
+}
+
+NodePtr sharedTileNode(NodePtr source)
+{
+    constexpr double kRim = 64; // px, more than a cell on any but the coarsest grids
+    const CIRect extent = source->extent();
+    if (extent.isInfinite() || extent.isEmpty())
+        return source;
+    return sharedNode(cropNode(clampNode(std::move(source)), extent.grown(kRim)));
 }
 
 } // namespace ci

@@ -62,7 +62,9 @@ std::unique_ptr<RowReader> readCopy(
     std::shared_ptr<const GridCopy>, const CIRect& extent, const Render&, const GridRect& area, Scratch&);
 
 /// The same image, computed once for each render as a whole. For images that are read far from where they are
-/// asked for, again and again; finite ones only.
-NodePtr sharedNode(NodePtr);
+/// asked for, again and again; finite ones only. Images of more than `mostCells` are worked out where they are needed.
+NodePtr sharedNode(NodePtr, double mostCells = 4e7);
+/// The same with the edge pixels repeated a little way out, so that reading at the very edge meets no transparency.
+NodePtr sharedTileNode(NodePtr);
 
 } // namespace ci

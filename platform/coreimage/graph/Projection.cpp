@@ -212,7 +212,7 @@ CIImage projectedTiles(const CIImage& image, const Projection& map)
     if (image.isNull() || image.extent().isInfinite() || image.extent().isEmpty())
         return image;
     const auto values = valuesFor(image, map);
-    const CIImage tile(clampNode(sharedNode(image.node())));
+    const CIImage tile(sharedTileNode(image.node()));
     return values ? warp<ProjectiveTiles>(*values, tile, CIRect::infinite(), magnificationOf(image, map)) : CIImage();
 }
 
