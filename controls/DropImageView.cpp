@@ -1,6 +1,8 @@
 #include "controls/DropImageView.h"
 
 #include "controls/DropFileTypes.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/TintedIcon.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -9,7 +11,14 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
+#include <QPainterPath>
 #include <QUrl>
+
+namespace {
+
+constexpr double kCorner = 4;
+
+} // namespace
 
 DropImageView::DropImageView(QWidget* parent)
     : QFrame(parent)
@@ -30,10 +39,15 @@ Qt::DropActions DropImageView::draggingSourceOperationMaskForLocal(bool) const {
 
 QSize DropImageView::sizeHint() const { return {48, 44}; }
 
-void DropImageView::paintEvent(QPaintEvent* event)
+void DropImageView::paintEvent(QPaintEvent*)
 {
-    QFrame::paintEvent(event);
+    const Look& look = Appearance::shared().look();
     QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath bezel;
+    bezel.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+    painter.fillPath(bezel, look.field);
+    painter.setClipPath(bezel);
     const QRect inside = contentsRect();
     if (!m_image.isNull()) {
         const double ratio = devicePixelRatioF();
@@ -44,11 +58,12 @@ void DropImageView::paintEvent(QPaintEvent* event)
         target.moveCenter(QRectF(inside).center());
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(target, m_image);
+    } else {
+        tintedIcon(QStringLiteral("picture")).paint(&painter, inside.adjusted(12, 10, -12, -10));
     }
-    if (m_dropHighlighted) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(inside.adjusted(1, 1, -1, -1));
-    }
+    painter.setClipping(false);
+    painter.setPen(QPen(m_dropHighlighted ? look.accentMark : look.border, m_dropHighlighted ? 2 : 1));
+    painter.drawPath(bezel);
 }
 
 void DropImageView::dragEnterEvent(QDragEnterEvent* event)

@@ -111,10 +111,11 @@ ValueSlider* ParameterView::addSlider(const QString& name, const char* objectNam
     return added;
 }
 
-ReadoutField* ParameterView::addReadout(const QString& name, const char* objectName, Placement placement)
+ReadoutField* ParameterView::addReadout(const QString& name, const char* objectName, Placement placement, bool bezeled)
 {
     auto* readout = new ReadoutField(this);
     readout->setFont(rowFont(font()));
+    readout->setProperty("bezeled", bezeled); // for the style sheet, before it is shown
     readout->setAccessibleName(name);
     readout->setToolTip(tr("%1: type a number").arg(name));
     place(readout, objectName, std::move(placement));

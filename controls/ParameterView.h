@@ -80,7 +80,7 @@ private:
     void place(QWidget* widget, const char* name, Placement placement);
     CaptionLabel* addCaption(const QString& text, const char* name, Placement placement);
     ValueSlider* addSlider(const QString& name, const char* objectName, Placement placement);
-    ReadoutField* addReadout(const QString& name, const char* objectName, Placement placement);
+    ReadoutField* addReadout(const QString& name, const char* objectName, Placement placement, bool bezeled = false);
     void addNumberRow(const QString& caption, double lo, double hi);
     void addComponents(int count);
     void addTransformLine(int line);

@@ -41,11 +41,11 @@ void ParameterView::addComponents(int count)
     labelTextField = addCaption(caption, "labelTextField", [](int) { return QRect(0, 0, 75, 16); });
     for (int i = 0; i < count; ++i) {
         const QString name = tr("%1 %2", "parameter and X, Y, Z or W").arg(caption, QStringLiteral("XYZW").mid(i, 1));
-        *fields[i] = addReadout(name, names[i], [i](int w) {
+        const auto placement = [i](int w) {
             const int field = (w - 5 - 95) / 4;
             return QRect(80 + i * (field + 5), 0, field, 16);
-        });
-        (*fields[i])->setProperty("bezeled", true);
+        };
+        *fields[i] = addReadout(name, names[i], placement, true);
         connect(*fields[i], &ReadoutField::committed, this, actions[i]);
         connect(*fields[i], &QLineEdit::textEdited, this, observers[i]);
         connect(*fields[i], &ReadoutField::givenUp, this, &ParameterView::giveUpTyping);
