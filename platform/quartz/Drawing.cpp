@@ -48,6 +48,16 @@ void drawStretched(QPainter& painter, const Figure& figure)
     painter.setRenderHint(QPainter::Antialiasing);
 }
 
+/// True when nothing drawn before the figure can be seen within `visible`.
+bool hidesAllBefore(const Figure& figure, const QRectF& visible)
+{
+    if (figure.kind != Figure::Kind::FillRect || !figure.color.isOpaque() || !figure.bounds.contains(visible))
+        return false;
+    bool invertible = false;
+    const QTransform toUser = figure.transform.inverted(&invertible);
+    return invertible && figure.rect.contains(toUser.mapRect(visible));
+}
+
 QPen penOf(const Figure& figure)
 {
     QPen pen(QColor(figure.color), figure.lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
@@ -108,11 +118,16 @@ QImage Drawing::rendered(const Part& part) const
     painter.setRenderHint(QPainter::Antialiasing);
     const QTransform base = part.fromCanvas();
     const QRectF visible = part.onCanvas();
-    for (const Figure& figure : m_figures) {
-        if (!touches(figure.bounds, visible))
+    auto figure = m_figures.end();
+    while (figure != m_figures.begin() && !hidesAllBefore(*std::prev(figure), visible))
+        --figure;
+    if (figure != m_figures.begin())
+        --figure;
+    for (; figure != m_figures.end(); ++figure) {
+        if (!touches(figure->bounds, visible))
             continue;
-        painter.setTransform(figure.transform.isIdentity() ? base : figure.transform * base);
-        paintFigure(painter, figure);
+        painter.setTransform(figure->transform.isIdentity() ? base : figure->transform * base);
+        paintFigure(painter, *figure);
     }
     return image;
 }

@@ -145,6 +145,23 @@ TEST_F(DrawingTest, ImagesKeepTheirFirstRowOnTopAndReachTheEdges)
     EXPECT_EQ(at(19, 0), kGreen);
 }
 
+TEST_F(DrawingTest, SkipsOnlyWhatIsHiddenAltogether)
+{
+    red();
+    context.fillRect({0, 0, 20, 10});
+    context.translate(10, 5);
+    context.rotate(std::numbers::pi / 4);
+    green();
+    context.fillRect({-9, -9, 18, 18}); // leaves the corners red
+    EXPECT_EQ(at(0, 0), kRed);
+    EXPECT_EQ(at(10, 5), kGreen);
+    context.fillRect({-20, -20, 40, 40});
+    context.setRGBFillColor(1, 0, 0, 0.5);
+    context.fillRect({-20, -20, 40, 40});
+    EXPECT_NEAR(qGreen(at(0, 0)), 127, 1);
+    EXPECT_NEAR(qRed(at(19, 9)), 128, 1);
+}
+
 TEST_F(DrawingTest, PartsShowTheSamePixelsAsTheWhole)
 {
     red();
