@@ -1,0 +1,101 @@
+// What all generated effects share, flat ones and those in 3D.
+#pragma once
+
+#include "platform/coreimage/CIImage.h"
+#include "platform/coreimage/CIValue.h"
+#include "platform/quartz/Drawing.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+#include <string>
+
+class UndoManager;
+
+/// A generated effect. The list holds one prototype of each class; the user edits copies of them (`mycopy`).
+///
+/// Effects are made with std::make_shared: undo steps keep the effect that they belong to alive.
+/// Points are picture pixels, y up. Main thread only.
+class BaseEffect : public std::enable_shared_from_this<BaseEffect> {
+public:
+    BaseEffect() = default;
+    virtual ~BaseEffect() = default;
+    BaseEffect(const BaseEffect&) = delete;
+    BaseEffect& operator=(const BaseEffect&) = delete;
+
+    /// Gives a prototype its name, tips and the parameters that the user starts with. Copies never get this call.
+    virtual void awakeFromNib() { }
+
+    std::string myname() const { return name; }
+    std::string tips() const { return m_tips; }
+    /// True when the effect has an anchor point that is placed with the mouse.
+    virtual bool isMousing() const { return false; }
+    void setName(const std::string& newName) { name = newName; }
+    void setTips(const std::string& newTips) { m_tips = newTips; }
+
+    /// Takes all controls out of the panel.
+    void clearTopControlsView();
+    void setTopControlsView(QWidget* view) { topControlsView = view; }
+    QWidget* getTopControlsView() const { return topControlsView; }
+
+    virtual void initEffect() { }
+    /// The effect is no longer shown.
+    virtual void clearEffect() { }
+
+    /// A new effect of the same class with only the name, the tips and the panel taken over.
+    std::shared_ptr<BaseEffect> copyWithZone() const;
+    /// A new effect with the same parameters. It fetches the picture and draws on its own.
+    virtual std::shared_ptr<BaseEffect> mycopy() const { return copyWithZone(); }
+
+    virtual void draw() { }
+    virtual void mouseDown(CIPoint) { }
+    virtual void mouseUp(CIPoint) { }
+    virtual void mouseDragged(CIPoint) { }
+
+    /// Builds the controls into the panel.
+    virtual void setUpControlsView() { }
+
+    /// Fetches the picture from the controller, unless it is there.
+    virtual void loadImage() { }
+    /// The controller's picture has changed.
+    virtual void reloadImage() { }
+    CIPoint startPoint() const { return m_startPT; }
+
+    /// Takes over the parameters that are present.
+    virtual void read(const CIDictionary& dictionary);
+    /// The parameters and the class name, as favourites are stored.
+    virtual CIDictionary save() const;
+
+    /// The finished picture at full size; null for none.
+    virtual CIImage getDrawImage() { return m_image; }
+    /// What of `getDrawImage` lies in a part of the canvas, for the screen. Null when there is no picture.
+    virtual QImage drawPart(const quartz::Part& part);
+    /// The size of `getDrawImage`, without drawing it. 0 x 0 for none.
+    virtual QSizeF drawImageSize() const { return sizeOf(m_image); }
+
+    /// The name of the class in stored dictionaries.
+    virtual std::string className() const { return "BaseEffect"; }
+
+protected:
+    /// A new effect of the own class with nothing set.
+    virtual std::shared_ptr<BaseEffect> init() const { return std::make_shared<BaseEffect>(); }
+
+    static QSizeF sizeOf(const CIImage& image); // 0 x 0 when it is null or has no end
+    /// Renders a part of an image that lies with its lower left corner on the canvas' origin.
+    static QImage renderedPart(const CIImage& image, const quartz::Part& part);
+    /// The controller's; null without one.
+    static UndoManager* undoManager();
+
+    bool wasInit = false; // the first `getDrawImage` or `drawPart` has come
+    std::string name; // shown in the list
+    std::string m_tips; // one line, shown as a tooltip
+    QPointer<QWidget> topControlsView;
+    unsigned m_texture = 0; // 3D effects: OpenGL's number
+    CIImage m_image; // the source picture
+    std::array<float, 4> gTrackBallRotation{}; // 3D effects
+    bool gTrackball = false; // 3D effects: the mouse turns the object
+    std::array<float, 4> worldRotation{}; // 3D effects
+    CIPoint m_startPT; // the anchor
+};

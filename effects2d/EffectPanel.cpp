@@ -1,0 +1,230 @@
+#include "effects2d/EffectPanel.h"
+
+#include "widgets/ColorSwatch.h"
+
+#include <cmath>
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QValidator>
+
+namespace {
+
+constexpr int kReadoutWidth = 52; // points
+constexpr QSize kButtonSize(96, 24);
+
+/// The row's widget around the toolkit's control, which takes the names and the focus.
+template <class Widget>
+class ControlOf : public EffectControl {
+protected:
+    ControlOf()
+        : m_widget(new Widget(this))
+        , m_row(new QHBoxLayout(this))
+    {
+        m_row->setContentsMargins(0, 0, 0, 0);
+        m_row->addWidget(m_widget);
+        setFocusProxy(m_widget);
+    }
+
+    Widget* m_widget;
+    QHBoxLayout* m_row;
+};
+
+class PopUp : public ControlOf<QComboBox> {
+public:
+    explicit PopUp(const QStringList& titles)
+    {
+        m_widget->addItems(titles);
+        connect(m_widget, &QComboBox::activated, this, [this](int index) {
+            if (index != std::exchange(m_last, index))
+                emit changed();
+        });
+    }
+    CIValue value() const override { return m_widget->currentIndex(); }
+    void setValue(const CIValue& value) override
+    {
+        m_last = parameterValue<int>(value);
+        m_widget->setCurrentIndex(m_last);
+    }
+
+private:
+    int m_last = 0;
+};
+
+class Well : public ControlOf<ColorSwatch> {
+public:
+    Well()
+    {
+        m_row->addStretch();
+        connect(m_widget, &ColorSwatch::colorChanged, this, &EffectControl::changed);
+    }
+    CIValue value() const override
+    {
+        const QColor c = m_widget->color();
+        return CIColor(c.redF(), c.greenF(), c.blueF(), c.alphaF());
+    }
+    void setValue(const CIValue& value) override
+    {
+        const CIColor c = value.toColor();
+        const auto component = [](double v) { return float(std::clamp(v, 0.0, 1.0)); };
+        m_widget->setColor(
+            QColor::fromRgbF(component(c.red()), component(c.green()), component(c.blue()), component(c.alpha())));
+    }
+};
+
+class Switch : public ControlOf<QCheckBox> {
+public:
+    Switch() { connect(m_widget, &QCheckBox::clicked, this, &EffectControl::changed); }
+    CIValue value() const override { return m_widget->isChecked(); }
+    void setValue(const CIValue& value) override { m_widget->setChecked(value.toBool()); }
+};
+
+class PushButton : public ControlOf<QPushButton> {
+public:
+    explicit PushButton(const QString& title)
+    {
+        m_widget->setText(title);
+        // A style sheet gives buttons a size of their own, so a plain fixed size wouldn't hold.
+        m_widget->setStyleSheet(
+            QStringLiteral("QPushButton { padding: 0; border-width: 1px; border-style: solid;"
+                           " min-width: %1px; max-width: %1px; min-height: %2px; max-height: %2px }")
+                .arg(kButtonSize.width() - 2)
+                .arg(kButtonSize.height() - 2));
+        connect(m_widget, &QPushButton::clicked, this, &EffectControl::changed);
+    }
+    CIValue value() const override { return {}; }
+    void setValue(const CIValue&) override { }
+};
+
+/// A slider with an editable readout.
+class Slider : public ControlOf<QSlider> {
+public:
+    Slider(const EffectPanel::Text& text, const EffectPanel::Range& range)
+        : m_steps(std::pow(10, range.decimals))
+        , m_decimals(range.decimals)
+        , m_readout(new QLineEdit(this))
+    {
+        m_widget->setOrientation(Qt::Horizontal);
+        m_widget->setRange(int(std::lround(range.min * m_steps)), int(std::lround(range.max * m_steps)));
+        m_widget->setPageStep(std::max(1, (m_widget->maximum() - m_widget->minimum()) / 10));
+        m_widget->setTracking(range.continuous);
+        m_readout->setFixedWidth(kReadoutWidth);
+        m_readout->setAlignment(Qt::AlignRight);
+        m_readout->setAccessibleName(text.label);
+        m_readout->setToolTip(text.toolTip);
+        m_readout->setValidator(new QDoubleValidator(range.min, range.max, range.decimals, m_readout));
+        m_row->addWidget(m_readout);
+        connect(m_widget, &QSlider::sliderMoved, this, [this](int position) { showValue(position / m_steps); });
+        connect(m_widget, &QSlider::valueChanged, this, [this](int position) { userSets(position / m_steps); });
+        connect(m_readout, &QLineEdit::editingFinished, this, &Slider::readoutEdited);
+    }
+    CIValue value() const override { return m_value; }
+    void setValue(const CIValue& value) override
+    {
+        const QSignalBlocker quiet(m_widget);
+        m_value = value.toDouble();
+        m_widget->setValue(int(std::lround(std::clamp(m_value, -1e6, 1e6) * m_steps)));
+        showValue(m_value);
+    }
+
+private:
+    void showValue(double value) { m_readout->setText(QLocale().toString(value, 'f', m_decimals)); }
+    void userSets(double value)
+    {
+        setValue(value);
+        emit changed();
+    }
+    void readoutEdited()
+    {
+        bool isNumber = false;
+        const double typed = QLocale().toDouble(m_readout->text(), &isNumber);
+        // Leaving the field as it was is no change.
+        if (isNumber && std::lround(typed * m_steps) != std::lround(m_value * m_steps))
+            userSets(typed);
+    }
+
+    double m_steps; // per unit
+    int m_decimals;
+    QLineEdit* m_readout;
+    double m_value = 0; // of the parameter, which may lie between steps
+};
+
+} // namespace
+
+EffectPanel::EffectPanel(QWidget* parent)
+    : QWidget(parent)
+    , m_rows(new QGridLayout(this))
+{
+    m_rows->setContentsMargins(12, 12, 12, 12);
+    m_rows->setHorizontalSpacing(8);
+    m_rows->setVerticalSpacing(8);
+    m_rows->setColumnStretch(1, 1);
+}
+
+EffectPanel& EffectPanel::placedIn(QWidget& view)
+{
+    auto* panel = new EffectPanel(&view);
+    if (!view.layout()) {
+        auto* layout = new QVBoxLayout(&view);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setAlignment(Qt::AlignTop);
+    }
+    view.layout()->addWidget(panel);
+    panel->show();
+    return *panel;
+}
+
+EffectControl* EffectPanel::addRow(const Text& text, EffectControl* control, const CIValue& value, Action action)
+{
+    QWidget* target = control->focusProxy();
+    target->setAccessibleName(text.label);
+    target->setToolTip(text.toolTip);
+    auto* caption = new QLabel(text.label, this);
+    caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    caption->setToolTip(text.toolTip);
+    caption->setBuddy(target);
+    const int row = m_rows->rowCount();
+    m_rows->addWidget(caption, row, 0);
+    m_rows->addWidget(control, row, 1);
+    control->setValue(value);
+    connect(control, &EffectControl::changed, control, [control, action = std::move(action)] { action(control); });
+    return control;
+}
+
+EffectControl* EffectPanel::addPopUp(const Text& text, const QStringList& titles, int index, Action action)
+{
+    return addRow(text, new PopUp(titles), index, std::move(action));
+}
+
+EffectControl* EffectPanel::addColorWell(const Text& text, const CIColor& color, Action action)
+{
+    return addRow(text, new Well, color, std::move(action));
+}
+
+EffectControl* EffectPanel::addCheckBox(const Text& text, bool on, Action action)
+{
+    return addRow(text, new Switch, on, std::move(action));
+}
+
+EffectControl* EffectPanel::addSlider(const Text& text, const Range& range, double value, Action action)
+{
+    return addRow(text, new Slider(text, range), value, std::move(action));
+}
+
+EffectControl* EffectPanel::addPushButton(const Text& text, Action action)
+{
+    auto* button = new PushButton(text.label);
+    button->focusProxy()->setAccessibleName(text.label);
+    button->focusProxy()->setToolTip(text.toolTip);
+    m_rows->addWidget(button, m_rows->rowCount(), 0, 1, 2, Qt::AlignHCenter);
+    connect(button, &EffectControl::changed, button, [button, action = std::move(action)] { action(button); });
+    return button;
+}
