@@ -1,0 +1,214 @@
+#include "effects2d/linesEffect.h"
+#include "effects2d/patMorphingEffect.h"
+#include "effects2d/simpleEffects.h"
+#include "platform/coreimage/CIContext.h"
+#include "tests/effects2d/EffectFixture.h"
+
+#include <cmath>
+#include <set>
+
+namespace {
+
+QRgb pixelOf(const CIImage& image, int x, int y)
+{
+    const CIBitmap bitmap = CIContext().render(image, {double(x), double(y), 1, 1}, 1, CIFormat::BGRA8);
+    return bitmap.isNull() ? 0 : bitmap.row<std::uint32_t>(0)[0];
+}
+
+int difference(QRgb a, QRgb b)
+{
+    return std::max({std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b)),
+        std::abs(qAlpha(a) - qAlpha(b))});
+}
+
+TEST(EffectsList, HasEightEffectsInOrder)
+{
+    const auto list = customEffectPrototypes();
+    const std::vector<std::array<std::string, 3>> expected{
+        {"simpleEffects", "Simple Objects", "Simple Objects Generator"},
+        {"linesEffect", "Lines Effect", "Lines Effect Generator"},
+        {"hilbertLinesEffect", "Hilbert Lines", "Hilbert Lines Effect Generator"},
+        {"patchWorkEffect", "Patch Works", "Patch Works Effect Generator"},
+        {"flareEffect", "Flare Effect", "Flare Effect Generator"},
+        {"plasmaEffect", "Plasma Effect", "Plasma Effect Generator"},
+        {"patMorphingEffect", "Pattern Morphing", "Pattern Morphing Effect Generator"},
+        {"sketchEffect", "Sketch Effect", "Sketch Effect Generator"}};
+    ASSERT_EQ(list.size(), expected.size());
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        EXPECT_EQ(list[i]->className(), expected[i][0]);
+        EXPECT_EQ(list[i]->myname(), expected[i][1]);
+        EXPECT_EQ(list[i]->tips(), expected[i][2]);
+        EXPECT_EQ(list[i]->isMousing(), i == kLines || i == kFlare || i == kMorphing);
+    }
+}
+
+TEST(BaseEffect, StoresItsNameAnchorAndClass)
+{
+    auto effect = std::make_shared<BaseEffect>();
+    effect->read({{"Name", "one"}, {"startPT.x", 0.1}, {"startPT.y", -7.5}, {"other", 3}});
+    effect->setTips("two");
+    const CIDictionary saved = effect->save();
+    EXPECT_EQ(saved,
+        (CIDictionary{
+            {"Name", "one"}, {"Tips", "two"}, {"startPT.x", 0.1f}, {"startPT.y", -7.5f}, {"class", "BaseEffect"}}));
+    const auto copy = effect->mycopy();
+    EXPECT_EQ(copy->myname(), "one");
+    EXPECT_EQ(copy->tips(), "two");
+    EXPECT_EQ(copy->startPoint(), CIPoint());
+    EXPECT_TRUE(copy->getDrawImage().isNull());
+}
+
+TEST(EffectsList, MakesEffectsFromWhatTheyStored)
+{
+    const auto list = customEffectPrototypes();
+    const CIDictionary changes{{"useBackImage", false}, {"bgColor", CIColor(0.1, 0.2, 0.3, 0.4)}, {"opacity", 12.5f},
+        {"drawObj", 5}, {"object_count", 77}, {"linesCount", 42}, {"lineWidth", 3.25}, {"level", 4}, {"count", 9},
+        {"patColor", CIColor(1, 0, 0)}, {"proportion", 0.75}, {"startPT.x", 10}, {"startPT.y", 20}};
+    const std::vector<std::set<std::string>> own{{"drawObj", "object_count"}, {"linesCount", "lineWidth"},
+        {"level", "lineWidth"}, {"level", "lineWidth"}, {"linesCount", "lineWidth"}, {},
+        {"count", "patColor", "lineWidth", "proportion"}};
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        SCOPED_TRACE(list[i]->className());
+        CIDictionary stored = changes;
+        stored["class"] = list[i]->className();
+        const auto effect = customEffectFromDictionary(list, stored);
+        ASSERT_TRUE(effect);
+        const CIDictionary saved = effect->save();
+        std::set<std::string> keys{"Name", "Tips", "class", "startPT.x", "startPT.y"};
+        if (i != kSketch) {
+            keys.insert({"useBackImage", "bgColor", "opacity"});
+            keys.insert(own[i].begin(), own[i].end());
+        }
+        std::set<std::string> savedKeys;
+        for (const auto& [key, value] : saved) {
+            savedKeys.insert(key);
+            if (changes.contains(key)) {
+                EXPECT_EQ(value, changes.at(key)) << key;
+            }
+        }
+        EXPECT_EQ(savedKeys, keys);
+        if (i == kLines || i == kFlare) { // these copy all that they store
+            EXPECT_EQ(effect->mycopy()->save(), saved);
+        }
+    }
+    EXPECT_FALSE(customEffectFromDictionary(list, {{"class", "EvalEffect"}}));
+    EXPECT_FALSE(customEffectFromDictionary(list, {}));
+}
+
+TEST(EffectsList, SurvivesDamagedDictionaries)
+{
+    const auto list = customEffectPrototypes();
+    for (const auto& prototype : list) {
+        CIDictionary stored{{"class", prototype->className()}, {"opacity", "no"}, {"bgColor", 3}, {"level", 1e300},
+            {"linesCount", -1e300}, {"count", std::nan("")}, {"object_count", -5}, {"lineWidth", "wide"},
+            {"startPT.x", std::nan("")}, {"drawObj", 1e9}};
+        const auto effect = customEffectFromDictionary(list, stored);
+        effect->initEffect();
+        EXPECT_EQ(effect->getDrawImage().isNull(), prototype->className() == "sketchEffect");
+    }
+}
+
+TEST(GeneratedEffect, LaysLayerOverTintOverPicture)
+{
+    FakeEffectMaster master;
+    master.picture = plainPicture(80, 40, 0xff204060);
+    Working<simpleEffects> effect(kSimple);
+    effect->setObjectMode(7); // opaque everywhere
+    const QRgb half = qRgb(0x90, 0xa0, 0xb0); // the picture under white at one half
+    effect->seOpacity(0);
+    EXPECT_LE(difference(pixelOf(effect->getDrawImage(), 5, 5), half), 1);
+    EXPECT_EQ(effect->getDrawImage().extent(), (CIRect{0, 0, 80, 40}));
+    effect->setUseBackImage(false);
+    EXPECT_EQ(qAlpha(pixelOf(effect->getDrawImage(), 5, 5)), 128);
+    effect->setUseBackImage(true);
+    effect->seOpacity(100);
+    const QRgb opaque = pixelOf(effect->getDrawImage(), 40, 20);
+    EXPECT_LE(difference(opaque, QColor(effect.figures()[58].color).rgb()), 1);
+    effect->seOpacity(50);
+    const QRgb mixed = pixelOf(effect->getDrawImage(), 40, 20);
+    EXPECT_LE(std::abs(2 * qRed(mixed) - qRed(opaque) - qRed(half)), 2);
+}
+
+TEST(GeneratedEffect, ShowsThePartsOfWhatItExports)
+{
+    FakeEffectMaster master;
+    master.picture = plainPicture(600, 1500, 0xff204060); // more than one band
+    Working<simpleEffects> effect(kSimple);
+    const CIBitmap whole =
+        CIContext().render(effect->getDrawImage(), {0, 0, 600, 1500}, 1, CIFormat::BGRA8, CIAlpha::Premultiplied);
+    const quartz::Part part{1, 100, 900, {300, 800}};
+    for (const float opacity : {50.0f, 20.0f}) { // the second time from what the first kept
+        effect->seOpacity(opacity);
+        const QImage shown = effect->drawPart(part);
+        if (opacity != 50)
+            continue;
+        for (int y = 0; y < 800; y += 7)
+            for (int x = 0; x < 300; x += 7)
+                ASSERT_LE(difference(shown.pixel(x, y), whole.row<std::uint32_t>(600 + y)[std::size_t(100 + x)]), 2);
+    }
+    EXPECT_EQ(effect->drawPart({0.25, 0, 100, {20, 20}}).size(), QSize(20, 20));
+}
+
+TEST(GeneratedEffect, FetchesThePictureOnceAndDrawsOnItsOwnLayer)
+{
+    FakeEffectMaster master;
+    Working<simpleEffects> effect(kSimple);
+    EXPECT_EQ(effect->drawImageSize(), QSizeF(726, 544));
+    master.picture = plainPicture(30, 20, 0xff204060);
+    EXPECT_EQ(effect->getDrawImage().extent(), (CIRect{0, 0, 30, 20}));
+    const quartz::Drawing* layer = effect->effectImage();
+    master.picture = plainPicture(50, 20, 0xff204060);
+    effect->getDrawImage();
+    EXPECT_EQ(effect->effectImage(), layer);
+    effect->reloadImage();
+    EXPECT_EQ(effect->drawImageSize(), QSizeF(50, 20));
+}
+
+TEST(AnchoredEffect, FollowsTheMouseAndCanBeTakenBack)
+{
+    FakeEffectMaster master;
+    Working<linesEffect> effect(kLines);
+    effect->initEffect();
+    const CIPoint first = effect->startPoint();
+    int posted = 0;
+    const auto connection = QObject::connect(
+        &NotificationCenter::defaultCenter(), &NotificationCenter::UpdateCustomView, [&] { ++posted; });
+
+    effect->mouseDragged({1, 1}); // without a press
+    EXPECT_EQ(effect->startPoint(), first);
+    effect->mouseDown({100, 100});
+    effect->mouseUp({100, 100});
+    EXPECT_EQ(effect->startPoint(), first);
+    EXPECT_EQ(posted, 0);
+    master.undo.undo(); // the one step of the click
+    EXPECT_FALSE(master.undo.canUndo());
+
+    posted = 0;
+    effect->mouseDown({100, 100});
+    effect->mouseDragged({110, 120});
+    EXPECT_EQ(effect->startPoint(), (CIPoint{110, 120}));
+    effect->mouseUp({115, 125});
+    EXPECT_EQ(effect->startPoint(), (CIPoint{115, 125}));
+    EXPECT_EQ(posted, 2);
+    master.undo.undo();
+    EXPECT_EQ(effect->startPoint(), (CIPoint{110, 120}));
+    master.undo.undo();
+    EXPECT_EQ(effect->startPoint(), first);
+    EXPECT_FALSE(master.undo.canUndo());
+    master.undo.redo();
+    EXPECT_EQ(effect->startPoint(), (CIPoint{110, 120}));
+    QObject::disconnect(connection);
+}
+
+TEST(AnchoredEffect, PlacesAnAnchorThatWasNeverPlaced)
+{
+    Working<patMorphingEffect> effect(kMorphing);
+    effect->read({{"startPT.x", 5}, {"startPT.y", -10001}});
+    effect->initEffect();
+    EXPECT_EQ(effect->startPoint(), (CIPoint{363, 272}));
+    effect->setStartPoint({5, -10000});
+    effect->makeImageEffect();
+    EXPECT_EQ(effect->startPoint(), (CIPoint{5, -10000}));
+}
+
+} // namespace
