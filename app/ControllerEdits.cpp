@@ -3,7 +3,7 @@
 #include "app/ZoomScale.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
-#include "controls/ZoomSteps.h"
+#include "widgets/ZoomSteps.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"

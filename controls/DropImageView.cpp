@@ -1,8 +1,8 @@
 #include "controls/DropImageView.h"
 
-#include "controls/DropFileTypes.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
+#include "widgets/DropFileTypes.h"
 
 #include <QApplication>
 #include <QDrag>

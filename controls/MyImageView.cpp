@@ -4,8 +4,8 @@
 #include "controls/MyImageViewPrivate.h"
 #include "controls/PictureScrollView.h"
 #include "controls/PointMark.h"
-#include "controls/ZoomSteps.h"
 #include "platform/foundation/Look.h"
+#include "widgets/PictureLayout.h"
 
 #include <cmath>
 
@@ -28,14 +28,10 @@ double gridScale(double pixelsPerPicturePixel) { return std::min(pixelsPerPictur
 } // namespace
 
 MyImageView::MyImageView(PictureScrollView* scrollView)
-    : QWidget(scrollView)
+    : ZoomedCanvas(scrollView)
     , d(new Private)
 {
-    d->scrollView = scrollView;
-    setMouseTracking(true);
-    setFocusPolicy(Qt::StrongFocus);
     setAcceptDrops(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("Picture"));
     setAccessibleDescription(
         tr("Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms."));
@@ -67,71 +63,13 @@ void MyImageView::setNeedsDisplay()
 
 // --- layout ---
 
-void MyImageView::setZoom(float newZoom)
-{
-    zoom = clampedZoom(newZoom);
-    resizeViewBoundCenter(true, int(PictureCenter::Toward));
-}
-
-void MyImageView::resizeViewBoundCenter(bool force, int center)
+CIPoint MyImageView::pictureSize() const
 {
     const CIRect extent = controller ? controller->backImage().extent() : CIRect();
-    const PictureLayout layout = layOutPicture({.clip = d->scrollView->clipBounds(),
-        .pictureSize = {extent.width, extent.height},
-        .oldBounds = m_bounds,
-        .zoom = zoom,
-        .previousZoom = prev_zoom,
-        .mouse = d->eventMouse,
-        .force = force,
-        .center = PictureCenter(center)});
-    if (!layout.unchanged) {
-        const bool resized = m_bounds != layout.bounds;
-        m_bounds = layout.bounds;
-        prev_zoom = zoom;
-        d->pictureChanged = d->pictureChanged || resized; // some results fill the bounds
-        d->scrollView->setFrameSize(layout.frameSize);
-        if (layout.scrollTo)
-            d->scrollView->setScrollPosition(
-                {(layout.scrollTo->x - m_bounds.x) * zoom, (layout.scrollTo->y - m_bounds.y) * zoom});
-    }
-    viewTransformOffsetX = float(-m_bounds.x);
-    viewTransformOffsetY = float(-m_bounds.y);
-    update();
-    emit layoutChanged();
+    return {extent.width, extent.height};
 }
 
-void MyImageView::visibleSizeChanged(const QSizeF& before)
-{
-    const CIRect clip = d->scrollView->clipBounds();
-    const CIPoint center{
-        m_bounds.x + (clip.x + before.width() / 2) / zoom, m_bounds.y + (clip.y + before.height() / 2) / zoom};
-    resizeViewBoundCenter(true, int(PictureCenter::None));
-    const CIRect after = d->scrollView->clipBounds();
-    d->scrollView->setScrollPosition(
-        {(center.x - m_bounds.x) * zoom - after.width / 2, (center.y - m_bounds.y) * zoom - after.height / 2});
-}
-
-CIRect MyImageView::visibleRect() const
-{
-    const CIRect clip = d->scrollView->clipBounds();
-    return {m_bounds.x + clip.x / zoom, m_bounds.y + clip.y / zoom, clip.width / zoom, clip.height / zoom};
-}
-
-/// The place of the view's origin, moved to the nearest corner of a device pixel.
-QPointF MyImageView::toWidget(CIPoint picture) const
-{
-    const CIRect seen = visibleRect();
-    const double ratio = devicePixelRatioF();
-    const auto snapped = [&](double v, double offset) { return (std::round(v * ratio + offset) - offset) / ratio; };
-    return {snapped(-seen.x * zoom, d->subpixel.x()) + picture.x * zoom,
-        snapped((seen.y + seen.height) * zoom, d->subpixel.y()) - picture.y * zoom};
-}
-
-CIPoint MyImageView::toPicture(const QPointF& widget) const
-{
-    const QPointF origin = toWidget({0, 0});
-    return {(widget.x() - origin.x()) / zoom, (origin.y() - widget.y()) / zoom};
-}
+void MyImageView::boundsResized() { d->pictureChanged = true; } // some results fill the bounds
 
 // --- drawing ---
 
@@ -195,8 +133,7 @@ bool MyImageView::waitForFrame(int milliseconds)
 void MyImageView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QTransform device = painter.deviceTransform();
-    d->subpixel = {device.dx() - std::floor(device.dx()), device.dy() - std::floor(device.dy())};
+    setSubpixel(painter);
     painter.fillRect(rect(), surround(palette()));
     refreshFrame();
     drawFrame(painter);

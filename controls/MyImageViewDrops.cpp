@@ -1,9 +1,9 @@
 // A picture file dropped on the picture view.
-#include "controls/DropFileTypes.h"
 #include "controls/MyImageView.h"
 #include "controls/MyImageViewPrivate.h"
 #include "controls/PictureScrollView.h"
 #include "controls/PointMark.h"
+#include "widgets/DropFileTypes.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -46,7 +46,7 @@ void MyImageView::showDropHighlight(bool shown)
     delete d->dropHighlight;
     if (!shown)
         return;
-    d->dropHighlight = new DropHighlight(highlightedArea(d->scrollView));
+    d->dropHighlight = new DropHighlight(highlightedArea(scrollView()));
     d->dropHighlight->show();
 }
 

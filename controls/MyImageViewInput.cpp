@@ -1,22 +1,15 @@
 // Mouse, wheel, pinch and keys on the picture view.
 #include "controls/MyImageView.h"
 #include "controls/MyImageViewPrivate.h"
-#include "controls/PictureScrollView.h"
-#include "controls/ZoomSteps.h"
 
 #include <cmath>
 
 #include <QContextMenuEvent>
+#include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
-#include <QNativeGestureEvent>
-#include <QScopedValueRollback>
-#include <QWheelEvent>
 
 namespace {
-
-constexpr double kWheelNotch = 120; // eighths of a degree: one click of an ordinary wheel
 
 std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
 {
@@ -28,34 +21,20 @@ std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
 
 // --- zoom ---
 
-void MyImageView::wheelEvent(QWheelEvent* event)
+void MyImageView::zoomedByWheel(float newZoom)
 {
-    event->accept();
-    const double delta = event->angleDelta().x() + event->angleDelta().y();
-    // Fine wheels and touchpads send parts of a notch; together they make one step.
-    d->wheelRest = delta * d->wheelRest < 0 ? delta : d->wheelRest + delta;
-    if (std::abs(d->wheelRest) < kWheelNotch)
-        return;
-    const double direction = std::exchange(d->wheelRest, 0);
-    const QScopedValueRollback mouse(d->eventMouse, std::optional(toPicture(event->position())));
-    prev_zoom = zoom;
-    zoom = zoomAfterWheelStep(zoom, direction);
-    resizeViewBoundCenter(true, int(PictureCenter::Toward));
     if (controller)
-        controller->setZoom(zoom);
+        controller->setZoom(newZoom);
+}
+
+void MyImageView::pinched(double delta)
+{
+    if (controller)
+        controller->updateZoommWithDelta(delta);
 }
 
 bool MyImageView::event(QEvent* event)
 {
-    if (event->type() == QEvent::NativeGesture && controller) {
-        const auto* gesture = static_cast<QNativeGestureEvent*>(event);
-        if (gesture->gestureType() == Qt::ZoomNativeGesture) {
-            const QScopedValueRollback mouse(d->eventMouse, std::optional(toPicture(gesture->position())));
-            controller->updateZoommWithDelta(gesture->value());
-            event->accept();
-            return true;
-        }
-    }
     if (event->type() == QEvent::ShortcutOverride) {
         // Arrow keys belong to the selected point, even where a menu uses them.
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -64,7 +43,7 @@ bool MyImageView::event(QEvent* event)
             return true;
         }
     }
-    return QWidget::event(event);
+    return ZoomedCanvas::event(event);
 }
 
 // --- hover ---
@@ -106,52 +85,17 @@ void MyImageView::hover(const QPointF& position)
         update();
 }
 
-void MyImageView::updateCursor()
-{
-    if (d->panFrom)
-        setCursor(Qt::ClosedHandCursor);
-    else if (d->spaceHeld)
-        setCursor(Qt::OpenHandCursor);
-    else
-        setCursor(displayingPoints ? Qt::PointingHandCursor : Qt::ArrowCursor);
-}
-
 // --- dragging ---
 
-bool MyImageView::isPanStart(const QMouseEvent& event) const
+void MyImageView::pressed(CIPoint point)
 {
-    return event.button() == Qt::MiddleButton || (event.button() == Qt::LeftButton && d->spaceHeld);
-}
-
-void MyImageView::startPan(const QPointF& position)
-{
-    const CIRect clip = d->scrollView->clipBounds();
-    d->panFrom = position;
-    d->panScroll = {clip.x, clip.y};
-    updateCursor();
-}
-
-void MyImageView::endPan()
-{
-    d->panFrom.reset();
-    updateCursor();
-}
-
-void MyImageView::mousePressEvent(QMouseEvent* event)
-{
-    if (isPanStart(*event)) {
-        startPan(event->position());
-        return;
-    }
-    if (event->button() != Qt::LeftButton)
-        return;
     movingNow = true;
     parmIndex = -1;
     parmKey.clear();
     parmMode = ParmMode::kNothing;
     const std::vector<ControlPoint> points = pointsOf(controller);
     // However far away it is: small marks need no aim.
-    if (const auto nearest = nearestControlPoint(points, toPicture(event->position()))) {
+    if (const auto nearest = nearestControlPoint(points, point)) {
         parmIndex = 0;
         parmKey = points[*nearest].key;
         parmMode = points[*nearest].mode;
@@ -161,28 +105,12 @@ void MyImageView::mousePressEvent(QMouseEvent* event)
     update();
 }
 
-void MyImageView::mouseMoveEvent(QMouseEvent* event)
-{
-    if (d->panFrom) {
-        const QPointF moved = event->position() - *d->panFrom;
-        d->scrollView->setScrollPosition({d->panScroll.x - moved.x(), d->panScroll.y + moved.y()});
-    } else if (movingNow) {
-        dragGrabbedPoint(toPicture(event->position()));
-    } else {
-        hover(event->position());
-    }
-}
+void MyImageView::dragged(CIPoint point) { dragGrabbedPoint(point); }
 
-void MyImageView::mouseReleaseEvent(QMouseEvent* event)
+void MyImageView::released(CIPoint point)
 {
-    if (d->panFrom && event->button() != Qt::RightButton) {
-        endPan();
-        return;
-    }
-    if (event->button() != Qt::LeftButton)
-        return;
     movingNow = false;
-    hover(event->position());
+    hover(toWidget(point));
     update();
 }
 
@@ -225,9 +153,7 @@ void MyImageView::focusOutEvent(QFocusEvent* event)
 {
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         selectPoint({});
-    d->spaceHeld = false;
-    endPan();
-    QWidget::focusOutEvent(event);
+    ZoomedCanvas::focusOutEvent(event);
 }
 
 bool MyImageView::moveSelectedPoint(int key, bool far)
@@ -264,25 +190,10 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
 
 void MyImageView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space && !event->isAutoRepeat()) {
-        d->spaceHeld = true;
-        updateCursor();
-    } else if (event->key() == Qt::Key_Escape && d->selected) {
+    if (event->key() == Qt::Key_Escape && d->selected)
         selectPoint({});
-    } else if (event->key() != Qt::Key_Space
-        && !moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier)) {
-        QWidget::keyPressEvent(event); // the scroll view scrolls
-    }
-}
-
-void MyImageView::keyReleaseEvent(QKeyEvent* event)
-{
-    if (event->key() != Qt::Key_Space) {
-        QWidget::keyReleaseEvent(event);
-    } else if (!event->isAutoRepeat()) {
-        d->spaceHeld = false;
-        updateCursor();
-    }
+    else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
+        ZoomedCanvas::keyPressEvent(event);
 }
 
 // --- menu ---

@@ -1,7 +1,7 @@
 // Files dropped on the picture view and on the image well.
 #include "tests/controls/ImageViewFixture.h"
 
-#include "controls/DropFileTypes.h"
+#include "widgets/DropFileTypes.h"
 #include "controls/DropImageView.h"
 
 #include <QDropEvent>

@@ -1,5 +1,5 @@
-#include "controls/PictureLayout.h"
-#include "controls/ZoomSteps.h"
+#include "widgets/PictureLayout.h"
+#include "widgets/ZoomSteps.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

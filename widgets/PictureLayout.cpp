@@ -1,4 +1,4 @@
-#include "controls/PictureLayout.h"
+#include "widgets/PictureLayout.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "controls/ZoomSteps.h"
+#include "widgets/ZoomSteps.h"
 
 float clampedZoom(float zoom)
 {

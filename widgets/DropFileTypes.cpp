@@ -1,4 +1,4 @@
-#include "controls/DropFileTypes.h"
+#include "widgets/DropFileTypes.h"
 
 #include <QFileInfo>
 #include <QMimeData>
@@ -40,6 +40,12 @@ bool isAcceptablePictureFile(const QString& path)
     if (extension.toLower() == "pdf")
         return false;
     return imageFileTypes().contains(extension) || codedTypes().contains(extension);
+}
+
+bool isAcceptableEffectPicture(const QString& path)
+{
+    const QString extension = QFileInfo(path).suffix().toLower();
+    return extension == "pdf" || imageFileTypes().contains(extension) || codedTypes().contains(extension);
 }
 
 QString firstDroppedFile(const QMimeData& data)
