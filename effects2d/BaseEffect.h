@@ -73,7 +73,10 @@ public:
     /// What of `getDrawImage` lies in a part of the canvas, for the screen. Null when there is no picture.
     virtual QImage drawPart(const quartz::Part& part);
     /// The size of `getDrawImage`, without drawing it. 0 x 0 for none.
-    virtual QSizeF drawImageSize() const { return sizeOf(m_image); }
+    virtual QSizeF drawImageSize() { return sizeOf(m_image); }
+
+    /// Renders a part of an image that lies with its lower left corner on the canvas' origin.
+    static QImage renderedPart(const CIImage& image, const quartz::Part& part);
 
     /// The name of the class in stored dictionaries.
     virtual std::string className() const { return "BaseEffect"; }
@@ -83,8 +86,6 @@ protected:
     virtual std::shared_ptr<BaseEffect> init() const { return std::make_shared<BaseEffect>(); }
 
     static QSizeF sizeOf(const CIImage& image); // 0 x 0 when it is null or has no end
-    /// Renders a part of an image that lies with its lower left corner on the canvas' origin.
-    static QImage renderedPart(const CIImage& image, const quartz::Part& part);
     /// The controller's; null without one.
     static UndoManager* undoManager();
 

@@ -99,7 +99,12 @@ void GeneratedEffect::prepareToDraw()
     wasInit = true;
 }
 
-QSizeF GeneratedEffect::drawImageSize() const { return m_effectImage ? m_effectImage->size() : canvasSize(); }
+QSizeF GeneratedEffect::drawImageSize()
+{
+    if (!wasInit)
+        loadImage();
+    return wasInit && m_effectImage ? m_effectImage->size() : canvasSize();
+}
 
 /// The layer at its opacity over the tint over the picture. `back` is null when the picture isn't wanted.
 QImage GeneratedEffect::composite(const quartz::Part& part, const QImage& back, const QImage& layer) const

@@ -33,7 +33,7 @@ public:
 
     CIImage getDrawImage() override;
     QImage drawPart(const quartz::Part& part) override;
-    QSizeF drawImageSize() const override;
+    QSizeF drawImageSize() override;
 
     void setUpControlsView() override;
     void read(const CIDictionary& dictionary) override;

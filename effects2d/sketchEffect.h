@@ -18,7 +18,11 @@ public:
     void drawMyself(quartz::Context&, const QRectF&) override { }
     CIImage getDrawImage() override;
     QImage drawPart(const quartz::Part& part) override { return BaseEffect::drawPart(part); }
-    QSizeF drawImageSize() const override { return sizeOf(m_image); }
+    QSizeF drawImageSize() override
+    {
+        loadImage();
+        return sizeOf(m_image);
+    }
 
     /// The sketch; the picture itself when it can't be made, null without a picture.
     CIImage convertImage(const CIImage& picture) const;

@@ -1,0 +1,30 @@
+// What the view of generated effects needs from the controller.
+#pragma once
+
+#include "platform/coreimage/CIImage.h"
+
+class BaseEffect;
+class QMenu;
+class QString;
+
+/// In tests, a ten-line fake. Everything is called on the main thread.
+class CustomViewMaster {
+public:
+    virtual ~CustomViewMaster() = default;
+
+    /// The effect to show, or null for the plain picture.
+    virtual BaseEffect* getCurrentCustomEffect() = 0;
+    /// The source picture; null when none is open.
+    virtual CIImage backImage() = 0;
+    /// The menu for a right click; null for none. The master keeps it.
+    virtual QMenu* contextMenu() = 0;
+    /// Adds to the zoom, as a pinch does.
+    virtual void updateZoommWithDelta(double delta) = 0;
+    /// Tells the zoom control what the view's zoom is now; doesn't come back to the view.
+    virtual void setZoom(float zoom) = 0;
+    virtual void setFilePath(const QString& path) = 0;
+    /// Replaces the picture, undoably.
+    virtual void undoPaste(const CIImage& image) = 0;
+    /// Reads a dropped file; null when it is no readable picture.
+    virtual CIImage readImage(const QString& path) = 0;
+};

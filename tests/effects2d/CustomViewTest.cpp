@@ -1,0 +1,222 @@
+#include "effects2d/customEffImageView.h"
+#include "effects2d/linesEffect.h"
+#include "tests/effects2d/EffectFixture.h"
+
+#include <QApplication>
+#include <QDragEnterEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+#include <QWheelEvent>
+
+namespace {
+
+struct FakeViewMaster : FakeEffectMaster, CustomViewMaster {
+    std::shared_ptr<BaseEffect> current;
+    std::vector<float> zooms;
+    QStringList log;
+    QMenu menu;
+
+    CIImage backImage() override { return picture; }
+    BaseEffect* getCurrentCustomEffect() override { return current.get(); }
+    QMenu* contextMenu() override { return &menu; }
+    void updateZoommWithDelta(double delta) override { zooms.push_back(float(delta)); }
+    void setZoom(float zoom) override { zooms.push_back(zoom); }
+    void setFilePath(const QString& path) override { log << "path " + path; }
+    void undoPaste(const CIImage& image) override { log << (image.isNull() ? "paste nothing" : "paste"); }
+    CIImage readImage(const QString&) override { return picture; }
+};
+
+/// A window with nothing but the view, 400 x 300 points of it visible.
+struct CustomViewTest : testing::Test {
+    FakeViewMaster master;
+    CustomEffectsScrollView window;
+    customEffImageView& view = *window.imageView();
+
+    void SetUp() override
+    {
+        window.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        window.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        window.resize(400, 300);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        view.setController(&master);
+    }
+    void select(int row) { master.current = Working(row).effect; }
+    QImage shown() { return view.grab().toImage(); }
+    QRgb at(const QImage& image, CIPoint picture) const
+    {
+        const QPointF p = view.toWidget(picture) * view.devicePixelRatioF();
+        return image.pixel(int(std::floor(p.x())), int(std::floor(p.y())));
+    }
+    QPoint place(double x, double y) const { return view.toWidget({x, y}).toPoint(); }
+    void moveMouse(QPoint to, Qt::MouseButtons buttons)
+    {
+        QMouseEvent event(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, buttons, Qt::NoModifier);
+        QApplication::sendEvent(&view, &event);
+    }
+    void wheel(int delta, QPointF position)
+    {
+        QWheelEvent event(position, view.mapToGlobal(position), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+            Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&view, &event);
+    }
+    void enter()
+    {
+        QEnterEvent event(QPointF(5, 5), QPointF(5, 5), view.mapToGlobal(QPointF(5, 5)));
+        QApplication::sendEvent(&view, &event);
+    }
+};
+
+TEST_F(CustomViewTest, ShowsThePictureOrTheEffectCentered)
+{
+    master.picture = plainPicture(100, 60, 0xff204060);
+    view.resizeViewBoundCenter(true, 3);
+    EXPECT_EQ(at(shown(), {50, 30}), 0xff204060u);
+    EXPECT_EQ(view.toWidget({50, 30}), QPointF(200, 150));
+    const QRgb around = at(shown(), {-5, 30});
+    EXPECT_NE(around, 0xff204060u);
+
+    select(kPatchWork);
+    std::static_pointer_cast<GeneratedEffect>(master.current)->seOpacity(0);
+    const QImage tinted = shown(); // white at one half over the picture
+    EXPECT_NEAR(qRed(at(tinted, {50, 30})), 0x90, 1);
+    EXPECT_EQ(at(tinted, {-5, 30}), around);
+
+    master.picture = {};
+    master.current.reset();
+    EXPECT_EQ(at(shown(), {50, 30}), around);
+}
+
+TEST_F(CustomViewTest, MakesRoomForAnEffectWithoutAPicture)
+{
+    select(kSimple);
+    shown();
+    EXPECT_EQ(view.bounds(), (CIRect{0, 0, 726, 544}));
+    view.setZoom(0.25f);
+    EXPECT_EQ(view.bounds().width, 1600);
+    EXPECT_NEAR(view.toWidget({363, 272}).x(), 200, 1);
+}
+
+TEST_F(CustomViewTest, IsDrawnAnewWhenAnEffectSaysSo)
+{
+    master.picture = plainPicture(100, 60, 0xff204060);
+    select(kPlasma);
+    auto& effect = static_cast<GeneratedEffect&>(*master.current);
+    effect.seOpacity(100);
+    const QImage before = shown();
+    effect.regenerate(nullptr);
+    EXPECT_NE(shown(), before);
+}
+
+TEST_F(CustomViewTest, StepsTheZoomWithTheWheel)
+{
+    master.picture = plainPicture(1000, 800, 0xff204060);
+    view.resizeViewBoundCenter(true, 3);
+    wheel(120, {200, 150});
+    EXPECT_EQ(view.getZoom(), 1.05f);
+    wheel(120, {200, 150});
+    EXPECT_FLOAT_EQ(view.getZoom(), 1.26f);
+    view.setZoom(0.12f);
+    wheel(-120, {200, 150});
+    EXPECT_EQ(view.getZoom(), 0.1f);
+    EXPECT_EQ(master.zooms.size(), 3u);
+    view.setZoom(50);
+    EXPECT_EQ(view.getZoom(), 10);
+}
+
+TEST_F(CustomViewTest, PlacesTheAnchorInPicturePixelsAtAnyZoom)
+{
+    master.picture = plainPicture(800, 600, 0xff204060);
+    select(kLines);
+    view.setZoom(0.5f);
+    shown();
+    QTest::mousePress(&view, Qt::LeftButton, {}, place(400, 300));
+    moveMouse(place(500, 200), Qt::LeftButton);
+    EXPECT_EQ(master.current->startPoint(), (CIPoint{500, 200}));
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, place(520, 220));
+    EXPECT_EQ(master.current->startPoint(), (CIPoint{520, 220}));
+    master.undo.undo();
+    EXPECT_EQ(master.current->startPoint(), (CIPoint{500, 200}));
+
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Right);
+    QTest::keyClick(&view, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(master.current->startPoint(), (CIPoint{501, 190}));
+    master.undo.undo();
+    EXPECT_EQ(master.current->startPoint(), (CIPoint{501, 200}));
+}
+
+TEST_F(CustomViewTest, MarksTheAnchorWhileTheMouseIsThere)
+{
+    master.picture = plainPicture(300, 200, 0xff204060);
+    select(kMorphing);
+    auto& effect = static_cast<AnchoredEffect&>(*master.current);
+    effect.seOpacity(0);
+    effect.setStartPoint({50, 50});
+    const QImage without = shown();
+    enter();
+    EXPECT_TRUE(view.drawsCursor());
+    EXPECT_EQ(view.cursor().shape(), Qt::PointingHandCursor);
+    QImage with = shown();
+    const auto marked = [&](int distance) { // within the square of that size around the anchor
+        int differing = 0;
+        for (int y = -distance; y < distance; ++y)
+            for (int x = -distance; x < distance; ++x) {
+                const QPoint p = place(50, 50) + QPoint(x, y);
+                differing += with.pixel(p * view.devicePixelRatio()) != without.pixel(p * view.devicePixelRatio());
+            }
+        return differing;
+    };
+    EXPECT_GT(marked(8), 20);
+    EXPECT_EQ(marked(8), marked(20));
+
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&view, &leave);
+    EXPECT_FALSE(view.drawsCursor());
+    view.clearFocus();
+    EXPECT_EQ(shown(), without);
+    select(kPlasma);
+    enter();
+    EXPECT_FALSE(view.drawsCursor());
+}
+
+TEST_F(CustomViewTest, MovesThePictureWithTheMiddleButton)
+{
+    master.picture = plainPicture(2000, 1000, 0xff204060);
+    select(kLines);
+    shown();
+    const CIRect before = view.visibleRect();
+    QTest::mousePress(&view, Qt::MiddleButton, {}, {200, 150});
+    moveMouse({150, 170}, Qt::MiddleButton);
+    QTest::mouseRelease(&view, Qt::MiddleButton, {}, {150, 170});
+    EXPECT_EQ(view.visibleRect().x, before.x + 50);
+    EXPECT_EQ(view.visibleRect().y, before.y + 20);
+    EXPECT_FALSE(master.undo.canUndo());
+}
+
+TEST_F(CustomViewTest, TakesDroppedPictures)
+{
+    const auto offer = [&](const QStringList& paths) {
+        QMimeData data;
+        QList<QUrl> urls;
+        for (const QString& path : paths)
+            urls << QUrl::fromLocalFile(path);
+        data.setUrls(urls);
+        QDragEnterEvent enters({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &enters);
+        if (!enters.isAccepted())
+            return false;
+        QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &drop);
+        return true;
+    };
+    EXPECT_FALSE(offer({"/a/notes.txt"}));
+    EXPECT_FALSE(offer({"/a/notes.txt", "/a/b.png"})); // the first counts
+    EXPECT_TRUE(offer({"/a/b.PnG"}));
+    EXPECT_TRUE(offer({"/a/b.Pdf", "/a/c.txt"}));
+    EXPECT_EQ(master.log, (QStringList{"path /a/b.PnG", "paste nothing", "path /a/b.Pdf", "paste nothing"}));
+}
+
+} // namespace
