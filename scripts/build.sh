@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by ./run, ./test and ./benchmark: configures and builds a preset.
+# Sourced by ./run, ./test and ./bench: configures and builds a preset.
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit
 
 # Lets compiled files be shared between clones of the project.

@@ -38,7 +38,7 @@ const ColorFilter<ColorControls> colorControls{{.name = "CIColorControls",
 /// Light times two to the power of EV.
 template <class V>
 struct ExposureAdjust {
-    static constexpr bool keepsAlpha = true;
+    static constexpr bool keepsAlpha = true, perComponent = true;
     explicit ExposureAdjust(const Inputs<V>& in)
         : gain(exp2(clamp(in.scalar("inputEV"), -40.0f, 40.0f)))
     {

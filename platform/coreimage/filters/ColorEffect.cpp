@@ -7,7 +7,7 @@ namespace {
 
 template <class V>
 struct ColorInvert {
-    static constexpr bool keepsAlpha = true;
+    static constexpr bool keepsAlpha = true, perComponent = true;
     explicit ColorInvert(const Inputs<V>&) { }
     Pixel<V> operator()(const Pixel<V>& p) const { return {p.a - p.r, p.a - p.g, p.a - p.b, p.a}; }
 };

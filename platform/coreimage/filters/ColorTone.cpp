@@ -15,7 +15,7 @@ Pixel<V> eachColor(const Pixel<V>& p, F f)
 /// Each component to the given power; negative ones keep their sign.
 template <class V>
 struct GammaAdjust {
-    static constexpr bool straight = true, keepsAlpha = true;
+    static constexpr bool straight = true, keepsAlpha = true, perComponent = true;
     explicit GammaAdjust(const Inputs<V>& in)
         : power(clamp(in.scalar("inputPower"), -100.0f, 100.0f))
         , isOne(in.values().number("inputPower") == 1)
@@ -44,7 +44,7 @@ const ColorFilter<GammaAdjust> gammaAdjust{{.name = "CIGammaAdjust",
 /// As many values a component as there are levels, evenly spread over what the display shows.
 template <class V>
 struct ColorPosterize {
-    static constexpr bool straight = true, keepsAlpha = true;
+    static constexpr bool straight = true, keepsAlpha = true, perComponent = true;
     explicit ColorPosterize(const Inputs<V>& in)
         : steps(max(V(round(in.scalar("inputLevels")) - 1.0f), 1.0f))
         , step(1.0f / steps)

@@ -83,6 +83,10 @@ private:
 
 class CropNode : public WrapperNode {
 public:
+    bool codeTables(const Render& render, CodeTables& tables) const override
+    {
+        return m_source->codeTables(render, tables);
+    }
     CropNode(NodePtr source, const CIRect& rect)
         : WrapperNode(source, source->extent().intersected(rect), source->isOpaque())
     {
@@ -106,6 +110,10 @@ public:
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
         return m_source->open(shifted(render), area, scratch);
+    }
+    bool codeTables(const Render& render, CodeTables& tables) const override
+    {
+        return m_source->codeTables(shifted(render), tables);
     }
     std::shared_ptr<const GridCopy> copyFor(const Grid& grid) const override
     {

@@ -323,6 +323,24 @@ void BitmapNode::prepare(const Render& render) const
         m_copies.erase(m_copies.begin());
 }
 
+bool BitmapNode::codeTables(const Render& render, CodeTables& tables) const
+{
+    const Grid& grid = render.grid;
+    if (grid.scale != 1 || !isWhole(grid.phaseX) || !isWhole(grid.phaseY) || bytesPerPixel(m_bitmap.format()) != 4
+        || m_bitmap.alpha() != CIAlpha::Opaque)
+        return false;
+    CIBitmap codes(256, 1, m_bitmap.format(), CIAlpha::Opaque, m_bitmap.colorSpace());
+    const auto row = codes.mutableRow<std::uint8_t>(0);
+    for (std::size_t i = 0; i < row.size(); ++i)
+        row[i] = std::uint8_t(i / 4);
+    RowDecoder(codes.format(), codes.alpha(), codes.colorSpace(), render.floats)
+        .decode(codes.row(0), 256, tables.row());
+    tables.bitmap = &m_bitmap;
+    tables.left = -int(std::lround(grid.phaseX));
+    tables.top = m_bitmap.height() - int(std::lround(grid.phaseY));
+    return true;
+}
+
 std::unique_ptr<RowReader> BitmapNode::open(const Render& render, const GridRect& area, Scratch& scratch) const
 {
     static const auto none = std::make_shared<const std::vector<Level>>();

@@ -30,6 +30,8 @@ public:
     void prepare(const Render&) const override;
     std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch&) const override;
 
+    bool codeTables(const Render&, CodeTables&) const override;
+
     const CIBitmap& bitmap() const { return m_bitmap; }
     /// The halved copies, largest first; made on first use.
     std::shared_ptr<const std::vector<Level>> levels() const;

@@ -11,6 +11,7 @@
 namespace ci {
 
 class GridCopy;
+struct CodeTables;
 
 /// Whole grid cells: columns x0 to x1 - 1, rows y0 to y1 - 1, y up.
 struct GridRect {
@@ -90,6 +91,9 @@ public:
     virtual std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch& scratch) const = 0;
     /// The whole image on this grid, if it lies in memory.
     virtual std::shared_ptr<const GridCopy> copyFor(const Grid&) const { return nullptr; }
+    /// What the codes of an opaque 8-bit bitmap become, when the image is that bitmap with each component on its own
+    /// changed; false when it is more than that.
+    virtual bool codeTables(const Render&, CodeTables&) const { return false; }
     /// How far, in cells, the graph below reads beyond what is asked of it: decides the size of tiles. 0 for nodes
     /// that work row by row, at least 1 for those that buffer their whole area.
     virtual int reach(const Grid&) const { return 0; }
@@ -107,6 +111,14 @@ private:
 };
 
 using NodePtr = std::shared_ptr<const Node>;
+
+/// See `Node::codeTables`.
+struct CodeTables {
+    const CIBitmap* bitmap = nullptr;
+    int left = 0, top = 0; // the cell of its left column, and the one above its top row
+    alignas(64) float planes[4][256] = {}; // linear components for each code
+    MutableRow row() { return {planes[0], planes[1], planes[2], planes[3]}; }
+};
 
 MutableRow allocateRow(Scratch&, int width);
 /// A row of zeros.

@@ -74,6 +74,15 @@ public:
             most = std::max(most, image->reach(grid));
         return most;
     }
+    bool codeTables(const Render& render, CodeTables& tables) const override
+    {
+        if (!m_kernel.perComponent || !m_kernel.keepsAlpha || m_images.size() != 1
+            || !m_images[0]->codeTables(render, tables))
+            return false;
+        const Row in = tables.row();
+        m_kernel.batches(*m_values, render.grid, true)->run(&in, tables.row(), render.grid, 0, 0, 256);
+        return true;
+    }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
         std::vector<std::unique_ptr<RowReader>> sources;

@@ -20,6 +20,7 @@ struct PointwiseKernel {
     Make batches, floats;
     bool keepsAlpha = false; // alpha leaves as it came in with the first image
     bool opaque = false; // alpha is 1 whatever comes in
+    bool perComponent = false; // each component depends on itself alone, wherever the pixel lies
 };
 
 NodePtr pointwiseNode(

@@ -19,7 +19,7 @@ private:
 };
 
 /// Planes into stored pixels. Colors outside 0 to 1 are clipped, save in float bitmaps; 8-bit codes are within
-/// 0.003 of a step before rounding.
+/// 0.04 of a step before rounding.
 class RowEncoder {
 public:
     /// `opaque`: every alpha is known to be 1.

@@ -17,13 +17,18 @@ V decodeCode(const V& c)
     return select(c <= V(0.04045f), c * (1 / 12.92f), curve);
 }
 
+/// The curved part of the code, from the fourth root.
+template <class V>
+V encodeFourthRoot(const V& root)
+{
+    return polynomial(root, -0.0627589915f, 0.272752244f, -0.557555649f, 1.244214f, 0.164974f, -0.0616297056f);
+}
+
 /// Within 1.2e-5 of the curve.
 template <class V>
 V encodeLinear(const V& v)
 {
-    const V root = sqrt(sqrt(v));
-    const V curve = polynomial(root, -0.0627589915f, 0.272752244f, -0.557555649f, 1.244214f, 0.164974f, -0.0616297056f);
-    return select(v <= V(0.0031308f), v * 12.92f, curve);
+    return select(v <= V(0.0031308f), v * 12.92f, encodeFourthRoot(V(sqrt(sqrt(v)))));
 }
 
 inline bool any(bool b) { return b; }

@@ -7,6 +7,7 @@
 //     static constexpr bool straight = true;         // wants and gives colors not multiplied by alpha
 //     static constexpr bool keepsAlpha = true;       // promises not to touch alpha
 //     static constexpr bool opaque = true;           // promises alpha 1
+//     static constexpr bool perComponent = true;     // promises that each component depends on itself alone
 //     static CIRect extent(const Values&);           // default: that of the images united, or infinite without any
 // };
 #pragma once
@@ -60,6 +61,12 @@ template <class K>
 constexpr bool isOpaque = requires
 {
     requires K::opaque;
+};
+
+template <class K>
+constexpr bool isPerComponent = requires
+{
+    requires K::perComponent;
 };
 
 template <class K, class V, class... Pixels>
@@ -150,8 +157,8 @@ template <template <class> class K>
 PointwiseKernel pointwiseKernel()
 {
     using F = K<float>;
-    return {
-        &detail::makeRowKernel<K, Batch>, &detail::makeRowKernel<K, float>, detail::keepsAlpha<F>, detail::isOpaque<F>};
+    return {&detail::makeRowKernel<K, Batch>, &detail::makeRowKernel<K, float>, detail::keepsAlpha<F>,
+        detail::isOpaque<F>, detail::isPerComponent<F>};
 }
 
 /// The image a pointwise kernel makes of others; a null one counts as transparent.

@@ -23,6 +23,15 @@ public:
 
 private:
     void use(const InterleavedView&, const Grid&);
+    void storeStarts(std::int32_t* starts, float column, float line) const
+    {
+        *starts = int(line) * m_stride + int(column) * 4;
+    }
+    void storeStarts(std::int32_t* starts, const Batch& column, const Batch& line) const
+    {
+        const auto start = xsimd::to_int(line) * m_stride + (xsimd::to_int(column) << 2);
+        start.store_aligned(starts);
+    }
 
     std::shared_ptr<const GridCopy> m_copy;
     float m_scale, m_left, m_bottom; // area coordinates = picture position * scale - side
@@ -45,6 +54,16 @@ public:
 private:
     const SampledArea* m_area;
 };
+
+/// Two neighboring pixels.
+using TwoQuads = float __attribute__((vector_size(32)));
+
+inline TwoQuads loadTwoQuads(const float* p)
+{
+    TwoQuads q;
+    __builtin_memcpy(&q, p, sizeof q);
+    return q;
+}
 
 /// Pixels of the lanes, from interleaved to planes.
 template <class V>
@@ -79,17 +98,20 @@ Pixel<V> SampledArea::linear(const Point<V>& at) const
     const V x = clamp(V(at.x * m_scale - m_left), 0.0f, m_lastX),
             y = clamp(V(at.y * m_scale - m_bottom), 0.0f, m_lastY);
     const V column = floor(x), line = floor(y);
-    alignas(64) float fx[lanes], fy[lanes], columns[lanes], lines[lanes];
+    alignas(64) float fx[lanes], fy[lanes];
+    alignas(64) std::int32_t starts[lanes];
     storeRow(fx, x - column);
     storeRow(fy, y - line);
-    storeRow(columns, column);
-    storeRow(lines, line);
+    storeStarts(starts, column, line);
     Quad quads[lanes];
     for (int i = 0; i < lanes; ++i) {
-        const float* p = m_pixels + int(lines[i]) * m_stride + int(columns[i]) * 4;
-        const Quad low = loadQuad(p) + fx[i] * (loadQuad(p + 4) - loadQuad(p));
-        const Quad high = loadQuad(p + m_stride) + fx[i] * (loadQuad(p + m_stride + 4) - loadQuad(p + m_stride));
-        quads[i] = low + fy[i] * (high - low);
+        const float* p = m_pixels + starts[i];
+        // Both neighbors of a row at once: they lie side by side.
+        const TwoQuads lower = loadTwoQuads(p), upper = loadTwoQuads(p + m_stride);
+        const TwoQuads between = lower + fy[i] * (upper - lower);
+        const Quad left = __builtin_shufflevector(between, between, 0, 1, 2, 3);
+        const Quad right = __builtin_shufflevector(between, between, 4, 5, 6, 7);
+        quads[i] = left + fx[i] * (right - left);
     }
     return gathered<V>(quads);
 }

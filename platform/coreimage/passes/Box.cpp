@@ -1,4 +1,5 @@
 // Means over rectangles by running sums, whose cost does not grow with their size.
+#include "platform/coreimage/graph/Interleaved.h"
 #include "platform/coreimage/graph/Planes.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 #include "platform/coreimage/passes/Blur.h"
@@ -53,41 +54,50 @@ private:
     {
         const Window across(m_width * grid.scale), along(m_height * grid.scale);
         const int width = in.area.width();
-        float* const sum = scratch.floats(std::size_t(width + kRowPadding));
-        float* const line = scratch.floats(std::size_t(width + kRowPadding));
+        const MutableRow sum = allocateRow(scratch, width), line = allocateRow(scratch, width);
+        float* const pixels = scratch.floats(4 * std::size_t(width));
+        float* const means = scratch.floats(4 * std::size_t(out.area.width()));
+        float *const sums[4] = {sum.r, sum.g, sum.b, sum.a}, *const lines[4] = {line.r, line.g, line.b, line.a};
+        const auto add = [&](int c, int y, float sign) {
+            const float* const row = in.line(c, y);
+            for (int x = 0; x < width; x += kLanes<V>)
+                storeRow(sums[c] + x, mulAdd(V(sign), loadRow<V>(row + x), loadRow<V>(sums[c] + x)));
+        };
         for (int c = 0; c < 4; ++c) {
-            std::fill_n(sum, width + kRowPadding, 0.0f);
-            const auto add = [&](int y, float sign) {
-                const float* const row = in.line(c, y);
-                for (int x = 0; x < width; x += kLanes<V>)
-                    storeRow(sum + x, mulAdd(V(sign), loadRow<V>(row + x), loadRow<V>(sum + x)));
-            };
+            std::fill_n(sums[c], width, 0.0f);
             for (int y = out.area.y0 - along.whole; y < out.area.y0 + along.whole; ++y)
-                add(y, 1);
-            for (int y = out.area.y0; y < out.area.y1; ++y) {
-                add(y + along.whole, 1);
+                add(c, y, 1);
+        }
+        for (int y = out.area.y0; y < out.area.y1; ++y) {
+            for (int c = 0; c < 4; ++c) {
+                add(c, y + along.whole, 1);
                 const float *below = in.line(c, y - along.reach()), *above = in.line(c, y + along.reach());
-                for (int x = 0; x < width; x += kLanes<V>)
-                    storeRow(line + x,
-                        V(along.share)
-                            * mulAdd(
-                                V(along.part), loadRow<V>(below + x) + loadRow<V>(above + x), loadRow<V>(sum + x)));
-                meanOfLine(line + (out.area.x0 - in.area.x0), across, out.line(c, y), out.area.width());
-                add(y - along.whole, -1);
+                for (int x = 0; x < width; x += kLanes<V>) {
+                    const V ends = loadRow<V>(below + x) + loadRow<V>(above + x);
+                    storeRow(lines[c] + x, V(along.share) * mulAdd(V(along.part), ends, loadRow<V>(sums[c] + x)));
+                }
+                add(c, y - along.whole, -1);
             }
+            interleave(line, width, pixels);
+            meansOfLine(pixels + 4 * (out.area.x0 - in.area.x0), across, means, out.area.width());
+            deinterleave(means, out.area.width(), out.row(y));
         }
     }
 
-    static void meanOfLine(const float* middle, const Window& window, float* to, int count)
+    /// All four components at once. In doubles: what is added must cancel when it is taken away.
+    static void meansOfLine(const float* middle, const Window& window, float* to, int count)
     {
-        double sum = 0; // double: what is added must cancel when it is taken away
-        for (int k = -window.whole; k < window.whole; ++k)
-            sum += double(middle[k]);
+        using Sum = double __attribute__((vector_size(32)));
+        const auto at = [middle](int x) { return loadQuad(middle + 4 * std::ptrdiff_t(x)); };
+        const auto wide = [](const Quad& q) { return __builtin_convertvector(q, Sum); };
+        Sum sum = {};
+        for (int k = -window.whole; k <= window.whole; ++k)
+            sum += wide(at(k));
         for (int x = 0; x < count; ++x) {
-            sum += double(middle[x + window.whole]);
-            to[x] =
-                window.share * (float(sum) + window.part * (middle[x - window.reach()] + middle[x + window.reach()]));
-            sum -= double(middle[x - window.whole]);
+            const Quad ends = at(x - window.reach()) + at(x + window.reach());
+            const Quad mean = window.share * (__builtin_convertvector(sum, Quad) + window.part * ends);
+            __builtin_memcpy(to + 4 * std::ptrdiff_t(x), &mean, sizeof mean);
+            sum += wide(at(x + window.whole + 1)) - wide(at(x - window.whole));
         }
     }
 

@@ -14,7 +14,7 @@ namespace ci {
 namespace {
 
 constexpr double kFewCells = 2.5; // below it halving once more would show
-constexpr double kWidest = 2e4; // px; wider, any picture has long become one color
+constexpr double kWidest = 300; // px; three times what sliders offer
 constexpr double kReach = 3.0; // standard deviations beyond which weights are left out
 
 int halvingsFor(double sigma)
