@@ -77,12 +77,12 @@ bool CIContext::renderInto(
     render.grid.scale = scale;
     render.floats = m_arithmetic == Arithmetic::Floats;
     render.control = control;
+    const GridRect common = area.intersected(render.grid.cellsIn(image.extent()));
+    render.cells = double(common.width()) * common.height();
     image.node()->prepare(render);
     if (render.isCancelled())
         return false;
 
-    const GridRect inside = render.grid.cellsIn(image.extent());
-    const GridRect common = area.intersected(inside);
     const bool covered = common.width() == area.width() && common.height() == area.height();
     const RowEncoder encoder(
         target.format(), target.alpha(), target.colorSpace(), covered && image.node()->isOpaque(), render.floats);

@@ -21,6 +21,13 @@ TEST(DiscBlur, IsTheMeanOverTheDisc)
         }
         EXPECT_NEAR(at(out, 60, 50, 3), 1, 1e-5);
     }
+    // A single pixel spread over thousands is not lost.
+    const CIBitmap wide = rendered(made("CIDiscBlur", dot(1, 1, 0, 0), {{"inputRadius", 100}}), {-110, -110, 220, 220});
+    double light = 0;
+    for (int y = 0; y < 220; ++y)
+        for (int x = 0; x < 220; ++x)
+            light += double(at(wide, x, y, 0));
+    EXPECT_NEAR(light, 1, 0.05); // a little falls beyond the extent
     // The outline is round and lies at the radius.
     const CIBitmap spot = result("CIDiscBlur", dot(61, 61, 30, 30), {{"inputRadius", 10}});
     const double level = 1 / (M_PI * 100 + 1);

@@ -107,7 +107,7 @@ const RecipeFilter cannyEdgeDetector{
         .boundToPixelGrid = true},
     [](const Values& in) {
         const CIImage source = in.image();
-        const CIImage gray = pointwise<Gray>(in, {source.clampedToExtent()}, CIRect::infinite());
+        const CIImage gray = pointwise<Gray>(in, {source}, source.extent()).clampedToExtent();
         const CIImage slopes =
             stencil<Slope>(in, gaussianBlur(gray, in.number("inputGaussianSigma")), CIRect::infinite());
         CIImage ridges = stencil<Ridge>(in, slopes, CIRect::infinite());

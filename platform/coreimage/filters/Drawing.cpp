@@ -1,4 +1,5 @@
 // Drawings made of a picture's edges.
+#include "platform/coreimage/filters/Waves.h"
 #include "platform/coreimage/kernel/DisplayValues.h"
 #include "platform/coreimage/kernel/StencilFilter.h"
 #include "platform/coreimage/passes/Blur.h"
@@ -21,11 +22,6 @@ struct Lightness {
 CIImage lightness(const Values& in, const CIImage& source)
 {
     return pointwise<Lightness>(in, {source}, source.extent());
-}
-
-CIImage blurredWithin(const CIImage& source, double sigma)
-{
-    return gaussianBlur(source.clampedToExtent(), sigma).cropped(source.extent());
 }
 
 /// Sobel's steepness of one component, per step of 1.
@@ -146,9 +142,9 @@ struct Comic {
         const V ink = 1.0f - light.g;
         const auto printed = [&](const V& c, const Point<V>& direction) {
             const V lively = saturate(mulAdd(V(1.35f), c - gray, gray));
-            const V u = (here.x * direction.x + here.y * direction.y) * (kTwoPi / kPeriod);
-            const V v = (here.y * direction.x - here.x * direction.y) * (kTwoPi / kPeriod);
-            const V screen = 0.5f + 0.25f * (cos(u) + cos(v));
+            const V u = (here.x * direction.x + here.y * direction.y) * (1 / kPeriod);
+            const V v = (here.y * direction.x - here.x * direction.y) * (1 / kPeriod);
+            const V screen = 0.5f + 0.25f * (cosineOfTurns(u) + cosineOfTurns(v));
             const V dots = saturate(V((lively - screen) * 2.5f + 0.5f));
             return linearFromDisplay(saturate(mix(lively, dots, V(0.45f * fine)))) * ink;
         };

@@ -1,16 +1,12 @@
 // Filters that weigh a pixel against a wide neighborhood: focus, heights, highlights and shadows, what strikes the eye.
 #include "platform/coreimage/filters/Lab.h"
+#include "platform/coreimage/graph/Measured.h"
 #include "platform/coreimage/kernel/DisplayValues.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 #include "platform/coreimage/passes/Blur.h"
 
 namespace ci {
 namespace {
-
-CIImage blurredWithin(const CIImage& source, double sigma)
-{
-    return gaussianBlur(source.clampedToExtent(), sigma).cropped(source.extent());
-}
 
 /// The shorter side of a picture; images without end count as a screen.
 double shorterSide(const CIImage& source)
@@ -19,31 +15,14 @@ double shorterSide(const CIImage& source)
     return e.isInfinite() ? 800 : std::min(e.width, e.height);
 }
 
-/// Richer colors, sharpened: what lies in focus.
-template <class V>
-struct Focused {
-    static constexpr bool keepsAlpha = true;
-    explicit Focused(const Inputs<V>& in)
-        : intensity(in.scalar("inputUnsharpMaskIntensity"))
-        , saturation(in.scalar("inputSaturation"))
-    {
-    }
-    Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& soft) const
-    {
-        const V gray = luma(p);
-        const auto made = [&](const V& c, const V& s) {
-            return max(V(mulAdd(intensity, c - s, mix(gray, c, saturation))), 0.0f);
-        };
-        return {made(p.r, soft.r), made(p.g, soft.g), made(p.b, soft.b), p.a};
-    }
-    V intensity, saturation;
-};
-
-/// Focus along the line through two points; away from it first the light blur, then the strong one.
+/// Rich, sharpened colors along the line through two points; away from it first the light blur, then the strong one.
 template <class V>
 struct TiltedFocus {
+    static constexpr bool keepsAlpha = true;
     explicit TiltedFocus(const Inputs<V>& in)
-        : origin(in.point("inputPoint0"))
+        : intensity(in.scalar("inputUnsharpMaskIntensity"))
+        , saturation(in.scalar("inputSaturation"))
+        , origin(in.point("inputPoint0"))
         , perReach(1.0f / in.scalar("reach"))
     {
         const CIPoint a = in.values().point("inputPoint0"), b = in.values().point("inputPoint1");
@@ -51,13 +30,18 @@ struct TiltedFocus {
         across = length > 1e-6 ? Point<V>{V(float((a.y - b.y) / length)), V(float((b.x - a.x) / length))}
                                : Point<V>{V(0.0f), V(1.0f)};
     }
-    Pixel<V> operator()(
-        const Pixel<V>& sharp, const Pixel<V>& light, const Pixel<V>& strong, const Point<V>& here) const
+    Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& soft, const Pixel<V>& light, const Pixel<V>& strong,
+        const Point<V>& here) const
     {
+        const Pixel<V> sharp = p + (p - soft) * intensity;
         const V far = abs(dot(here - origin, across)) * perReach;
         const Pixel<V> first = mix(sharp, light, smoothstep(V(0.3f), V(0.65f), far));
-        return mix(first, strong, smoothstep(V(0.5f), V(1.0f), far));
+        const Pixel<V> blurred = mix(first, strong, smoothstep(V(0.5f), V(1.0f), far));
+        const V gray = luma(blurred);
+        const auto rich = [&](const V& c) { return max(mix(gray, c, saturation), 0.0f); };
+        return {rich(blurred.r), rich(blurred.g), rich(blurred.b), p.a};
     }
+    V intensity, saturation;
     Point<V> origin, across;
     V perReach;
 };
@@ -77,11 +61,11 @@ const RecipeFilter depthOfField{
             scalar("inputRadius", "Radius", {.standard = 6, .min = 0, .sliderMin = 0, .sliderMax = 30})}},
     [](const Values& in) {
         const CIImage source = in.image();
-        const CIImage sharp = pointwise<Focused>(
-            in, {source, blurredWithin(source, in.number("inputUnsharpMaskRadius"))}, source.extent());
         const double radius = in.number("inputRadius");
         return pointwise<TiltedFocus>(in.with("reach", std::max(1.0, 0.45 * shorterSide(source))),
-            {sharp, blurredWithin(sharp, radius / 2), blurredWithin(sharp, radius)}, source.extent());
+            {source, blurredWithin(source, in.number("inputUnsharpMaskRadius")), blurredWithin(source, radius / 2),
+                blurredWithin(source, radius)},
+            source.extent());
     }};
 
 /// Light as height: rises from 0 at the rim of a white shape to 1 at inputRadius inside.
@@ -151,28 +135,43 @@ const RecipeFilter highlightShadowAdjust{
             in, {source, blurredWithin(source, in.number("inputRadius"))}, source.extent());
     }};
 
-/// How far a place's color is from that of its wide surroundings, the more the nearer to the middle of the picture.
+/// How far a color around a place is from the mean color of the picture (R. Achanta et al., Frequency-tuned salient
+/// region detection, 2009), the more the nearer to the picture's middle.
 template <class V>
 struct Saliency {
     static constexpr bool opaque = true;
     explicit Saliency(const Inputs<V>& in)
     {
         const CIRect e = in.values().image().extent();
-        const bool infinite = e.isInfinite();
-        middle = infinite ? Point<V>{V(0.0f), V(0.0f)} : Point<V>{V(float(e.center().x)), V(float(e.center().y))};
-        perSide = {V(infinite ? 0.0f : float(2 / e.width)), V(infinite ? 0.0f : float(2 / e.height))};
+        middle = {V(float(e.center().x)), V(float(e.center().y))};
+        perSide = {V(float(2 / e.width)), V(float(2 / e.height))};
+        const CIVector lab = in.values().vector("meanLab");
+        mean = {V(float(lab.X())), V(float(lab.Y())), V(float(lab.Z())), V(1.0f)};
     }
-    Pixel<V> operator()(const Pixel<V>& near, const Pixel<V>& wide, const Point<V>& here) const
+    Pixel<V> operator()(const Pixel<V>& near, const Point<V>& here) const
     {
-        const Pixel<V> d = labFromLinear(near) - labFromLinear(wide);
+        const Pixel<V> d = labFromLinear(near) - mean;
         const V apart = sqrt(mulAdd(d.r, d.r, mulAdd(d.g, d.g, d.b * d.b)));
         const V x = (here.x - middle.x) * perSide.x, y = (here.y - middle.y) * perSide.y;
-        const V central = exp(V(-0.5f * clamp(V(mulAdd(x, x, y * y)), 0.0f, 8.0f)));
-        const V striking = saturate(V((apart - 4.0f) * (1 / 40.0f))) * central;
+        const V central = 1.0f / (1.0f + 0.7f * mulAdd(x, x, y * y));
+        const V striking = saturate(V(apart * (1 / 70.0f))) * central;
         return {striking, striking, striking, V(1.0f)};
     }
     Point<V> middle, perSide;
+    Pixel<V> mean;
 };
+
+CIVector meanLab(const InterleavedView& pixels)
+{
+    double l = 0, a = 0, b = 0, count = 1e-9;
+    for (int y = pixels.area.y0; y < pixels.area.y1; ++y)
+        for (int x = pixels.area.x0; x < pixels.area.x1; ++x) {
+            const float* const p = pixels.at(x, y);
+            const Pixel<float> lab = labFromLinear(Pixel<float>{p[0], p[1], p[2], p[3]});
+            l += double(lab.r * p[3]), a += double(lab.g * p[3]), b += double(lab.b * p[3]), count += double(p[3]);
+        }
+    return {l / count, a / count, b / count};
+}
 
 const RecipeFilter saliencyMapFilter{{.name = "CISaliencyMapFilter",
                                          .displayName = "Saliency Map Filter",
@@ -181,10 +180,12 @@ const RecipeFilter saliencyMapFilter{{.name = "CISaliencyMapFilter",
                                          .inputs = {image()},
                                          .tolerance = 1e-3f},
     [](const Values& in) {
+        constexpr double kMostCells = 1 << 14;
         const CIImage source = in.image();
-        const double side = shorterSide(source);
-        return pointwise<Saliency>(
-            in, {blurredWithin(source, side / 50), blurredWithin(source, side / 4)}, source.extent());
+        return measured(source, kMostCells, source.extent(), [=](const InterleavedView& pixels, const Grid&) {
+            return pointwise<Saliency>(in.with("meanLab", meanLab(pixels)),
+                {blurredWithin(source, shorterSide(source) / 50)}, source.extent());
+        });
     }};
 
 } // namespace

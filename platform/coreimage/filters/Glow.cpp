@@ -21,8 +21,7 @@ Declaration glow(std::string name, std::string displayName)
 template <template <class> class K>
 CIImage withBlurred(const Values& in)
 {
-    constexpr double kMost = 2000; // px
-    const CIImage source = in.image(), soft = gaussianBlur(source, std::min(in.number("inputRadius"), kMost));
+    const CIImage source = in.image(), soft = gaussianBlur(source, in.number("inputRadius"));
     return pointwise<K>(in, {source, soft}, soft.extent());
 }
 

@@ -5,13 +5,6 @@
 namespace ci {
 namespace {
 
-/// The blur of an image whose rim stays as it is.
-CIImage blurredWithin(const CIImage& source, double sigma)
-{
-    constexpr double kMost = 2000; // px
-    return gaussianBlur(source.clampedToExtent(), std::min(sigma, kMost)).cropped(source.extent());
-}
-
 /// Each color moved away from its blurred neighborhood.
 template <class V>
 struct UnsharpMask {

@@ -48,17 +48,18 @@ void copyRow(const Row& from, const MutableRow& to, int width)
     std::copy_n(from.a, width, to.a);
 }
 
+/// Reads no more of the source than what lies inside.
 class CropReader : public RowReader {
 public:
-    CropReader(std::unique_ptr<RowReader> source, const CIRect& extent, const Render& render, const GridRect& area,
-        Scratch& scratch)
-        : m_source(std::move(source))
-        , m_clip(extent, render, area)
-        , m_width(area.width())
-        , m_whole(m_clip.inside().x0 == area.x0 && m_clip.inside().x1 == area.x1)
+    CropReader(const Node& source, const CIRect& extent, const Render& render, const GridRect& area, Scratch& scratch)
+        : m_clip(extent, render, area)
+        , m_before(m_clip.inside().x0 - area.x0)
+        , m_whole(m_clip.inside().width() == area.width())
         , m_zeros(zeroRow(scratch, area.width()))
         , m_out(m_whole ? MutableRow{} : allocateRow(scratch, area.width()))
     {
+        if (!m_clip.inside().isEmpty())
+            m_source = source.open(render, m_clip.inside(), scratch);
     }
     Row row(int y) override
     {
@@ -67,18 +68,19 @@ public:
         const Row source = m_source->row(y);
         if (m_whole)
             return source;
-        copyRow(source, m_out, m_width);
+        copyRow(source, {m_out.r + m_before, m_out.g + m_before, m_out.b + m_before, m_out.a + m_before},
+            m_clip.inside().width());
         m_clip.clearOutside(m_out);
         return m_out;
     }
 
 private:
-    std::unique_ptr<RowReader> m_source;
     ExtentClip m_clip;
-    int m_width;
+    int m_before;
     bool m_whole;
     Row m_zeros;
     MutableRow m_out;
+    std::unique_ptr<RowReader> m_source;
 };
 
 class CropNode : public WrapperNode {
@@ -93,7 +95,7 @@ public:
     }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
-        return std::make_unique<CropReader>(m_source->open(render, area, scratch), extent(), render, area, scratch);
+        return std::make_unique<CropReader>(*m_source, extent(), render, area, scratch);
     }
 };
 
@@ -186,6 +188,7 @@ public:
         : WrapperNode(source, CIRect::infinite(), source->isOpaque())
     {
     }
+    CIRect repeats() const override { return m_source->extent(); }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
         const GridRect inside = render.grid.cellsIn(m_source->extent());

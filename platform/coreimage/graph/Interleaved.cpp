@@ -136,10 +136,13 @@ public:
     }
     void prepare(const Render& render) const override
     {
-        m_source->prepare(render);
+        Render whole = render;
+        const GridRect all = render.grid.cellsIn(extent());
+        whole.cells = double(all.width()) * all.height();
+        m_source->prepare(whole);
         if (const auto copy = m_copy.load(); copy && copy->fits(render.grid))
             return;
-        m_copy.store(GridCopy::make(*m_source, render, m_mostCells));
+        m_copy.store(GridCopy::make(*m_source, whole, m_mostCells));
     }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {

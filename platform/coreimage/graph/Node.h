@@ -38,6 +38,7 @@ struct Grid {
     GridRect cellsIn(const CIRect&) const;
     /// The cells that touch the rectangle.
     GridRect cellsTouching(const CIRect&) const;
+    bool operator==(const Grid&) const = default;
 };
 
 /// What all readers of one render share.
@@ -45,6 +46,7 @@ struct Render {
     Grid grid;
     bool floats = false; // one number at a time instead of batches
     const CIRenderControl* control = nullptr;
+    double cells = 0; // how many are wanted in all
 
     bool isCancelled() const { return control && control->isCancelled(); }
     Render withGrid(const Grid& g) const
@@ -85,6 +87,8 @@ public:
     const CIRect& extent() const { return m_extent; }
     /// True when alpha is 1 in the whole extent.
     bool isOpaque() const { return m_opaque; }
+    /// Beyond this rectangle the image is transparent, or repeats what lies nearest in it; perhaps infinite.
+    virtual CIRect repeats() const { return m_extent; }
     /// Called once before the tiles of a render, on one thread: the place to build what all tiles share.
     virtual void prepare(const Render&) const { }
     /// Rows of `area` on the render's grid. Buffers come from `scratch` and live until it is rewound.

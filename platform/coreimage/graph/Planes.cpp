@@ -1,9 +1,11 @@
 #include "platform/coreimage/graph/Planes.h"
 
 #include "platform/coreimage/graph/Basics.h"
+#include "platform/coreimage/graph/Halved.h"
 #include "platform/coreimage/kernel/Batch.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace ci {
 
@@ -58,7 +60,14 @@ public:
         , m_kernel(std::move(kernel))
     {
     }
-    void prepare(const Render& render) const override { m_source->prepare(halved(render)); }
+    void prepare(const Render& render) const override
+    {
+        m_source->prepare(render);
+        const int times = m_kernel->halvings(render.grid);
+        if (const auto copy = m_halved.load(); copy && copy->fits(render.grid, times))
+            return;
+        m_halved.store(sharingPays(render, times) ? HalvedCopy::make(*m_source, render, times) : nullptr);
+    }
     int reach(const Grid& grid) const override
     {
         const auto [x, y] = m_kernel->margin(grid);
@@ -70,24 +79,39 @@ public:
         {
             const ScratchScope scope(scratch);
             const auto [x, y] = m_kernel->margin(render.grid);
-            const int cell = 1 << m_kernel->halvings(render.grid);
-            const GridRect wide = area.grown(x, y);
-            const GridRect read{
-                floorDiv(wide.x0, cell), floorDiv(wide.y0, cell), -floorDiv(-wide.x1, cell), -floorDiv(-wide.y1, cell)};
-            const auto in = m_source->open(halved(render), read, scratch);
-            if (!render.isCancelled())
-                m_kernel->run(render, *in, read, out, scratch);
+            const int times = m_kernel->halvings(render.grid);
+            const GridRect read = halvedArea(area.grown(x, y), times);
+            const auto copy = m_halved.load();
+            if (copy && copy->fits(render.grid, times)) {
+                m_kernel->run(render, *copy->open(read, scratch), read, out, scratch);
+            } else if (!render.isCancelled()) {
+                const auto in = m_source->open(render, fineArea(read, times), scratch);
+                if (times == 0)
+                    m_kernel->run(render, *in, read, out, scratch);
+                else {
+                    HalvingReader halved(*in, read, times, scratch);
+                    m_kernel->run(render, halved, read, out, scratch);
+                }
+            }
         }
         return std::make_unique<PlanesReader>(out, extent(), render, area);
     }
 
 private:
-    Render halved(const Render& render) const
+    /// True when halving the whole image once reads less than halving around each tile, and needs little memory.
+    bool sharingPays(const Render& render, int times) const
     {
-        const double cell = 1 << m_kernel->halvings(render.grid);
-        return render.withGrid({render.grid.scale / cell, render.grid.phaseX / cell, render.grid.phaseY / cell});
+        constexpr double kTile = 512;
+        const CIRect rect = m_source->repeats();
+        if (times < 2 || rect.isInfinite() || rect.isEmpty())
+            return false;
+        const GridRect all = render.grid.cellsIn(rect);
+        const auto [x, y] = m_kernel->margin(render.grid);
+        const double byTiles = render.cells * (1 + 2 * x / kTile) * (1 + 2 * y / kTile);
+        return double(all.width()) * all.height() < byTiles;
     }
     std::shared_ptr<const PassKernel> m_kernel;
+    mutable std::atomic<std::shared_ptr<const HalvedCopy>> m_halved; // of the last render's grid
 };
 
 } // namespace

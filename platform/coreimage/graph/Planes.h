@@ -42,8 +42,8 @@ public:
         int x = 0, y = 0;
     };
     virtual Margin margin(const Grid&) const = 0;
-    /// How many times the image is halved before it is read: `in` and `area` then count in cells of 2^n cells. For
-    /// reaches so wide that reading every cell around each block would be a waste.
+    /// How many times the image is halved before it is read: `in` and `area` then count in cells of 2^n cells, that
+    /// are means. For reaches so wide that reading every cell around each block would be a waste.
     virtual int halvings(const Grid&) const { return 0; }
     /// `in` reads `area`, which covers `out` with the margin (in cells of the render) around it.
     virtual void run(const Render&, RowReader& in, const GridRect& area, const Planes& out, Scratch&) const = 0;

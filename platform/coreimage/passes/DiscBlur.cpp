@@ -49,7 +49,7 @@ public:
     }
     Margin margin(const Grid& grid) const override
     {
-        const int cell = 1 << halvings(grid), reach = (int(std::ceil(radiusOn(grid) / cell)) + 3) * cell;
+        const int cell = 1 << halvings(grid), reach = (int(std::ceil(radiusOn(grid) / cell)) + 4) * cell;
         return {reach, reach};
     }
     void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
@@ -105,40 +105,83 @@ private:
         }
     }
 
+    /// What lies left of each column, for `rows` lines at once: no sum waits for another.
+    template <int rows>
+    static void sumLines(const float* line, std::size_t stride, int count, float* sum, std::size_t sumStride)
+    {
+        double total[rows] = {}; // double: what lies before a window must cancel
+        for (int x = 0; x < count; ++x)
+            for (std::size_t k = 0; k < rows; ++k) {
+                sum[k * sumStride + std::size_t(x)] = float(total[k]);
+                total[k] += double(line[k * stride + std::size_t(x)]);
+            }
+        for (std::size_t k = 0; k < rows; ++k)
+            sum[k * sumStride + std::size_t(count)] = float(total[k]);
+    }
+
+    /// A sum some floats away from the middle of a disc, and how often it counts.
+    struct Share {
+        std::ptrdiff_t offset;
+        float weight;
+    };
+
+    /// Each chord ends `half` beyond the middle of a cell, between two sums on either side.
+    static std::vector<Share> sharesOf(const std::vector<Chord>& chords, std::ptrdiff_t stride)
+    {
+        std::vector<Share> shares;
+        for (const Chord& chord : chords) {
+            const float end = chord.half + 0.5f;
+            const auto whole = std::ptrdiff_t(std::floor(end));
+            const float part = end - float(whole), w = chord.weight;
+            const std::ptrdiff_t row = chord.row * stride;
+            shares.insert(shares.end(),
+                {{row + whole, w * (1 - part)}, {row + whole + 1, w * part}, {row + 1 - whole, -w * (1 - part)},
+                    {row - whole, -w * part}});
+        }
+        return shares;
+    }
+
     template <class V>
     static void means(const Planes& in, const Planes& out, int c, const std::vector<Chord>& chords, Scratch& scratch)
     {
-        // sums[x] is what lies left of column x.
         const std::size_t stride = in.stride + kRowPadding;
-        float* const sums = scratch.floats(stride * std::size_t(in.area.height()) + kRowPadding);
-        for (int y = in.area.y0; y < in.area.y1; ++y) {
-            const float* const line = in.line(c, y);
-            float* const sum = sums + std::size_t(y - in.area.y0) * stride;
-            double total = 0;
-            for (int x = 0; x < in.area.width(); ++x) {
-                sum[x] = float(total);
-                total += double(line[x]);
-            }
-            sum[in.area.width()] = float(total);
-        }
+        float* const sums = scratch.floats(stride * std::size_t(in.area.height()) + 4 * kRowPadding);
+        int y = in.area.y0;
+        const auto sumAt = [&](int line) { return sums + std::size_t(line - in.area.y0) * stride; };
+        for (; y + 4 <= in.area.y1; y += 4)
+            sumLines<4>(in.line(c, y), in.stride, in.area.width(), sumAt(y), stride);
+        for (; y < in.area.y1; ++y)
+            sumLines<1>(in.line(c, y), in.stride, in.area.width(), sumAt(y), stride);
+
+        const std::vector<Share> shares = sharesOf(chords, std::ptrdiff_t(stride));
         const int left = out.area.x0 - in.area.x0, width = out.area.width();
-        for (int y = out.area.y0; y < out.area.y1; ++y) {
+        for (y = out.area.y0; y < out.area.y1; ++y) {
+            const float* const middle = sumAt(y) + left;
             float* const to = out.line(c, y);
-            for (std::size_t k = 0; k < chords.size(); ++k) {
-                const Chord& chord = chords[k];
-                const float* const sum = sums + std::size_t(y + chord.row - in.area.y0) * stride + left;
-                // The chord ends `half` beyond the middle of a cell, between two sums on either side.
-                const float end = chord.half + 0.5f;
-                const int whole = int(std::floor(end));
-                const V part(end - float(whole)), weight(chord.weight);
-                for (int x = 0; x < width; x += kLanes<V>) {
-                    const V right = mix(loadRow<V>(sum + x + whole), loadRow<V>(sum + x + whole + 1), part);
-                    const V before = mix(loadRow<V>(sum + x + 1 - whole), loadRow<V>(sum + x - whole), part);
-                    const V mean = (right - before) * weight;
-                    storeRow(to + x, k ? loadRow<V>(to + x) + mean : mean);
-                }
-            }
+            int x = 0;
+            for (; x + 4 * kLanes<V> <= width; x += 4 * kLanes<V>)
+                meansOf<V, 4>(middle + x, shares, to + x);
+            for (; x < width; x += kLanes<V>)
+                meansOf<V, 1>(middle + x, shares, to + x);
         }
+    }
+
+    template <class V, int batches>
+    static void meansOf(const float* middle, const std::vector<Share>& shares, float* to)
+    {
+        V mean[batches];
+#pragma GCC unroll 4
+        for (int i = 0; i < batches; ++i)
+            mean[i] = V(0.0f);
+        for (const Share& share : shares) {
+            const V weight(share.weight);
+#pragma GCC unroll 4 // else the sums live in memory
+            for (int i = 0; i < batches; ++i)
+                mean[i] = mulAdd(weight, loadRow<V>(middle + share.offset + i * kLanes<V>), mean[i]);
+        }
+#pragma GCC unroll 4
+        for (int i = 0; i < batches; ++i)
+            storeRow(to + i * kLanes<V>, mean[i]);
     }
 
     /// Reads the coarse cells linearly.

@@ -14,7 +14,7 @@ namespace ci {
 namespace {
 
 constexpr double kFewCells = 2.5; // below it halving once more would show
-constexpr double kWidest = 300; // px; three times what sliders offer
+constexpr double kWidest = 2000; // px; beyond it a picture hardly changes any more
 constexpr double kReach = 3.0; // standard deviations beyond which weights are left out
 
 int halvingsFor(double sigma)
@@ -70,71 +70,6 @@ void convolve(const Planes& in, const Planes& out, const std::vector<float>& wei
             for (int x = 0; x < out.area.width(); x += kLanes<V>)
                 storeRow(to + x, symmetricSum<V>(line + before + x, 1, weights));
         }
-}
-
-/// Means of 2 by 2 cells, as rows come in. Cell (i, j) of the half covers columns 2i, 2i + 1 and rows 2j, 2j + 1.
-class Halver {
-public:
-    Halver(const GridRect& area, Scratch& scratch)
-        : m_area(area)
-        , m_half{floorDiv(area.x0 + 1, 2), floorDiv(area.y0 + 1, 2), floorDiv(area.x1, 2), floorDiv(area.y1, 2)}
-        , m_row(allocateRow(scratch, m_half.width() + 1))
-    {
-    }
-    const GridRect& half() const { return m_half; }
-    /// True when `row()` is complete: the row y was an upper one.
-    bool add(int y, const Row& row)
-    {
-        const int line = floorDiv(y, 2);
-        if (line < m_half.y0 || line >= m_half.y1)
-            return false;
-        const bool upper = y - 2 * line == 1;
-        const int skip = 2 * m_half.x0 - m_area.x0;
-        const float* const from[4] = {row.r + skip, row.g + skip, row.b + skip, row.a + skip};
-        float* const to[4] = {m_row.r, m_row.g, m_row.b, m_row.a};
-        for (int c = 0; c < 4; ++c)
-            for (int x = 0; x < m_half.width(); ++x) {
-                const float pair = 0.25f * (from[c][2 * x] + from[c][2 * x + 1]);
-                to[c][x] = upper ? to[c][x] + pair : pair;
-            }
-        return upper;
-    }
-    int line(int y) const { return floorDiv(y, 2); }
-    const MutableRow& row() const { return m_row; }
-
-private:
-    GridRect m_area, m_half;
-    MutableRow m_row;
-};
-
-/// Reads rows through several halvers into planes of the coarsest grid.
-Planes readHalved(RowReader& in, const GridRect& area, int times, Scratch& scratch)
-{
-    std::vector<Halver> chain;
-    GridRect current = area;
-    for (int i = 0; i < times; ++i) {
-        chain.emplace_back(current, scratch);
-        current = chain.back().half();
-    }
-    const Planes coarse = Planes::allocate(current, scratch);
-    for (int y = area.y0; y < area.y1; ++y) {
-        Row row = in.row(y);
-        int line = y;
-        std::size_t i = 0;
-        while (i < chain.size() && chain[i].add(line, row)) {
-            line = chain[i].line(line);
-            row = chain[i].row();
-            ++i;
-        }
-        if (i == chain.size() && line >= current.y0 && line < current.y1) {
-            const MutableRow to = coarse.row(line);
-            std::copy_n(row.r, current.width(), to.r);
-            std::copy_n(row.g, current.width(), to.g);
-            std::copy_n(row.b, current.width(), to.b);
-            std::copy_n(row.a, current.width(), to.a);
-        }
-    }
-    return coarse;
 }
 
 /// The half-size cells that doubling to `area` reads.
@@ -200,6 +135,7 @@ public:
     {
     }
 
+    int halvings(const Grid& grid) const override { return halvingsFor(m_sigma * grid.scale); }
     Margin margin(const Grid& grid) const override
     {
         const double sigma = m_sigma * grid.scale;
@@ -226,7 +162,8 @@ private:
         // What halving and doubling add to the variance: (n² - 1) / 12 and (n² - 1) / 4 cells².
         const double rest = sigma * sigma - (double(cell) * cell - 1) / 3;
         const std::vector<float> weights = gaussianWeights(std::sqrt(std::max(rest, 1e-4)) / cell);
-        const Planes coarse = readHalved(in, area, times - halvings(render.grid), scratch);
+        const Planes coarse = Planes::allocate(area, scratch);
+        coarse.fill(in);
         if (times == 0) {
             convolve<V>(coarse, out, weights, scratch);
             return;
@@ -242,7 +179,6 @@ private:
             current = next;
         }
     }
-    static constexpr int kOwn = 3; // halvings done here, row by row; the rest by the image itself
     double m_sigma;
 };
 
@@ -256,6 +192,11 @@ CIImage gaussianBlur(const CIImage& image, double sigma)
     sigma = std::min(sigma, kWidest);
     const CIRect extent = image.extent().grown(std::ceil(kReach * sigma) + 1);
     return CIImage(passNode(image.node(), std::make_shared<GaussianPass>(sigma), extent, true));
+}
+
+CIImage blurredWithin(const CIImage& image, double sigma)
+{
+    return gaussianBlur(image.clampedToExtent(), sigma).cropped(image.extent());
 }
 
 } // namespace ci
