@@ -78,7 +78,7 @@ const RecipeFilter maskedVariableBlur{
         const double widest = std::min(kMeasured * in.number("inputRadius"), 1000.0);
         CIImage result = source;
         double before = 0;
-        for (const double share : {0.1, 0.2, 0.35, 0.6, 1.0}) {
+        for (const double share : {0.13, 0.3, 0.58, 1.0}) {
             const double sigma = share * widest;
             if (sigma < kFinest)
                 continue;

@@ -1,37 +1,48 @@
 // Light on surfaces that pictures describe.
 #include "platform/coreimage/kernel/SampleFilter.h"
+#include "platform/coreimage/kernel/StencilFilter.h"
 
 namespace ci {
 namespace {
 
-/// Takes the picture's lightness for heights, and each slope's light from the shading image, which shows a lit ball:
-/// level ground takes its middle, steep slopes its rim.
+/// The slopes of the picture's light, taken for heights: downhill to the right in red, downhill upwards in green.
+template <class V>
+struct Downhill {
+    static constexpr int reach = 1;
+    explicit Downhill(const Inputs<V>& in)
+        : half(0.5f * in.scalar("inputScale"))
+    {
+    }
+    template <class Near>
+    Pixel<V> operator()(const Near& near) const
+    {
+        const auto height = [&](int dx, int dy) { return luma(near(dx, dy)); };
+        return {half * (height(-1, 0) - height(1, 0)), half * (height(0, -1) - height(0, 1)), V(0.0f), near(0, 0).a};
+    }
+    V half;
+};
+
+/// Each slope's light from the shading image, which shows a lit ball: level ground takes its middle, steep slopes its
+/// rim.
 template <class V>
 struct ShadedMaterial {
     explicit ShadedMaterial(const Inputs<V>& in)
-        : scale(in.scalar("inputScale"))
-        , apart(max(in.step(), 1.0f))
     {
         const CIRect ball = in.values().image("inputShadingImage").extent();
         middle = {V(float(ball.center().x)), V(float(ball.center().y))};
         across = V(float(std::max(0.0, ball.width / 2 - 1))), along = V(float(std::max(0.0, ball.height / 2 - 1)));
     }
-    Pixel<V> operator()(const Sampler<V>& image, const Sampler<V>& ball, const Point<V>& here) const
+    Pixel<V> operator()(const Sampler<V>& slopes, const Sampler<V>& ball, const Point<V>& here) const
     {
-        const auto height = [&](const V& dx, const V& dy) { return luma(image({here.x + dx, here.y + dy})); };
-        const V none(0.0f), steep = scale / (2.0f * apart);
-        const V dx = steep * (height(-apart, none) - height(apart, none));
-        const V dy = steep * (height(none, -apart) - height(none, apart));
-        const V flat = 1.0f / sqrt(V(1.0f + mulAdd(dx, dx, dy * dy)));
-        return ball({mulAdd(V(dx * flat), across, middle.x), mulAdd(V(dy * flat), along, middle.y)}) * image(here).a;
+        const Pixel<V> s = slopes.nearest(here);
+        const V flat = 1.0f / sqrt(V(1.0f + mulAdd(s.r, s.r, s.g * s.g)));
+        return ball({mulAdd(V(s.r * flat), across, middle.x), mulAdd(V(s.g * flat), along, middle.y)}) * s.a;
     }
     static CIRect regionOfInterest(const Values& in, std::size_t image, const CIRect& wanted)
     {
-        return image == 0 ? wanted.grown(std::max(1.0, farthest(wanted))) : in.image("inputShadingImage").extent();
+        return image == 0 ? wanted : in.image("inputShadingImage").extent();
     }
-    /// A step is a pixel or a cell of the render; that is no wider than what is wanted.
-    static double farthest(const CIRect& wanted) { return std::min(wanted.width, wanted.height) + 1; }
-    V scale, apart, across, along;
+    V across, along;
     Point<V> middle;
 };
 
@@ -48,7 +59,7 @@ const RecipeFilter shadedMaterial{
         if (ball.extent().isInfinite() || ball.extent().isEmpty())
             return source;
         return general<ShadedMaterial>(
-            in, {source.clampedToExtent(), CIImage(sharedNode(ball.node()))}, source.extent());
+            in, {stencilWithin<Downhill>(in, source), CIImage(sharedNode(ball.node()))}, source.extent());
     }};
 
 } // namespace

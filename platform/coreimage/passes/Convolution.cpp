@@ -96,13 +96,16 @@ private:
     static void sumsOf(const float* middle, std::ptrdiff_t stride, const std::vector<Tap>& taps, float* to)
     {
         V sum[batches];
-        for (V& s : sum)
-            s = V(0.0f);
+#pragma GCC unroll 4
+        for (int i = 0; i < batches; ++i)
+            sum[i] = V(0.0f);
         for (const Tap& tap : taps) {
             const float* const p = middle + tap.y * stride + tap.x;
+#pragma GCC unroll 4 // else the sums live in memory
             for (int i = 0; i < batches; ++i)
                 sum[i] = mulAdd(V(tap.weight), loadRow<V>(p + i * kLanes<V>), sum[i]);
         }
+#pragma GCC unroll 4
         for (int i = 0; i < batches; ++i)
             storeRow(to + i * kLanes<V>, bounded(sum[i]));
     }

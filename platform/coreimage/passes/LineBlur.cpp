@@ -84,8 +84,9 @@ public:
             }
         if (u.low < 1 && u.high > -1)
             low = -1, high = 1;
-        // A cell apart or less where they are farthest apart. Powers of two, so that most tiles share their rays.
-        m_step = std::exp2(-std::ceil(std::log2(std::max({1.0, std::abs(u.low), std::abs(u.high)}))));
+        // A cell apart or less where they are farthest apart. In steps, so that most tiles share their rays.
+        constexpr double kSteps = 4; // to the double
+        m_step = std::exp2(-std::ceil(kSteps * std::log2(std::max({1.0, std::abs(u.low), std::abs(u.high)}))) / kSteps);
         m_first = (std::floor(low / m_step) - 1) * m_step;
         count = int(std::ceil((high - m_first) / m_step)) + 2;
     }
@@ -268,28 +269,44 @@ private:
         }
     }
 
-    /// The sum up to place `u`, which lies between two steps: the lower one and the share of the next.
-    std::pair<const float*, float> sumTo(double u) const
+    /// A row of sums and how often it counts in a mean.
+    struct Share {
+        const float* row;
+        float weight;
+    };
+    using Shares = std::array<Share, 4 * kMostBoxes>;
+
+    /// Adds the sum up to place `u`, which lies between two steps.
+    void addSumTo(double u, double weight, Shares& shares, std::size_t& count) const
     {
         const double place = std::clamp(u + m_frame.originU - m_first, 0.0, std::max(0.0, m_steps - 1e-6));
-        const double step = std::floor(place);
-        return {m_sums + std::size_t(step) * m_stride, float(place - step)};
+        const double step = std::floor(place), part = place - step;
+        const float* const row = m_sums + std::size_t(step) * m_stride;
+        shares[count++] = {row, float(weight * (1 - part))};
+        if (part > 0)
+            shares[count++] = {row + m_stride, float(weight * part)};
     }
 
     void meansAt(double u, float* means) const
     {
         const Window window = m_lines.windowAt(u);
+        Shares shares;
+        std::size_t count = 0;
         for (int k = 0; k < window.count; ++k) {
             const Box& box = window.boxes[std::size_t(k)];
-            const auto [low, lowPart] = sumTo(box.from);
-            const auto [high, highPart] = sumTo(box.to);
-            const V weight(float(box.weight)), a(lowPart), b(highPart);
-            for (std::size_t i = 0; i < m_floats; i += std::size_t(kLanes<V>)) {
-                const V below = mix(loadRow<V>(low + i), loadRow<V>(low + m_stride + i), a);
-                const V above = mix(loadRow<V>(high + i), loadRow<V>(high + m_stride + i), b);
-                const V sum = (above - below) * weight;
-                storeRow(means + i, k ? loadRow<V>(means + i) + sum : sum);
+            addSumTo(box.to, box.weight, shares, count);
+            addSumTo(box.from, -box.weight, shares, count);
+        }
+        constexpr std::size_t kLane = kLanes<V>;
+        for (std::size_t i = 0; i < m_floats; i += 2 * kLane) {
+            V first(0.0f), second(0.0f);
+            for (std::size_t k = 0; k < count; ++k) {
+                const V weight(shares[k].weight);
+                first = mulAdd(weight, loadRow<V>(shares[k].row + i), first);
+                second = mulAdd(weight, loadRow<V>(shares[k].row + i + kLane), second);
             }
+            storeRow(means + i, first);
+            storeRow(means + i + kLane, second);
         }
     }
 
@@ -323,6 +340,8 @@ private:
     float* m_sums = nullptr; // up to the lower side of each step
     std::shared_ptr<const GridCopy> m_copy;
 };
+
+constexpr int kLeastReach = 64; // cells: makes tiles of 256
 
 /// What both blurs share: a block of interleaved pixels that `fill` writes.
 class LineBlurNode : public WrapperNode {
@@ -367,7 +386,8 @@ public:
     }
     int reach(const Grid& grid) const override
     {
-        return int(std::ceil(m_reach * grid.scale)) + 1 + m_source->reach(grid);
+        // Blocks must be large against the corners that slanting lines waste.
+        return std::max(kLeastReach, int(std::ceil(m_reach * grid.scale)) + 1) + m_source->reach(grid);
     }
 
 protected:
@@ -398,7 +418,7 @@ public:
         , m_farthest(farthest)
     {
     }
-    int reach(const Grid& grid) const override { return 64 + m_source->reach(grid); }
+    int reach(const Grid& grid) const override { return kLeastReach + m_source->reach(grid); }
 
 protected:
     void fill(const Render& render, const GridRect& block, float* pixels, std::ptrdiff_t stride,

@@ -30,6 +30,14 @@ float scattered(int i, int j, std::uint32_t salt)
     return float((h ^ (h >> 15)) >> 8) * (1.0f / 16777216.0f);
 }
 
+/// Cells half as large as a patch, or those of the render if they are larger.
+Grid coarseGrid(const Mosaic& m, const Grid& grid)
+{
+    Grid coarse;
+    coarse.scale = std::min(grid.scale, 2 / std::min(m.across, m.along));
+    return coarse;
+}
+
 /// The patches around one block.
 class Patches {
 public:
@@ -60,12 +68,11 @@ public:
     }
 
 private:
-    /// From cells half as large as a patch, linearly.
+    /// From coarse cells, linearly.
     void readColors(const Node& source, const Render& render, Scratch& scratch)
     {
         const ScratchScope scope(scratch);
-        Grid coarse;
-        coarse.scale = std::min(render.grid.scale, 2 / std::min(m_mosaic.across, m_mosaic.along));
+        const Grid coarse = coarseGrid(m_mosaic, render.grid);
         const double scale = coarse.scale;
         const Patch &first = at(m_columns[0], m_rows[0]), &last = at(m_columns[1] - 1, m_rows[1] - 1);
         const double slack = 2 * std::max(m_mosaic.across, m_mosaic.along);
@@ -132,13 +139,13 @@ public:
     }
     void prepare(const Render& render) const override
     {
-        Grid coarse;
-        coarse.scale = std::min(render.grid.scale, 2 / std::min(m_mosaic.across, m_mosaic.along));
-        m_source->prepare(render.withGrid(coarse));
+        m_source->prepare(isTooFine(render.grid) ? render : render.withGrid(coarseGrid(m_mosaic, render.grid)));
     }
     int reach(const Grid& grid) const override { return 1 + int(std::min(500.0, 2 * m_mosaic.across * grid.scale)); }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
+        if (isTooFine(render.grid))
+            return m_source->open(render, area, scratch);
         const Planes out = Planes::allocate(area, scratch);
         const GridRect block = area.intersected(render.grid.cellsIn(extent()));
         if (!block.isEmpty()) {
@@ -155,6 +162,9 @@ public:
     }
 
 private:
+    /// Patches of about a cell look like the image they are made of.
+    bool isTooFine(const Grid& grid) const { return std::min(m_mosaic.across, m_mosaic.along) * grid.scale < 1.5; }
+
     template <class V>
     void fillRow(const Patches& patches, const Grid& grid, const Planes& out, const GridRect& block, int y) const
     {
