@@ -2,6 +2,7 @@
 #include "app/Controller.h"
 #include "app/Log.h"
 #include "app/MainWindow.h"
+#include "app/TextRenderer.h"
 #include "platform/foundation/Appearance.h"
 
 #include <QApplication>
@@ -21,6 +22,7 @@ int main(int argc, char** argv)
     if (!picture)
         return 2;
 
+    CITextRenderer::install(std::make_shared<TextRenderer>());
     Appearance::shared().dressApplication();
     MainWindow window;
     Controller controller(window);

@@ -1,4 +1,5 @@
 #include "app/CommandLine.h"
+#include "app/TextRenderer.h"
 #include "app/UndoNames.h"
 #include "app/ZoomScale.h"
 #include "platform/coreimage/CIFilter.h"
@@ -67,6 +68,35 @@ TEST(CommandLine, TellsAQuestionFromAPictureOfThatName)
     EXPECT_EQ(pictureArgument({"lumivex", "--", "--help"}), "--help");
     EXPECT_FALSE(pictureArgument({"lumivex", "--wrong"}));
     EXPECT_FALSE(pictureArgument({"lumivex", "a.png", "b.png"}));
+}
+
+double inkOf(const CIBitmap& bitmap)
+{
+    double ink = 0;
+    for (int y = 0; y < bitmap.height(); ++y)
+        for (std::size_t x = 3; x < std::size_t(bitmap.width()) * 4; x += 4)
+            ink += bitmap.row<std::uint8_t>(y)[x] / 255.0;
+    return ink;
+}
+
+TEST(TextRenderer, PaintsRunsAtTheirSizesWithRoomAround)
+{
+    const TextRenderer renderer;
+    const CIBitmap plain = renderer.render({{{.text = "Alpine", .fontName = "DejaVu Sans", .fontSize = 20}}, 1, 0});
+    ASSERT_FALSE(plain.isNull());
+    EXPECT_GT(plain.width(), 3 * plain.height() / 2);
+    EXPECT_NEAR(plain.height(), 24, 6);
+    EXPECT_GT(inkOf(plain), 50);
+    const CIBitmap twice = renderer.render({{{.text = "Alpine", .fontName = "DejaVu Sans", .fontSize = 20}}, 2, 5});
+    EXPECT_NEAR(twice.width(), 2 * plain.width() + 10, 3);
+    EXPECT_NEAR(inkOf(twice) / inkOf(plain), 4, 0.5);
+    const CIBitmap lines = renderer.render({{{.text = "a\nb\nc", .fontName = "DejaVu Sans", .fontSize = 20}}, 1, 0});
+    EXPECT_GT(lines.height(), 2.5 * plain.height());
+    EXPECT_TRUE(renderer.render({{}, 1, 10}).isNull());
+    EXPECT_TRUE(
+        renderer.render({{{.text = std::string(5000, 'W'), .fontName = "DejaVu Sans", .fontSize = 4000}}, 60, 0})
+            .isNull())
+        << "too large";
 }
 
 } // namespace
