@@ -13,6 +13,10 @@ foreach(program lumivex lumivex-render)
 endforeach()
 if(TARGET coreimage)
     install(TARGETS coreimage LIBRARY DESTINATION ${LUMIVEX_ENGINE_DIR} NAMELINK_SKIP)
+    foreach(level IN LISTS LUMIVEX_LEVELS)
+        install(TARGETS coreimage-${level}
+                LIBRARY DESTINATION ${LUMIVEX_ENGINE_DIR}/glibc-hwcaps/x86-64-${level} NAMELINK_SKIP)
+    endforeach()
 endif()
 
 set(id io.github.lumivex.Lumivex)
