@@ -209,6 +209,18 @@ EffectControl* EffectPanel::addColorWell(const Text& text, const CIColor& color,
     return addRow(text, new Well, color, std::move(action));
 }
 
+EffectControl* EffectPanel::addColorWellBeside(
+    EffectControl& neighbor, const Text& text, const CIColor& color, Action action)
+{
+    auto* well = new Well;
+    well->focusProxy()->setAccessibleName(text.label);
+    well->focusProxy()->setToolTip(text.toolTip);
+    well->setValue(color);
+    connect(well, &EffectControl::changed, well, [well, action = std::move(action)] { action(well); });
+    static_cast<QBoxLayout*>(neighbor.layout())->addWidget(well, 1);
+    return well;
+}
+
 EffectControl* EffectPanel::addCheckBox(const Text& text, bool on, Action action)
 {
     return addRow(text, new Switch, on, std::move(action));

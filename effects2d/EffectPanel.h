@@ -29,6 +29,8 @@ public:
 
     EffectControl* addPopUp(const Text& text, const QStringList& titles, int index, Action action);
     EffectControl* addColorWell(const Text& text, const CIColor& color, Action action);
+    /// On the row of another control, after it. The label is for assistive technology only.
+    EffectControl* addColorWellBeside(EffectControl& neighbor, const Text& text, const CIColor& color, Action action);
     EffectControl* addCheckBox(const Text& text, bool on, Action action);
     EffectControl* addSlider(const Text& text, const Range& range, double value, Action action);
     /// 96 x 24 points, in the middle, without a caption.

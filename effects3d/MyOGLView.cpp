@@ -1,0 +1,331 @@
+#include "effects3d/MyOGLView.h"
+
+#include "effects2d/BaseEffect.h"
+#include "effects3d/OpenGL.h"
+#include "effects3d/OpenGLDevice.h"
+#include "effects3d/OpenGLFrame.h"
+#include "effects3d/PictureTexture.h"
+#include "platform/foundation/Appearance.h"
+#include "platform/foundation/NotificationCenter.h"
+
+#include <algorithm>
+
+#include <QContextMenuEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr double kPictureEdge = 0.9; // of half the view
+constexpr double kKeyStep = 10, kLargeKeyStep = 90; // points of mouse movement: 5 and 45 degrees
+constexpr double kDepthScale = 0.5; // bodies and bent surfaces that reach out of the unit cube stay whole
+
+bool isBlank(const QImage& frame)
+{
+    const auto isEmptyRow = [&](int y) {
+        const auto* row = reinterpret_cast<const QRgb*>(frame.constScanLine(y));
+        return std::all_of(row, row + frame.width(), [](QRgb pixel) { return pixel == 0; });
+    };
+    const int middle = frame.height() / 2;
+    if (frame.isNull() || !isEmptyRow(middle))
+        return frame.isNull(); // nearly always
+    for (int y = 0; y < frame.height(); ++y)
+        if (!isEmptyRow(y))
+            return false;
+    return true;
+}
+
+/// All that drawing may change, put back at the end.
+class SavedState {
+public:
+    SavedState()
+    {
+        glPushAttrib(GL_ALL_ATTRIB_BITS);
+        glPushClientAttrib(GL_CLIENT_ALL_ATTRIB_BITS);
+    }
+    ~SavedState()
+    {
+        glPopClientAttrib();
+        glPopAttrib();
+    }
+    SavedState(const SavedState&) = delete;
+    SavedState& operator=(const SavedState&) = delete;
+};
+
+void setProjection(double x, double y, double z)
+{
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glScaled(x, y, z);
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+}
+
+} // namespace
+
+MyOGLView::MyOGLView(QWidget* parent)
+    : QWidget(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("3D picture"));
+    setAccessibleDescription(tr("Drag to turn. The arrow keys turn it as well."));
+}
+
+MyOGLView::~MyOGLView() = default;
+
+void MyOGLView::awakeFromNib()
+{
+    if (m_inited)
+        return;
+    m_inited = true;
+    connect(&NotificationCenter::defaultCenter(), &NotificationCenter::UpdateOpenGLView, this, &MyOGLView::redraw);
+}
+
+void MyOGLView::setController(OGLViewMaster* master)
+{
+    controller = master;
+    redraw();
+}
+
+BaseEffect* MyOGLView::effect() const { return controller ? controller->getCurrent3DEffect() : nullptr; }
+
+bool MyOGLView::isUsable()
+{
+    if (!m_device)
+        m_device = OpenGLDevice::shared();
+    return m_device->isUsable();
+}
+
+void MyOGLView::redraw()
+{
+    m_shown = {};
+    update();
+}
+
+// --- drawing ---
+
+QImage MyOGLView::drawnFrame(QSize pixels, qreal scale)
+{
+    if (!isUsable())
+        return {};
+    if (!m_frame)
+        m_frame = std::make_unique<OpenGLFrame>(m_device);
+    if (!m_frame->begin(pixels))
+        return {};
+    {
+        const SavedState saved;
+        if (m_device->samples() > 0)
+            glEnable(GL_MULTISAMPLE);
+        glLineWidth(float(scale));
+        m_picture = PictureTexture::of(controller ? controller->backImage() : CIImage());
+        if (BaseEffect* current = effect())
+            drawEffect(*current, pixels);
+        else
+            drawBackImg();
+    }
+    return m_frame->end();
+}
+
+void MyOGLView::drawEffect(BaseEffect& effect, QSize pixels)
+{
+    const double shorter = std::min(pixels.width(), pixels.height());
+    setProjection(shorter / pixels.width(), shorter / pixels.height(), kDepthScale);
+    effect.draw();
+}
+
+void MyOGLView::drawBackImg()
+{
+    glClearColor(0, 0, 0, 0);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    if (!m_picture)
+        return;
+    setProjection(1, 1, 1);
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_CULL_FACE);
+    glDepthMask(GL_FALSE);
+    glDisable(GL_DITHER);
+    glDisable(GL_BLEND);
+    glEnable(GL_TEXTURE_2D);
+    glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
+    glTexEnvi(GL_TEXTURE_ENV, GL_TEXTURE_ENV_MODE, GL_DECAL);
+    m_picture->bind(GL_CLAMP_TO_EDGE);
+    const auto corner = [](double s, double t, double x, double y) {
+        glTexCoord2d(s, t);
+        glVertex2d(x, y);
+    };
+    glBegin(GL_QUADS);
+    corner(0, 1, -kPictureEdge, -kPictureEdge);
+    corner(1, 1, kPictureEdge, -kPictureEdge);
+    corner(1, 0, kPictureEdge, kPictureEdge);
+    corner(0, 0, -kPictureEdge, kPictureEdge);
+    glEnd();
+    glFlush();
+}
+
+QSize MyOGLView::pixelsAt(qreal scale) const { return {int(width() * scale), int(height() * scale)}; }
+
+void MyOGLView::paintEvent(QPaintEvent*)
+{
+    if (m_shown.isNull()) {
+        m_shown = drawnFrame(pixelsAt(devicePixelRatioF()), devicePixelRatioF());
+        m_isBlank = isBlank(m_shown);
+    }
+    QPainter painter(this);
+    painter.drawImage(rect(), m_shown);
+    if (m_isBlank && m_picture && effect())
+        drawHint(painter);
+    if (m_showsFocus) {
+        painter.setPen(QPen(Appearance::shared().look().accentMark, 2));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+    }
+}
+
+/// Some bodies are seen from their open or flat side at first, which shows nothing.
+void MyOGLView::drawHint(QPainter& painter) const
+{
+    painter.setPen(Look::light().secondaryText); // on paper in both looks
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("Seen from its open side. Drag to turn it."));
+}
+
+void MyOGLView::resizeEvent(QResizeEvent*) { m_shown = {}; }
+
+QImage MyOGLView::ogl_shot()
+{
+    QImage shot = drawnFrame(pixelsAt(devicePixelRatioF()), devicePixelRatioF());
+    shot.setDevicePixelRatio(devicePixelRatioF());
+    return shot;
+}
+
+CIImage MyOGLView::ogl_shot_CI()
+{
+    const QImage shot = drawnFrame(size(), 1);
+    if (shot.isNull())
+        return {};
+    return CIImage::fromBitmap(CIBitmap(shot.constBits(), shot.width(), shot.height(), std::size_t(shot.bytesPerLine()),
+        CIFormat::BGRA8, CIAlpha::Premultiplied, CIColorSpace::SRGB, std::make_shared<const QImage>(shot)));
+}
+
+// --- mouse and keyboard ---
+
+CIPoint MyOGLView::viewPoint(const QMouseEvent& event) const
+{
+    return {event.position().x(), height() - event.position().y()};
+}
+
+void MyOGLView::mousePressEvent(QMouseEvent* event)
+{
+    BaseEffect* current = effect();
+    if (event->button() != Qt::LeftButton || !current)
+        return;
+    endKeyTurn();
+    m_mouseTurns = true;
+    current->mouseDown(viewPoint(*event));
+}
+
+void MyOGLView::mouseMoveEvent(QMouseEvent* event)
+{
+    BaseEffect* current = effect();
+    if (!m_mouseTurns || !current)
+        return;
+    current->mouseDragged(viewPoint(*event));
+    redraw();
+}
+
+void MyOGLView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
+        return;
+    m_mouseTurns = false;
+    if (BaseEffect* current = effect())
+        current->mouseUp(viewPoint(*event));
+}
+
+void MyOGLView::keyPressEvent(QKeyEvent* event)
+{
+    const double step = event->modifiers() & Qt::ShiftModifier ? kLargeKeyStep : kKeyStep;
+    CIPoint move;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        move.x = -step;
+        break;
+    case Qt::Key_Right:
+        move.x = step;
+        break;
+    case Qt::Key_Up:
+        move.y = step;
+        break;
+    case Qt::Key_Down:
+        move.y = -step;
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    BaseEffect* current = effect();
+    if (!current || m_mouseTurns)
+        return;
+    if (!m_keysTurn) {
+        current->mouseDown(m_keyPoint); // one undo step for as long as keys are held
+        m_keysTurn = true;
+    }
+    m_keyPoint = {m_keyPoint.x + move.x, m_keyPoint.y + move.y};
+    current->mouseDragged(m_keyPoint);
+    redraw();
+}
+
+void MyOGLView::keyReleaseEvent(QKeyEvent* event)
+{
+    QWidget::keyReleaseEvent(event);
+    if (!event->isAutoRepeat())
+        endKeyTurn();
+}
+
+void MyOGLView::endKeyTurn()
+{
+    if (!std::exchange(m_keysTurn, false))
+        return;
+    if (BaseEffect* current = effect())
+        current->mouseUp(m_keyPoint);
+}
+
+/// Those who click need no frame around what they click on.
+void MyOGLView::focusInEvent(QFocusEvent* event)
+{
+    m_showsFocus = event->reason() != Qt::MouseFocusReason;
+    update();
+}
+
+void MyOGLView::focusOutEvent(QFocusEvent*)
+{
+    endKeyTurn();
+    m_showsFocus = false;
+    update();
+}
+
+void MyOGLView::enterEvent(QEnterEvent*) { mouseEntered(); }
+
+void MyOGLView::leaveEvent(QEvent*) { mouseExited(); }
+
+void MyOGLView::mouseEntered()
+{
+    if (!effect())
+        return;
+    setCursor(Qt::PointingHandCursor);
+    update();
+}
+
+void MyOGLView::mouseExited()
+{
+    setCursor(Qt::ArrowCursor);
+    update();
+}
+
+void MyOGLView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(event->globalPos()); }
+
+void MyOGLView::mouseContentMenu(const QPoint& globalPosition)
+{
+    if (QMenu* menu = controller ? controller->contextMenu() : nullptr)
+        menu->popup(globalPosition);
+}

@@ -1,0 +1,34 @@
+// The source picture as a texture.
+#pragma once
+
+#include "effects3d/OpenGL.h"
+#include "platform/coreimage/CIImage.h"
+
+#include <memory>
+
+class OpenGLDevice;
+
+/// The whole picture with its smaller levels, t = 0 at the top, premultiplied sRGB. Only as large as the frame that
+/// is drawn needs it, and made once for all who draw the same picture. Main thread only.
+class PictureTexture {
+public:
+    ~PictureTexture();
+    PictureTexture(const PictureTexture&) = delete;
+    PictureTexture& operator=(const PictureTexture&) = delete;
+
+    /// To be called while drawing: the context is current and the viewport set. The one before is answered again as
+    /// long as it is of the same picture and fine enough. Null when there is no picture, or one without an end.
+    static std::shared_ptr<PictureTexture> of(const CIImage& picture);
+
+    GLuint name() const { return m_name; }
+    /// For drawing; beyond the picture it is repeated, or its edge is.
+    void bind(GLint wrap = GL_REPEAT) const;
+
+private:
+    PictureTexture(const CIImage& picture, int side);
+
+    std::shared_ptr<OpenGLDevice> m_device;
+    CIImage m_picture;
+    int m_side; // texels that were asked for, along the longer side
+    GLuint m_name = 0;
+};
