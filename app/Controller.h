@@ -3,10 +3,13 @@
 
 #include "app/DataSource.h"
 #include "app/DefaultImages.h"
+#include "app/EffectList.h"
 #include "app/OutlineModel.h"
 #include "app/PictureFormats.h"
 #include "controls/ImageViewMaster.h"
 #include "controls/ParameterMaster.h"
+#include "effects2d/EffectMaster.h"
+#include "effects3d/OGLViewMaster.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
 
@@ -22,6 +25,7 @@ class CatalogueSearch;
 class FilterView;
 class MainWindow;
 class MyImageView;
+class MyOGLView;
 class OutlineView;
 class QAbstractButton;
 class QAction;
@@ -37,7 +41,11 @@ class MainWindow;
 /// One lives for as long as the program. Operations that lack their input (no picture, no filter) quietly do nothing.
 ///
 /// Changes of the user register their inverse with the undo manager. Main thread only.
-class Controller : public QObject, public ImageViewMaster, public ParameterMaster {
+class Controller : public QObject,
+                   public ImageViewMaster,
+                   public ParameterMaster,
+                   public EffectMaster,
+                   public OGLViewMaster {
     Q_OBJECT
 
 public:
@@ -109,7 +117,7 @@ public:
     void beginChange() override { m_undoManager.beginUndoGrouping(); }
     void endChange() override { m_undoManager.endUndoGrouping(); }
     CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override;
-    UndoManager* undoManager() { return &m_undoManager; }
+    UndoManager* undoManager() override { return &m_undoManager; }
     void undo();
     void redo();
 
@@ -131,6 +139,12 @@ public:
     void zoomIn();
     void zoomOut();
     void zoomToFit();
+
+    // 3D mode: Controller3D.cpp
+    BaseEffect* getCurrent3DEffect() override { return current3DEffect.get(); }
+    void outlineViewSelectionDidChange_3D(const OutlineItem* item);
+    /// What the 3D view shows of the current effect, in the screen's pixels; null without one.
+    CIImage result3D();
 
     // Files: ControllerFiles.cpp
     void openImg();
@@ -189,6 +203,13 @@ private:
     void buildPanel(int tag);
     void rebuildPanel();
     void showFilterName(bool shown);
+    std::vector<std::shared_ptr<BaseEffect>> effects3D();
+    void connect3D();
+    void setCurrent3DEffect(const std::shared_ptr<BaseEffect>& effect);
+    void clearAll3D();
+    void updateView3D();
+    void show3DEffectName();
+    void apply3D();
     void updatePictureInfo();
     void showMessage(const QString& text);
     int askToSaveChanges();
@@ -201,18 +222,23 @@ private:
     std::shared_ptr<CIContext> m_context;
 
     // The interface, by the names under which it is known.
-    OutlineView* listView;
+    OutlineView *listView, *filter3DOutlineView;
     QAbstractButton *standardBtn, *threeDBtn, *customBtn;
     QStackedWidget *filterTabView, *mainTabView; // the page's index is the filter mode
     QSlider* zoomSlider;
     QWidget* zoomSuperView;
     MyImageView* ciView;
+    MyOGLView* openGLView;
     QWidget* placeCntrlView;
     QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
 
     CIImage backgroundImage;
     std::shared_ptr<CIFilter> currentFilter;
+    std::shared_ptr<BaseEffect> current3DEffect; // always a copy of one of the prototypes
+    std::shared_ptr<BaseEffect> eval3DEffect, object3DEffect;
+    EffectList m_effects3D;
+    OutlineModel m_list3D;
     DefaultImage texture, shadingemap, alphaemap, ramp, mask;
     QString _filePath;
     bool m_wasChanged = false;

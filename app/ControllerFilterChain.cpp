@@ -40,6 +40,8 @@ void Controller::setBackgroundImage(const CIImage& image)
     m_pictureFormat = m_formats.formatOf(image, m_pictureFormat); // an edited picture is as deep as it was
     m_formats.remember(image, m_pictureFormat);
     fitZoom();
+    if (current3DEffect)
+        current3DEffect->reloadImage();
     updatePictureInfo();
     updateView();
     validateMenuItems();
@@ -135,6 +137,8 @@ void Controller::applyBtn()
             setBackgroundImage(applied);
             m_wasChanged = true;
         }
+    } else if (filerMode() == ThreeD) {
+        apply3D();
     }
     clearAllAndUpdate();
 }

@@ -66,6 +66,8 @@ void Controller::updateView()
 {
     if (filerMode() == Standard)
         ciView->setNeedsDisplay();
+    else if (filerMode() == ThreeD)
+        updateView3D();
 }
 
 void Controller::updateLayout()

@@ -3,6 +3,7 @@
 #include "controls/FilterView.h"
 #include "controls/MyImageView.h"
 #include "platform/foundation/Appearance.h"
+#include "ui_MainWindow.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -27,6 +28,8 @@ void Controller::changeFilterMode(QAbstractButton* sender)
     for (QAbstractButton* button : {standardBtn, threeDBtn, customBtn})
         button->setChecked(button == sender);
     m_undoManager.removeAllActionsWithTarget(this);
+    if (current3DEffect)
+        m_undoManager.removeAllActionsWithTarget(current3DEffect.get());
     adjustViewsAndTabs();
     m_undoManager.registerUndoWithTarget(this, [this, previous] { changeFilterMode(previous); });
     updateMainBtnState();
@@ -56,7 +59,11 @@ void Controller::adjustViewsAndTabs()
     mainTabView->setCurrentIndex(int(mode));
     zoomSlider->setEnabled(mode != ThreeD);
     zoomSuperView->setVisible(mode != ThreeD);
+    placeCntrlView->setVisible(mode == Standard);
+    ui.place3DCntrlView->setVisible(mode == ThreeD);
     showFilterName(currentFilter && mode == Standard);
+    if (mode == ThreeD)
+        updateView3D();
     if (mode == Standard) {
         const float zoom = ciView->getZoom();
         ciView->setZoom(zoom);
@@ -64,12 +71,18 @@ void Controller::adjustViewsAndTabs()
     }
 }
 
-bool Controller::hasCurrentItem() const { return filerMode() == Standard && currentFilter; }
+bool Controller::hasCurrentItem() const
+{
+    const unsigned mode = filerMode();
+    return (mode == Standard && currentFilter) || (mode == ThreeD && current3DEffect);
+}
 
 void Controller::escapeEffect() { clearAllAndUpdate(); }
 
 void Controller::clearAll()
 {
+    if (filerMode() == ThreeD)
+        clearAll3D();
     if (filerMode() != Standard)
         return;
     clearControls();

@@ -17,10 +17,8 @@
 
 void Controller::updateFilterControls(int tag)
 {
-    if (currentFilter) {
-        ui.filterNameField->setText(QString::fromStdString(currentFilter->displayName()));
+    if (currentFilter)
         buildPanel(tag);
-    }
     showFilterName(currentFilter != nullptr);
 }
 
@@ -79,6 +77,10 @@ void Controller::clearControls()
 /// The name above the rows, and a hint where there are none.
 void Controller::showFilterName(bool shown)
 {
+    if (filerMode() == ThreeD)
+        return show3DEffectName();
+    if (currentFilter)
+        ui.filterNameField->setText(QString::fromStdString(currentFilter->displayName()));
     ui.filterNameField->setVisible(shown);
     ui.filterNameLine->setVisible(shown);
     const bool empty = !m_panel || m_panel->rowCount() == 0;

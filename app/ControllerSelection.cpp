@@ -17,6 +17,7 @@ void Controller::connectLists()
     });
     connect(listView, &OutlineView::groupClicked, this,
         [this](const OutlineItem* group) { outlineViewSelectionDidChange(*listView, group); });
+    connect3D();
     connect(ui.searchField, &QLineEdit::textChanged, this, &Controller::searchFilters);
     connect(ui.searchField, &QLineEdit::returnPressed, this, &Controller::takeFirstMatch);
 }
@@ -26,6 +27,8 @@ void Controller::outlineViewSelectionDidChange(OutlineView& outlineView, const O
     const OutlineItem* item = clicked ? clicked : outlineView.selectedItem();
     if (filerMode() == Standard)
         outlineViewSelectionDidChange_CIF(outlineView, item);
+    else if (filerMode() == ThreeD)
+        outlineViewSelectionDidChange_3D(item);
     updateMainBtnState();
     updateView();
 }

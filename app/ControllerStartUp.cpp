@@ -4,6 +4,8 @@
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
+#include "effects3d/MyOGLView.h"
+#include "effects3d/ThreeDStage.h"
 #include "platform/coreimage/CIPlugIn.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/ResourcePaths.h"
@@ -24,6 +26,7 @@ Controller::Controller(MainWindow& window)
     , m_catalogue(m_dataSource, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
     , m_context(std::make_shared<CIContext>())
     , listView(ui.listView)
+    , filter3DOutlineView(ui.filter3DOutlineView)
     , standardBtn(ui.standardBtn)
     , threeDBtn(ui.threeDBtn)
     , customBtn(ui.customBtn)
@@ -32,9 +35,12 @@ Controller::Controller(MainWindow& window)
     , zoomSlider(ui.zoomSlider)
     , zoomSuperView(ui.zoomSuperView)
     , ciView(ui.pictureScrollView->imageView())
+    , openGLView(ui.openGLStage->openGLView())
     , placeCntrlView(ui.placeCntrlView)
     , pasteBtn(ui.pasteBtn)
     , contentMenuOutlet(window.contextMenu())
+    , m_effects3D(effects3D())
+    , m_list3D(m_effects3D, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
     , m_search(new CatalogueSearch(this))
 {
     standardBtn->setChecked(true);
@@ -50,6 +56,7 @@ Controller::~Controller()
 {
     m_window.setController(nullptr);
     ciView->setController(nullptr);
+    openGLView->setController(nullptr);
     if (theController == this)
         theController = nullptr;
 }
@@ -65,7 +72,9 @@ void Controller::awakeFromNib()
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();
     listView->deselectAll();
+    filter3DOutlineView->deselectAll();
     theController = this;
+    EffectMaster::setMainController(this);
     setFilePath({});
     adjustViewsAndTabs();
     clearControls();

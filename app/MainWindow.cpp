@@ -4,6 +4,8 @@
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
+#include "effects3d/MyOGLView.h"
+#include "effects3d/ThreeDStage.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
 #include "ui_MainWindow.h"
@@ -38,6 +40,9 @@ void MainWindow::setLayout()
     ui->splitter->setStretchFactor(1, 1);
     ui->splitter->setStretchFactor(2, 0);
     ui->splitter->setSizes({248, 732, 300});
+    QSizePolicy zoomPolicy = ui->zoomSuperView->sizePolicy();
+    zoomPolicy.setRetainSizeWhenHidden(true); // or the picture would move when the mode changes
+    ui->zoomSuperView->setSizePolicy(zoomPolicy);
     ui->searchField->installEventFilter(this);
     connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
         ui->searchField->setFocus(Qt::ShortcutFocusReason);
@@ -133,10 +138,11 @@ void MainWindow::dress()
                                        "QLabel { color: %3; }",
         look.window, look.separator, look.secondaryText));
     for (QWidget* panel : {ui->sideBar, ui->controlPanel})
-        panel->setStyleSheet(sheet("#sideBar, #controlPanel, #placeCntrlView, QScrollArea { background: %1; }"
+        panel->setStyleSheet(sheet("#sideBar, #controlPanel, #controlPages, #placeCntrlView, #place3DCntrlView, "
+                                   "QScrollArea { background: %1; }"
                                    "#filterNameField { color: %2; font-weight: 600; padding: 12px 16px; }"
                                    "#filterNameLine { background: %3; }"
-                                   "#filterHintField, #filter3DNote, #filterCustomNote { color: %4; }"
+                                   "#filterHintField, #filterCustomNote { color: %4; }"
                                    "#filterHintField { padding: 12px 16px; }",
             look.panel, look.text, look.separator, look.secondaryText));
     ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }"
@@ -146,8 +152,8 @@ void MainWindow::dress()
 
 void MainWindow::focusNextPane()
 {
-    const std::array<QWidget*, 4> panes{
-        ui->listView, ui->pictureScrollView->viewport(), ui->controlScrollArea, ui->zoomSlider};
+    const std::array<QWidget*, 6> panes{ui->listView, ui->filter3DOutlineView, ui->pictureScrollView->viewport(),
+        ui->openGLStage->openGLView(), ui->controlScrollArea, ui->zoomSlider};
     std::size_t current = panes.size() - 1;
     for (std::size_t i = 0; i < panes.size(); ++i)
         if (panes[i]->hasFocus() || panes[i]->isAncestorOf(focusWidget()))
@@ -158,7 +164,7 @@ void MainWindow::focusNextPane()
             continue;
         if (pane == ui->controlScrollArea) {
             pane = nullptr;
-            for (QWidget* row : ui->placeCntrlView->findChildren<QWidget*>())
+            for (QWidget* row : ui->controlPages->findChildren<QWidget*>())
                 if (!pane && row->isVisible() && row->focusPolicy() & Qt::TabFocus)
                     pane = row;
             if (!pane)

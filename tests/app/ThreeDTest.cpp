@@ -1,0 +1,132 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "effects3d/MyOGLView.h"
+#include "effects3d/ObjectEffect.h"
+#include "effects3d/ThreeDStage.h"
+#include "ui_MainWindow.h"
+
+#include <QLabel>
+#include <QTest>
+
+namespace {
+
+struct ThreeDTest : WindowTest {
+    MyOGLView& view = *ui.openGLStage->openGLView();
+
+    ThreeDTest()
+    {
+        action("action3D")->trigger();
+        QCoreApplication::processEvents();
+    }
+    /// Clicks a row of the list.
+    void choose(int row)
+    {
+        OutlineView& list = *ui.filter3DOutlineView;
+        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(row, 0)).center());
+    }
+    ObjectEffect* object() { return dynamic_cast<ObjectEffect*>(controller.getCurrent3DEffect()); }
+    void drag(QPoint by)
+    {
+        const QPoint start = view.rect().center();
+        QTest::mousePress(&view, Qt::LeftButton, {}, start);
+        QTest::mouseMove(&view, start + by);
+        QTest::mouseRelease(&view, Qt::LeftButton, {}, start + by);
+    }
+    QList<EffectControl*> rows() const { return ui.place3DCntrlView->findChildren<EffectControl*>(); }
+};
+
+TEST_F(ThreeDTest, AChosenEffectIsACopyWithAPanelOfItsOwn)
+{
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    EXPECT_FALSE(ui.applyBtn->isEnabled());
+    EXPECT_TRUE(view.isVisible());
+    choose(1);
+    ASSERT_TRUE(object());
+    EXPECT_EQ(rows().size(), 1);
+    EXPECT_EQ(ui.filterNameField->text(), "3D Objects");
+    EXPECT_TRUE(ui.applyBtn->isEnabled());
+    EXPECT_TRUE(controller.wasChanged());
+    drag({60, 0});
+    EXPECT_EQ(object()->objectRotation()[0], 60);
+    choose(0);
+    EXPECT_EQ(controller.getCurrent3DEffect()->className(), "EvalEffect");
+    EXPECT_EQ(rows().size(), 5);
+    choose(1);
+    EXPECT_EQ(object()->objectRotation()[0], 0) << "the prototype stays as it was";
+}
+
+TEST_F(ThreeDTest, UndoStepsOfAnEffectGoWithIt)
+{
+    choose(1);
+    drag({60, 0});
+    drag({0, 30});
+    EXPECT_EQ(action("actionUndo")->text(), "Undo Rotate");
+    action("actionUndo")->trigger();
+    EXPECT_EQ(object()->objectRotation()[1], 0);
+    EXPECT_EQ(object()->objectRotation()[0], 60);
+    const UndoManager& steps = undo;
+    choose(0);
+    EXPECT_NE(steps.undoActionName(), "Rotate");
+    EXPECT_FALSE(steps.canRedo());
+    drag({10, 10});
+    action("actionStandard")->trigger();
+    EXPECT_NE(steps.undoActionName(), "Rotate");
+    action("actionUndo")->trigger();
+    EXPECT_EQ(controller.filerMode(), unsigned(Controller::ThreeD));
+    EXPECT_TRUE(controller.getCurrent3DEffect()) << "survives the modes";
+}
+
+TEST_F(ThreeDTest, EscapeDropsTheEffect)
+{
+    choose(1);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    EXPECT_FALSE(ui.filter3DOutlineView->selectedItem());
+    EXPECT_TRUE(rows().isEmpty());
+    EXPECT_FALSE(ui.applyBtn->isEnabled());
+}
+
+TEST_F(ThreeDTest, ApplyMakesTheViewThePictureAndUndoBringsTheOldOneBack)
+{
+    controller.openFile(pictureFile("plain.png", 300, 200));
+    const CIImage before = controller.backImage();
+    EXPECT_NEAR(double(view.width()) / view.height(), 1.5, 0.01) << "the sheet has the picture's proportions";
+    choose(1);
+    ui.applyBtn->click();
+    const CIImage applied = controller.backImage();
+    EXPECT_EQ(applied.extent(), (CIRect{0, 0, double(view.width()), double(view.height())}));
+    const CIBitmap pixels = CIContext().render(applied, applied.extent());
+    const auto middle = pixels.row<std::uint8_t>(pixels.height() / 2);
+    EXPECT_EQ(middle[std::size_t(pixels.width() / 2) * 4], 200) << "the picture on a ball";
+    EXPECT_EQ(pixels.row<std::uint8_t>(0)[3], 0) << "nothing around it";
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    EXPECT_TRUE(controller.wasChanged());
+    undo.undo();
+    EXPECT_TRUE(controller.backImage().isSameAs(before));
+}
+
+TEST_F(ThreeDTest, TheResultIsTheShotAndNothingWithoutAnEffect)
+{
+    EXPECT_TRUE(controller.result3D().isNull());
+    choose(0);
+    const CIRect extent = controller.result3D().extent();
+    EXPECT_EQ(extent, (CIRect{0, 0, double(view.ogl_shot().width()), double(view.ogl_shot().height())}));
+}
+
+TEST_F(ThreeDTest, PanelsOfTheModesStayApart)
+{
+    choose(1);
+    action("actionStandard")->trigger();
+    EXPECT_FALSE(ui.place3DCntrlView->isVisible());
+    pick("CIGaussianBlur");
+    EXPECT_EQ(ui.filterNameField->text(), "Gaussian Blur");
+    action("action3D")->trigger();
+    EXPECT_EQ(ui.filterNameField->text(), "3D Objects");
+    EXPECT_FALSE(ui.placeCntrlView->isVisible());
+    EXPECT_EQ(rows().size(), 1);
+    action("actionStandard")->trigger();
+    EXPECT_EQ(ui.filterNameField->text(), "Gaussian Blur");
+}
+
+} // namespace
