@@ -4,7 +4,7 @@
 #include "controls/CaptionLabel.h"
 #include "controls/ColorWell.h"
 #include "controls/DropImageView.h"
-#include "controls/PanelCheckBox.h"
+#include "widgets/PanelCheckBox.h"
 #include "controls/PictureConversion.h"
 #include "controls/ReadoutField.h"
 #include "controls/TextDescription.h"

@@ -1,12 +1,12 @@
 #include "effects2d/EffectPanel.h"
 
 #include "widgets/ColorSwatch.h"
+#include "widgets/PanelCheckBox.h"
+#include "widgets/PanelPopUp.h"
 
 #include <cmath>
 
 #include <QBoxLayout>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -38,12 +38,12 @@ protected:
     QHBoxLayout* m_row;
 };
 
-class PopUp : public ControlOf<QComboBox> {
+class PopUp : public ControlOf<PanelPopUp> {
 public:
     explicit PopUp(const QStringList& titles)
     {
         m_widget->addItems(titles);
-        connect(m_widget, &QComboBox::activated, this, [this](int index) {
+        connect(m_widget, &PanelPopUp::activated, this, [this](int index) {
             if (index != std::exchange(m_last, index))
                 emit changed();
         });
@@ -80,9 +80,9 @@ public:
     }
 };
 
-class Switch : public ControlOf<QCheckBox> {
+class Switch : public ControlOf<PanelCheckBox> {
 public:
-    Switch() { connect(m_widget, &QCheckBox::clicked, this, &EffectControl::changed); }
+    Switch() { connect(m_widget, &PanelCheckBox::clicked, this, &EffectControl::changed); }
     CIValue value() const override { return m_widget->isChecked(); }
     void setValue(const CIValue& value) override { m_widget->setChecked(value.toBool()); }
 };
@@ -163,7 +163,7 @@ EffectPanel::EffectPanel(QWidget* parent)
     : QWidget(parent)
     , m_rows(new QGridLayout(this))
 {
-    m_rows->setContentsMargins(12, 12, 12, 12);
+    m_rows->setContentsMargins(16, 12, 16, 12);
     m_rows->setHorizontalSpacing(8);
     m_rows->setVerticalSpacing(8);
     m_rows->setColumnStretch(1, 1);

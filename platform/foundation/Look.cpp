@@ -121,6 +121,9 @@ QToolButton:checked { background: @accent; color: @accentText; }
 QToolButton:focus { border-color: @accentMark; }
 QToolButton:disabled { color: @disabledText; }
 
+QComboBox QAbstractItemView { background: @panel; border: 1px solid @border; outline: none; padding: 4px;
+                              selection-background-color: @accent; selection-color: @accentText; }
+
 QTreeView, QListView { background: @panel; border: none; outline: none; show-decoration-selected: 1; }
 QTreeView::item { min-height: 24px; border: none; padding: 0; }
 QTreeView::item:hover, QTreeView::branch:hover { background: @hover; }

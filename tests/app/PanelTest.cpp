@@ -7,7 +7,7 @@
 #include "controls/DropImageView.h"
 #include "controls/FilterView.h"
 #include "controls/MyImageView.h"
-#include "controls/PanelCheckBox.h"
+#include "widgets/PanelCheckBox.h"
 #include "controls/ParameterView.h"
 #include "controls/PictureScrollView.h"
 #include "controls/ReadoutField.h"

@@ -3,7 +3,7 @@
 #include "controls/CaptionLabel.h"
 #include "controls/ColorWell.h"
 #include "controls/DropImageView.h"
-#include "controls/PanelCheckBox.h"
+#include "widgets/PanelCheckBox.h"
 #include "controls/PictureConversion.h"
 #include "controls/TextDescription.h"
 #include "platform/coreimage/CIContext.h"

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include <QWheelEvent>
+
 namespace {
 
 using BodiesTest = SceneTest;
@@ -136,6 +138,9 @@ TEST_F(BodiesTest, ATypeIsUndoneAndRedoneWithItsMenu)
     object->setUpControlsView();
     auto* menu = panel.findChild<EffectControl*>();
     ASSERT_TRUE(menu);
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(menu->focusProxy(), &wheel);
+    EXPECT_EQ(object->objectMode(), ObjectEffect::Sphere) << "the wheel is for the panel while the menu has no focus";
     QTest::keyClick(menu->focusProxy(), Qt::Key_End);
     EXPECT_EQ(object->objectMode(), ObjectEffect::Disk);
     undo.undo();

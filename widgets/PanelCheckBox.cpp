@@ -1,4 +1,4 @@
-#include "controls/PanelCheckBox.h"
+#include "widgets/PanelCheckBox.h"
 
 #include "platform/foundation/Appearance.h"
 

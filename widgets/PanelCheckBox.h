@@ -1,4 +1,4 @@
-// The check box of the panel.
+// The check box of panels.
 #pragma once
 
 #include <QCheckBox>
@@ -7,6 +7,10 @@ class PanelCheckBox : public QCheckBox {
     Q_OBJECT
 public:
     explicit PanelCheckBox(const QString& title, QWidget* parent = nullptr);
+    explicit PanelCheckBox(QWidget* parent)
+        : PanelCheckBox(QString(), parent)
+    {
+    }
 
 protected:
     void paintEvent(QPaintEvent*) override;
