@@ -37,6 +37,19 @@ void Level::readRow(int y, int from, int count, const MutableRow& row) const
         spread(words.data() + start, 1 / 65535.0f);
 }
 
+void Level::addRow(int y, int from, int count, float weight, float* sums) const
+{
+    const std::size_t start = (std::size_t(y) * std::size_t(width) + std::size_t(from)) * 4;
+    const auto add = [&](const auto* p, float share) {
+        for (int i = 0; i < 4 * count; ++i)
+            sums[i] += share * float(p[i]);
+    };
+    if (isWide())
+        add(floats.data() + start, weight);
+    else
+        add(words.data() + start, weight / 65535.0f);
+}
+
 void Level::writeRow(int y, int from, int count, const Row& row)
 {
     const std::size_t start = (std::size_t(y) * std::size_t(width) + std::size_t(from)) * 4;
@@ -72,6 +85,18 @@ public:
             m_level->readRow(y, from, count, row);
         else
             m_decoder.decode(m_bitmap.row(y) + std::size_t(from) * bytesPerPixel(m_bitmap.format()), count, row);
+    }
+    /// Adds a row times `weight` to `sums`, four floats a texel. `spare` has room for the row.
+    void add(int y, int from, int count, float weight, float* sums, const MutableRow& spare, float* pixels) const
+    {
+        if (m_level) {
+            m_level->addRow(y, from, count, weight, sums);
+            return;
+        }
+        read(y, from, count, spare);
+        interleave(spare, count, pixels);
+        for (int i = 0; i < 4 * count; ++i)
+            sums[i] += weight * pixels[i];
     }
 
 private:
@@ -176,8 +201,10 @@ public:
         , m_lines(scratch, area.y0, area.height(), m_rows.height(),
               [&](int y) { return (bitmap.height() - (y + render.grid.phaseY) / render.grid.scale) / (1 << level); })
         , m_span(m_columns.high() - m_columns.low())
-        , m_texels(allocateRow(scratch, m_span + AreaWeights::kMost))
-        , m_sum(allocateRow(scratch, m_span + AreaWeights::kMost))
+        , m_texels(allocateRow(scratch, m_span))
+        , m_pixels(scratch.floats(4 * std::size_t(m_span)))
+        , m_sums(scratch.floats(4 * std::size_t(m_span + AreaWeights::kMost)))
+        , m_means(scratch.floats(4 * std::size_t(area.width())))
         , m_out(allocateRow(scratch, area.width()))
     {
     }
@@ -187,36 +214,24 @@ public:
         if (!m_clip.hasRow(y))
             return m_zeros;
         const int line = y - m_area.y0, start = m_lines.start(line);
-        float* const sums[4] = {m_sum.r, m_sum.g, m_sum.b, m_sum.a};
-        const float* const texels[4] = {m_texels.r, m_texels.g, m_texels.b, m_texels.a};
-        for (int k = 0; k < m_lines.taps(line); ++k) {
-            const float weight = m_lines.weights(line)[k];
-            m_rows.read(start + k, m_columns.low(), m_span, m_texels);
-            for (int c = 0; c < 4; ++c)
-                for (int x = 0; x < m_span; ++x)
-                    sums[c][x] = k ? sums[c][x] + weight * texels[c][x] : weight * texels[c][x];
+        std::fill_n(m_sums, 4 * m_span, 0.0f);
+        for (int k = 0; k < m_lines.taps(line); ++k)
+            m_rows.add(start + k, m_columns.low(), m_span, m_lines.weights(line)[k], m_sums, m_texels, m_pixels);
+        for (int x = 0; x < m_area.width(); ++x) {
+            const float* const p = m_sums + 4 * std::ptrdiff_t(m_columns.start(x) - m_columns.low());
+            const float* const weights = m_columns.weights(x);
+            const int taps = m_columns.taps(x);
+            Quad mean = weights[0] * loadQuad(p);
+            for (int k = 1; k < taps; ++k)
+                mean += weights[k] * loadQuad(p + 4 * k);
+            __builtin_memcpy(m_means + 4 * std::ptrdiff_t(x), &mean, sizeof mean);
         }
-        for (int x = 0; x < m_area.width(); ++x)
-            blendColumn(x);
+        deinterleave(m_means, m_area.width(), m_out);
         m_clip.clearOutside(m_out);
         return m_out;
     }
 
 private:
-    void blendColumn(int x)
-    {
-        const int start = m_columns.start(x) - m_columns.low(), taps = m_columns.taps(x);
-        const float* weights = m_columns.weights(x);
-        float r = 0, g = 0, b = 0, a = 0;
-        for (int k = 0; k < taps; ++k) {
-            r += weights[k] * m_sum.r[start + k];
-            g += weights[k] * m_sum.g[start + k];
-            b += weights[k] * m_sum.b[start + k];
-            a += weights[k] * m_sum.a[start + k];
-        }
-        m_out.r[x] = r, m_out.g[x] = g, m_out.b[x] = b, m_out.a[x] = a;
-    }
-
     std::shared_ptr<const std::vector<Level>> m_levels;
     LevelRows m_rows;
     ExtentClip m_clip;
@@ -224,7 +239,9 @@ private:
     Row m_zeros;
     AreaWeights m_columns, m_lines;
     int m_span;
-    MutableRow m_texels, m_sum, m_out;
+    MutableRow m_texels;
+    float *m_pixels, *m_sums, *m_means; // four floats a pixel
+    MutableRow m_out;
 };
 
 /// Rows as they are stored, shifted by whole cells.
@@ -261,6 +278,7 @@ private:
     MutableRow m_out;
 };
 
+constexpr std::size_t kKept = 3; // grids: the view, its coarser first frame, a thumbnail
 constexpr double kMostCopied = 6e6; // cells; a larger grid is reduced tile by tile
 
 bool isWhole(double v) { return std::abs(v - std::round(v)) < 1e-9; }
@@ -314,13 +332,28 @@ void BitmapNode::prepare(const Render& render) const
     if (render.grid.scale >= 1 || copyFor(render.grid))
         return;
     levels();
+    if (!isAskedAgain(render.grid))
+        return;
     auto copy = GridCopy::make(*this, render, kMostCopied);
     if (!copy)
         return;
     const std::lock_guard lock(m_mutex);
     m_copies.push_back(std::move(copy));
-    if (m_copies.size() > 3) // the view, its coarser first frame, a thumbnail
+    if (m_copies.size() > kKept)
         m_copies.erase(m_copies.begin());
+}
+
+/// While a scale is dragged every frame has a grid of its own, and no use for a copy of the whole.
+bool BitmapNode::isAskedAgain(const Grid& grid) const
+{
+    const std::lock_guard lock(m_mutex);
+    const bool again = std::ranges::find(m_asked, grid) != m_asked.end();
+    if (!again) {
+        m_asked.push_back(grid);
+        if (m_asked.size() > kKept)
+            m_asked.erase(m_asked.begin());
+    }
+    return again;
 }
 
 bool BitmapNode::codeTables(const Render& render, CodeTables& tables) const

@@ -18,6 +18,8 @@ struct Level {
     void allocate(int w, int h, bool wide);
     bool isWide() const { return !floats.empty(); }
     void readRow(int y, int from, int count, const MutableRow& row) const;
+    /// Adds texels times `weight` to `sums`, four floats a texel.
+    void addRow(int y, int from, int count, float weight, float* sums) const;
     void writeRow(int y, int from, int count, const Row& row);
 };
 
@@ -39,10 +41,12 @@ public:
     std::shared_ptr<const GridCopy> copyFor(const Grid&) const override;
 
 private:
+    bool isAskedAgain(const Grid&) const;
     CIBitmap m_bitmap;
     mutable std::mutex m_mutex; // guards what follows; never held while other threads' work is waited for
     mutable std::shared_ptr<const std::vector<Level>> m_levels;
     mutable std::vector<std::shared_ptr<const GridCopy>> m_copies; // newest last
+    mutable std::vector<Grid> m_asked; // of late
 };
 
 } // namespace ci
