@@ -80,9 +80,11 @@ CIImage guidedEnlarged(const Values& inputs, const CIImage& small, const CIImage
     if (from.isInfinite() || from.isEmpty() || to.isInfinite() || to.isEmpty())
         return small;
     const Values in = inputs.with("epsilon", epsilon);
-    const CIImage g = keptIfSmall(
+    const CIImage reduced =
         resampled(guide, std::max(1, int(std::lround(from.width))), std::max(1, int(std::lround(from.height))))
-            .transformed(CIAffineTransform::translation(from.x, from.y)));
+            .transformed(CIAffineTransform::translation(from.x, from.y));
+    const bool sameSize = from.width == to.width && from.height == to.height; // then reading it again costs nothing
+    const CIImage g = sameSize ? reduced : keptIfSmall(reduced);
     const CIImage meanGuide = mean(g), meanSmall = mean(small);
     const CIImage meanProduct = mean(pointwise<Product>(in, {g, small}, from)),
                   meanSquare = mean(pointwise<Product>(in, {g, g}, from));
