@@ -20,8 +20,8 @@ void tileSize(int reach, int& width, int& height)
         height = 32;
         return;
     }
-    width = std::clamp((4 * reach + 127) / 128 * 128, 128, 512);
-    height = std::clamp((4 * reach + 63) / 64 * 64, 64, 512);
+    width = std::clamp((4 * reach + 127) / 128 * 128, 256, 512);
+    height = std::clamp((4 * reach + 63) / 64 * 64, 128, 512);
 }
 
 struct Tiles {

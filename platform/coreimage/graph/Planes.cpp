@@ -35,6 +35,19 @@ void Planes::fill(RowReader& reader) const
     }
 }
 
+bool isOne(const Planes& p, int c)
+{
+    for (int y = p.area.y0; y < p.area.y1; ++y) {
+        const float* const line = p.line(c, y);
+        int others = 0;
+        for (int x = 0; x < p.area.width(); ++x)
+            others += line[x] != 1;
+        if (others)
+            return false;
+    }
+    return true;
+}
+
 PlanesReader::PlanesReader(const Planes& planes, const CIRect& extent, const Render& render, const GridRect& area)
     : m_planes(planes)
     , m_x(area.x0)

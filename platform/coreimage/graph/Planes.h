@@ -3,6 +3,8 @@
 
 #include "platform/coreimage/graph/Node.h"
 
+#include <algorithm>
+
 namespace ci {
 
 /// Premultiplied linear pixels of `area`; rows are `stride` floats apart and padded to whole batches.
@@ -20,6 +22,23 @@ struct Planes {
     /// Fills the area from a reader that was opened for it.
     void fill(RowReader&) const;
 };
+
+/// True when every value of the plane is 1, as the alpha of most pictures is.
+bool isOne(const Planes& p, int c);
+
+/// Works `each(c)` out for the planes that need it; where all that is read is opaque, alpha is 1 without work.
+template <class Each>
+void forEachPlane(const Planes& in, const Planes& out, Each each)
+{
+    for (int c = 0; c < 4; ++c) {
+        if (c < 3 || !isOne(in, c)) {
+            each(c);
+            continue;
+        }
+        for (int y = out.area.y0; y < out.area.y1; ++y)
+            std::fill_n(out.line(c, y), out.area.width(), 1.0f);
+    }
+}
 
 /// Hands out the rows of a finished block.
 class PlanesReader : public RowReader {

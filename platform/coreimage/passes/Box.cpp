@@ -1,5 +1,4 @@
-// Means over rectangles by running sums, whose cost does not grow with their size.
-#include "platform/coreimage/graph/Interleaved.h"
+// Means over rectangles by running sums, whose cost hardly grows with their size.
 #include "platform/coreimage/graph/Planes.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 #include "platform/coreimage/passes/Blur.h"
@@ -53,52 +52,58 @@ private:
     void blur(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
     {
         const Window across(m_width * grid.scale), along(m_height * grid.scale);
-        const int width = in.area.width();
-        const MutableRow sum = allocateRow(scratch, width), line = allocateRow(scratch, width);
-        float* const pixels = scratch.floats(4 * std::size_t(width));
-        float* const means = scratch.floats(4 * std::size_t(out.area.width()));
-        float *const sums[4] = {sum.r, sum.g, sum.b, sum.a}, *const lines[4] = {line.r, line.g, line.b, line.a};
-        const auto add = [&](int c, int y, float sign) {
-            const float* const row = in.line(c, y);
-            for (int x = 0; x < width; x += kLanes<V>)
-                storeRow(sums[c] + x, mulAdd(V(sign), loadRow<V>(row + x), loadRow<V>(sums[c] + x)));
-        };
-        for (int c = 0; c < 4; ++c) {
-            std::fill_n(sums[c], width, 0.0f);
+        const int width = in.area.width(), before = out.area.x0 - in.area.x0;
+        float* const sums = scratch.floats(std::size_t(width));
+        float* const line = scratch.floats(std::size_t(width));
+        float* const powers = scratch.floats(std::size_t(width));
+        forEachPlane(in, out, [&](int c) {
+            std::fill_n(sums, width, 0.0f);
             for (int y = out.area.y0 - along.whole; y < out.area.y0 + along.whole; ++y)
-                add(c, y, 1);
-        }
-        for (int y = out.area.y0; y < out.area.y1; ++y) {
-            for (int c = 0; c < 4; ++c) {
-                add(c, y + along.whole, 1);
-                const float *below = in.line(c, y - along.reach()), *above = in.line(c, y + along.reach());
-                for (int x = 0; x < width; x += kLanes<V>) {
-                    const V ends = loadRow<V>(below + x) + loadRow<V>(above + x);
-                    storeRow(lines[c] + x, V(along.share) * mulAdd(V(along.part), ends, loadRow<V>(sums[c] + x)));
-                }
-                add(c, y - along.whole, -1);
+                for (int x = 0; x < width; x += kLanes<V>)
+                    storeRow(sums + x, loadRow<V>(sums + x) + loadRow<V>(in.line(c, y) + x));
+            for (int y = out.area.y0; y < out.area.y1; ++y) {
+                meansOfColumns<V>(in, c, y, along, sums, line);
+                meansOfLine<V>(line + before, across, powers, out.line(c, y), out.area.width());
             }
-            interleave(line, width, pixels);
-            meansOfLine(pixels + 4 * (out.area.x0 - in.area.x0), across, means, out.area.width());
-            deinterleave(means, out.area.width(), out.row(y));
+        });
+    }
+
+    /// `sums` holds the window's rows but the last, and is left that way for the row above.
+    template <class V>
+    static void meansOfColumns(const Planes& in, int c, int y, const Window& window, float* sums, float* means)
+    {
+        const float *const last = in.line(c, y + window.whole), *const first = in.line(c, y - window.whole);
+        const float *const above = in.line(c, y + window.reach()), *const below = in.line(c, y - window.reach());
+        for (int x = 0; x < in.area.width(); x += kLanes<V>) {
+            const V sum = loadRow<V>(sums + x) + loadRow<V>(last + x);
+            const V ends = loadRow<V>(below + x) + loadRow<V>(above + x);
+            storeRow(means + x, V(window.share) * mulAdd(V(window.part), ends, sum));
+            storeRow(sums + x, sum - loadRow<V>(first + x));
         }
     }
 
-    /// All four components at once. In doubles: what is added must cancel when it is taken away.
-    static void meansOfLine(const float* middle, const Window& window, float* to, int count)
+    /// Sums over 1, 2, 4, 8 … neighbors, each made of two of those before; the window is put together from these.
+    /// Nothing cancels, as it would where sums run along a line.
+    template <class V>
+    static void meansOfLine(const float* middle, const Window& window, float* powers, float* to, int count)
     {
-        using Sum = double __attribute__((vector_size(32)));
-        const auto at = [middle](int x) { return loadQuad(middle + 4 * std::ptrdiff_t(x)); };
-        const auto wide = [](const Quad& q) { return __builtin_convertvector(q, Sum); };
-        Sum sum = {};
-        for (int k = -window.whole; k <= window.whole; ++k)
-            sum += wide(at(k));
-        for (int x = 0; x < count; ++x) {
-            const Quad ends = at(x - window.reach()) + at(x + window.reach());
-            const Quad mean = window.share * (__builtin_convertvector(sum, Quad) + window.part * ends);
-            __builtin_memcpy(to + 4 * std::ptrdiff_t(x), &mean, sizeof mean);
-            sum += wide(at(x + window.whole + 1)) - wide(at(x - window.whole));
+        const int cells = 2 * window.whole + 1, all = count + cells;
+        const float* const first = middle - window.whole;
+        for (int x = 0; x < count; x += kLanes<V>)
+            storeRow(to + x, V(window.part) * (loadRow<V>(first + x - 1) + loadRow<V>(first + x + cells)));
+        std::copy_n(first, all, powers);
+        for (int power = 1, done = 0; power <= cells; power *= 2) {
+            if (cells & power) {
+                for (int x = 0; x < count; x += kLanes<V>)
+                    storeRow(to + x, loadRow<V>(to + x) + loadRow<V>(powers + done + x));
+                done += power;
+            }
+            if (2 * power <= cells)
+                for (int x = 0; x < all - 2 * power; x += kLanes<V>)
+                    storeRow(powers + x, loadRow<V>(powers + x) + loadRow<V>(powers + power + x));
         }
+        for (int x = 0; x < count; x += kLanes<V>)
+            storeRow(to + x, V(window.share) * loadRow<V>(to + x));
     }
 
     double m_width, m_height; // px

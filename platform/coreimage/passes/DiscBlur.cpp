@@ -97,12 +97,12 @@ private:
             : Planes::allocate({floorDiv(to.x0, cell) - 1, floorDiv(to.y0, cell) - 1, floorDiv(to.x1 - 1, cell) + 2,
                                    floorDiv(to.y1 - 1, cell) + 2},
                 scratch);
-        for (int c = 0; c < 4; ++c) {
+        forEachPlane(in, out, [&](int c) {
             const ScratchScope scope(scratch);
             means<V>(in, coarse, c, chords, scratch);
             if (times > 0)
                 enlarge<V>(coarse, out, c, cell, scratch);
-        }
+        });
     }
 
     /// What lies left of each column, for `rows` lines at once: no sum waits for another.

@@ -41,35 +41,49 @@ std::vector<float> gaussianWeights(double sigma)
     return weights;
 }
 
-/// Sums over pairs of floats `step` apart, to both sides of `p`.
-template <class V>
-V symmetricSum(const float* p, std::ptrdiff_t step, const std::vector<float>& weights)
+/// Sums over pairs of floats `step` apart, to both sides of `p`; `batches` of them side by side.
+template <class V, int batches>
+void symmetricSums(const float* p, std::ptrdiff_t step, const std::vector<float>& weights, float* to)
 {
-    V sum = loadRow<V>(p) * V(weights[0]);
+    V sum[batches];
+#pragma GCC unroll 4 // else the sums live in memory
+    for (int i = 0; i < batches; ++i)
+        sum[i] = loadRow<V>(p + i * kLanes<V>) * V(weights[0]);
     for (std::size_t k = 1; k < weights.size(); ++k) {
-        const std::ptrdiff_t d = std::ptrdiff_t(k) * step;
-        sum = mulAdd(loadRow<V>(p - d) + loadRow<V>(p + d), V(weights[k]), sum);
+        const float *const before = p - std::ptrdiff_t(k) * step, *const after = p + std::ptrdiff_t(k) * step;
+        const V weight(weights[k]);
+#pragma GCC unroll 4
+        for (int i = 0; i < batches; ++i)
+            sum[i] = mulAdd(loadRow<V>(before + i * kLanes<V>) + loadRow<V>(after + i * kLanes<V>), weight, sum[i]);
     }
-    return sum;
+#pragma GCC unroll 4
+    for (int i = 0; i < batches; ++i)
+        storeRow(to + i * kLanes<V>, sum[i]);
+}
+
+template <class V>
+void symmetricSumsOfLine(const float* p, std::ptrdiff_t step, const std::vector<float>& weights, float* to, int count)
+{
+    constexpr int kBatches = 4, kStride = kBatches * kLanes<V>;
+    int x = 0;
+    for (; x + kStride <= count; x += kStride)
+        symmetricSums<V, kBatches>(p + x, step, weights, to + x);
+    for (; x < count; x += kLanes<V>)
+        symmetricSums<V, 1>(p + x, step, weights, to + x);
 }
 
 /// Blurs `in` into `out`, which lies inside it by the radius on every side.
 template <class V>
-void convolve(const Planes& in, const Planes& out, const std::vector<float>& weights, Scratch& scratch)
+void convolve(const Planes& in, const Planes& out, int c, const std::vector<float>& weights, Scratch& scratch)
 {
     const ScratchScope scope(scratch);
     const int width = in.area.width();
     float* const line = scratch.floats(std::size_t(width + 2 * kRowPadding));
     const int before = out.area.x0 - in.area.x0;
-    for (int y = out.area.y0; y < out.area.y1; ++y)
-        for (int c = 0; c < 4; ++c) {
-            const float* const middle = in.line(c, y);
-            for (int x = 0; x < width; x += kLanes<V>)
-                storeRow(line + x, symmetricSum<V>(middle + x, std::ptrdiff_t(in.stride), weights));
-            float* const to = out.line(c, y);
-            for (int x = 0; x < out.area.width(); x += kLanes<V>)
-                storeRow(to + x, symmetricSum<V>(line + before + x, 1, weights));
-        }
+    for (int y = out.area.y0; y < out.area.y1; ++y) {
+        symmetricSumsOfLine<V>(in.line(c, y), std::ptrdiff_t(in.stride), weights, line, width);
+        symmetricSumsOfLine<V>(line + before, 1, weights, out.line(c, y), out.area.width());
+    }
 }
 
 /// The half-size cells that doubling to `area` reads.
@@ -111,7 +125,7 @@ void doubleLine(const float* half, int halfLeft, float* to, int left, int width,
 }
 
 template <class V>
-void doubled(const Planes& half, const Planes& out, Scratch& scratch)
+void doubled(const Planes& half, const Planes& out, int c, Scratch& scratch)
 {
     const ScratchScope scope(scratch);
     const int halfWidth = half.area.width(), width = out.area.width();
@@ -119,12 +133,10 @@ void doubled(const Planes& half, const Planes& out, Scratch& scratch)
     float* const pairs = scratch.floats(std::size_t(2 * halfWidth + 8 * kRowPadding));
     for (int y = out.area.y0; y < out.area.y1; ++y) {
         const int j = floorDiv(y, 2), other = y - 2 * j ? j + 1 : j - 1;
-        for (int c = 0; c < 4; ++c) {
-            const float *near = half.line(c, j), *far = half.line(c, other);
-            for (int x = 0; x < halfWidth; x += kLanes<V>)
-                storeRow(line + x, mulAdd(V(0.75f), loadRow<V>(near + x), V(0.25f) * loadRow<V>(far + x)));
-            doubleLine<V>(line, half.area.x0, out.line(c, y), out.area.x0, width, pairs);
-        }
+        const float *near = half.line(c, j), *far = half.line(c, other);
+        for (int x = 0; x < halfWidth; x += kLanes<V>)
+            storeRow(line + x, mulAdd(V(0.75f), loadRow<V>(near + x), V(0.25f) * loadRow<V>(far + x)));
+        doubleLine<V>(line, half.area.x0, out.line(c, y), out.area.x0, width, pairs);
     }
 }
 
@@ -164,20 +176,14 @@ private:
         const std::vector<float> weights = gaussianWeights(std::sqrt(std::max(rest, 1e-4)) / cell);
         const Planes coarse = Planes::allocate(area, scratch);
         coarse.fill(in);
-        if (times == 0) {
-            convolve<V>(coarse, out, weights, scratch);
-            return;
-        }
-        std::vector<GridRect> sizes{out.area};
+        std::vector<Planes> sizes{out};
         for (int i = 0; i < times; ++i)
-            sizes.push_back(halfNeeded(sizes.back()));
-        Planes current = Planes::allocate(sizes.back(), scratch);
-        convolve<V>(coarse, current, weights, scratch);
-        for (int i = times - 1; i >= 0; --i) {
-            const Planes next = i ? Planes::allocate(sizes[std::size_t(i)], scratch) : out;
-            doubled<V>(current, next, scratch);
-            current = next;
-        }
+            sizes.push_back(Planes::allocate(halfNeeded(sizes.back().area), scratch));
+        forEachPlane(coarse, out, [&](int c) {
+            convolve<V>(coarse, sizes.back(), c, weights, scratch);
+            for (auto i = std::size_t(times); i > 0; --i)
+                doubled<V>(sizes[i], sizes[i - 1], c, scratch);
+        });
     }
     double m_sigma;
 };

@@ -39,31 +39,6 @@ struct Reach {
     int highest() const { return low + (part > 0 ? 1 : 0); }
 };
 
-/// True when every value of the plane is 1, as the alpha of most pictures is.
-bool isOne(const Planes& p, int c)
-{
-    for (int y = p.area.y0; y < p.area.y1; ++y) {
-        const float* const line = p.line(c, y);
-        if (!std::all_of(line, line + p.area.width(), [](float v) { return v == 1; }))
-            return false;
-    }
-    return true;
-}
-
-/// Works `each(c)` out for the planes that need it; the alpha of opaque surroundings does not.
-template <class Each>
-void forEachPlane(const Planes& in, const Planes& out, Each each)
-{
-    for (int c = 0; c < 4; ++c) {
-        if (c < 3 || !isOne(in, c)) {
-            each(c);
-            continue;
-        }
-        for (int y = out.area.y0; y < out.area.y1; ++y)
-            std::fill_n(out.line(c, y), out.area.width(), 1.0f);
-    }
-}
-
 /// to[x] = a (1 - part) + b part.
 template <class V>
 void mixLine(const float* a, const float* b, float part, float* to, int count)
