@@ -114,6 +114,17 @@ ReadoutField[bezeled="true"], ReadoutField:hover { background: @field; border-co
 ReadoutField:focus { background: @field; border-color: @accentMark; }
 ColorWell { min-height: 0; padding: 0; }
 
+QComboBox { background: @button; border: 1px solid @border; border-radius: 6px; padding: 3px 8px; min-height: 18px; }
+QComboBox:hover { background: @hover; }
+QComboBox:focus { border-color: @accentMark; }
+QComboBox::drop-down { border: none; width: 20px; }
+QComboBox::down-arrow { image: url(:/icons/@chevron.svg); width: 12px; height: 12px; }
+QComboBox QAbstractItemView { background: @panel; border: 1px solid @border; padding: 4px;
+                              selection-background-color: @accent; selection-color: @accentText; }
+
+QProgressBar { background: @border; border: none; border-radius: 3px; max-height: 6px; min-height: 6px; }
+QProgressBar::chunk { background: @accentMark; border-radius: 3px; }
+
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 6px; padding: 4px; }
 QToolButton:hover { background: @hover; }
 QToolButton:pressed { background: @pressed; }
@@ -180,6 +191,7 @@ QString styleSheetOf(const Look& look)
         {"@text", look.text},
     };
     QString sheet = QString::fromLatin1(kStyleSheet);
+    sheet.replace(QLatin1String("@chevron"), QLatin1String(dark ? "chevron-down-on-dark" : "chevron-down"));
     for (const auto& [name, color] : colors)
         sheet.replace(QLatin1String(name), color.name());
     return sheet;

@@ -18,11 +18,14 @@ QImage drawn(const QString& icon, int side)
     return image;
 }
 
-/// Icons of the window; the program's own icon and the marker have colors and grids of their own.
+/// Icons of the window; the program's own icon and the marker have colors and grids of their own, as have
+/// the few that style sheets use, which can't tint.
 QStringList interfaceIcons()
 {
     QStringList icons = QDir(":/icons").entryList({"*.svg"});
-    icons.removeIf([](const QString& icon) { return icon.startsWith("io.github.") || icon == "marker.svg"; });
+    icons.removeIf([](const QString& icon) {
+        return icon.startsWith("io.github.") || icon == "marker.svg" || icon.endsWith("-on-dark.svg");
+    });
     return icons;
 }
 

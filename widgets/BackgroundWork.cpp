@@ -1,0 +1,94 @@
+#include "widgets/BackgroundWork.h"
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 500ms;
+constexpr auto kTick = 50ms;
+constexpr int kBarSteps = 1000;
+
+int runningWorks = 0;
+
+class ProgressSheet : public QDialog {
+public:
+    ProgressSheet(QWidget* window, const QString& title, WorkControl& control)
+        : QDialog(window, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint)
+        , m_control(control)
+        , m_bar(new QProgressBar)
+        , m_cancel(new QPushButton(QObject::tr("Cancel")))
+    {
+        setObjectName(QStringLiteral("ProgressSheet"));
+        setWindowTitle(QStringLiteral("Lumivex"));
+        setWindowModality(Qt::WindowModal);
+        setMinimumWidth(400);
+        setAccessibleName(title);
+        m_bar->setRange(0, kBarSteps);
+        m_bar->setTextVisible(false);
+        m_bar->setAccessibleName(title);
+        m_cancel->setToolTip(QObject::tr("Stops and leaves everything as it was"));
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(16, 16, 16, 16);
+        layout->setSpacing(12);
+        layout->addWidget(new QLabel(title));
+        layout->addWidget(m_bar);
+        layout->addWidget(m_cancel, 0, Qt::AlignRight);
+        connect(m_cancel, &QPushButton::clicked, this, &ProgressSheet::reject);
+        connect(&m_tick, &QTimer::timeout, this, [this] { m_bar->setValue(int(m_control.progress() * kBarSteps)); });
+        m_tick.start(kTick);
+    }
+
+    /// The sheet stays until the work has really ended.
+    void reject() override
+    {
+        m_control.cancel();
+        m_cancel->setEnabled(false);
+    }
+
+private:
+    WorkControl& m_control;
+    QProgressBar* m_bar;
+    QPushButton* m_cancel;
+    QTimer m_tick;
+};
+
+} // namespace
+
+bool isWorkRunning() { return runningWorks > 0; }
+
+bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work)
+{
+    const QScopedValueRollback running(runningWorks, runningWorks + 1);
+    QEventLoop loop;
+    std::atomic<bool> finished = false, hadMemory = true;
+    std::thread worker([&] {
+        try {
+            work();
+        } catch (const std::bad_alloc&) {
+            hadMemory = false;
+        }
+        finished = true;
+        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+    });
+    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!finished) {
+        ProgressSheet sheet(window, title, control);
+        sheet.show();
+        loop.exec();
+    }
+    worker.join();
+    return hadMemory && !control.isCancelled();
+}
