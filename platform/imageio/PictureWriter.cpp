@@ -1,5 +1,7 @@
 #include "platform/imageio/PictureWriter.h"
 
+#include "platform/imageio/BmpWriter.h"
+#include "platform/imageio/IconWriter.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureRows.h"
 
@@ -71,8 +73,21 @@ int encode(VipsImage* image, VipsTarget* target, const WriteOptions& options)
         return vips_pngsave_target(image, target, "compression", 2, "filter", VIPS_FOREIGN_PNG_FILTER_SUB, nullptr);
     case PictureFormat::WebP:
         return vips_webpsave_target(image, target, "Q", quality, nullptr);
+    case PictureFormat::Bmp:
+        return writeBmp(image, target, options.dotsPerInch);
+    case PictureFormat::Icns:
+        return writeIcns(image, target);
+    case PictureFormat::Ico:
+        return writeIco(image, target);
     }
     return -1;
+}
+
+void reportProgress(VipsImage* image, VipsProgress* progress, CIRenderControl* control)
+{
+    control->setProgress(progress->percent / 100.0);
+    if (control->isCancelled())
+        vips_image_set_kill(image, TRUE);
 }
 
 /// False, with the reason logged, when the picture can't be encoded or its bytes can't be stored.
@@ -86,6 +101,10 @@ bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& op
                 const double resolution = options.dotsPerInch / 25.4;
                 return vips_copy(image.get(), out, "xres", resolution, "yres", resolution, nullptr);
             });
+    }
+    if (image && options.control) {
+        vips_image_set_progress(image.get(), TRUE);
+        g_signal_connect(image.get(), "eval", G_CALLBACK(reportProgress), options.control);
     }
     if (image && encode(image.get(), target, options) == 0)
         return true;
@@ -148,6 +167,8 @@ Failure cannotWrite(const fs::path& file, int error)
     return failure;
 }
 
+bool isCancelled(const WriteOptions& options) { return options.control && options.control->isCancelled(); }
+
 } // namespace
 
 Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const WriteOptions& options)
@@ -161,7 +182,10 @@ Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const Wr
             return cannotWrite(file, errno);
         errno = 0;
         const TargetPtr target(vips_target_new_to_descriptor(beside.descriptor()));
-        if (!encodeTo(target.get(), bitmap, options))
+        const bool isEncoded = encodeTo(target.get(), bitmap, options);
+        if (isCancelled(options))
+            return Failure{"The picture was not written."};
+        if (!isEncoded)
             return cannotWrite(file, errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0);
         if (!beside.commit())
             return cannotWrite(file, errno);
@@ -198,6 +222,12 @@ Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const Write
     }
 }
 
+bool isIconSide(PictureFormat format, int side)
+{
+    const std::span<const int> sides = format == PictureFormat::Icns ? icnsSides() : icoSides();
+    return std::ranges::find(sides, side) != sides.end();
+}
+
 std::optional<PictureFormat> formatForExtension(std::string_view extension)
 {
     std::string lower(extension.substr(extension.starts_with('.') ? 1 : 0));
@@ -220,6 +250,9 @@ std::optional<PictureFormat> formatForExtension(std::string_view extension)
         {"gif", PictureFormat::Gif},
         {"png", PictureFormat::Png},
         {"webp", PictureFormat::WebP},
+        {"bmp", PictureFormat::Bmp},
+        {"icns", PictureFormat::Icns},
+        {"ico", PictureFormat::Ico},
     };
     for (const Entry& entry : entries)
         if (lower == entry.extension)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/coreimage/CIBitmap.h"
+#include "platform/coreimage/CIContext.h"
 #include "platform/imageio/Result.h"
 
 #include <filesystem>
@@ -9,13 +10,15 @@
 #include <string_view>
 #include <vector>
 
-enum class PictureFormat { Jpeg, Jpeg2000, Tiff, Gif, Png, WebP };
+/// Icns and Ico hold one square picture of a side that the format knows: see `isIconSide`.
+enum class PictureFormat { Jpeg, Jpeg2000, Tiff, Gif, Png, WebP, Bmp, Icns, Ico };
 
 struct WriteOptions {
     PictureFormat format = PictureFormat::Png;
     double quality = 0.9; // 0 to 1, for formats that lose detail
     double dotsPerInch = 0; // stored in the file; 0 stores none
     int bitsPerComponent = 0; // 8 or 16; 0 takes what the bitmap has. Formats that know only 8 bits use 8
+    CIRenderControl* control = nullptr; // is told how far it is; once cancelled, nothing is written
 };
 
 /// Writes the bitmap in sRGB with straight alpha; formats without alpha get the picture on white. Opaque bitmaps
@@ -23,13 +26,16 @@ struct WriteOptions {
 ///
 /// The file appears under its name only when it is complete and on the disk: it is written beside `file` and then
 /// renamed, so that an older file of that name survives every failure. A symbolic link is followed, permissions
-/// are kept. Fails with a message fit to show.
+/// are kept. Fails with a message fit to show, also when cancelled.
 Result<void> writePicture(const CIBitmap&, const std::filesystem::path& file, const WriteOptions& = {});
 
 Result<void> writePng(const CIBitmap&, const std::filesystem::path& file);
 
 /// The bytes of such a file.
 Result<std::vector<std::byte>> encodePicture(const CIBitmap&, const WriteOptions& = {});
+
+/// Whether an icon file can hold a picture of `side` by `side` pixels.
+bool isIconSide(PictureFormat format, int side);
 
 /// The format that a file name's extension stands for, in any letter case.
 std::optional<PictureFormat> formatForExtension(std::string_view extension);
