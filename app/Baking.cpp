@@ -1,5 +1,7 @@
 #include "app/Baking.h"
 
+#include "platform/coreimage/graph/BitmapNode.h"
+
 #include <algorithm>
 
 namespace {
@@ -30,12 +32,23 @@ bool isOpaque(const CIBitmap& bitmap)
 
 } // namespace
 
-CIImage bakedImage(const CIContext& context, const CIImage& image, CIFormat format)
+const CIBitmap* bitmapOf(const CIImage& image)
 {
-    CIBitmap bitmap = context.render(image, image.extent(), 1, format, CIAlpha::Straight);
-    if (bitmap.isNull())
-        return {};
-    if (isOpaque(bitmap))
+    const auto* node = dynamic_cast<const ci::BitmapNode*>(image.node().get());
+    return node ? &node->bitmap() : nullptr;
+}
+
+CIBitmap renderedBitmap(const CIContext& context, const CIImage& image, CIFormat format, CIRenderControl* control)
+{
+    if (const CIBitmap* stored = bitmapOf(image))
+        return *stored;
+    CIBitmap bitmap = context.render(image, image.extent(), 1, format, CIAlpha::Straight, control);
+    if (!bitmap.isNull() && isOpaque(bitmap))
         bitmap.setOpaque();
-    return CIImage::fromBitmap(bitmap);
+    return bitmap;
+}
+
+CIImage bakedImage(const CIContext& context, const CIImage& image, CIFormat format, CIRenderControl* control)
+{
+    return CIImage::fromBitmap(renderedBitmap(context, image, format, control));
 }

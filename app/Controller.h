@@ -10,14 +10,17 @@
 #include "controls/ParameterMaster.h"
 #include "effects2d/EffectMaster.h"
 #include "effects3d/OGLViewMaster.h"
+#include "files/ResizePanel.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
+#include "platform/imageio/Result.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -45,7 +48,8 @@ class Controller : public QObject,
                    public ImageViewMaster,
                    public ParameterMaster,
                    public EffectMaster,
-                   public OGLViewMaster {
+                   public OGLViewMaster,
+                   public ResizeMaster {
     Q_OBJECT
 
 public:
@@ -87,7 +91,7 @@ public:
     void setBackgroundImage(const CIImage& image);
     CIImage backImage() override { return backgroundImage; }
     CIImage filteredImage() const { return {}; } // results are never kept
-    CIRect getBgImageExtent() const { return backgroundImage.extent(); }
+    CIRect getBgImageExtent() const override { return backgroundImage.extent(); }
     std::shared_ptr<CIFilter> getCurrentFilter() override { return currentFilter; }
     void addFilterIndex(const QString& name, int index);
     void _setupAllImageInputsToNotNil(CIFilter& filter);
@@ -130,6 +134,16 @@ public:
     void changeControlsStyle(QWidget* view);
 
     // Edits and zoom: ControllerEdits.cpp
+    void rotateLeft() { rotateImage(true); }
+    void rotateRight() { rotateImage(false); }
+    void flipHorizont() { flipImage(false); }
+    void flipVert() { flipImage(true); }
+    void rotateImage(bool left);
+    /// Its undo flips in the other direction, which leaves the picture turned by half a turn.
+    void flipImage(bool vertical);
+    /// Rounded to whole pixels; tells the user when there is no room for so many.
+    void resizeImageHeight(float width, float height) override;
+    void copy();
     void paste();
     void undoPaste(const CIImage& image) override;
     void zoomChanged();
@@ -160,6 +174,38 @@ public:
     /// How the picture's pixels are stored; results that replace the picture are stored alike.
     CIFormat pictureFormat() const { return m_pictureFormat; }
 
+    // Export: ControllerExport.cpp
+    void initExportFormats();
+    void saveImg();
+    void saveImgAs() { runSavePanel(); }
+    void runSavePanel();
+    void savePanelDidEnd(int returnCode, const QString& path);
+    /// To the current file, after a question. False when that can't be written to.
+    bool saveExistFile();
+    /// `index` is that of the format. Always true; failures are logged. The resolution isn't stored.
+    bool simplySaveResolutionPath(int index, double resolution, const QString& path);
+    void createPDFFileResolution(const QString& path, double resolution);
+    /// The finished picture of the current mode: what the user sees. The source picture when nothing is being edited.
+    CIImage getEffectedImage();
+    /// Tells what another mode shows: upright, with pixels for points; null when it has no current effect.
+    void setModeResult(FilterMode mode, std::function<CIImage()> result);
+    /// The pixels of the finished picture. Null when there is no picture or the user stopped the rendering.
+    CIBitmap createObjectImage();
+    CIBitmap createObjectImage(double) { return createObjectImage(); } // the resolution means nothing to pixels
+    /// The source picture. Images here have no rows to be upside down, so `flipped` changes nothing.
+    CIImage getImage(bool) const { return backgroundImage; }
+    /// The pixels of the source picture, top row first; null without one.
+    CIBitmap getCGImage();
+    struct BitmapDescription {
+        float width, height; // px
+        int bitsPerPixel, bitsPerSample;
+        std::size_t bytesPerRow;
+        const std::byte* pixels;
+        const CIBitmap* bitmap; // which the caller keeps
+    };
+    /// Leaves the description as it is for a null bitmap.
+    static void getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& description);
+
     // Buttons, menus and views: ControllerMenus.cpp
     void updateView() override;
     void updateLayout();
@@ -172,7 +218,7 @@ public:
     void orderFrontAboutPanel();
 
     // Window and application: ControllerWindow.cpp
-    bool windowShouldClose() const { return !m_wasChanged; }
+    bool windowShouldClose() const;
     void windowWillClose();
     void windowDidResize();
     void windowDidUpdate();
@@ -212,7 +258,16 @@ private:
     void apply3D();
     void updatePictureInfo();
     void showMessage(const QString& text);
-    int askToSaveChanges();
+    double chosenResolution() const;
+    bool asksToReplace();
+    void saveAs(const QString& path);
+    bool writeInBackground(
+        const QString& path, const std::function<Result<void>(const CIBitmap&, CIRenderControl&)>& write);
+    void rememberRecentFile(const QString& path);
+    void fillRecentMenu();
+    void setWasChanged(bool changed);
+    void replacePicture(const CIImage& image, const QString& actionName);
+    void showPanel(QWidget& panel);
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
@@ -232,6 +287,8 @@ private:
     QWidget* placeCntrlView;
     QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
+    QPointer<QWidget> saveObjectOutlet; // the menus of the save panel
+    QPointer<ResizePanel> m_resizePanel;
 
     CIImage backgroundImage;
     std::shared_ptr<CIFilter> currentFilter;
@@ -243,7 +300,13 @@ private:
     QString _filePath;
     bool m_wasChanged = false;
     bool needsUpdate = false;
+    int format_type = 0; // of the last save
+    /// A finished save ends the program: the user wanted to quit.
+    inline static bool quitAfterSave = false;
 
+    std::array<std::function<CIImage()>, 3> m_modeResults; // by mode
+    bool m_saveWasStopped = false; // by the user, so nothing was written
+    QString m_lastFolder; // of the open and save panels
     std::vector<std::weak_ptr<CIFilter>> m_madeFilters; // all that undo steps may still need
     PictureFormats m_formats;
     CIFormat m_pictureFormat = CIFormat::RGBA8;

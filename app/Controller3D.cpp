@@ -44,6 +44,7 @@ void Controller::connect3D()
     });
     openGLView->awakeFromNib();
     openGLView->setController(this);
+    setModeResult(ThreeD, [this] { return result3D(); });
 }
 
 void Controller::setCurrent3DEffect(const std::shared_ptr<BaseEffect>& effect)
@@ -102,9 +103,7 @@ void Controller::apply3D()
     const CIImage shot = openGLView->ogl_shot_CI();
     if (!shot)
         return;
-    registerUndoPaste();
-    m_undoManager.setActionName(tr("Apply"));
-    setBackgroundImage(shot);
+    replacePicture(shot, tr("Apply"));
     m_wasChanged = true;
     if (current3DEffect)
         current3DEffect->reloadImage();

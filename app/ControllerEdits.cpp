@@ -1,12 +1,20 @@
+#include "app/Baking.h"
 #include "app/Controller.h"
 #include "app/MainWindow.h"
+#include "app/Turning.h"
 #include "app/ZoomScale.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
-#include "widgets/ZoomSteps.h"
+#include "files/PictureLimits.h"
+#include "files/PlainPicture.h"
+#include "platform/coreimage/passes/Resample.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureReader.h"
+#include "platform/imageio/PictureWriter.h"
 #include "ui_MainWindow.h"
+#include "widgets/AlertPanel.h"
+#include "widgets/BackgroundWork.h"
+#include "widgets/ZoomSteps.h"
 
 #include <QSignalBlocker>
 #include <QStyle>
@@ -27,6 +35,82 @@ void Controller::connectZoom()
     connect(zoomSlider, &QSlider::valueChanged, this, &Controller::zoomChanged);
     connect(ciView, &MyImageView::layoutChanged, this,
         [this] { ui.zoomField->setText(tr("%1 %").arg(std::lround(ciView->getZoom() * 100))); });
+}
+
+void Controller::rotateImage(bool left)
+{
+    const CIImage rotated = backgroundImage ? rotatedPicture(backgroundImage, left) : CIImage();
+    if (!rotated)
+        return;
+    m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
+    m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
+    setBackgroundImage(rotated);
+}
+
+void Controller::flipImage(bool vertical)
+{
+    const CIImage flipped = backgroundImage ? flippedPicture(backgroundImage, vertical) : CIImage();
+    if (!flipped)
+        return;
+    m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
+    m_undoManager.setActionName(vertical ? tr("Flip Vertical") : tr("Flip Horizontal"));
+    setBackgroundImage(flipped);
+}
+
+void Controller::resizeImageHeight(float width, float height)
+{
+    if (!backgroundImage)
+        return;
+    const std::optional<QSize> size = pixelSize(width, height);
+    if (!size || !fitsIntoMemory(*size, m_pictureFormat)) {
+        AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't be made that large."),
+            tr("Up to %1 million pixels fit into this computer's memory.")
+                .arg(largestPixelCount(m_pictureFormat) / 1'000'000));
+        return;
+    }
+    CIImage resized;
+    WorkControl control(1);
+    const CIImage recipe = ci::resampled(backgroundImage, size->width(), size->height());
+    workInBackground(&m_window, tr("Resizing the picture…"), control,
+        [&] { resized = bakedImage(*m_context, recipe, m_pictureFormat, &control.rendering); });
+    if (resized) {
+        replacePicture(resized, tr("Resize"));
+        setWasChanged(true);
+    } else if (!control.isCancelled()) {
+        showMessage(tr("There was not enough memory to resize the picture"));
+    }
+}
+
+/// As an undo step.
+void Controller::replacePicture(const CIImage& image, const QString& actionName)
+{
+    registerUndoPaste();
+    m_undoManager.setActionName(actionName);
+    setBackgroundImage(image);
+}
+
+void Controller::copy()
+{
+    const CIImage image = getEffectedImage();
+    if (!image)
+        return;
+    CIBitmap bitmap;
+    std::vector<std::byte> tiff;
+    QImage shown;
+    WorkControl control(0.5);
+    workInBackground(&m_window, tr("Copying the picture…"), control, [&] {
+        bitmap = renderedBitmap(*m_context, image, m_pictureFormat, &control.rendering);
+        Result<std::vector<std::byte>> encoded =
+            encodePicture(bitmap, {.format = PictureFormat::Tiff, .control = &control.writing});
+        if (encoded)
+            tiff = std::move(encoded.value());
+        shown = screenPicture(bitmap);
+    });
+    if (tiff.empty())
+        return;
+    Pasteboard::generalPasteboard().setPicture(
+        QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())), shown);
+    updateMainBtnState();
 }
 
 void Controller::registerUndoPaste()

@@ -1,6 +1,7 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/PictureFiles.h"
+#include "app/RecentFiles.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 
@@ -38,10 +39,12 @@ void Controller::openImg()
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilters(pictureNameFilters());
-    if (!_filePath.isEmpty())
-        panel->setDirectory(QFileInfo(_filePath).absolutePath());
-    connect(panel, &QFileDialog::finished, this,
-        [this, panel](int code) { openImgPanelDidEnd(code, panel->selectedFiles()); });
+    if (!m_lastFolder.isEmpty())
+        panel->setDirectory(m_lastFolder);
+    connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
+        m_lastFolder = panel->directory().absolutePath();
+        openImgPanelDidEnd(code, panel->selectedFiles());
+    });
     panel->open();
 }
 
@@ -54,12 +57,17 @@ void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
 void Controller::openFile(const QString& path)
 {
     setFilePath(path);
-    setBackgroundImage(readImage(path));
+    const CIImage image = readImage(path);
+    setBackgroundImage(image);
+    if (image)
+        rememberRecentFile(path);
 }
 
 void Controller::setFilePath(const QString& path)
 {
     _filePath = path;
+    if (!path.isEmpty())
+        m_lastFolder = QFileInfo(path).absolutePath();
     updateWinTitle();
 }
 
@@ -68,7 +76,10 @@ void Controller::updateWinTitle()
     QString title = QStringLiteral("Lumivex");
     if (!_filePath.isEmpty())
         title += QStringLiteral("::%1").arg(QFileInfo(_filePath).fileName());
+    if (m_wasChanged)
+        title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
+    m_window.setWindowModified(m_wasChanged);
 }
 
 CIImage Controller::readImage(const QString& path)
@@ -117,4 +128,24 @@ void Controller::updatePictureInfo()
                    .arg(std::lround(extent.height))
                    .arg(depthText(m_pictureFormat));
     ui.pictureInfoField->setText(text);
+}
+
+void Controller::rememberRecentFile(const QString& path) { RecentFiles::remember(path); }
+
+void Controller::fillRecentMenu()
+{
+    ui.menuRecent->clear();
+    const QStringList paths = RecentFiles::list(), titles = RecentFiles::titles(paths);
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        QString title = titles[i];
+        QAction* item = ui.menuRecent->addAction(title.replace(QLatin1Char('&'), QLatin1String("&&")));
+        item->setStatusTip(paths[i]);
+        connect(item, &QAction::triggered, this, [this, path = paths[i]] { openFile(path); });
+    }
+    if (paths.isEmpty())
+        ui.menuRecent->addAction(tr("No Pictures Yet"))->setEnabled(false);
+    ui.menuRecent->addSeparator();
+    QAction* clear = ui.menuRecent->addAction(tr("&Clear Menu"));
+    clear->setEnabled(!paths.isEmpty());
+    connect(clear, &QAction::triggered, this, [] { RecentFiles::clear(); });
 }

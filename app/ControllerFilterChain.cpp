@@ -1,9 +1,10 @@
 #include "app/Baking.h"
 #include "app/Controller.h"
 #include "app/FilterChain.h"
+#include "app/MainWindow.h"
 #include "controls/MyImageView.h"
-
-#include <QGuiApplication>
+#include "files/ResizePanel.h"
+#include "widgets/BackgroundWork.h"
 
 #include <initializer_list>
 #include <string_view>
@@ -19,12 +20,6 @@ bool isOneOf(std::string_view name, std::initializer_list<std::string_view> name
 {
     return std::find(names.begin(), names.end(), name) != names.end();
 }
-
-/// The hourglass for as long as it lives.
-struct BusyCursor {
-    BusyCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~BusyCursor() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 CIImage movedToOrigin(const CIImage& image)
 {
@@ -43,6 +38,7 @@ void Controller::setBackgroundImage(const CIImage& image)
     if (current3DEffect)
         current3DEffect->reloadImage();
     updatePictureInfo();
+    ResizePanel::setWHH(float(image.extent().width), float(image.extent().height));
     updateView();
     validateMenuItems();
 }
@@ -127,14 +123,17 @@ void Controller::applyBtn()
     if (filerMode() == Standard) {
         if (CIImage applied = movedToOrigin(coreImageResult(false))) {
             if (currentFilter) {
-                const BusyCursor busy;
+                WorkControl control(1);
+                CIImage baked;
+                workInBackground(&m_window, tr("Applying the filter…"), control,
+                    [&] { baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering); });
+                if (control.isCancelled())
+                    return;
                 // Pixels from here on; only where there is no memory for them the recipe itself.
-                if (const CIImage baked = bakedImage(*m_context, applied, m_pictureFormat))
+                if (baked)
                     applied = baked;
             }
-            registerUndoPaste();
-            m_undoManager.setActionName(tr("Apply"));
-            setBackgroundImage(applied);
+            replacePicture(applied, tr("Apply"));
             m_wasChanged = true;
         }
     } else if (filerMode() == ThreeD) {

@@ -29,10 +29,18 @@ void Controller::connectActions()
         connect(action, &QAction::triggered, this, [this, operation] { (this->*operation)(); });
     };
     on(ui.actionOpen, &Controller::openImg);
+    on(ui.actionSave, &Controller::saveImg);
+    on(ui.actionSaveAs, &Controller::saveImgAs);
     on(ui.actionQuit, &Controller::terminate);
     on(ui.actionUndo, &Controller::undo);
     on(ui.actionRedo, &Controller::redo);
+    on(ui.actionCopy, &Controller::copy);
     on(ui.actionPaste, &Controller::paste);
+    on(ui.actionRotateLeft, &Controller::rotateLeft);
+    on(ui.actionRotateRight, &Controller::rotateRight);
+    on(ui.actionFlipHorizont, &Controller::flipHorizont);
+    on(ui.actionFlipVert, &Controller::flipVert);
+    connect(ui.actionResize, &QAction::triggered, this, [this] { showPanel(*m_resizePanel); });
     on(ui.actionApply, &Controller::applyBtn);
     on(ui.actionClearEffect, &Controller::escapeEffect);
     on(ui.actionZoomIn, &Controller::zoomIn);
@@ -40,6 +48,7 @@ void Controller::connectActions()
     on(ui.actionFit, &Controller::zoomToFit);
     on(ui.actionHelp, &Controller::displayHelp);
     on(ui.actionAbout, &Controller::orderFrontAboutPanel);
+    connect(ui.menuRecent, &QMenu::aboutToShow, this, &Controller::fillRecentMenu);
     connect(ui.actionActualSize, &QAction::triggered, this, [this] { zoomTo(1); });
 
     int tag = 0;
@@ -81,6 +90,7 @@ void Controller::updateMainBtnState()
 {
     pasteBtn->setEnabled(Pasteboard::generalPasteboard().offersTIFF());
     ui.applyBtn->setEnabled(hasCurrentItem());
+    updateWinTitle();
     validateMenuItems();
 }
 
@@ -93,6 +103,11 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionRedo) {
         enabled = m_undoManager.canRedo();
         item.setText(m_undoManager.redoMenuItemTitle());
+    } else if (&item == ui.actionCopy || &item == ui.actionRotateLeft || &item == ui.actionRotateRight
+        || &item == ui.actionFlipHorizont || &item == ui.actionFlipVert) {
+        enabled = bool(backgroundImage);
+    } else if (&item == ui.actionResize) {
+        item.setChecked(m_resizePanel && m_resizePanel->isVisible());
     } else if (&item == ui.actionPaste) {
         enabled = Pasteboard::generalPasteboard().offersTIFF();
         pasteBtn->setEnabled(enabled);
@@ -120,6 +135,19 @@ void Controller::validateMenuItems()
     const QList<QAction*> items = m_window.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly);
     for (QAction* item : items)
         validateMenuItem(*item);
+}
+
+/// Or hides it, when it is there already.
+void Controller::showPanel(QWidget& panel)
+{
+    if (panel.isVisible()) {
+        panel.close();
+    } else {
+        panel.show();
+        panel.raise();
+        panel.activateWindow();
+    }
+    validateMenuItems();
 }
 
 void Controller::displayHelp()

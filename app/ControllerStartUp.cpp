@@ -57,6 +57,7 @@ Controller::~Controller()
     m_window.setController(nullptr);
     ciView->setController(nullptr);
     openGLView->setController(nullptr);
+    quitAfterSave = false;
     if (theController == this)
         theController = nullptr;
 }
@@ -67,10 +68,12 @@ bool Controller::isDarkMode() { return Appearance::shared().isDark(); }
 
 void Controller::awakeFromNib()
 {
+    m_resizePanel = new ResizePanel(&m_window, *this);
     setBackgroundImage(readImage(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg"))));
     setDefaultImagePaths();
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();
+    initExportFormats();
     listView->deselectAll();
     filter3DOutlineView->deselectAll();
     theController = this;

@@ -2,10 +2,10 @@
 #include "app/MainWindow.h"
 #include "controls/MyImageView.h"
 #include "platform/foundation/Pasteboard.h"
+#include "widgets/AlertPanel.h"
+#include "widgets/BackgroundWork.h"
 
 #include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QSessionManager>
 
 void Controller::windowWillClose()
@@ -51,27 +51,27 @@ void Controller::applicationDidFinishLaunching()
 
 void Controller::applicationDidBecomeActive() { updateMainBtnState(); }
 
-/// 1 to save, 2 to stay, 3 to lose the changes.
-int Controller::askToSaveChanges()
-{
-    QMessageBox alert(&m_window);
-    alert.setWindowModality(Qt::WindowModal);
-    alert.setIcon(QMessageBox::Warning);
-    alert.setText(tr("Do you want to save changes?"));
-    alert.setInformativeText(tr("Your changes will be lost if you choose don't save option."));
-    QPushButton* dontSave = alert.addButton(tr("Don't Save"), QMessageBox::DestructiveRole);
-    QPushButton* cancel = alert.addButton(tr("Cancel"), QMessageBox::RejectRole);
-    alert.setDefaultButton(cancel);
-    alert.setEscapeButton(cancel);
-    alert.exec();
-    return alert.clickedButton() == dontSave ? 3 : 2;
-}
-
 Controller::TerminateReply Controller::applicationShouldTerminate()
 {
-    if (m_wasChanged && askToSaveChanges() == 2)
-        return TerminateReply::Cancel;
-    return TerminateReply::Now;
+    if (isWorkRunning())
+        return TerminateReply::Cancel; // its thread works for the window
+    if (quitAfterSave || !m_wasChanged)
+        return TerminateReply::Now;
+    const int answer = AlertPanel::Alert_DONTSAVECANCELMsgText(&m_window, tr("Do you want to save changes?"),
+        tr("Your changes will be lost if you choose don't save option."));
+    if (answer == 1) {
+        quitAfterSave = true;
+        saveImg(); // asks to terminate again when it is done
+    }
+    return answer == 1 || answer == 2 ? TerminateReply::Cancel : TerminateReply::Now;
+}
+
+bool Controller::windowShouldClose() const { return !m_wasChanged && !isWorkRunning(); }
+
+void Controller::setWasChanged(bool changed)
+{
+    m_wasChanged = changed;
+    updateWinTitle();
 }
 
 void Controller::terminate()

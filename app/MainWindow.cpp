@@ -25,7 +25,9 @@ MainWindow::MainWindow()
     setIcons();
     setShortcuts();
     setButtons();
-    m_contextMenu->addActions({ui->actionApply, ui->actionClearEffect, ui->actionPaste});
+    m_contextMenu->addActions({ui->actionApply, ui->actionClearEffect});
+    m_contextMenu->addSeparator();
+    m_contextMenu->addActions({ui->actionCopy, ui->actionPaste});
     m_contextMenu->addSeparator();
     m_contextMenu->addActions({ui->actionZoomIn, ui->actionZoomOut, ui->actionActualSize, ui->actionFit});
     dress();
@@ -57,6 +59,13 @@ void MainWindow::setIcons()
 {
     const std::pair<QAction*, const char*> icons[] = {
         {ui->actionOpen, "open"},
+        {ui->actionSave, "save"},
+        {ui->actionRotateLeft, "rotate-left"},
+        {ui->actionRotateRight, "rotate-right"},
+        {ui->actionFlipHorizont, "flip-horizontal"},
+        {ui->actionFlipVert, "flip-vertical"},
+        {ui->actionResize, "resize"},
+        {ui->actionCopy, "copy"},
         {ui->actionUndo, "undo"},
         {ui->actionRedo, "redo"},
         {ui->actionPaste, "paste"},
@@ -82,9 +91,17 @@ void MainWindow::setShortcuts()
     // Written out: the platform leaves some of the standard ones empty.
     const std::pair<QAction*, QList<QKeySequence>> shortcuts[] = {
         {ui->actionOpen, {Qt::CTRL | Qt::Key_O}},
+        {ui->actionSave, {Qt::CTRL | Qt::Key_S}},
+        {ui->actionSaveAs, {Qt::CTRL | Qt::SHIFT | Qt::Key_S}},
         {ui->actionQuit, {Qt::CTRL | Qt::Key_Q}},
         {ui->actionUndo, {Qt::CTRL | Qt::Key_Z}},
         {ui->actionRedo, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}},
+        {ui->actionCopy, {Qt::CTRL | Qt::Key_C}},
+        {ui->actionRotateLeft, {Qt::CTRL | Qt::Key_L}},
+        {ui->actionRotateRight, {Qt::CTRL | Qt::Key_R}},
+        {ui->actionFlipHorizont, {Qt::CTRL | Qt::SHIFT | Qt::Key_H}},
+        {ui->actionFlipVert, {Qt::CTRL | Qt::SHIFT | Qt::Key_V}},
+        {ui->actionResize, {Qt::CTRL | Qt::ALT | Qt::Key_I}},
         {ui->actionPaste, {Qt::CTRL | Qt::Key_V}},
         {ui->actionFindFilter, {Qt::CTRL | Qt::Key_F}},
         {ui->actionApply, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
@@ -111,6 +128,13 @@ void MainWindow::setButtons()
 {
     const std::pair<QToolButton*, QAction*> buttons[] = {
         {ui->openBtn, ui->actionOpen},
+        {ui->saveBtn, ui->actionSave},
+        {ui->rotateLeftBtn, ui->actionRotateLeft},
+        {ui->rotateRightBtn, ui->actionRotateRight},
+        {ui->flipHorizontBtn, ui->actionFlipHorizont},
+        {ui->flipVertBtn, ui->actionFlipVert},
+        {ui->resizeBtn, ui->actionResize},
+        {ui->copyBtn, ui->actionCopy},
         {ui->undoBtn, ui->actionUndo},
         {ui->redoBtn, ui->actionRedo},
         {ui->pasteBtn, ui->actionPaste},

@@ -51,6 +51,14 @@ QString Pasteboard::bestPictureType(const QStringList& offeredTypes)
     return offeredTypes.contains(kQtImageType) ? kQtImageType : QString();
 }
 
+void Pasteboard::setPicture(const QByteArray& tiff, const QImage& shown)
+{
+    auto* data = new QMimeData; // the clipboard's from now on
+    data->setData(QStringLiteral("image/tiff"), tiff);
+    data->setImageData(shown);
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
 void Pasteboard::lookAgain()
 {
     m_offersTIFF.reset();

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class QImage;
+
 /// The general pasteboard: the desktop's clipboard, as far as pictures go. Main thread only.
 class Pasteboard : public QObject {
     Q_OBJECT
@@ -21,6 +23,9 @@ public:
     void lookAgain();
     /// The picture as the bytes of a file, in the best form offered (no loss before loss); empty without one.
     QByteArray pictureData() const;
+
+    /// Puts a picture on the clipboard: the bytes of a TIFF file, and `shown` for those who take other types.
+    void setPicture(const QByteArray& tiff, const QImage& shown);
 
     /// Which of the offered types `pictureData` takes; empty when none is a picture.
     static QString bestPictureType(const QStringList& offeredTypes);

@@ -7,8 +7,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QImage>
-#include <QMessageBox>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -65,20 +65,29 @@ const OutlineItem* WindowTest::groupOf(const QString& className) const
 
 void WindowTest::answering(const QString& button, const std::function<void()>& operation)
 {
-    bool pressed = false;
-    QTimer::singleShot(0, [&] {
-        auto* sheet = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(sheet);
-        for (QAbstractButton* candidate : sheet->buttons())
-            if (candidate->text() == button) {
-                pressed = true;
+    answering(QStringList{button}, operation);
+}
+
+void WindowTest::answering(QStringList buttons, const std::function<void()>& operation)
+{
+    QTimer asked;
+    QObject::connect(&asked, &QTimer::timeout, [&] {
+        auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!sheet || sheet->objectName() == "ProgressSheet")
+            return;
+        const QList<QAbstractButton*> candidates = sheet->findChildren<QAbstractButton*>();
+        for (QAbstractButton* candidate : candidates)
+            if (!buttons.isEmpty() && candidate->text() == buttons.first() && candidate->isVisible()) {
+                buttons.removeFirst();
                 candidate->click();
                 return;
             }
+        ADD_FAILURE() << "a sheet without the button " << buttons.value(0).toStdString();
         sheet->reject();
     });
+    asked.start(0);
     operation();
-    EXPECT_TRUE(pressed) << "no button " << button.toStdString();
+    EXPECT_TRUE(buttons.isEmpty()) << "nobody asked for " << buttons.value(0).toStdString();
 }
 
 int main(int argc, char** argv)

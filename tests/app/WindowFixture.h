@@ -26,6 +26,8 @@ protected:
     QAction* action(const char* name) const { return window.findChild<QAction*>(QLatin1String(name)); }
     /// Runs the operation, and presses the button of that text in the sheet that it opens.
     static void answering(const QString& button, const std::function<void()>& operation);
+    /// The same for several sheets, one after the other.
+    static void answering(QStringList buttons, const std::function<void()>& operation);
 
     QTemporaryDir folder;
     MainWindow window;

@@ -1,0 +1,243 @@
+// Turning, resizing, copying and pasting the picture.
+#include "WindowFixture.h"
+
+#include "app/Baking.h"
+#include "app/RecentFiles.h"
+#include "app/Turning.h"
+#include "files/ResizePanel.h"
+#include "platform/foundation/Pasteboard.h"
+#include "platform/imageio/PictureReader.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <vector>
+
+namespace {
+
+using Rows = std::vector<std::vector<int>>; // of the red component, top row first
+
+template <class T>
+CIImage imageOf(const Rows& rows, CIFormat format)
+{
+    CIBitmap bitmap(int(rows.front().size()), int(rows.size()), format);
+    for (std::size_t y = 0; y < rows.size(); ++y)
+        for (std::size_t x = 0; x < rows[y].size(); ++x)
+            bitmap.mutableRow<T>(int(y))[4 * x] = T(rows[y][x]);
+    return CIImage::fromBitmap(bitmap);
+}
+
+template <class T>
+Rows rowsOf(const CIImage& image)
+{
+    const CIBitmap bitmap = *bitmapOf(image);
+    Rows rows;
+    for (int y = 0; y < bitmap.height(); ++y) {
+        rows.emplace_back();
+        for (std::size_t x = 0; x < std::size_t(bitmap.width()); ++x)
+            rows.back().push_back(int(bitmap.row<T>(y)[4 * x]));
+    }
+    return rows;
+}
+
+template <class T>
+void expectTurns(CIFormat format)
+{
+    const CIImage picture = imageOf<T>({{1, 2, 3}, {4, 5, 6}}, format);
+    EXPECT_EQ(rowsOf<T>(rotatedPicture(picture, true)), (Rows{{3, 6}, {2, 5}, {1, 4}}));
+    EXPECT_EQ(rowsOf<T>(rotatedPicture(picture, false)), (Rows{{4, 1}, {5, 2}, {6, 3}}));
+    EXPECT_EQ(rowsOf<T>(flippedPicture(picture, false)), (Rows{{3, 2, 1}, {6, 5, 4}}));
+    EXPECT_EQ(rowsOf<T>(flippedPicture(picture, true)), (Rows{{4, 5, 6}, {1, 2, 3}}));
+}
+
+TEST(Turning, MovesPixelsOfEveryFormat)
+{
+    expectTurns<std::uint8_t>(CIFormat::RGBA8);
+    expectTurns<std::uint16_t>(CIFormat::RGBA16);
+    expectTurns<float>(CIFormat::RGBAf);
+}
+
+TEST(Turning, RecipesTurnAsBitmapsDo)
+{
+    CIBitmap bitmap(70, 45, CIFormat::RGBA8, CIAlpha::Opaque); // more than a block each way
+    for (int y = 0; y < 45; ++y)
+        for (std::size_t i = 0; i < 70 * 4; ++i)
+            bitmap.mutableRow<std::uint8_t>(y)[i] = i % 4 == 3 ? 255 : std::uint8_t(i * 31 + std::size_t(y) * 77);
+    const CIImage stored = CIImage::fromBitmap(bitmap);
+    const CIImage recipe = stored.transformed(CIAffineTransform::translation(5, -3)); // no bitmap any more
+    const CIContext context;
+    for (int way = 0; way < 4; ++way) {
+        const auto turned = [way](const CIImage& image) {
+            return way < 2 ? rotatedPicture(image, way == 0) : flippedPicture(image, way == 2);
+        };
+        const CIRect extent = turned(recipe).extent();
+        EXPECT_EQ(extent, turned(stored).extent()) << "at the origin";
+        const CIBitmap a = renderedBitmap(context, turned(recipe), CIFormat::RGBA8);
+        const CIBitmap b = renderedBitmap(context, turned(stored), CIFormat::RGBA8);
+        for (int y = 0; y < b.height(); ++y)
+            ASSERT_EQ(std::memcmp(a.row(y), b.row(y), std::size_t(b.width()) * 4), 0) << way << ", row " << y;
+    }
+}
+
+class EditsTest : public WindowTest {
+protected:
+    void open(const Rows& rows) { controller.undoPaste(imageOf<std::uint8_t>(rows, CIFormat::RGBA8)); }
+    Rows shown() { return rowsOf<std::uint8_t>(controller.backImage()); }
+    /// Runs a program that talks to this one's clipboard.
+    static QByteArray answerOf(const QString& program, const QStringList& arguments)
+    {
+        QProcess process;
+        QSignalSpy done(&process, &QProcess::finished);
+        process.start(program, arguments);
+        EXPECT_TRUE(done.wait(10000));
+        EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+        return process.readAllStandardOutput();
+    }
+};
+
+const Rows kPicture{{1, 2, 3}, {4, 5, 6}};
+
+TEST_F(EditsTest, RotationIsUndoneByItsOpposite)
+{
+    open(kPicture);
+    action("actionRotateLeft")->trigger();
+    EXPECT_EQ(shown(), (Rows{{3, 6}, {2, 5}, {1, 4}}));
+    EXPECT_FALSE(controller.wasChanged());
+    EXPECT_EQ(undo.undoActionName(), "Rotate Left");
+    controller.undo();
+    EXPECT_EQ(shown(), kPicture);
+    controller.redo();
+    EXPECT_EQ(shown(), (Rows{{3, 6}, {2, 5}, {1, 4}}));
+    for (int i = 0; i < 3; ++i)
+        controller.rotateLeft();
+    EXPECT_EQ(shown(), kPicture);
+}
+
+TEST_F(EditsTest, FlipIsUndoneByTheOtherFlip)
+{
+    open(kPicture);
+    action("actionFlipHorizont")->trigger();
+    EXPECT_EQ(shown(), (Rows{{3, 2, 1}, {6, 5, 4}}));
+    controller.undo();
+    EXPECT_EQ(shown(), (Rows{{6, 5, 4}, {3, 2, 1}})) << "turned by half a turn";
+    controller.redo();
+    EXPECT_EQ(shown(), (Rows{{4, 5, 6}, {1, 2, 3}})) << "flipped vertically";
+    controller.undo();
+    EXPECT_EQ(shown(), kPicture);
+    EXPECT_FALSE(controller.wasChanged());
+}
+
+TEST_F(EditsTest, WithoutAPictureNothingHappens)
+{
+    controller.openFile("/nowhere.png");
+    const bool couldUndo = undo.canUndo();
+    controller.rotateLeft();
+    controller.flipVert();
+    controller.resizeImageHeight(10, 10);
+    controller.copy();
+    EXPECT_EQ(undo.canUndo(), couldUndo);
+    EXPECT_FALSE(action("actionRotateLeft")->isEnabled());
+    EXPECT_FALSE(action("actionCopy")->isEnabled());
+}
+
+TEST_F(EditsTest, ResizesInOneStep)
+{
+    controller.openFile(pictureFile("a.png", 40, 30));
+    action("actionResize")->trigger();
+    auto* panel = window.findChild<ResizePanel*>();
+    ASSERT_TRUE(panel && panel->isVisible());
+    EXPECT_TRUE(action("actionResize")->isChecked());
+    controller.resizeImageHeight(20.2f, 50);
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 20, 50}));
+    EXPECT_EQ(panel->findChild<QLabel*>("mCaptionInfo")->text(), "20 x 50 pixels");
+    const CIBitmap pixels = *bitmapOf(controller.backImage());
+    for (int x : {0, 4 * 10, 4 * 19})
+        EXPECT_NEAR(pixels.row<std::uint8_t>(25)[std::size_t(x)], 200, 1) << "one color stays one color";
+    EXPECT_EQ(pixels.alpha(), CIAlpha::Opaque) << "up to the edges";
+    EXPECT_TRUE(controller.wasChanged());
+    EXPECT_EQ(undo.undoActionName(), "Resize");
+    controller.undo();
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
+
+    answering("OK", [&] { controller.resizeImageHeight(900'000, 900'000); });
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
+    action("actionResize")->trigger();
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(EditsTest, OtherProgramsPasteWhatIsCopied)
+{
+    controller.openFile(pictureFile("a.png", 12, 7));
+    pick("CIColorInvert");
+    action("actionCopy")->trigger();
+    EXPECT_TRUE(ui.pasteBtn->isEnabled());
+    const QByteArray types = answerOf("xclip", {"-selection", "clipboard", "-o", "-t", "TARGETS"});
+    EXPECT_TRUE(types.contains("image/tiff") && types.contains("image/png")) << types.toStdString();
+    for (const char* type : {"image/tiff", "image/png"}) {
+        const QByteArray bytes = answerOf("xclip", {"-selection", "clipboard", "-o", "-t", type});
+        const Result<CIBitmap> read = readPicture(std::as_bytes(std::span(bytes.data(), std::size_t(bytes.size()))));
+        ASSERT_TRUE(read) << type << ": " << read.message();
+        EXPECT_EQ(read->width(), 12);
+        EXPECT_EQ(read->height(), 7);
+        EXPECT_EQ(read->row<std::uint8_t>(3)[8], 174) << type << ": 200 inverted in linear light";
+    }
+}
+
+TEST_F(EditsTest, PastesWhatOtherProgramsCopy)
+{
+    const QString file = pictureFile("clip.png", 9, 5);
+    QSignalSpy changed(&Pasteboard::generalPasteboard(), &Pasteboard::changed);
+    // It stays behind to serve the clipboard, so its output must not keep us waiting.
+    QProcess::startDetached(
+        "sh", {"-c", "exec xclip -selection clipboard -t image/png -i '" + file + "' >/dev/null 2>&1"});
+    EXPECT_TRUE(changed.wait(5000));
+    action("actionPaste")->trigger();
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
+    controller.undo();
+    EXPECT_NE(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
+    controller.redo();
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
+}
+
+TEST_F(EditsTest, BrokenClipboardGivesNoPictureAndTheWayBack)
+{
+    open(kPicture);
+    auto* broken = new QMimeData;
+    broken->setData("image/tiff", "II*\0 no more");
+    QApplication::clipboard()->setMimeData(broken);
+    controller.paste();
+    EXPECT_FALSE(controller.backImage());
+    controller.undo();
+    EXPECT_EQ(shown(), kPicture);
+}
+
+TEST_F(EditsTest, RecentFilesAreInTheirMenu)
+{
+    RecentFiles::clear();
+    const QString first = pictureFile("first.png", 4, 4), second = pictureFile("second.png", 5, 5);
+    controller.openFile(first);
+    controller.openFile(second);
+    controller.openFile(first);
+    controller.openFile("/nowhere.png");
+    EXPECT_EQ(RecentFiles::list(), QStringList({first, second}));
+    emit ui.menuRecent->aboutToShow();
+    ASSERT_GE(ui.menuRecent->actions().size(), 2);
+    ui.menuRecent->actions().at(1)->trigger();
+    EXPECT_EQ(controller.getFilePath(), second);
+    EXPECT_TRUE(QFile::remove(first));
+    EXPECT_EQ(RecentFiles::list(), QStringList{second}) << "files that are gone are left out";
+    EXPECT_EQ(
+        RecentFiles::titles({"/a/x.png", "/b/x.png", "/b/y.png"}), QStringList({"x.png (/a)", "x.png (/b)", "y.png"}));
+    ui.menuRecent->actions().last()->trigger();
+    EXPECT_TRUE(RecentFiles::list().isEmpty());
+}
+
+} // namespace

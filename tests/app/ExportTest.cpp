@@ -1,0 +1,266 @@
+// Saving, and quitting with unsaved changes.
+#include "WindowFixture.h"
+
+#include "app/Baking.h"
+#include "files/SavePanel.h"
+#include "platform/imageio/ImageLog.h"
+#include "platform/imageio/PictureReader.h"
+#include "ui_MainWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+
+#include <cmath>
+
+namespace {
+
+class ExportTest : public WindowTest {
+protected:
+    ExportTest()
+        : lower(QDir::tempPath() + "/lumivex-export-" + QString::number(QCoreApplication::applicationPid()))
+    {
+        EXPECT_TRUE(QDir().mkpath(lower.path())); // saved paths become lower case as a whole
+        // A test before may have ended the program, after which no sheet would wait for an answer.
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+        QApplication::exec();
+    }
+    ~ExportTest() override { lower.removeRecursively(); }
+
+    QString path(const QString& name) const { return lower.filePath(name); }
+    void chooseFormat(const QString& name)
+    {
+        auto* menu = window.findChild<QComboBox*>("formatMenu");
+        ASSERT_TRUE(menu);
+        menu->setCurrentIndex(menu->findText(name));
+    }
+    /// A picture of many colors as the current one, with a path of its own.
+    void openNoise(const QString& name)
+    {
+        QImage image(64, 48, QImage::Format_RGB32);
+        for (int y = 0; y < 48; ++y)
+            for (int x = 0; x < 64; ++x)
+                image.setPixel(x, y, qRgb(x * 4, y * 5, (x * y) % 256));
+        ASSERT_TRUE(image.save(path(name), name.endsWith("png") ? "PNG" : "JPEG"));
+        controller.openFile(path(name));
+    }
+    CIBitmap current() { return renderedBitmap(CIContext(), controller.backImage(), CIFormat::RGBA8); }
+
+    /// Peak signal to noise in decibels; infinite for equal pixels.
+    static double likeness(const CIBitmap& a, const CIBitmap& b)
+    {
+        double sum = 0;
+        for (int y = 0; y < a.height(); ++y)
+            for (std::size_t i = 0; i < std::size_t(a.width()) * 4; ++i) {
+                const double difference = a.row<std::uint8_t>(y)[i] - b.row<std::uint8_t>(y)[i];
+                sum += difference * difference;
+            }
+        return 10 * std::log10(255 * 255 * double(a.width()) * a.height() * 4 / sum);
+    }
+
+    static QString identify(const QString& file)
+    {
+        QProcess process;
+        process.start("identify", {"-format", "%m %w %h", file});
+        EXPECT_TRUE(process.waitForFinished());
+        return QString::fromUtf8(process.readAllStandardOutput());
+    }
+
+    QDir lower;
+};
+
+TEST_F(ExportTest, EveryFormatIsAFileThatOthersRead)
+{
+    openNoise("noise.png");
+    const CIBitmap truth = current();
+    const struct {
+        const char *name, *file, *kind;
+        double decibels;
+    } formats[] = {
+        {"JPEG", "out.jpeg", "JPEG", 30},
+        {"JPEG-2000", "out.jpeg-2000", "JP2", 30},
+        {"TIFF", "out.tiff", "TIFF", INFINITY},
+        {"GIF", "out.gif", "GIF", 20},
+        {"PNG", "out.png", "PNG", INFINITY},
+        {"BMP", "out.bmp", "BMP3", INFINITY},
+        {"ICNS", "out.icns", "TIFF", INFINITY},
+        {"PDF", "out.pdf", nullptr, 0},
+    };
+    for (const auto& format : formats) {
+        SCOPED_TRACE(format.name);
+        chooseFormat(format.name);
+        controller.savePanelDidEnd(QDialog::Accepted, path("OUT.xyz"));
+        EXPECT_EQ(controller.getFilePath().isEmpty(), false);
+        if (!format.kind)
+            continue; // its capitals stay: see below
+        EXPECT_EQ(controller.getFilePath(), path(format.file));
+        EXPECT_EQ(identify(path(format.file)), QString("%1 64 48").arg(format.kind));
+        const Result<CIBitmap> back = readPicture(path(format.file).toStdString());
+        ASSERT_TRUE(back) << back.message();
+        EXPECT_GE(likeness(*back, truth), format.decibels);
+    }
+    EXPECT_TRUE(QFile::exists(path("OUT.pdf")));
+}
+
+TEST_F(ExportTest, SavesWhatTheFilterMakesAndForgetsTheChanges)
+{
+    openNoise("noise.png");
+    pick("CIColorInvert");
+    EXPECT_TRUE(controller.wasChanged());
+    EXPECT_EQ(window.windowTitle(), "Lumivex::noise.png[*]") << "where the platform marks changes";
+    EXPECT_TRUE(window.isWindowModified());
+    chooseFormat("PNG");
+    controller.savePanelDidEnd(QDialog::Accepted, path("inverse"));
+    EXPECT_FALSE(controller.wasChanged());
+    EXPECT_EQ(window.windowTitle(), "Lumivex::inverse.png");
+    const Result<CIBitmap> back = readPicture(path("inverse.png").toStdString());
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->row<std::uint8_t>(0)[0], 255);
+    EXPECT_TRUE(controller.getCurrentFilter()) << "saving applies nothing";
+}
+
+TEST_F(ExportTest, TheSheetsQuestionOnlyTellsWhatHappens)
+{
+    openNoise("noise.png");
+    const QString target = path("there.png");
+    ASSERT_TRUE(QFile::copy(path("noise.png"), target));
+    controller.openFile(pictureFile("other.png", 10, 10));
+    chooseFormat("PNG");
+    answering("Cancel", [&] { controller.savePanelDidEnd(QDialog::Accepted, path("there")); });
+    EXPECT_EQ(identify(target), "PNG 10 10") << "overwritten all the same";
+    controller.savePanelDidEnd(QDialog::Rejected, path("never"));
+    EXPECT_EQ(controller.getFilePath(), target);
+    EXPECT_FALSE(QFile::exists(path("never.png")));
+}
+
+TEST_F(ExportTest, SavesInPlaceWhereTheExtensionAllows)
+{
+    openNoise("photo.jpeg");
+    controller.rotateLeft();
+    answering("OK", [&] { controller.saveImg(); });
+    EXPECT_EQ(identify(path("photo.jpeg")), "JPEG 48 64");
+
+    pick("CIColorInvert");
+    answering("Cancel", [&] { EXPECT_TRUE(controller.saveExistFile()); });
+    EXPECT_TRUE(controller.wasChanged()) << "declined: counts as saved for the caller, but the changes are there";
+
+    ASSERT_TRUE(QFile::copy(path("photo.jpeg"), path("photo.jpg")));
+    controller.openFile(path("photo.jpg"));
+    answering({"OK", "OK"}, [&] { controller.saveImg(); }); // the question, then what went wrong
+}
+
+TEST_F(ExportTest, ReportsAnUnwritableFolderAndKeepsTheFile)
+{
+    setImageLog([](std::string_view) {});
+    openNoise("noise.png");
+    chooseFormat("PNG");
+    controller.savePanelDidEnd(QDialog::Accepted, path("no folder/x"));
+    EXPECT_TRUE(ui.pictureInfoField->text().contains("x.png")) << ui.pictureInfoField->text().toStdString();
+    setImageLog({});
+}
+
+TEST_F(ExportTest, ThePanelOffersTheLastFormatAndGivesItsMenusBack)
+{
+    openNoise("noise.png");
+    for (int i = 0; i < 2; ++i) {
+        controller.saveImgAs();
+        auto* panel = window.findChild<SavePanel*>();
+        ASSERT_TRUE(panel);
+        EXPECT_EQ(panel->windowTitle(), "Save Image As:");
+        EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
+        auto* formats = panel->findChild<QComboBox*>("formatMenu");
+        ASSERT_TRUE(formats);
+        EXPECT_TRUE(formats->isVisible());
+        EXPECT_EQ(formats->currentText(), i == 0 ? "JPEG" : "TIFF");
+        EXPECT_EQ(panel->findChild<QComboBox*>("resolutionMenu")->currentData(), 300);
+        formats->setCurrentIndex(2);
+        panel->findChild<QLineEdit*>("fileNameEdit")->setText(path(QString("n%1").arg(i)));
+        static_cast<QDialog*>(panel)->accept();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(identify(path(QString("n%1.tiff").arg(i))), "TIFF 64 48");
+    }
+}
+
+TEST_F(ExportTest, QuittingAsksAndDoesWhatIsAnswered)
+{
+    using Reply = Controller::TerminateReply;
+    openNoise("photo.jpeg");
+    EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Now);
+    pick("CIColorInvert");
+    answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    answering("Don't Save", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Now); });
+    EXPECT_TRUE(controller.wasChanged());
+
+    // In place: the question about replacing comes next, and then the program may end.
+    answering({"Save...", "OK"}, [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    EXPECT_FALSE(controller.wasChanged());
+    EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Now);
+}
+
+TEST_F(ExportTest, ACancelledPanelStillQuitsButAFailedSaveDoesNot)
+{
+    using Reply = Controller::TerminateReply;
+    openNoise("photo.png"); // can't be saved in place
+    pick("CIColorInvert");
+    // Replace, then the bad news.
+    answering({"Save...", "OK", "OK"}, [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); }); // asks again
+
+    controller.setFilePath({});
+    answering("Save...", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    auto* panel = window.findChild<SavePanel*>();
+    ASSERT_TRUE(panel);
+    panel->reject();
+    EXPECT_TRUE(controller.wasChanged());
+    EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Now) << "without a question";
+}
+
+TEST_F(ExportTest, StoppingALongSaveLeavesEverythingAsItWas)
+{
+    openNoise("photo.jpeg");
+    const QString before = identify(path("photo.jpeg"));
+    controller.undoPaste(CIImage::fromBitmap(CIBitmap(9000, 9000)));
+    pick("CIMedianFilter");
+    QTimer stopper;
+    bool stopped = false;
+    QObject::connect(&stopper, &QTimer::timeout, [&] {
+        QWidget* sheet = QApplication::activeModalWidget();
+        if (!sheet || sheet->objectName() != "ProgressSheet")
+            return;
+        stopped = true;
+        for (auto* button : sheet->findChildren<QAbstractButton*>())
+            button->click();
+    });
+    stopper.start(20);
+    answering("OK", [&] { controller.saveImg(); });
+    EXPECT_TRUE(stopped);
+    EXPECT_TRUE(controller.wasChanged());
+    EXPECT_EQ(identify(path("photo.jpeg")), before);
+    EXPECT_EQ(lower.entryList(QDir::Files | QDir::Hidden), QStringList{"photo.jpeg"});
+}
+
+TEST_F(ExportTest, DescribesBitmaps)
+{
+    const CIBitmap bitmap(6, 4, CIFormat::RGBA16);
+    Controller::BitmapDescription description{};
+    Controller::getBitmapBmpBitmap(CIBitmap(), description);
+    EXPECT_EQ(description.bitmap, nullptr) << "left alone";
+    Controller::getBitmapBmpBitmap(bitmap, description);
+    EXPECT_EQ(description.width, 6);
+    EXPECT_EQ(description.bitsPerPixel, 64);
+    EXPECT_EQ(description.bitsPerSample, 16);
+    EXPECT_EQ(description.pixels, bitmap.row(0));
+    controller.openFile(path("none.png"));
+    EXPECT_TRUE(controller.getCGImage().isNull());
+}
+
+} // namespace
