@@ -182,11 +182,12 @@ void MyOGLView::paintEvent(QPaintEvent*)
     }
 }
 
-/// Some bodies are seen from their open or flat side at first, which shows nothing.
+/// Some bodies show their open side or their back at first: nothing.
 void MyOGLView::drawHint(QPainter& painter) const
 {
     painter.setPen(Look::light().secondaryText); // on paper in both looks
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("Seen from its open side. Drag to turn it."));
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("Nothing is to be seen from this side. Drag to turn it."));
 }
 
 void MyOGLView::resizeEvent(QResizeEvent*) { m_shown = {}; }

@@ -6,51 +6,57 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cmath>
 
-#include <QImage>
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
 
 namespace {
 
-/// Texels around the widest body that is drawn, a ball of 0.8 in a frame of 2: about one for each pixel at its middle.
-constexpr double kTexelsPerPixel = 2.5; // times the frame's shorter side
-constexpr int kLeastSide = 256;
+/// Around the widest body, a ball of 0.8 in a frame of 2, there are 2.5 times as many pixels as the frame's shorter
+/// side has; a little less is not seen.
+constexpr double kTexelsPerPixel = 2;
 
+int intOf(GLenum what)
+{
+    GLint value = 0;
+    glGetIntegerv(what, &value);
+    return value;
+}
+
+/// Texels that the picture needs along its longer side.
 int sideForViewport()
 {
     std::array<GLint, 4> viewport{};
     glGetIntegerv(GL_VIEWPORT, viewport.data());
-    GLint largest = 0;
-    glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
-    const double wanted = std::max(std::min(viewport[2], viewport[3]) * kTexelsPerPixel,
-        double(std::max(viewport[2], viewport[3]))); // flat, the picture fills the frame
-    const auto side = unsigned(std::clamp(wanted, double(kLeastSide), 32768.0));
-    return int(std::min(std::bit_ceil(side), std::bit_floor(unsigned(std::max(largest, 64)))));
+    const auto [shorter, longer] = std::minmax(viewport[2], viewport[3]);
+    return std::max(int(kTexelsPerPixel * shorter), int(longer)); // flat, the picture fills the frame
 }
 
-/// A power of two that holds the picture's pixels, but no more than `most`.
-int texelsFor(double pixels, int most)
+/// How often the picture can be halved and still has `side` pixels; more often where it would be too large.
+int levelFor(const CIRect& extent, int side)
 {
-    return int(std::bit_ceil(unsigned(std::clamp(std::ceil(pixels), 1.0, double(most)))));
+    const double longer = std::max(extent.width, extent.height);
+    const int largest = std::max(intOf(GL_MAX_TEXTURE_SIZE), 64);
+    int level = 0;
+    while (std::ldexp(longer, -level - 1) >= side || std::ldexp(longer, -level) > largest)
+        ++level;
+    return level;
 }
 
-/// The picture stretched to powers of two, of which smaller levels are made without another resampling.
-QImage pixelsOf(const CIImage& picture, int side)
+/// Halves are what a context has at hand of a bitmap that it has shown.
+CIBitmap pixelsOf(const CIImage& picture, int level)
 {
-    const CIRect extent = picture.extent();
-    const int width = texelsFor(extent.width, side), height = texelsFor(extent.height, side);
-    const double scale = std::max(width / extent.width, height / extent.height);
-    // What of the reduction is the same both ways is the context's, which has reduced copies of its bitmaps.
-    CIAffineTransform stretch = CIAffineTransform::translation(-extent.x, -extent.y);
-    stretch = stretch.then(CIAffineTransform::scaling(width / extent.width / scale, height / extent.height / scale));
     static const CIContext context;
-    auto bitmap = std::make_unique<CIBitmap>(width, height, CIFormat::RGBA8, CIAlpha::Premultiplied);
-    context.renderInto(*bitmap, 0, height, picture.clampedToExtent().transformed(stretch), scale);
-    const auto* pixels = reinterpret_cast<const uchar*>(std::as_const(*bitmap).row(0));
-    const auto release = [](void* kept) { delete static_cast<CIBitmap*>(kept); };
-    const auto bytesPerRow = qsizetype(bitmap->bytesPerRow());
-    return QImage(pixels, width, height, bytesPerRow, QImage::Format_RGBA8888_Premultiplied, release, bitmap.release());
+    const CIRect extent = picture.extent();
+    const double scale = std::ldexp(1, -level);
+    const auto texels = [scale](double pixels) { return std::max(1, int(std::ceil(pixels * scale))); };
+    CIBitmap bitmap(texels(extent.width), texels(extent.height), CIFormat::RGBA8, CIAlpha::Premultiplied);
+    const bool atOrigin = extent.x == 0 && extent.y == 0;
+    const CIImage moved =
+        atOrigin ? picture : picture.transformed(CIAffineTransform::translation(-extent.x, -extent.y));
+    context.renderInto(bitmap, 0, bitmap.height(), moved.clampedToExtent(), scale);
+    return bitmap;
 }
 
 } // namespace
@@ -61,37 +67,37 @@ std::shared_ptr<PictureTexture> PictureTexture::of(const CIImage& picture)
     const CIRect extent = picture.extent();
     if (picture.isNull() || extent.isEmpty() || extent.isInfinite())
         return {};
-    const int side = sideForViewport();
+    const int level = levelFor(extent, sideForViewport());
     std::shared_ptr<PictureTexture> texture = last.lock();
-    if (!texture || !texture->m_picture.isSameAs(picture) || texture->m_side < side) {
-        texture.reset(new PictureTexture(picture, side));
+    if (!texture || !texture->m_picture.isSameAs(picture) || texture->m_level > level) {
+        texture.reset(new PictureTexture(picture, level));
         last = texture;
     }
     return texture;
 }
 
-PictureTexture::PictureTexture(const CIImage& picture, int side)
+PictureTexture::PictureTexture(const CIImage& picture, int level)
     : m_device(OpenGLDevice::shared())
     , m_picture(picture)
-    , m_side(side)
+    , m_level(level)
 {
-    glPushAttrib(GL_TEXTURE_BIT);
-    glGenTextures(1, &m_name);
-    glBindTexture(GL_TEXTURE_2D, m_name);
-    // A texture fills the one that is bound with all levels of the picture; its own has only the first.
-    Texture2D::initWithImage(pixelsOf(picture, side));
-    glPopAttrib();
+    const CIBitmap pixels = pixelsOf(picture, level);
+    const CIPoint size{double(pixels.width()), double(pixels.height())};
+    m_texture = Texture2D::initWithDataPixelFormatPixelsWidePixelsHighContentSize(
+        pixels.row(0), Texture2D::PixelFormat::RGBA8888, GLuint(pixels.width()), GLuint(pixels.height()), size);
+    const GLuint bound = GLuint(intOf(GL_TEXTURE_BINDING_2D));
+    glBindTexture(GL_TEXTURE_2D, name());
+    QOpenGLContext::currentContext()->functions()->glGenerateMipmap(GL_TEXTURE_2D);
+    glBindTexture(GL_TEXTURE_2D, bound);
 }
 
-PictureTexture::~PictureTexture()
-{
-    if (m_device->makeCurrent())
-        glDeleteTextures(1, &m_name);
-}
+PictureTexture::~PictureTexture() { m_device->makeCurrent(); }
+
+GLuint PictureTexture::name() const { return m_texture->name(); }
 
 void PictureTexture::bind(GLint wrap) const
 {
-    glBindTexture(GL_TEXTURE_2D, m_name);
+    glBindTexture(GL_TEXTURE_2D, name());
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_S, wrap);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_WRAP_T, wrap);
     glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_LINEAR);

@@ -7,6 +7,7 @@
 #include <memory>
 
 class OpenGLDevice;
+class Texture2D;
 
 /// The whole picture with its smaller levels, t = 0 at the top, premultiplied sRGB. Only as large as the frame that
 /// is drawn needs it, and made once for all who draw the same picture. Main thread only.
@@ -20,15 +21,15 @@ public:
     /// long as it is of the same picture and fine enough. Null when there is no picture, or one without an end.
     static std::shared_ptr<PictureTexture> of(const CIImage& picture);
 
-    GLuint name() const { return m_name; }
+    GLuint name() const;
     /// For drawing; beyond the picture it is repeated, or its edge is.
     void bind(GLint wrap = GL_REPEAT) const;
 
 private:
-    PictureTexture(const CIImage& picture, int side);
+    PictureTexture(const CIImage& picture, int level);
 
     std::shared_ptr<OpenGLDevice> m_device;
     CIImage m_picture;
-    int m_side; // texels that were asked for, along the longer side
-    GLuint m_name = 0;
+    int m_level; // how often the picture was halved
+    std::unique_ptr<Texture2D> m_texture;
 };
