@@ -112,7 +112,7 @@ QPushButton[bezelStyle="8"] { border-radius: 0; }
 ReadoutField { background: @window; border: 1px solid transparent; border-radius: 4px; padding: 0; }
 ReadoutField[bezeled="true"], ReadoutField:hover { background: @field; border-color: @border; }
 ReadoutField:focus { background: @field; border-color: @accentMark; }
-ColorWell { min-height: 0; padding: 0; }
+ColorWell, BaseColoredButton, GradientButton { min-height: 0; padding: 0; border: none; }
 
 QComboBox { background: @button; border: 1px solid @border; border-radius: 6px; padding: 3px 8px; min-height: 18px; }
 QComboBox:hover { background: @hover; }

@@ -1,10 +1,13 @@
 #include "platform/foundation/UserDefaults.h"
 
+#include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 
 UserDefaults::UserDefaults()
     : m_settings(std::make_unique<QSettings>(
         QSettings::IniFormat, QSettings::UserScope, QStringLiteral("lumivex"), QStringLiteral("lumivex")))
+    , m_dataFolder(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/lumivex"))
 {
     m_settings->setFallbacksEnabled(false); // no values from files of other programs or of the system
 }
@@ -20,6 +23,7 @@ UserDefaults& UserDefaults::standardUserDefaults()
 void UserDefaults::setFile(const QString& file)
 {
     m_settings = std::make_unique<QSettings>(file, QSettings::IniFormat);
+    m_dataFolder = QFileInfo(file).absolutePath();
 }
 
 QString UserDefaults::file() const { return m_settings->fileName(); }
@@ -29,6 +33,26 @@ QVariant UserDefaults::objectForKey(const QString& key) const { return m_setting
 void UserDefaults::setObjectForKey(const QVariant& value, const QString& key) { m_settings->setValue(key, value); }
 
 void UserDefaults::removeObjectForKey(const QString& key) { m_settings->remove(key); }
+
+QString UserDefaults::recordsFile(const QString& key) const
+{
+    return m_dataFolder + QLatin1Char('/') + key + QStringLiteral(".cbor");
+}
+
+std::optional<StoredRecords> UserDefaults::recordsForKey(const QString& key) const
+{
+    return readStoredRecords(recordsFile(key));
+}
+
+std::optional<StoredData> UserDefaults::storedDataForKey(const QByteArray& bytes, const QString& key) const
+{
+    return storedDataFor(recordsFile(key), bytes);
+}
+
+bool UserDefaults::setRecordsForKey(const StoredRecords& records, const QString& key)
+{
+    return writeStoredRecords(records, recordsFile(key));
+}
 
 bool UserDefaults::synchronize()
 {
