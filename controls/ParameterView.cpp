@@ -2,13 +2,13 @@
 #include "controls/ParameterView.h"
 
 #include "controls/CaptionLabel.h"
-#include "controls/ColorWell.h"
+#include "widgets/ColorWell.h"
 #include "controls/DropImageView.h"
 #include "widgets/PanelCheckBox.h"
 #include "controls/PictureConversion.h"
-#include "controls/ReadoutField.h"
+#include "widgets/ReadoutField.h"
 #include "controls/TextDescription.h"
-#include "controls/ValueSlider.h"
+#include "widgets/ValueSlider.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,8 +1,8 @@
 // Rows of several numbers: vectors, offsets, transforms.
 #include "controls/CaptionLabel.h"
 #include "controls/ParameterView.h"
-#include "controls/ReadoutField.h"
-#include "controls/ValueSlider.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/ValueSlider.h"
 
 #include <cmath>
 #include <iterator>

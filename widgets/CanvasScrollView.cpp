@@ -1,5 +1,6 @@
 #include "widgets/CanvasScrollView.h"
 
+#include "widgets/CustomScroller.h"
 #include "widgets/PictureLayout.h"
 #include "widgets/ZoomedCanvas.h"
 
@@ -13,6 +14,7 @@ CanvasScrollView::CanvasScrollView(QWidget* parent)
     : QAbstractScrollArea(parent)
 {
     setFrameShape(QFrame::NoFrame);
+    CustomScroller::installIn(*this);
 }
 
 CanvasScrollView::~CanvasScrollView() = default;

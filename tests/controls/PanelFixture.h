@@ -2,8 +2,8 @@
 
 #include "controls/FilterView.h"
 #include "controls/ParameterView.h"
-#include "controls/ReadoutField.h"
-#include "controls/ValueSlider.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/ValueSlider.h"
 
 #include <gtest/gtest.h>
 

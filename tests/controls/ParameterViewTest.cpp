@@ -1,7 +1,7 @@
 #include "PanelFixture.h"
 
 #include "controls/CaptionLabel.h"
-#include "controls/ColorWell.h"
+#include "widgets/ColorWell.h"
 #include "controls/DropImageView.h"
 #include "widgets/PanelCheckBox.h"
 #include "controls/PictureConversion.h"

@@ -43,6 +43,11 @@ void writeTiff(const Raster& picture, Depth depth, const std::string& file)
                 ->set("strip", true));
 }
 
+void writePng(const Raster& picture, const std::string& file)
+{
+    quantised(picture, Depth::Eight).pngsave(file.c_str(), VImage::option()->set("compression", 9)->set("strip", true));
+}
+
 void writeJpeg(const Raster& picture, int quality, const std::string& file)
 {
     quantised(picture, Depth::Eight)

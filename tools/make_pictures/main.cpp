@@ -1,5 +1,6 @@
 // Makes the program's pictures: make_pictures FOLDER [name...]; without names, all of them.
 
+#include "tools/make_pictures/Controls.h"
 #include "tools/make_pictures/landscape/Landscape.h"
 #include "tools/make_pictures/PictureFile.h"
 #include "tools/make_pictures/Textures.h"
@@ -17,9 +18,20 @@ struct Product {
     std::function<void(const std::string& file)> make;
 };
 
-const std::vector<Product>& products()
+/// Each at one and at two pixels a point.
+void addControlPictures(std::vector<Product>& products)
 {
-    static const std::vector<Product> kProducts = {
+    for (const ControlPicture& picture : controlPictures())
+        for (int scale : {1, 2}) {
+            const std::string name = picture.name + (scale == 2 ? "@2x.png" : ".png");
+            products.push_back(
+                {name, [&picture, scale](const std::string& file) { writePng(picture.draw(scale), file); }});
+        }
+}
+
+std::vector<Product> products()
+{
+    std::vector<Product> products = {
         {"smoothtexture.tiff", [](const std::string& file) { writeTiff(smoothTexture(), Depth::Sixteen, file); }},
         {"lightball.tiff", [](const std::string& file) { writeTiff(lightBall(), Depth::Eight, file); }},
         {"restrictedshine.tiff", [](const std::string& file) { writeTiff(restrictedShine(), Depth::Eight, file); }},
@@ -28,7 +40,8 @@ const std::vector<Product>& products()
         {"16x16c.tif", [](const std::string& file) { writeTiff(controlPointMarker(), Depth::Eight, file); }},
         {"main_img.jpg", [](const std::string& file) { writeJpeg(landscape(1), 90, file); }},
     };
-    return kProducts;
+    addControlPictures(products);
+    return products;
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "controls/ColorWell.h"
+#include "widgets/ColorWell.h"
 
 #include "platform/foundation/Appearance.h"
 

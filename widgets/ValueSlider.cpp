@@ -1,7 +1,7 @@
-#include "controls/ValueSlider.h"
+#include "widgets/ValueSlider.h"
 
-#include "controls/AccessibleValueSlider.h"
 #include "platform/foundation/Appearance.h"
+#include "widgets/AccessibleValueSlider.h"
 
 #include <algorithm>
 #include <cmath>

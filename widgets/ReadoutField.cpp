@@ -1,4 +1,4 @@
-#include "controls/ReadoutField.h"
+#include "widgets/ReadoutField.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "controls/AccessibleValueSlider.h"
+#include "widgets/AccessibleValueSlider.h"
 
-#include "controls/ValueSlider.h"
+#include "widgets/ValueSlider.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -1,0 +1,150 @@
+#include "platform/foundation/Appearance.h"
+#include "widgets/CustomScroller.h"
+#include "widgets/GradientButton.h"
+#include "widgets/onlyTextClosedButton.h"
+#include "widgets/ResourceImage.h"
+
+#include <gtest/gtest.h>
+#include <QScrollArea>
+#include <QTest>
+
+namespace {
+
+TEST(OnlyTextClosedButton, ShowsItsThumbnailOnTheCardOfItsState)
+{
+    onlyTextClosedButton button;
+    button.setImages("off_button_50", "on_button_50");
+    QImage thumbnail(80, 50, QImage::Format_RGB32);
+    thumbnail.fill(Qt::red);
+    thumbnail.setDevicePixelRatio(2);
+    button.addBackImage(thumbnail);
+    button.resize(51, 50);
+    const auto grab = [&] { return button.grab().toImage(); };
+    const QImage off = grab();
+    const double ratio = off.devicePixelRatio();
+    const auto at = [&](const QImage& image, double x, double y) {
+        return image.pixelColor(int(x * ratio), int(y * ratio));
+    };
+    for (const QPointF inside : {QPointF(7.5, 17.5), QPointF(46.5, 41.5)})
+        EXPECT_EQ(at(off, inside.x(), inside.y()), QColor(Qt::red));
+    for (const QPointF outside : {QPointF(6.5, 30), QPointF(47.5, 30), QPointF(20, 16.5), QPointF(20, 42.5)})
+        EXPECT_NE(at(off, outside.x(), outside.y()), QColor(Qt::red));
+
+    EXPECT_FALSE(button.isSelected());
+    button.setChecked(true);
+    EXPECT_TRUE(button.isSelected());
+    EXPECT_NE(at(grab(), 5, 30), at(off, 5, 30));
+    button.setAllowsMixedState(true);
+    EXPECT_FALSE(button.isSelected());
+    button.setDown(true);
+    EXPECT_TRUE(button.isSelected());
+}
+
+TEST(ResourceImages, AreThereAtOneAndTwoPixelsAPoint)
+{
+    for (const char* name : {"off_button_50", "on_button_50", "off_x", "on_x", "knob_bot", "knob_mid", "knob_top",
+             "scrl_bot", "scrl_mid", "srcl_top", "btn_up", "btn_down", "btn_up_on", "btn_down_on", "off_pointer_down",
+             "off_pointer_up", "on_pointer_down", "on_pointer_up", "down_slider_part", "middle_slider_part",
+             "up_slider_part", "up_round_side", "middle_round_side", "down_round_side"}) {
+        const QPixmap plain = resourceImage(name, 1), fine = resourceImage(name, 2);
+        ASSERT_FALSE(plain.isNull()) << name;
+        EXPECT_EQ(fine.size(), plain.size() * 2) << name;
+        EXPECT_EQ(fine.deviceIndependentSize(), plain.deviceIndependentSize()) << name;
+    }
+}
+
+TEST(GradientButton, IsVioletWhenOnAndDarkerBelowInBothLooks)
+{
+    GradientButton button;
+    button.resize(60, 100);
+    const auto colors = [&](bool on) {
+        const QImage image = button.gradientImage(on);
+        return std::pair{image.pixelColor(5, 0), image.pixelColor(5, image.height() - 1)};
+    };
+    const auto near = [](QColor a, QColor b) {
+        return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2
+            && std::abs(a.blue() - b.blue()) <= 2;
+    };
+    const auto expect = [&](bool on, QColor top) {
+        const auto [first, last] = colors(on);
+        EXPECT_TRUE(near(first, top)) << first.name().toStdString();
+        EXPECT_TRUE(near(last, GradientButton::darkerColorForColor(top))) << last.name().toStdString();
+    };
+    Appearance::shared().setChoice(Appearance::Choice::Light);
+    expect(true, QColor(208, 200, 255));
+    expect(false, QColor(220, 220, 220));
+    Appearance::shared().setChoice(Appearance::Choice::Dark);
+    expect(true, QColor(149, 132, 224));
+    expect(false, QColor(90, 90, 90));
+    Appearance::shared().setChoice(Appearance::Choice::System);
+    EXPECT_EQ(GradientButton::darkerColorForColor(QColor(255, 51, 10, 77)), QColor(204, 0, 0, 77));
+
+    button.setState(true);
+    EXPECT_TRUE(button.isChecked());
+    button.click();
+    EXPECT_FALSE(button.isChecked());
+}
+
+class ScrollerTest : public testing::Test {
+protected:
+    ScrollerTest()
+    {
+        scroller.resize(12, 224);
+        scroller.setRange(0, 300);
+        scroller.setPageStep(100);
+        scroller.setSingleStep(10);
+        scroller.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&scroller));
+    }
+    void press(CustomScroller::Part part)
+    {
+        QTest::mouseClick(&scroller, Qt::LeftButton, {}, scroller.rectForPart(part).center().toPoint());
+    }
+    CustomScroller scroller{Qt::Vertical};
+};
+
+TEST_F(ScrollerTest, ArrowsSlotAndKnobScroll)
+{
+    EXPECT_DOUBLE_EQ(scroller.knobProportion(), 0.25);
+    EXPECT_EQ(scroller.rectForPart(CustomScroller::Part::Knob).height(), 50);
+    press(CustomScroller::Part::IncrementLine);
+    press(CustomScroller::Part::IncrementLine);
+    EXPECT_EQ(scroller.value(), 20);
+    press(CustomScroller::Part::DecrementLine);
+    EXPECT_EQ(scroller.value(), 10);
+    press(CustomScroller::Part::IncrementPage);
+    EXPECT_EQ(scroller.value(), 110);
+    press(CustomScroller::Part::DecrementPage);
+    EXPECT_EQ(scroller.value(), 10);
+
+    scroller.setValue(0);
+    const QPoint knob = scroller.rectForPart(CustomScroller::Part::Knob).center().toPoint();
+    QTest::mousePress(&scroller, Qt::LeftButton, {}, knob);
+    QTest::mouseMove(&scroller, knob + QPoint(0, 75)); // half of what the knob can move
+    EXPECT_EQ(scroller.value(), 150);
+    QTest::mouseMove(&scroller, knob + QPoint(0, 1000));
+    QTest::mouseRelease(&scroller, Qt::LeftButton, {}, knob + QPoint(0, 1000));
+    EXPECT_EQ(scroller.value(), 300);
+    scroller.setFloatValueKnobProportion(0.5f, 0.2f);
+    EXPECT_NEAR(scroller.knobProportion(), 0.2, 1e-3);
+    EXPECT_EQ(scroller.value(), scroller.maximum() / 2);
+}
+
+TEST_F(ScrollerTest, ShowsOnlyItsGroundWhenThereIsNothingToScroll)
+{
+    const auto colors = [this] {
+        const QImage image = scroller.grab().toImage();
+        QSet<QRgb> found;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                found.insert(image.pixel(x, y));
+        return found.size();
+    };
+    EXPECT_GT(colors(), 3);
+    scroller.setRange(0, 0);
+    EXPECT_EQ(colors(), 1);
+    EXPECT_EQ(scroller.partAt({6, 100}), CustomScroller::Part::None);
+    EXPECT_EQ(CustomScroller::scrollerWidth(), 12);
+}
+
+} // namespace

@@ -1,0 +1,164 @@
+#include "widgets/DocPageControl.h"
+#include "widgets/FavouritesMaster.h"
+#include "widgets/onlyTextClosedButton.h"
+
+#include <gtest/gtest.h>
+#include <QPointer>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+class StripTest : public testing::Test {
+protected:
+    StripTest()
+    {
+        strip.setFixedWidth(40 + 3 * 51 + 10); // the two step buttons, three items and a bit
+        strip.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&strip));
+    }
+    onlyTextClosedButton* add(QAbstractButton* selected = nullptr)
+    {
+        auto* item = new onlyTextClosedButton;
+        strip.addItem(item, selected);
+        return item;
+    }
+    void waitUntilStill()
+    {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !strip.isMoving(); }, 2000));
+    }
+    bool showsSteps(bool previous, bool next) const
+    {
+        return strip.previousButton()->isVisible() == previous && strip.nextButton()->isVisible() == next;
+    }
+
+    DocPageControl strip;
+};
+
+TEST_F(StripTest, ItemsStandSideBySideNextToTheSelectedOne)
+{
+    EXPECT_TRUE(showsSteps(false, false));
+    QAbstractButton* first = add();
+    QAbstractButton* second = add();
+    EXPECT_FALSE(first->isChecked() || second->isChecked());
+    first->setChecked(true);
+    QAbstractButton* between = add(first);
+    EXPECT_EQ(strip.items(), (QList<QAbstractButton*>{first, between, second}));
+    EXPECT_FALSE(first->isChecked());
+    EXPECT_TRUE(between->isChecked());
+    EXPECT_EQ(between->x(), 51);
+    EXPECT_EQ(second->x(), 102);
+    EXPECT_TRUE(showsSteps(false, false)) << "all of them fit";
+
+    strip.removeItem(between);
+    EXPECT_EQ(second->x(), 51);
+    strip.removeItem(first);
+    strip.removeItem(second);
+    EXPECT_EQ(strip.pageCount(), 0);
+    EXPECT_TRUE(showsSteps(false, false));
+}
+
+TEST_F(StripTest, NewItemsComeIntoViewAndStepsSwingToTheNext)
+{
+    for (int i = 0; i < 5; ++i)
+        add();
+    EXPECT_EQ(strip.visibleOrigin(), 2 * 51) << "the last three";
+    EXPECT_TRUE(showsSteps(true, false));
+
+    double least = 1000;
+    QTest::mouseClick(strip.previousButton(), Qt::LeftButton);
+    while (strip.isMoving()) {
+        least = std::min(least, strip.visibleOrigin());
+        QTest::qWait(5);
+    }
+    EXPECT_EQ(strip.visibleOrigin(), 51);
+    EXPECT_LT(least, 51) << "beyond, and back";
+    strip.stepPrev();
+    strip.stepPrev(); // the first one settles at once
+    waitUntilStill();
+    EXPECT_EQ(strip.visibleOrigin(), 0);
+    EXPECT_TRUE(showsSteps(false, true));
+    strip.adjustVisibility(3);
+    waitUntilStill();
+    EXPECT_EQ(strip.visibleOrigin(), 51);
+
+    strip.setFixedWidth(40 + 51); // one item
+    EXPECT_EQ(strip.maxShownPage() - strip.currentPage(), 1);
+    strip.stepNext();
+    waitUntilStill();
+    EXPECT_EQ(strip.visibleOrigin(), 2 * 51);
+    strip.setFixedWidth(600);
+    EXPECT_EQ(strip.visibleOrigin(), 0) << "no place stays empty";
+    EXPECT_TRUE(showsSteps(false, false));
+    strip.clear();
+    EXPECT_TRUE(strip.items().isEmpty());
+}
+
+TEST_F(StripTest, KeysWalkOverTheItemsAndBringThemIntoView)
+{
+    strip.setFixedWidth(40 + 2 * 51);
+    QList<onlyTextClosedButton*> items;
+    for (int i = 0; i < 5; ++i)
+        items.append(add());
+    const auto press = [this](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        waitUntilStill();
+    };
+    strip.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&strip));
+    items[0]->setFocus();
+    press(Qt::Key_End);
+    EXPECT_TRUE(items[4]->hasFocus());
+    EXPECT_EQ(strip.visibleOrigin(), 3 * 51);
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    EXPECT_TRUE(items[2]->hasFocus());
+    EXPECT_EQ(strip.visibleOrigin(), 2 * 51);
+    EXPECT_TRUE(items[2]->focusPolicy() & Qt::TabFocus);
+    EXPECT_FALSE(items[4]->focusPolicy() & Qt::TabFocus) << "one stop for all";
+    int clicks = 0;
+    QObject::connect(items[2], &QAbstractButton::clicked, &strip, [&] { ++clicks; });
+    press(Qt::Key_Space);
+    press(Qt::Key_Return);
+    EXPECT_EQ(clicks, 2);
+    EXPECT_FALSE(items[2]->isChecked()) << "who switches it is not the button";
+}
+
+struct FakeMaster : FavouritesMaster {
+    unsigned mode = 0;
+    QList<QPair<int, onlyTextClosedButton*>> removed;
+
+    unsigned filerMode() const override { return mode; }
+    void removeFavorites(onlyTextClosedButton* sender) override { removed.append({0, sender}); }
+    void removeFavorites3D(onlyTextClosedButton* sender) override { removed.append({1, sender}); }
+    void removeFavoritesCustom(onlyTextClosedButton* sender) override { removed.append({2, sender}); }
+};
+
+TEST_F(StripTest, CloseBoxAndDeleteRemoveFromTheListOfTheMode)
+{
+    FakeMaster master;
+    onlyTextClosedButton* item = add();
+    item->setController(&master);
+    item->addCloseBtn();
+    item->addCloseBtn();
+    EXPECT_EQ(item->findChildren<BaseColoredButton*>().size(), 1);
+    EXPECT_EQ(item->closeButton()->geometry(), QRect(item->width() - 20, 2, 14, 14));
+    EXPECT_FALSE(item->closeButton()->isVisible());
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(item, &enter);
+    EXPECT_TRUE(item->closeButton()->isVisible());
+    for (unsigned mode = 0; mode < 4; ++mode) {
+        master.mode = mode;
+        QTest::mouseClick(item->closeButton(), Qt::LeftButton);
+    }
+    EXPECT_EQ(master.removed, (QList<QPair<int, onlyTextClosedButton*>>{{0, item}, {1, item}, {2, item}}));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(item, &leave);
+    EXPECT_FALSE(item->closeButton()->isVisible());
+    master.mode = 1;
+    QTest::keyClick(item, Qt::Key_Delete);
+    EXPECT_EQ(master.removed.last().first, 1);
+    EXPECT_EQ(master.removed.size(), 4);
+}
+
+} // namespace
