@@ -4,16 +4,19 @@
 #include "app/DataSource.h"
 #include "app/DefaultImages.h"
 #include "app/EffectList.h"
+#include "app/FavouritesStore.h"
 #include "app/OutlineModel.h"
 #include "app/PictureFormats.h"
 #include "controls/ImageViewMaster.h"
 #include "controls/ParameterMaster.h"
+#include "effects2d/CustomViewMaster.h"
 #include "effects2d/EffectMaster.h"
 #include "effects3d/OGLViewMaster.h"
 #include "files/ResizePanel.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
 #include "platform/imageio/Result.h"
+#include "widgets/FavouritesMaster.h"
 
 #include <QObject>
 #include <QPointer>
@@ -25,7 +28,9 @@
 #include <vector>
 
 class CatalogueSearch;
+class DocPageControl;
 class FilterView;
+class GradientButton;
 class MainWindow;
 class MyImageView;
 class MyOGLView;
@@ -35,6 +40,8 @@ class QAction;
 class QLabel;
 class QSlider;
 class QStackedWidget;
+class ZoomedCanvas;
+class customEffImageView;
 
 namespace Ui {
 class MainWindow;
@@ -49,7 +56,9 @@ class Controller : public QObject,
                    public ParameterMaster,
                    public EffectMaster,
                    public OGLViewMaster,
-                   public ResizeMaster {
+                   public CustomViewMaster,
+                   public ResizeMaster,
+                   public FavouritesMaster {
     Q_OBJECT
 
 public:
@@ -67,7 +76,7 @@ public:
     void awakeFromNib();
 
     // Modes: ControllerModes.cpp
-    unsigned filerMode() const;
+    unsigned filerMode() const override;
     /// The pressed button may be on already; the others are switched off here.
     void changeFilterMode(QAbstractButton* sender);
     void selectMenuMode(const QAction* sender); // by the item's tag: 1, 2, 3
@@ -160,6 +169,15 @@ public:
     /// What the 3D view shows of the current effect, in the screen's pixels; null without one.
     CIImage result3D();
 
+    // Custom mode: ControllerCustom.cpp
+    BaseEffect* getCurrentCustomEffect() override { return currentCustomEffect.get(); }
+    void outlineViewSelectionDidChange_Custom(const OutlineItem* item);
+    /// The current effect's finished picture at full size; null without one.
+    CIImage resultCustom();
+    void addFavoritesCustom();
+    /// Its undo asks `filterChanged3D` for the previous one, which in this mode finds nothing or clears the effect.
+    void filterChangedCustom(onlyTextClosedButton* sender);
+
     // Files: ControllerFiles.cpp
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files);
@@ -205,6 +223,28 @@ public:
     };
     /// Leaves the description as it is for a null bitmap.
     static void getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& description);
+
+    // Favourites: ControllerFavourites.cpp
+    /// Adds the current item of the current mode.
+    void addFavourite();
+    /// Removes the one that is switched on in the current mode.
+    void removeSelectedFavourite();
+    void addFavorites();
+    void addFavorites3D();
+    /// A favourite was pressed, or nothing is to be shown (null).
+    void filterChanged(onlyTextClosedButton* sender);
+    void filterChanged3D(onlyTextClosedButton* sender);
+    void removeFavorites(onlyTextClosedButton* sender) override;
+    void removeFavorites3D(onlyTextClosedButton* sender) override;
+    void removeFavoritesCustom(onlyTextClosedButton* sender) override;
+    void saveFavorites();
+    void readFavorites();
+    void saveFavoritesCI() { m_favorites.save(); }
+    void readFavoritesCI() { m_favorites.read(); }
+    void saveFavorites3D() { m_favorites3D.save(); }
+    void readFavorites3D() { m_favorites3D.read(); }
+    void saveFavoritesCustom() { m_favoritesCustom.save(); }
+    void readFavoritesCustom() { m_favoritesCustom.read(); }
 
     // Buttons, menus and views: ControllerMenus.cpp
     void updateView() override;
@@ -252,10 +292,16 @@ private:
     std::vector<std::shared_ptr<BaseEffect>> effects3D();
     void connect3D();
     void setCurrent3DEffect(const std::shared_ptr<BaseEffect>& effect);
-    void clearAll3D();
     void updateView3D();
     void show3DEffectName();
     void apply3D();
+    std::vector<std::shared_ptr<BaseEffect>> effectsCustom();
+    void connectCustom();
+    void setCurrentCustomEffect(const std::shared_ptr<BaseEffect>& effect);
+    void showCustomEffectName();
+    void applyCustom();
+    ZoomedCanvas* zoomedView() const;
+    void showZoom();
     void updatePictureInfo();
     void showMessage(const QString& text);
     double chosenResolution() const;
@@ -268,6 +314,14 @@ private:
     void setWasChanged(bool changed);
     void replacePicture(const CIImage& image, const QString& actionName);
     void showPanel(QWidget& panel);
+    void switchOff(QPointer<onlyTextClosedButton>& button);
+    void removeFavourite(
+        FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender);
+    QPointer<onlyTextClosedButton>& selectedFavourite();
+    void chooseEffectFavourite(
+        FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender);
+    void setCurrentEffect(const std::shared_ptr<BaseEffect>& effect);
+    void deselectLists();
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
@@ -277,13 +331,15 @@ private:
     std::shared_ptr<CIContext> m_context;
 
     // The interface, by the names under which it is known.
-    OutlineView *listView, *filter3DOutlineView;
-    QAbstractButton *standardBtn, *threeDBtn, *customBtn;
-    QStackedWidget *filterTabView, *mainTabView; // the page's index is the filter mode
+    OutlineView *listView, *filter3DOutlineView, *filterCustomOutlineView;
+    GradientButton *standardBtn, *threeDBtn, *customBtn;
+    QStackedWidget *filterTabView, *favoritesTabView, *mainTabView; // the page's index is the filter mode
+    DocPageControl *m_pageController, *m_page3DController, *m_pageCustomController;
     QSlider* zoomSlider;
     QWidget* zoomSuperView;
     MyImageView* ciView;
     MyOGLView* openGLView;
+    customEffImageView* customEffectsView;
     QWidget* placeCntrlView;
     QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
@@ -297,6 +353,14 @@ private:
     EffectList m_effects3D;
     OutlineModel m_list3D;
     DefaultImage texture, shadingemap, alphaemap, ramp, mask;
+    std::shared_ptr<BaseEffect> currentCustomEffect; // always a copy of one of the prototypes
+    std::shared_ptr<BaseEffect> m_simpleEffect, m_lineEffect, m_hilbertEffect, m_patchWorkEffect, m_flareEffect,
+        m_plasmaEffect, m_pMorphingEffect, m_sketchEffect;
+    EffectList m_effectsCustom;
+    OutlineModel m_listCustom;
+    FavouritesStore m_favorites, m_favorites3D, m_favoritesCustom;
+    // The buttons that are shown as selected
+    QPointer<onlyTextClosedButton> m_selectes_FavBtn, m_selectes_FavBtn3D, m_selectes_FavBtnCustom;
     QString _filePath;
     bool m_wasChanged = false;
     bool needsUpdate = false;

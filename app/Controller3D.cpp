@@ -8,8 +8,6 @@
 #include "effects3d/ThreeDStage.h"
 #include "ui_MainWindow.h"
 
-#include <QScopedValueRollback>
-
 namespace {
 
 /// The picture's pixels, in memory shared with it.
@@ -63,15 +61,9 @@ void Controller::outlineViewSelectionDidChange_3D(const OutlineItem* item)
 {
     const auto* row = dynamic_cast<const EffectRow*>(item);
     setCurrent3DEffect(row ? row->effect->mycopy() : nullptr);
+    switchOff(m_selectes_FavBtn3D);
     if (row)
         m_wasChanged = true;
-}
-
-void Controller::clearAll3D()
-{
-    setCurrent3DEffect({});
-    const QScopedValueRollback ours(m_selectionIsOurs, true);
-    filter3DOutlineView->deselectAll();
 }
 
 void Controller::updateView3D()

@@ -5,6 +5,7 @@
 #include "app/ZoomScale.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
 #include "files/PictureLimits.h"
 #include "files/PlainPicture.h"
 #include "platform/coreimage/passes/Resample.h"
@@ -33,8 +34,22 @@ void Controller::connectZoom()
     zoomSlider->setSingleStep(int(0.1f * kSliderSteps));
     zoomSlider->setPageStep(int(kSliderSteps));
     connect(zoomSlider, &QSlider::valueChanged, this, &Controller::zoomChanged);
-    connect(ciView, &MyImageView::layoutChanged, this,
-        [this] { ui.zoomField->setText(tr("%1 %").arg(std::lround(ciView->getZoom() * 100))); });
+    for (ZoomedCanvas* view : {static_cast<ZoomedCanvas*>(ciView), static_cast<ZoomedCanvas*>(customEffectsView)})
+        connect(view, &ZoomedCanvas::layoutChanged, this, &Controller::showZoom);
+}
+
+/// The one of the current mode, which isn't 3D.
+ZoomedCanvas* Controller::zoomedView() const
+{
+    if (filerMode() == Custom)
+        return customEffectsView;
+    return ciView;
+}
+
+void Controller::showZoom()
+{
+    if (filerMode() != ThreeD)
+        ui.zoomField->setText(tr("%1 %").arg(std::lround(zoomedView()->getZoom() * 100)));
 }
 
 void Controller::rotateImage(bool left)
@@ -135,16 +150,16 @@ void Controller::paste()
         m_readFailure = QString::fromStdString(read.message());
     }
     setBackgroundImage(image);
-    if (filerMode() == Standard)
-        setZoom(ciView->getZoom());
+    if (filerMode() != ThreeD)
+        setZoom(zoomedView()->getZoom());
 }
 
 void Controller::undoPaste(const CIImage& image)
 {
     registerUndoPaste();
     setBackgroundImage(image);
-    if (filerMode() == Standard)
-        setZoom(ciView->getZoom());
+    if (filerMode() != ThreeD)
+        setZoom(zoomedView()->getZoom());
 }
 
 void Controller::fitZoom()
@@ -155,12 +170,13 @@ void Controller::fitZoom()
     const float zoom = zoomThatFits(extent.width, extent.height, area.width() - scroller, area.height() - scroller);
     setZoom(zoom);
     ciView->setZoom(zoom);
+    customEffectsView->setZoom(zoom);
 }
 
 void Controller::zoomChanged()
 {
-    if (filerMode() == Standard)
-        ciView->setZoom(zoomOfSliderPosition(float(zoomSlider->value()) / kSliderSteps));
+    if (filerMode() != ThreeD)
+        zoomedView()->setZoom(zoomOfSliderPosition(float(zoomSlider->value()) / kSliderSteps));
     updateView();
 }
 
@@ -173,9 +189,9 @@ void Controller::setZoom(float zoom)
 
 void Controller::updateZoommWithDelta(double delta)
 {
-    if (filerMode() != Standard)
+    if (filerMode() == ThreeD)
         return;
-    const double zoom = double(ciView->getZoom()) + delta;
+    const double zoom = double(zoomedView()->getZoom()) + delta;
     if (zoom == kNoZoom)
         return;
     zoomTo(float(zoom));
@@ -187,9 +203,9 @@ void Controller::zoomTo(float zoom)
     zoomChanged();
 }
 
-void Controller::zoomIn() { zoomTo(zoomAfterWheelStep(ciView->getZoom(), 1)); }
+void Controller::zoomIn() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), 1)); }
 
-void Controller::zoomOut() { zoomTo(zoomAfterWheelStep(ciView->getZoom(), -1)); }
+void Controller::zoomOut() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), -1)); }
 
 void Controller::zoomToFit()
 {

@@ -35,8 +35,9 @@ void Controller::setBackgroundImage(const CIImage& image)
     m_pictureFormat = m_formats.formatOf(image, m_pictureFormat); // an edited picture is as deep as it was
     m_formats.remember(image, m_pictureFormat);
     fitZoom();
-    if (current3DEffect)
-        current3DEffect->reloadImage();
+    for (const std::shared_ptr<BaseEffect>& effect : {currentCustomEffect, current3DEffect})
+        if (effect)
+            effect->reloadImage();
     updatePictureInfo();
     ResizePanel::setWHH(float(image.extent().width), float(image.extent().height));
     updateView();
@@ -138,6 +139,8 @@ void Controller::applyBtn()
         }
     } else if (filerMode() == ThreeD) {
         apply3D();
+    } else {
+        applyCustom();
     }
     clearAllAndUpdate();
 }

@@ -3,10 +3,12 @@
 #include "app/MainWindow.h"
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
+#include "effects2d/customEffImageView.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "ui_MainWindow.h"
+#include "widgets/GradientButton.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>
@@ -16,7 +18,7 @@ void Controller::connectInterface()
     connectActions();
     connectLists();
     connectZoom();
-    for (QAbstractButton* button : {standardBtn, threeDBtn, customBtn})
+    for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
         connect(button, &QAbstractButton::clicked, this, [this, button] { changeFilterMode(button); });
     connect(ui.applyBtn, &QAbstractButton::clicked, this, &Controller::applyBtn);
     connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
@@ -43,6 +45,8 @@ void Controller::connectActions()
     connect(ui.actionResize, &QAction::triggered, this, [this] { showPanel(*m_resizePanel); });
     on(ui.actionApply, &Controller::applyBtn);
     on(ui.actionClearEffect, &Controller::escapeEffect);
+    on(ui.actionAddFavourite, &Controller::addFavourite);
+    on(ui.actionRemoveFavourite, &Controller::removeSelectedFavourite);
     on(ui.actionZoomIn, &Controller::zoomIn);
     on(ui.actionZoomOut, &Controller::zoomOut);
     on(ui.actionFit, &Controller::zoomToFit);
@@ -77,6 +81,8 @@ void Controller::updateView()
         ciView->setNeedsDisplay();
     else if (filerMode() == ThreeD)
         updateView3D();
+    else
+        customEffectsView->redraw();
 }
 
 void Controller::updateLayout()
@@ -111,8 +117,10 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionPaste) {
         enabled = Pasteboard::generalPasteboard().offersTIFF();
         pasteBtn->setEnabled(enabled);
-    } else if (&item == ui.actionClearEffect || &item == ui.actionApply) {
+    } else if (&item == ui.actionClearEffect || &item == ui.actionApply || &item == ui.actionAddFavourite) {
         enabled = hasCurrentItem();
+    } else if (&item == ui.actionRemoveFavourite) {
+        enabled = selectedFavourite() && selectedFavourite()->isChecked();
     } else if (&item == ui.actionStandard || &item == ui.action3D || &item == ui.actionCustom) {
         item.setChecked(item.data().toUInt() - 1 == filerMode());
     } else if (&item == ui.actionFollowDesktop || &item == ui.actionLight || &item == ui.actionDark) {

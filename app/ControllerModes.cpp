@@ -4,6 +4,7 @@
 #include "controls/MyImageView.h"
 #include "platform/foundation/Appearance.h"
 #include "ui_MainWindow.h"
+#include "widgets/GradientButton.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -25,11 +26,12 @@ void Controller::changeFilterMode(QAbstractButton* sender)
         previous = threeDBtn;
     else if (customBtn->isChecked() && sender != customBtn)
         previous = customBtn;
-    for (QAbstractButton* button : {standardBtn, threeDBtn, customBtn})
-        button->setChecked(button == sender);
+    for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
+        button->setState(button == sender);
     m_undoManager.removeAllActionsWithTarget(this);
-    if (current3DEffect)
-        m_undoManager.removeAllActionsWithTarget(current3DEffect.get());
+    for (const std::shared_ptr<BaseEffect>& effect : {current3DEffect, currentCustomEffect})
+        if (effect)
+            m_undoManager.removeAllActionsWithTarget(effect.get());
     adjustViewsAndTabs();
     m_undoManager.registerUndoWithTarget(this, [this, previous] { changeFilterMode(previous); });
     updateMainBtnState();
@@ -56,40 +58,74 @@ void Controller::adjustViewsAndTabs()
 {
     const unsigned mode = filerMode();
     filterTabView->setCurrentIndex(int(mode));
+    favoritesTabView->setCurrentIndex(int(mode));
     mainTabView->setCurrentIndex(int(mode));
     zoomSlider->setEnabled(mode != ThreeD);
     zoomSuperView->setVisible(mode != ThreeD);
     placeCntrlView->setVisible(mode == Standard);
     ui.place3DCntrlView->setVisible(mode == ThreeD);
+    ui.placeCustomCntrlView->setVisible(mode == Custom);
     showFilterName(currentFilter && mode == Standard);
     if (mode == ThreeD)
         updateView3D();
-    if (mode == Standard) {
-        const float zoom = ciView->getZoom();
-        ciView->setZoom(zoom);
+    else {
+        const float zoom = zoomedView()->getZoom();
+        zoomedView()->setZoom(zoom);
         setZoom(zoom);
+        showZoom();
     }
 }
 
 bool Controller::hasCurrentItem() const
 {
-    const unsigned mode = filerMode();
-    return (mode == Standard && currentFilter) || (mode == ThreeD && current3DEffect);
+    switch (filerMode()) {
+    case ThreeD:
+        return current3DEffect != nullptr;
+    case Custom:
+        return currentCustomEffect != nullptr;
+    default:
+        return currentFilter != nullptr;
+    }
 }
 
 void Controller::escapeEffect() { clearAllAndUpdate(); }
 
-void Controller::clearAll()
+/// Of the current mode, which is that of 3D effects or of generated ones.
+void Controller::setCurrentEffect(const std::shared_ptr<BaseEffect>& effect)
 {
     if (filerMode() == ThreeD)
-        clearAll3D();
-    if (filerMode() != Standard)
-        return;
-    clearControls();
-    currentFilter.reset();
-    m_chosenRow = nullptr;
+        setCurrent3DEffect(effect);
+    else
+        setCurrentCustomEffect(effect);
+}
+
+/// In the list of the current mode.
+void Controller::deselectLists()
+{
     const QScopedValueRollback ours(m_selectionIsOurs, true);
-    listView->deselectAll();
+    switch (filerMode()) {
+    case ThreeD:
+        filter3DOutlineView->deselectAll();
+        break;
+    case Custom:
+        filterCustomOutlineView->deselectAll();
+        break;
+    default:
+        m_chosenRow = nullptr;
+        listView->deselectAll();
+    }
+}
+
+void Controller::clearAll()
+{
+    if (filerMode() == Standard) {
+        clearControls();
+        currentFilter.reset();
+    } else {
+        setCurrentEffect({});
+    }
+    switchOff(selectedFavourite());
+    deselectLists();
 }
 
 void Controller::clearAllAndUpdate()
@@ -101,9 +137,8 @@ void Controller::clearAllAndUpdate()
 
 void Controller::onAppearanceChanged()
 {
-    for (QAbstractButton* button : {standardBtn, threeDBtn, customBtn}) {
-        button->setChecked(button->isChecked());
-        button->update();
+    for (GradientButton* button : {standardBtn, threeDBtn, customBtn}) {
+        button->setState(button->isChecked());
     }
     if (m_panel)
         m_panel->setBorderColor(Appearance::shared().look().separator);

@@ -79,6 +79,8 @@ void Controller::showFilterName(bool shown)
 {
     if (filerMode() == ThreeD)
         return show3DEffectName();
+    if (filerMode() == Custom)
+        return showCustomEffectName();
     if (currentFilter)
         ui.filterNameField->setText(QString::fromStdString(currentFilter->displayName()));
     ui.filterNameField->setVisible(shown);

@@ -18,6 +18,7 @@ void Controller::connectLists()
     connect(listView, &OutlineView::groupClicked, this,
         [this](const OutlineItem* group) { outlineViewSelectionDidChange(*listView, group); });
     connect3D();
+    connectCustom();
     connect(ui.searchField, &QLineEdit::textChanged, this, &Controller::searchFilters);
     connect(ui.searchField, &QLineEdit::returnPressed, this, &Controller::takeFirstMatch);
 }
@@ -29,6 +30,8 @@ void Controller::outlineViewSelectionDidChange(OutlineView& outlineView, const O
         outlineViewSelectionDidChange_CIF(outlineView, item);
     else if (filerMode() == ThreeD)
         outlineViewSelectionDidChange_3D(item);
+    else
+        outlineViewSelectionDidChange_Custom(item);
     updateMainBtnState();
     updateView();
 }
@@ -42,6 +45,7 @@ void Controller::outlineViewSelectionDidChange_CIF(OutlineView& outlineView, con
         addFilterIndex(row->className, 111);
         m_chosenRow = row;
         updateView();
+        switchOff(m_selectes_FavBtn);
         m_wasChanged = true;
     } else {
         if (m_dataSource.outlineViewIsItemExpandable(item))

@@ -4,6 +4,7 @@
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
 #include "platform/coreimage/CIPlugIn.h"
@@ -11,6 +12,8 @@
 #include "platform/foundation/ResourcePaths.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
+#include "widgets/DocPageControl.h"
+#include "widgets/GradientButton.h"
 
 namespace {
 
@@ -27,23 +30,39 @@ Controller::Controller(MainWindow& window)
     , m_context(std::make_shared<CIContext>())
     , listView(ui.listView)
     , filter3DOutlineView(ui.filter3DOutlineView)
+    , filterCustomOutlineView(ui.filterCustomOutlineView)
     , standardBtn(ui.standardBtn)
     , threeDBtn(ui.threeDBtn)
     , customBtn(ui.customBtn)
     , filterTabView(ui.filterTabView)
+    , favoritesTabView(ui.favoritesTabView)
     , mainTabView(ui.mainTabView)
+    , m_pageController(ui.m_pageController)
+    , m_page3DController(ui.m_page3DController)
+    , m_pageCustomController(ui.m_pageCustomController)
     , zoomSlider(ui.zoomSlider)
     , zoomSuperView(ui.zoomSuperView)
     , ciView(ui.pictureScrollView->imageView())
     , openGLView(ui.openGLStage->openGLView())
+    , customEffectsView(ui.customEffectsScrollView->imageView())
     , placeCntrlView(ui.placeCntrlView)
     , pasteBtn(ui.pasteBtn)
     , contentMenuOutlet(window.contextMenu())
     , m_effects3D(effects3D())
     , m_list3D(m_effects3D, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
+    , m_effectsCustom(effectsCustom())
+    , m_listCustom(m_effectsCustom, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
+    , m_favorites({QStringLiteral("EffectsFavorites"), nullptr, [this](auto* button) { filterChanged(button); }},
+          *m_pageController, *this)
+    , m_favorites3D({QStringLiteral("3DEffectsFavorites"), &m_effects3D.prototypes(),
+                        [this](auto* button) { filterChanged3D(button); }},
+          *m_page3DController, *this)
+    , m_favoritesCustom({QStringLiteral("CustomEffectsFavorites"), &m_effectsCustom.prototypes(),
+                            [this](auto* button) { filterChangedCustom(button); }},
+          *m_pageCustomController, *this)
     , m_search(new CatalogueSearch(this))
 {
-    standardBtn->setChecked(true);
+    standardBtn->setState(true);
     m_messageEnd.setSingleShot(true);
     connect(&m_messageEnd, &QTimer::timeout, this, &Controller::updatePictureInfo);
     ciView->setContext(m_context);
@@ -57,6 +76,7 @@ Controller::~Controller()
     m_window.setController(nullptr);
     ciView->setController(nullptr);
     openGLView->setController(nullptr);
+    customEffectsView->setController(nullptr);
     quitAfterSave = false;
     if (theController == this)
         theController = nullptr;
@@ -74,8 +94,10 @@ void Controller::awakeFromNib()
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();
     initExportFormats();
+    readFavorites();
     listView->deselectAll();
     filter3DOutlineView->deselectAll();
+    filterCustomOutlineView->deselectAll();
     theController = this;
     EffectMaster::setMainController(this);
     setFilePath({});

@@ -1,19 +1,28 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "controls/MyImageView.h"
+#include "effects2d/customEffImageView.h"
 #include "platform/foundation/Pasteboard.h"
 #include "widgets/AlertPanel.h"
 #include "widgets/BackgroundWork.h"
+#include "widgets/DocPageControl.h"
 
 #include <QApplication>
 #include <QSessionManager>
 
 void Controller::windowWillClose()
 {
+    saveFavorites();
     applicationWillTerminate(); // the program ends with its window
 }
 
-void Controller::windowDidResize() { ciView->resizeViewBoundCenter(true, 3); }
+void Controller::windowDidResize()
+{
+    for (DocPageControl* strip : {m_pageController, m_page3DController, m_pageCustomController})
+        strip->liveResizeDone();
+    ciView->resizeViewBoundCenter(true, 3);
+    customEffectsView->resizeViewBoundCenter(true, 3);
+}
 
 void Controller::windowDidUpdate()
 {
@@ -78,6 +87,7 @@ void Controller::terminate()
 {
     if (applicationShouldTerminate() == TerminateReply::Cancel)
         return;
+    saveFavorites(); // the window closes with the program, though nobody tells it
     applicationWillTerminate();
     QCoreApplication::exit(); // quit() would ask the window once more, and it refuses while there are changes
 }

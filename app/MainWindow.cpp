@@ -4,11 +4,13 @@
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
 #include "ui_MainWindow.h"
+#include "widgets/CustomScroller.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -45,6 +47,9 @@ void MainWindow::setLayout()
     QSizePolicy zoomPolicy = ui->zoomSuperView->sizePolicy();
     zoomPolicy.setRetainSizeWhenHidden(true); // or the picture would move when the mode changes
     ui->zoomSuperView->setSizePolicy(zoomPolicy);
+    for (QTreeView* list : {ui->listView, ui->filter3DOutlineView, ui->filterCustomOutlineView})
+        CustomScroller::installIn(*list);
+    CustomScroller::installIn(*ui->controlScrollArea);
     ui->searchField->installEventFilter(this);
     connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
         ui->searchField->setFocus(Qt::ShortcutFocusReason);
@@ -73,6 +78,7 @@ void MainWindow::setIcons()
         {ui->actionZoomOut, "zoom-out"},
         {ui->actionActualSize, "actual-size"},
         {ui->actionFit, "fit"},
+        {ui->actionAddFavourite, "favourite-add"},
     };
     for (const auto& [action, name] : icons) {
         action->setIcon(tintedIcon(QLatin1String(name)));
@@ -103,6 +109,8 @@ void MainWindow::setShortcuts()
         {ui->actionFlipVert, {Qt::CTRL | Qt::SHIFT | Qt::Key_V}},
         {ui->actionResize, {Qt::CTRL | Qt::ALT | Qt::Key_I}},
         {ui->actionPaste, {Qt::CTRL | Qt::Key_V}},
+        {ui->actionAddFavourite, {Qt::CTRL | Qt::Key_D}},
+        {ui->actionRemoveFavourite, {Qt::CTRL | Qt::SHIFT | Qt::Key_D}},
         {ui->actionFindFilter, {Qt::CTRL | Qt::Key_F}},
         {ui->actionApply, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
         {ui->actionClearEffect, {Qt::Key_Escape}},
@@ -140,6 +148,7 @@ void MainWindow::setButtons()
         {ui->pasteBtn, ui->actionPaste},
         {ui->fitBtn, ui->actionFit},
         {ui->actualSizeBtn, ui->actionActualSize},
+        {ui->addFavouriteBtn, ui->actionAddFavourite},
     };
     for (const auto& [button, action] : buttons) {
         const QString tip = button->toolTip();
@@ -155,29 +164,29 @@ void MainWindow::dress()
     const Look& look = Appearance::shared().look();
     const auto sheet = [](const char* rule, auto... colors) { return QString::fromLatin1(rule).arg(colors.name()...); };
     ui->toolRow->setStyleSheet(sheet("#toolRow { background: %1; border: none; border-bottom: 1px solid %2; }"
-                                     "#modeGroup { background: %3; border: 1px solid %2; border-radius: 8px; }"
-                                     "#modeGroup QToolButton { padding: 3px 2px 3px 6px; }",
+                                     "#modeGroup { background: %3; border: 1px solid %2; border-radius: 8px; }",
         look.window, look.separator, look.panel));
     ui->statusRow->setStyleSheet(sheet("#statusRow { background: %1; border: none; border-top: 1px solid %2; }"
                                        "QLabel { color: %3; }",
         look.window, look.separator, look.secondaryText));
     for (QWidget* panel : {ui->sideBar, ui->controlPanel})
         panel->setStyleSheet(sheet("#sideBar, #controlPanel, #controlPages, #placeCntrlView, #place3DCntrlView, "
+                                   "#placeCustomCntrlView, "
                                    "QScrollArea { background: %1; }"
                                    "#filterNameField { color: %2; font-weight: 600; padding: 12px 16px; }"
                                    "#filterNameLine { background: %3; }"
-                                   "#filterHintField, #filterCustomNote { color: %4; }"
-                                   "#filterHintField { padding: 12px 16px; }",
+                                   "#filterHintField { color: %4; }"
+                                   "#filterHintField { padding: 12px 16px; }"
+                                   "#favouritesRow { background: %1; border: none; border-top: 1px solid %3; }",
             look.panel, look.text, look.separator, look.secondaryText));
-    ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }"
-                                         "#openGLNote, #customEffNote { color: %2; }",
-        look.surround, look.secondaryText));
+    ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }", look.surround));
 }
 
 void MainWindow::focusNextPane()
 {
-    const std::array<QWidget*, 6> panes{ui->listView, ui->filter3DOutlineView, ui->pictureScrollView->viewport(),
-        ui->openGLStage->openGLView(), ui->controlScrollArea, ui->zoomSlider};
+    const std::array<QWidget*, 8> panes{ui->listView, ui->filter3DOutlineView, ui->filterCustomOutlineView,
+        ui->pictureScrollView->viewport(), ui->openGLStage->openGLView(), ui->customEffectsScrollView->viewport(),
+        ui->controlScrollArea, ui->zoomSlider};
     std::size_t current = panes.size() - 1;
     for (std::size_t i = 0; i < panes.size(); ++i)
         if (panes[i]->hasFocus() || panes[i]->isAncestorOf(focusWidget()))

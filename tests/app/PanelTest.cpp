@@ -3,16 +3,16 @@
 
 #include "controls/BezelStyle.h"
 #include "controls/CaptionLabel.h"
-#include "widgets/ColorWell.h"
 #include "controls/DropImageView.h"
 #include "controls/FilterView.h"
 #include "controls/MyImageView.h"
-#include "widgets/PanelCheckBox.h"
 #include "controls/ParameterView.h"
 #include "controls/PictureScrollView.h"
+#include "ui_MainWindow.h"
+#include "widgets/ColorWell.h"
+#include "widgets/PanelCheckBox.h"
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
-#include "ui_MainWindow.h"
 
 #include <QFile>
 #include <QScrollBar>

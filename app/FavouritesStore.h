@@ -1,0 +1,78 @@
+// The favourites of a mode: a list in the user defaults, and a strip of buttons for it.
+//
+// The three modes have a store each, made with what differs (`FavouritesFamily`). A mode adds with `add`, finds with
+// `favouriteOf` what a pressed button brings back, and removes with `remove`.
+#pragma once
+
+#include "effects2d/BaseEffect.h"
+#include "platform/foundation/StoredRecords.h"
+#include "widgets/onlyTextClosedButton.h"
+
+#include <QPointer>
+
+#include <functional>
+
+class DocPageControl;
+class FavouritesMaster;
+
+/// What a button brings back.
+struct Favourite {
+    /// Null when its thumbnail can't be read: then it can't be pressed, but it is kept.
+    QPointer<onlyTextClosedButton> button;
+    /// 3D and custom: the effect (under "class"); to be copied, not used. Null when its class is unknown.
+    std::shared_ptr<BaseEffect> effect;
+    /// Everything else by its key: standard mode has "class" (the filter's name), "ToolTipName" and each input key.
+    CIDictionary values;
+    /// Large values that were not looked at yet: pictures stay on the disk until the button is pressed.
+    std::map<std::string, StoredData> unread;
+
+    /// Reads it if need be. Nothing when there is none, or (with a line in the log) when it is damaged.
+    CIValue valueForKey(const std::string& key) const;
+    bool hasClass() const { return effect || values.contains("class"); }
+};
+
+struct FavouritesFamily {
+    QString defaultsKey; // "EffectsFavorites", "3DEffectsFavorites", "CustomEffectsFavorites"
+    /// 3D and custom: the prototypes that stored effects are made from, by their class names; they may change until
+    /// `read`. Null for filters.
+    const std::vector<std::shared_ptr<BaseEffect>>* prototypes = nullptr;
+    std::function<void(onlyTextClosedButton*)> pressed; // the buttons' action
+};
+
+/// Newest last. Additions and removals are in memory until `save`.
+class FavouritesStore {
+public:
+    /// `strip` and `master` must outlive the store; the strip owns the buttons.
+    FavouritesStore(FavouritesFamily family, DocPageControl& strip, FavouritesMaster& master);
+
+    bool isEmpty() const { return m_favourites.empty(); }
+    const std::vector<Favourite>& favourites() const { return m_favourites; }
+
+    /// Appends a filter's settings: "class" and the input keys are in `values`. The button is not switched on.
+    void add(const QImage& thumbnail, const QString& toolTip, CIDictionary values);
+    /// Appends a copy of an effect under the effect's tips.
+    void add(const QImage& thumbnail, const BaseEffect& effect);
+
+    /// The first one with that button that has a class; null when there is none.
+    const Favourite* favouriteOf(const onlyTextClosedButton* button) const;
+    bool contains(const onlyTextClosedButton* button) const;
+    /// With its button. Nothing when there is none.
+    void remove(onlyTextClosedButton* button);
+    /// Scrolls the strip towards the button.
+    void makeVisible(const onlyTextClosedButton* button);
+
+    /// Writes the list to the user defaults. Values that can't be archived are logged and left out. False when the list
+    /// can't be written; what was stored before then stays.
+    bool save() const;
+    /// Replaces the list by the stored one; does nothing when none is stored.
+    void read();
+
+private:
+    onlyTextClosedButton* addButton(const QImage& thumbnail, const QString& toolTip);
+    Favourite favouriteFrom(const StoredRecord& record);
+
+    FavouritesFamily m_family;
+    DocPageControl& m_strip;
+    FavouritesMaster& m_master;
+    std::vector<Favourite> m_favourites;
+};

@@ -1,0 +1,186 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "app/Thumbnail.h"
+#include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/UserDefaults.h"
+#include "ui_MainWindow.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+namespace {
+
+const QString kList = QStringLiteral("EffectsFavorites");
+
+class FavouritesTest : public WindowTest {
+protected:
+    FavouritesTest() { controller.openFile(pictureFile("picture.png", 60, 40)); }
+    ~FavouritesTest() override { UserDefaults::standardUserDefaults().setRecordsForKey({}, kList); }
+
+    onlyTextClosedButton* button(int index) const
+    {
+        return qobject_cast<onlyTextClosedButton*>(ui.m_pageController->items().value(index));
+    }
+    /// As the user does it: the press is where the strip shows the button.
+    void press(QWidget* widget) const { QTest::mouseClick(widget, Qt::LeftButton); }
+    onlyTextClosedButton* addFavourite(const QString& filter, const std::string& key = {}, const CIValue& value = {})
+    {
+        pick(filter);
+        if (!key.empty())
+            controller.setFilterValueForKey(*controller.getCurrentFilter(), value, key);
+        press(ui.addFavouriteBtn);
+        return button(ui.m_pageController->pageCount() - 1);
+    }
+    double number(const char* key) { return controller.getCurrentFilter()->valueForKey(key).toDouble(); }
+    void closeAndReadAgain()
+    {
+        controller.saveFavorites();
+        controller.readFavorites();
+    }
+};
+
+TEST_F(FavouritesTest, BringFilterAndSettingsBackAndGoAwayAtTheSecondPress)
+{
+    EXPECT_FALSE(ui.addFavouriteBtn->isEnabled());
+    controller.addFavorites();
+    EXPECT_EQ(ui.m_pageController->pageCount(), 0) << "there is nothing to add";
+    onlyTextClosedButton* blur = addFavourite("CIGaussianBlur", "inputRadius", 3.5);
+    onlyTextClosedButton* twirl = addFavourite("CITwirlDistortion", "inputCenter", CIVector{11, 22});
+    ASSERT_TRUE(blur && twirl);
+    EXPECT_EQ(blur->toolTip(), "Gaussian Blur");
+    EXPECT_EQ(blur->accessibleName(), "Gaussian Blur");
+    EXPECT_EQ(blur->getBackImage().deviceIndependentSize(), QSizeF(40, 25));
+    EXPECT_FALSE(blur->isChecked() || twirl->isChecked());
+    EXPECT_TRUE(ui.listView->selectedItem()) << "adding changes nothing else";
+
+    press(blur);
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CIGaussianBlur");
+    EXPECT_EQ(number("inputRadius"), 3.5);
+    EXPECT_TRUE(blur->isChecked());
+    EXPECT_FALSE(ui.listView->selectedItem());
+    EXPECT_TRUE(controller.wasChanged());
+    undo.undo();
+    undo.undo(); // each value is a step: the radius comes after the image
+    EXPECT_NE(number("inputRadius"), 3.5);
+
+    press(twirl);
+    EXPECT_FALSE(blur->isChecked());
+    EXPECT_TRUE(twirl->isChecked());
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputCenter").toVector(), (CIVector{11, 22}));
+    press(twirl);
+    EXPECT_FALSE(controller.getCurrentFilter());
+    EXPECT_FALSE(twirl->isChecked());
+
+    press(twirl);
+    pick("CIColorInvert");
+    EXPECT_FALSE(twirl->isChecked()) << "the list takes over";
+    press(twirl);
+    controller.escapeEffect();
+    EXPECT_FALSE(twirl->isChecked());
+}
+
+TEST_F(FavouritesTest, RemovingTheOneThatIsShownClearsTheEffect)
+{
+    addFavourite("CIGaussianBlur");
+    addFavourite("CIColorInvert");
+    press(button(0));
+    button(1)->addCloseBtn();
+    controller.removeFavorites(button(1));
+    EXPECT_TRUE(controller.getCurrentFilter()) << "another one was removed";
+    EXPECT_EQ(ui.m_pageController->pageCount(), 1);
+    EXPECT_TRUE(action("actionRemoveFavourite")->isEnabled());
+    action("actionRemoveFavourite")->trigger();
+    EXPECT_FALSE(controller.getCurrentFilter());
+    EXPECT_EQ(ui.m_pageController->pageCount(), 0);
+    EXPECT_FALSE(action("actionRemoveFavourite")->isEnabled());
+    controller.removeFavorites(nullptr);
+}
+
+TEST_F(FavouritesTest, EveryKindOfInputComesBackFromTheDefaults)
+{
+    const CIImage shine = controller.defaultAlphaEMap();
+    addFavourite("CIGlassDistortion", "inputTexture", shine);
+    addFavourite("CIAffineTransform", "inputTransform", CIAffineTransform{1, 2, 3, 4, 5, 6.5});
+    addFavourite("CILinearGradient", "inputColor0", CIColor(0.25, 0.5, 0.75, 0.125));
+    addFavourite("CICrop", "inputRectangle", CIVector{1, 2, 30, 20});
+    closeAndReadAgain();
+    ASSERT_EQ(ui.m_pageController->pageCount(), 4);
+    const auto value = [&](int index, const char* key) {
+        press(button(index));
+        return controller.getCurrentFilter() ? controller.getCurrentFilter()->valueForKey(key) : CIValue();
+    };
+    EXPECT_EQ(button(3)->toolTip(), "Crop");
+    EXPECT_EQ(button(0)->getBackImage().deviceIndependentSize(), QSizeF(40, 25));
+    EXPECT_EQ(value(0, "inputTexture").toImage().extent(), shine.extent());
+    EXPECT_EQ(value(1, "inputTransform").toTransform(), (CIAffineTransform{1, 2, 3, 4, 5, 6.5}));
+    EXPECT_EQ(value(2, "inputColor0").toColor(), CIColor(0.25, 0.5, 0.75, 0.125));
+    EXPECT_EQ(value(3, "inputRectangle").toVector(), (CIVector{1, 2, 30, 20}));
+    closeAndReadAgain(); // pictures that were never looked at are kept, too
+    EXPECT_EQ(value(0, "inputTexture").toImage().extent(), shine.extent());
+}
+
+TEST_F(FavouritesTest, SurviveDamageUnknownFiltersAndThumbnailsThatAreNone)
+{
+    const auto data = [](const CIValue& value) { return StoredData(KeyedArchive::archivedData(value)); };
+    const QByteArray tiff = tiffOfThumbnail(favouriteThumbnail(QImage(8, 8, QImage::Format_RGB32)));
+    const auto* bytes = reinterpret_cast<const std::byte*>(tiff.constData());
+    const StoredData thumbnail = data(CIData(bytes, bytes + tiff.size()));
+    UserDefaults::standardUserDefaults().setRecordsForKey(
+        {{{"class", data("CINoSuchFilter")}, {"ButtonImage", thumbnail}, {"inputRadius", data(3)}},
+            {{"class", data("CIGaussianBlur")}, {"ButtonImage", data(CIData{std::byte(1)})}, {"inputRadius", data(7)}},
+            {{"class", data("CIGaussianBlur")}, {"ButtonImage", thumbnail}, {"inputRadius", QByteArray("damaged")},
+                {"inputImage", QByteArray()}, {"noInput", data("ignored")}},
+            {{"ToolTipName", data("No class")}, {"ButtonImage", thumbnail}}},
+        kList);
+    controller.readFavorites();
+    ASSERT_EQ(ui.m_pageController->pageCount(), 3) << "one has no thumbnail and no button";
+    press(button(0));
+    EXPECT_TRUE(button(0)->isChecked());
+    EXPECT_FALSE(controller.getCurrentFilter());
+    press(button(1));
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(number("inputRadius"), 10) << "the filter's own";
+    press(button(2));
+    EXPECT_FALSE(button(2)->isChecked()) << "it has nothing to bring back";
+
+    controller.saveFavorites();
+    const auto stored = UserDefaults::standardUserDefaults().recordsForKey(kList);
+    ASSERT_EQ(stored->size(), 4u);
+    EXPECT_FALSE(stored->at(1).contains("ButtonImage"));
+    EXPECT_EQ(KeyedArchive::unarchivedValue(stored->at(1).at("inputRadius").bytes()).toDouble(), 7);
+
+    controller.readFavorites();
+    EXPECT_EQ(ui.m_pageController->pageCount(), 3);
+}
+
+TEST_F(FavouritesTest, AreWrittenWhenTheWindowClosesAndNotBefore)
+{
+    addFavourite("CIColorInvert");
+    EXPECT_TRUE(UserDefaults::standardUserDefaults().recordsForKey(kList).value_or(StoredRecords()).empty());
+    controller.windowWillClose();
+    EXPECT_EQ(UserDefaults::standardUserDefaults().recordsForKey(kList)->size(), 1u);
+}
+
+TEST_F(FavouritesTest, ManyWithLargePicturesAreReadAtOnce)
+{
+    for (int i = 0; i < 20; ++i) {
+        CIBitmap picture(1000, 800, CIFormat::RGBA8, CIAlpha::Opaque);
+        picture.mutableRow(0)[0] = std::byte(i);
+        controller.setBackgroundImage(CIImage::fromBitmap(picture));
+        for (int k = 0; k < 10; ++k)
+            addFavourite(i == 0 && k == 0 ? "CIGaussianBlur" : "CIBoxBlur");
+    }
+    controller.saveFavorites();
+    QElapsedTimer timer;
+    timer.start();
+    controller.readFavorites();
+    EXPECT_EQ(ui.m_pageController->pageCount(), 200);
+    EXPECT_LT(timer.elapsed(), 400) << "ms; none of the pictures is read";
+    RecordProperty("ms", int(timer.elapsed()));
+    std::printf("200 favourites read in %lld ms\n", static_cast<long long>(timer.elapsed()));
+    controller.setBackgroundImage({});
+}
+
+} // namespace
