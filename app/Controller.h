@@ -302,6 +302,8 @@ private:
     void applyCustom();
     ZoomedCanvas* zoomedView() const;
     void showZoom();
+    void showReduced(const std::string& file);
+    CIImage pictureOf(const Result<CIBitmap>& read);
     void updatePictureInfo();
     void showMessage(const QString& text);
     double chosenResolution() const;

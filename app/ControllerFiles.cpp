@@ -1,6 +1,7 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/PictureFiles.h"
+#include "controls/MyImageView.h"
 #include "app/RecentFiles.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
@@ -11,6 +12,7 @@
 #include <QFileInfo>
 
 #include <chrono>
+#include <future>
 
 namespace {
 
@@ -57,10 +59,36 @@ void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
 void Controller::openFile(const QString& path)
 {
     setFilePath(path);
-    const CIImage image = readImage(path);
+    const std::string file = QFile::encodeName(path).toStdString();
+    auto whole = std::async(std::launch::async, [&file] { return readPicture(file); });
+    showReduced(file);
+    const CIImage image = pictureOf(whole.get());
     setBackgroundImage(image);
     if (image)
         rememberRecentFile(path);
+}
+
+/// Large JPEG files are on screen in about half the time when they are decoded no larger than that; the whole picture
+/// takes the place before anybody can act on it.
+void Controller::showReduced(const std::string& file)
+{
+    constexpr double kLarge = 8e6; // px
+    constexpr int kPatience = 50; // ms
+    const Result<PictureInfo> info = readPictureInfo(file);
+    if (!ciView->isVisible() || !info || info.value().formatName != "JPEG"
+        || double(info.value().width) * info.value().height < kLarge)
+        return;
+    const int side = int(std::max(ciView->width(), ciView->height()) * ciView->devicePixelRatioF());
+    const Result<CIBitmap> reduced = readPicture(file, {.maxSide = side});
+    if (!reduced)
+        return;
+    const CIBitmap& bitmap = reduced.value();
+    const double width = info.value().width, height = info.value().height;
+    setBackgroundImage(CIImage::fromBitmap(bitmap)
+                           .clampedToExtent()
+                           .transformed(CIAffineTransform::scaling(width / bitmap.width(), height / bitmap.height()))
+                           .cropped({0, 0, width, height}));
+    ciView->waitForFrame(kPatience);
 }
 
 void Controller::setFilePath(const QString& path)
@@ -87,7 +115,12 @@ CIImage Controller::readImage(const QString& path)
     m_readFailure.clear();
     if (path.isEmpty())
         return {};
-    const Result<CIBitmap> read = readPicture(QFile::encodeName(path).toStdString());
+    return pictureOf(readPicture(QFile::encodeName(path).toStdString()));
+}
+
+CIImage Controller::pictureOf(const Result<CIBitmap>& read)
+{
+    m_readFailure.clear();
     if (!read) {
         m_readFailure = QString::fromStdString(read.message());
         return {};

@@ -68,6 +68,33 @@ TEST_F(WindowTest, SwitchingTheModeLeavesTheWayBackAsTheOnlyStep)
     EXPECT_EQ(controller.filerMode(), Controller::Standard);
 }
 
+/// Counts how often a widget is painted.
+class PaintCount : public QObject {
+public:
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+TEST_F(WindowTest, ALargePhotographIsOnScreenBeforeItIsReadAsAWhole)
+{
+    const QString path = pictureFile("large.jpg", 3600, 2400);
+    PaintCount paints;
+    ui.pictureScrollView->imageView()->installEventFilter(&paints);
+    controller.openFile(path);
+    EXPECT_GT(paints.count, 0) << "nothing was painted while it was read";
+    const CIImage shown = controller.backImage();
+    EXPECT_EQ(shown.extent(), (CIRect{0, 0, 3600, 2400}));
+    const CIRect corner{3590, 2390, 10, 10};
+    const CIBitmap pixels = CIContext().render(shown, corner),
+                   inFile = CIContext().render(controller.readImage(path), corner);
+    for (int y = 0; y < corner.height; ++y)
+        EXPECT_TRUE(std::ranges::equal(pixels.row<std::uint8_t>(y), inFile.row<std::uint8_t>(y))) << y;
+}
+
 TEST_F(WindowTest, PickingAFilterMakesItWithThePictureInItsImages)
 {
     controller.openFile(pictureFile("a.png", 40, 30));
