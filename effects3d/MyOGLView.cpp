@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr double kPictureEdge = 0.9; // of half the view
 constexpr double kKeyStep = 10, kLargeKeyStep = 90; // points of mouse movement: 5 and 45 degrees
+constexpr qint64 kSlowFrame = 33; // ms
 constexpr double kDepthScale = 0.5; // bodies and bent surfaces that reach out of the unit cube stay whole
 
 bool isBlank(const QImage& frame)
@@ -165,11 +167,29 @@ void MyOGLView::drawBackImg()
 
 QSize MyOGLView::pixelsAt(qreal scale) const { return {int(width() * scale), int(height() * scale)}; }
 
+/// Where the processor draws for a fine screen, turning is smoother with a pixel a point; it ends with a fine frame.
+void MyOGLView::drawShown()
+{
+    const bool turns = m_mouseTurns || m_keysTurn;
+    const qreal scale = turns && m_isSlow ? std::min(devicePixelRatioF(), 1.0) : devicePixelRatioF();
+    QElapsedTimer timer;
+    timer.start();
+    m_shown = drawnFrame(pixelsAt(scale), scale);
+    m_isBlank = isBlank(m_shown);
+    if (scale == devicePixelRatioF())
+        m_isSlow = timer.elapsed() > kSlowFrame;
+}
+
+void MyOGLView::endTurn()
+{
+    if (m_isSlow && devicePixelRatioF() > 1)
+        redraw();
+}
+
 void MyOGLView::paintEvent(QPaintEvent*)
 {
     if (m_shown.isNull()) {
-        m_shown = drawnFrame(pixelsAt(devicePixelRatioF()), devicePixelRatioF());
-        m_isBlank = isBlank(m_shown);
+        drawShown();
     }
     QPainter painter(this);
     painter.drawImage(rect(), m_shown);
@@ -241,6 +261,7 @@ void MyOGLView::mouseReleaseEvent(QMouseEvent* event)
     m_mouseTurns = false;
     if (BaseEffect* current = effect())
         current->mouseUp(viewPoint(*event));
+    endTurn();
 }
 
 void MyOGLView::keyPressEvent(QKeyEvent* event)
@@ -289,6 +310,7 @@ void MyOGLView::endKeyTurn()
         return;
     if (BaseEffect* current = effect())
         current->mouseUp(m_keyPoint);
+    endTurn();
 }
 
 /// Those who click need no frame around what they click on.

@@ -62,6 +62,8 @@ private:
     QSize pixelsAt(qreal scale) const;
     void drawEffect(BaseEffect& effect, QSize pixels);
     void drawBackImg();
+    void drawShown();
+    void endTurn();
     void endKeyTurn();
     void drawHint(QPainter&) const;
     void mouseContentMenu(const QPoint& globalPosition);
@@ -74,6 +76,7 @@ private:
     std::unique_ptr<OpenGLFrame> m_frame;
     std::shared_ptr<PictureTexture> m_picture; // kept while effects let go of it and take it again
     QImage m_shown; // the last frame; null when it must be drawn anew
+    bool m_isSlow = false; // a frame at the screen's resolution takes too long to follow the mouse
     bool m_isBlank = false; // nothing is to be seen in it
     bool m_showsFocus = false;
     bool m_mouseTurns = false;

@@ -6,6 +6,8 @@
 #include "effects3d/ThreeDStage.h"
 #include "ui_MainWindow.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QTest>
 
@@ -112,6 +114,20 @@ TEST_F(ThreeDTest, TheResultIsTheShotAndNothingWithoutAnEffect)
     choose(0);
     const CIRect extent = controller.result3D().extent();
     EXPECT_EQ(extent, (CIRect{0, 0, double(view.ogl_shot().width()), double(view.ogl_shot().height())}));
+}
+
+TEST_F(ThreeDTest, CopiesWhatTheViewShows)
+{
+    controller.openFile(pictureFile("plain.png", 300, 200));
+    choose(1);
+    controller.copy();
+    const QImage copied = QGuiApplication::clipboard()->image();
+    ASSERT_EQ(copied.size(), view.ogl_shot().size());
+    EXPECT_EQ(copied.pixelColor(copied.rect().center()), QColor(200, 100, 50));
+    EXPECT_EQ(copied.pixelColor(2, 2).alpha(), 0);
+    controller.escapeEffect();
+    controller.copy();
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(300, 200)) << "the plain picture without an effect";
 }
 
 TEST_F(ThreeDTest, PanelsOfTheModesStayApart)
