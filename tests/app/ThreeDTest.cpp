@@ -1,9 +1,12 @@
 #include "WindowFixture.h"
 
 #include "app/OutlineView.h"
+#include "app/Thumbnail.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ObjectEffect.h"
 #include "effects3d/ThreeDStage.h"
+#include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 
 #include <QClipboard>
@@ -143,6 +146,70 @@ TEST_F(ThreeDTest, PanelsOfTheModesStayApart)
     EXPECT_EQ(rows().size(), 1);
     action("actionStandard")->trigger();
     EXPECT_EQ(ui.filterNameField->text(), "Gaussian Blur");
+}
+
+struct ThreeDFavouritesTest : ThreeDTest {
+    ~ThreeDFavouritesTest() override { UserDefaults::standardUserDefaults().setRecordsForKey({}, kList); }
+
+    onlyTextClosedButton* button(int index) const
+    {
+        return qobject_cast<onlyTextClosedButton*>(ui.m_page3DController->items().value(index));
+    }
+    static void press(QWidget* widget) { QTest::mouseClick(widget, Qt::LeftButton); }
+
+    static inline const QString kList = QStringLiteral("3DEffectsFavorites");
+};
+
+TEST_F(ThreeDFavouritesTest, BringTheEffectBackAlsoFromTheDefaults)
+{
+    EXPECT_FALSE(ui.addFavouriteBtn->isEnabled());
+    choose(1);
+    rows().first()->setValue(ObjectEffect::Disk);
+    emit rows().first()->changed();
+    drag({-21, 33});
+    const CIDictionary settings = object()->save();
+    press(ui.addFavouriteBtn);
+    ASSERT_TRUE(button(0));
+    EXPECT_EQ(button(0)->toolTip(), "3D Objects Texuture");
+    EXPECT_EQ(button(0)->getBackImage().deviceIndependentSize(), QSizeF(40, 25));
+    drag({10, 10});
+    press(button(0));
+    ASSERT_TRUE(object());
+    EXPECT_EQ(object()->save(), settings);
+    EXPECT_FALSE(ui.filter3DOutlineView->selectedItem());
+    drag({10, 10});
+    choose(0);
+    EXPECT_FALSE(button(0)->isChecked()) << "the list takes over";
+
+    controller.saveFavorites();
+    controller.readFavorites();
+    ASSERT_TRUE(button(0));
+    press(button(0));
+    ASSERT_TRUE(object());
+    EXPECT_EQ(object()->save(), settings) << "turning a copy leaves the favourite alone";
+    EXPECT_EQ(rows().size(), 1);
+    press(button(0));
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    press(button(0));
+    controller.removeFavorites3D(button(0));
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    EXPECT_FALSE(button(0));
+}
+
+TEST_F(ThreeDFavouritesTest, OfAnUnknownClassCantBeSelectedAndAreKept)
+{
+    const QByteArray tiff = tiffOfThumbnail(favouriteThumbnail(QImage(8, 8, QImage::Format_RGB32)));
+    const auto* bytes = reinterpret_cast<const std::byte*>(tiff.constData());
+    const auto data = [](const CIValue& value) { return StoredData(KeyedArchive::archivedData(value)); };
+    UserDefaults::standardUserDefaults().setRecordsForKey(
+        {{{"classObj", data(CIDictionary{{"class", "NoSuchEffect"}, {"drawObj", 3}})},
+            {"ButtonImage", data(CIData{bytes, bytes + tiff.size()})}}},
+        kList);
+    controller.readFavorites();
+    ASSERT_TRUE(button(0));
+    press(button(0));
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+    EXPECT_FALSE(button(0)->isChecked());
 }
 
 } // namespace
