@@ -97,6 +97,12 @@ void OutlineView::selectionChanged(const QItemSelection& selected, const QItemSe
     emit selectionDidChange();
 }
 
+void OutlineView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTreeView::currentChanged(current, previous);
+    viewport()->update(); // the ring goes around whole rows, also where they have no cells
+}
+
 void OutlineView::keyPressEvent(QKeyEvent* event)
 {
     const QModelIndex current = currentIndex();
