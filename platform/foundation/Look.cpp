@@ -97,6 +97,7 @@ QLineEdit { background: @field; border: 1px solid @border; border-radius: 6px; p
 QLineEdit:focus { border-color: @accentMark; }
 QLineEdit:disabled { color: @disabledText; background: @window; }
 
+QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: @button; border: 1px solid @border; border-radius: 6px; padding: 4px 16px; min-height: 18px; }
 QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
