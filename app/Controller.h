@@ -7,11 +7,13 @@
 #include "app/FavouritesStore.h"
 #include "app/OutlineModel.h"
 #include "app/PictureFormats.h"
+#include "app/PictureHistory.h"
 #include "controls/ImageViewMaster.h"
 #include "controls/ParameterMaster.h"
 #include "effects2d/CustomViewMaster.h"
 #include "effects2d/EffectMaster.h"
 #include "effects3d/OGLViewMaster.h"
+#include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
@@ -130,6 +132,8 @@ public:
     void beginChange() override { m_undoManager.beginUndoGrouping(); }
     void endChange() override { m_undoManager.endUndoGrouping(); }
     CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override;
+    /// Pictures that undo steps go back to; beyond a quarter of the computer's memory they wait on the disk.
+    PictureHistory& pictureHistory() { return m_history; }
     UndoManager* undoManager() override { return &m_undoManager; }
     void undo();
     void redo();
@@ -184,6 +188,7 @@ public:
     /// Opens a picture file as the open panel does.
     void openFile(const QString& path);
     void setFilePath(const QString& path) override; // empty for none
+    void showInfoPanel(); // or hides it
     QString getFilePath() const { return _filePath; }
     void updateWinTitle();
     CIImage readImage(const QString& path) override;
@@ -284,6 +289,8 @@ private:
     void setSharedFilterValueForKey(
         const std::shared_ptr<CIFilter>& filter, const CIValue& value, const std::string& key);
     void registerUndoPaste();
+    CIImage restored(KeptPicture& kept);
+    void dropImagesOfPastFilters();
     void fitZoom();
     std::shared_ptr<CIFilter> newFilter(const std::string& name);
     void buildPanel(int tag);
@@ -327,6 +334,7 @@ private:
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
+    PictureHistory m_history;
     UndoManager m_undoManager;
     DataSource m_dataSource;
     OutlineModel m_catalogue;
@@ -347,6 +355,7 @@ private:
     QMenu* contentMenuOutlet;
     QPointer<QWidget> saveObjectOutlet; // the menus of the save panel
     QPointer<ResizePanel> m_resizePanel;
+    QPointer<ImageInfo> infoPanel;
 
     CIImage backgroundImage;
     std::shared_ptr<CIFilter> currentFilter;

@@ -60,6 +60,7 @@ void Controller::rotateImage(bool left)
     m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
     m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
     setBackgroundImage(rotated);
+    customEffectsView->setZoom(customEffectsView->getZoom()); // lays itself out for the new size
 }
 
 void Controller::flipImage(bool vertical)
@@ -130,7 +131,27 @@ void Controller::copy()
 
 void Controller::registerUndoPaste()
 {
-    m_undoManager.registerUndoWithTarget(this, [this, old = backgroundImage] { undoPaste(old); });
+    dropImagesOfPastFilters();
+    m_undoManager.registerUndoWithTarget(
+        this, [this, kept = m_history.keep(backgroundImage)] { undoPaste(restored(*kept)); });
+}
+
+CIImage Controller::restored(KeptPicture& kept)
+{
+    const CIImage image = kept.image();
+    if (const CIBitmap* bitmap = bitmapOf(image))
+        m_formats.remember(image, m_formats.formatOf(image, bitmap->format()));
+    return image;
+}
+
+/// Filters that are only kept by undo steps will never draw again, and must not hold on to pictures.
+void Controller::dropImagesOfPastFilters()
+{
+    for (const std::weak_ptr<CIFilter>& made : m_madeFilters)
+        if (const std::shared_ptr<CIFilter> filter = made.lock(); filter && filter != currentFilter)
+            for (const std::string& key : filter->inputKeys())
+                if (filter->valueForKey(key).isImage())
+                    filter->setValueForKey({}, key);
 }
 
 void Controller::paste()

@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QUrl>
 
 #include <chrono>
 #include <future>
@@ -94,10 +95,13 @@ void Controller::showReduced(const std::string& file)
 void Controller::setFilePath(const QString& path)
 {
     _filePath = path;
+    ImageInfo::setMyURL(path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path));
     if (!path.isEmpty())
         m_lastFolder = QFileInfo(path).absolutePath();
     updateWinTitle();
 }
+
+void Controller::showInfoPanel() { showPanel(*infoPanel); }
 
 void Controller::updateWinTitle()
 {

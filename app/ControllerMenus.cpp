@@ -42,6 +42,7 @@ void Controller::connectActions()
     on(ui.actionRotateRight, &Controller::rotateRight);
     on(ui.actionFlipHorizont, &Controller::flipHorizont);
     on(ui.actionFlipVert, &Controller::flipVert);
+    on(ui.actionInfo, &Controller::showInfoPanel);
     connect(ui.actionResize, &QAction::triggered, this, [this] { showPanel(*m_resizePanel); });
     on(ui.actionApply, &Controller::applyBtn);
     on(ui.actionClearEffect, &Controller::escapeEffect);
@@ -112,6 +113,8 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionCopy || &item == ui.actionRotateLeft || &item == ui.actionRotateRight
         || &item == ui.actionFlipHorizont || &item == ui.actionFlipVert) {
         enabled = bool(backgroundImage);
+    } else if (&item == ui.actionInfo) {
+        item.setChecked(infoPanel && infoPanel->isVisible());
     } else if (&item == ui.actionResize) {
         item.setChecked(m_resizePanel && m_resizePanel->isVisible());
     } else if (&item == ui.actionPaste) {

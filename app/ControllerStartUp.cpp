@@ -7,6 +7,7 @@
 #include "effects2d/customEffImageView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
+#include "files/PictureLimits.h"
 #include "platform/coreimage/CIPlugIn.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/ResourcePaths.h"
@@ -14,6 +15,8 @@
 #include "ui_MainWindow.h"
 #include "widgets/DocPageControl.h"
 #include "widgets/GradientButton.h"
+
+#include <QStandardPaths>
 
 namespace {
 
@@ -26,6 +29,7 @@ const QString kWindowFrameName = QStringLiteral("Velmora");
 Controller::Controller(MainWindow& window)
     : m_window(window)
     , ui(window.interface())
+    , m_history(QStandardPaths::writableLocation(QStandardPaths::CacheLocation), physicalMemory() / 4)
     , m_catalogue(m_dataSource, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
     , m_context(std::make_shared<CIContext>())
     , listView(ui.listView)
@@ -88,6 +92,7 @@ bool Controller::isDarkMode() { return Appearance::shared().isDark(); }
 
 void Controller::awakeFromNib()
 {
+    infoPanel = new ImageInfo(&m_window);
     m_resizePanel = new ResizePanel(&m_window, *this);
     setBackgroundImage(readImage(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg"))));
     setDefaultImagePaths();

@@ -1,0 +1,143 @@
+#include "files/ImageInfo.h"
+
+#include "platform/imageio/PictureProperties.h"
+#include "ui_ImageInfo.h"
+
+#include <QFile>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kDelay = 20ms;
+
+ImageInfo* sharedPanel = nullptr;
+
+QTreeWidgetItem* itemOf(const PropertyNode& node)
+{
+    auto* item = new QTreeWidgetItem({node.key, node.val});
+    item->setToolTip(1, node.val); // long values are cut
+    for (const PropertyNode& child : node.children)
+        item->addChild(itemOf(child));
+    return item;
+}
+
+} // namespace
+
+ImageInfo::ImageInfo(QWidget* window)
+    : QDialog(window, Qt::Tool)
+{
+    Ui::ImageInfo ui;
+    ui.setupUi(this);
+    mOView = ui.mOView;
+    mFilePath = ui.mFilePath;
+    mFileType = ui.mFileType;
+    mFileSize = ui.mFileSize;
+    mOView->setColumnWidth(0, 208);
+    awakeFromNib();
+}
+
+ImageInfo::~ImageInfo()
+{
+    if (sharedPanel == this)
+        sharedPanel = nullptr;
+}
+
+void ImageInfo::awakeFromNib()
+{
+    if (!sharedPanel)
+        sharedPanel = this;
+    mUrl.clear();
+    initTypes();
+}
+
+void ImageInfo::initTypes()
+{
+    setTypes({
+        {QStringLiteral("public.png"), tr("PNG Image")},
+        {QStringLiteral("com.compuserve.gif"), tr("GIF Image")},
+        {QStringLiteral("public.jpeg"), tr("JPG Image")},
+        {QStringLiteral("org.webmproject.webp"), tr("WebP Image")},
+        {QStringLiteral("public.tiff"), tr("TIFF Image")},
+        {QStringLiteral("com.microsoft.bmp"), tr("BMP Image")},
+        {QStringLiteral("public.svg-image"), tr("SVG Image")},
+        {QStringLiteral("public.camera-raw-image"), tr("RAW Image")},
+        {QStringLiteral("com.adobe.pdf"), tr("PDF Image")},
+    });
+}
+
+void ImageInfo::setMyURL(const QUrl& url)
+{
+    if (sharedPanel)
+        QTimer::singleShot(kDelay, sharedPanel, [url] { sharedPanel->showURL(url); });
+}
+
+void ImageInfo::showURL(const QUrl& url)
+{
+    if (url == mUrl)
+        return;
+    mUrl = url;
+    const QString none = tr("n/a");
+    if (mUrl.isEmpty()) {
+        for (QLabel* field : {mFilePath, mFileType, mFileSize})
+            field->setText(none);
+        showTree({});
+        return;
+    }
+    mFilePath->setText(mUrl.toLocalFile());
+    const Result<PictureFileProperties> read =
+        readPictureProperties(QFile::encodeName(mUrl.toLocalFile()).toStdString());
+    if (!read) {
+        mFileType->setText(none);
+        mFileSize->setText(none);
+        showTree({});
+        return;
+    }
+    const QString type = QString::fromStdString(read->typeIdentifier);
+    mFileType->setText(m_types.value(type, type));
+    mFileSize->setText(tr("%1 bytes").arg(read->fileSize));
+    showTree(propTree(read->properties));
+}
+
+void ImageInfo::showTree(std::vector<PropertyNode> tree)
+{
+    mTree = std::move(tree);
+    mOView->clear();
+    for (const PropertyNode& node : mTree)
+        mOView->addTopLevelItem(itemOf(node));
+    mOView->expandAll();
+}
+
+std::vector<PropertyNode> ImageInfo::propTree(const std::vector<PictureProperty>& properties)
+{
+    std::vector<PropertyNode> nodes;
+    for (const PictureProperty& property : properties)
+        nodes.push_back({label(QString::fromStdString(property.key)), QString::fromStdString(property.value),
+            propTree(property.children)});
+    return nodes;
+}
+
+QString ImageInfo::label(const QString& key)
+{
+    const QString translated = QCoreApplication::translate("PictureProperty", key.toUtf8().constData());
+    if (translated != key)
+        return translated;
+    QString name = key;
+    if (name.startsWith(QLatin1Char('{')) && name.endsWith(QLatin1Char('}')))
+        name = name.mid(1, name.size() - 2);
+    QString words;
+    for (qsizetype i = 0; i < name.size(); ++i) {
+        const auto isUpper = [&](qsizetype at) { return at < name.size() && name[at].isUpper(); };
+        const auto isLower = [&](qsizetype at) { return at < name.size() && name[at].isLower(); };
+        // A word begins at a capital after a small letter, and at the last capital of several.
+        const bool begins = isUpper(i) && ((i > 1 && isLower(i - 1)) || (i > 0 && isUpper(i - 1) && isLower(i + 1)));
+        if (begins)
+            words += QLatin1Char(' ');
+        words += name[i];
+    }
+    if (!words.contains(QLatin1Char(':')) && words.size() > 1 && !words[1].isUpper()) // "dc:creator", "sRGB"
+        words[0] = words[0].toUpper();
+    return words;
+}
