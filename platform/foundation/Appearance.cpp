@@ -8,6 +8,7 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QFontDatabase>
 #include <QPointer>
 #include <QStyleFactory>
 
@@ -28,6 +29,17 @@ unsigned schemeOf(QVariant value)
     while (value.canConvert<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
     return value.toUInt();
+}
+
+/// Desktops name a font of theirs; without one it is the generic family, whose digits and weights are anybody's guess.
+void setFontWhereNoneIsChosen()
+{
+    const QString kOwn = QStringLiteral("Inter");
+    QFont font = QApplication::font();
+    if (font.family().compare(QLatin1String("Sans Serif"), Qt::CaseInsensitive) != 0 || !QFontDatabase::hasFamily(kOwn))
+        return;
+    font.setFamily(kOwn);
+    QApplication::setFont(font);
 }
 
 } // namespace
@@ -108,8 +120,10 @@ void Appearance::update()
 
 void Appearance::dressApplication()
 {
-    if (!m_dressed)
+    if (!m_dressed) {
         QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+        setFontWhereNoneIsChosen();
+    }
     m_dressed = true;
     QApplication::setPalette(paletteOf(look()));
     qApp->setStyleSheet(styleSheetOf(look()));
