@@ -1,25 +1,32 @@
 #include "effects2d/EffectPanel.h"
 
-#include "widgets/ColorSwatch.h"
+#include "effects2d/EffectMaster.h"
+#include "platform/foundation/UndoManager.h"
+#include "widgets/ColorWell.h"
 #include "widgets/PanelCheckBox.h"
 #include "widgets/PanelPopUp.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/ValueSlider.h"
 
 #include <cmath>
+#include <optional>
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QLocale>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <QSlider>
-#include <QValidator>
 
 namespace {
 
 constexpr int kReadoutWidth = 52; // points
 constexpr QSize kButtonSize(96, 24);
+
+UndoManager* undoManager()
+{
+    EffectMaster* master = EffectMaster::mainController();
+    return master ? master->undoManager() : nullptr;
+}
 
 /// The row's widget around the toolkit's control, which takes the names and the focus.
 template <class Widget>
@@ -59,16 +66,21 @@ private:
     int m_last = 0;
 };
 
-class Well : public ControlOf<ColorSwatch> {
+class Well : public ControlOf<ColorWell> {
 public:
     Well()
     {
         m_row->addStretch();
-        connect(m_widget, &ColorSwatch::colorChanged, this, &EffectControl::changed);
+        connect(m_widget, &ColorWell::colorTried, this, [this](const QColor& color) {
+            m_tried = color;
+            tryValue();
+            m_tried.reset();
+        });
+        connect(m_widget, &ColorWell::colorPicked, this, &EffectControl::changed);
     }
     CIValue value() const override
     {
-        const QColor c = m_widget->color();
+        const QColor c = m_tried.value_or(m_widget->color());
         return CIColor(c.redF(), c.greenF(), c.blueF(), c.alphaF());
     }
     void setValue(const CIValue& value) override
@@ -78,6 +90,20 @@ public:
         m_widget->setColor(
             QColor::fromRgbF(component(c.red()), component(c.green()), component(c.blue()), component(c.alpha())));
     }
+
+private:
+    /// Only seen until the color is picked or given up; then the old one has been tried last.
+    void tryValue()
+    {
+        UndoManager* undo = undoManager();
+        if (undo)
+            undo->disableUndoRegistration();
+        emit changed();
+        if (undo)
+            undo->enableUndoRegistration();
+    }
+
+    std::optional<QColor> m_tried;
 };
 
 class Switch : public ControlOf<PanelCheckBox> {
@@ -104,57 +130,101 @@ public:
     void setValue(const CIValue&) override { }
 };
 
-/// A slider with an editable readout.
-class Slider : public ControlOf<QSlider> {
+/// A slider with an editable readout. A drag is one step for undo.
+class Slider : public ControlOf<ValueSlider> {
 public:
-    Slider(const EffectPanel::Text& text, const EffectPanel::Range& range)
-        : m_steps(std::pow(10, range.decimals))
-        , m_decimals(range.decimals)
-        , m_readout(new QLineEdit(this))
+    Slider(const EffectPanel::Text& text, const EffectPanel::Range& range, double standard)
+        : m_range(range)
+        , m_readout(new ReadoutField(this))
     {
-        m_widget->setOrientation(Qt::Horizontal);
-        m_widget->setRange(int(std::lround(range.min * m_steps)), int(std::lround(range.max * m_steps)));
-        m_widget->setPageStep(std::max(1, (m_widget->maximum() - m_widget->minimum()) / 10));
-        m_widget->setTracking(range.continuous);
+        m_widget->setRange(range.min, range.max);
+        m_widget->setWhole(range.decimals == 0);
+        m_widget->setStandardValue(standard);
         m_readout->setFixedWidth(kReadoutWidth);
         m_readout->setAlignment(Qt::AlignRight);
         m_readout->setAccessibleName(text.label);
         m_readout->setToolTip(text.toolTip);
-        m_readout->setValidator(new QDoubleValidator(range.min, range.max, range.decimals, m_readout));
         m_row->addWidget(m_readout);
-        connect(m_widget, &QSlider::sliderMoved, this, [this](int position) { showValue(position / m_steps); });
-        connect(m_widget, &QSlider::valueChanged, this, [this](int position) { userSets(position / m_steps); });
-        connect(m_readout, &QLineEdit::editingFinished, this, &Slider::readoutEdited);
+        connect(m_widget, &ValueSlider::pressed, this, &Slider::begin);
+        connect(m_widget, &ValueSlider::released, this, &Slider::end);
+        connect(m_widget, &ValueSlider::valueChanged, this, &Slider::moved);
+        connect(m_widget, &ValueSlider::standardValueWanted, this, [this, standard] { userSets(standard); });
+        connect(m_readout, &ReadoutField::committed, this, &Slider::typed);
+    }
+    ~Slider() override
+    {
+        if (m_dragged)
+            closeGroup();
     }
     CIValue value() const override { return m_value; }
     void setValue(const CIValue& value) override
     {
-        const QSignalBlocker quiet(m_widget);
         m_value = value.toDouble();
-        m_widget->setValue(int(std::lround(std::clamp(m_value, -1e6, 1e6) * m_steps)));
+        m_widget->setValue(m_value);
         showValue(m_value);
     }
 
 private:
-    void showValue(double value) { m_readout->setText(QLocale().toString(value, 'f', m_decimals)); }
+    double rounded(double value) const
+    {
+        const double steps = std::pow(10, m_range.decimals); // per unit
+        return std::round(value * steps) / steps;
+    }
+    void showValue(double value)
+    {
+        const QString text = QLocale().toString(value, 'f', m_range.decimals);
+        m_readout->setShownText(text);
+        m_widget->setValueText(text);
+    }
+    void begin()
+    {
+        m_dragged = true;
+        if (UndoManager* undo = undoManager())
+            undo->beginUndoGrouping();
+    }
+    void end()
+    {
+        m_dragged = false;
+        if (!m_range.continuous)
+            userSets(rounded(m_widget->value()));
+        closeGroup();
+    }
+    static void closeGroup()
+    {
+        if (UndoManager* undo = undoManager())
+            undo->endUndoGrouping();
+    }
+    void moved()
+    {
+        const double value = rounded(m_widget->value());
+        if (m_dragged && !m_range.continuous)
+            showValue(value);
+        else
+            userSets(value);
+    }
     void userSets(double value)
     {
+        if (value == rounded(m_value))
+            return;
         setValue(value);
         emit changed();
     }
-    void readoutEdited()
+    void typed()
     {
         bool isNumber = false;
-        const double typed = QLocale().toDouble(m_readout->text(), &isNumber);
+        double number = QLocale().toDouble(m_readout->text(), &isNumber);
+        if (!isNumber)
+            number = QLocale::c().toDouble(m_readout->text(), &isNumber);
+        m_readout->restore();
         // Leaving the field as it was is no change.
-        if (isNumber && std::lround(typed * m_steps) != std::lround(m_value * m_steps))
-            userSets(typed);
+        if (isNumber)
+            userSets(rounded(std::clamp(number, m_range.min, m_range.max)));
     }
 
-    double m_steps; // per unit
-    int m_decimals;
-    QLineEdit* m_readout;
+    EffectPanel::Range m_range;
+    ReadoutField* m_readout;
     double m_value = 0; // of the parameter, which may lie between steps
+    bool m_dragged = false;
 };
 
 } // namespace
@@ -228,7 +298,7 @@ EffectControl* EffectPanel::addCheckBox(const Text& text, bool on, Action action
 
 EffectControl* EffectPanel::addSlider(const Text& text, const Range& range, double value, Action action)
 {
-    return addRow(text, new Slider(text, range), value, std::move(action));
+    return addRow(text, new Slider(text, range, value), value, std::move(action));
 }
 
 EffectControl* EffectPanel::addPushButton(const Text& text, Action action)

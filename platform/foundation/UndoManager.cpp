@@ -9,6 +9,8 @@ UndoManager::UndoManager(QObject* parent)
 
 void UndoManager::registerUndoWithTarget(const void* target, Invocation invocation)
 {
+    if (m_disabled > 0)
+        return;
     Action action{target, std::move(invocation)};
     if (m_state != State::Collecting) {
         m_open.actions.push_back(std::move(action));
@@ -31,6 +33,8 @@ void UndoManager::pushUndo(Step step)
 
 void UndoManager::setActionName(const QString& name)
 {
+    if (m_disabled > 0)
+        return;
     if (m_state != State::Collecting || m_groupingLevel > 0)
         m_open.name = name;
     else if (!m_undo.empty())

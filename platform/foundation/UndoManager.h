@@ -47,6 +47,10 @@ public:
     void beginUndoGrouping();
     void endUndoGrouping();
 
+    /// While it is disabled, what is registered is forgotten: for changes that are only tried. Calls nest.
+    void disableUndoRegistration() { ++m_disabled; }
+    void enableUndoRegistration() { --m_disabled; }
+
     void removeAllActions();
     /// From both stacks; a step that loses its last action goes away.
     void removeAllActionsWithTarget(const void* target);
@@ -77,6 +81,7 @@ private:
     Stack m_undo, m_redo;
     Step m_open; // the open group, or what is recorded while undoing or redoing
     int m_groupingLevel = 0;
+    int m_disabled = 0;
     State m_state = State::Collecting;
     std::size_t m_levels = 0;
 };

@@ -1,15 +1,15 @@
 #include "effects2d/EffectPanel.h"
 #include "effects2d/simpleEffects.h"
 #include "tests/effects2d/EffectFixture.h"
-#include "widgets/ColorSwatch.h"
+#include "widgets/ColorWell.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/ValueSlider.h"
 
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QSlider>
 #include <QTest>
 
 namespace {
@@ -49,15 +49,14 @@ struct EffectControlsTest : testing::Test {
     static bool change(EffectControl* control)
     {
         QWidget* widget = control->focusProxy();
-        if (auto* slider = qobject_cast<QSlider*>(widget)) {
+        if (auto* slider = qobject_cast<ValueSlider*>(widget)) {
             QTest::keyClick(slider, slider->value() == slider->maximum() ? Qt::Key_Home : Qt::Key_End);
         } else if (qobject_cast<QCheckBox*>(widget)) {
             QTest::keyClick(widget, Qt::Key_Space);
         } else if (qobject_cast<QComboBox*>(widget)) {
             QTest::keyClick(widget, Qt::Key_Down);
-        } else if (auto* well = qobject_cast<ColorSwatch*>(widget)) {
-            well->setColor(QColor(10, 20, 30, 40));
-            emit well->colorChanged(well->color());
+        } else if (auto* well = qobject_cast<ColorWell*>(widget)) {
+            well->pick(QColor(10, 20, 30, 40));
         } else {
             return false;
         }
@@ -129,19 +128,25 @@ TEST_F(EffectControlsTest, AnUndoneColorOfSimpleObjectsTellsTheOtherView)
 TEST_F(EffectControlsTest, SlidersThatDrawForLongActWhenLetGo)
 {
     select(kSimple);
-    auto* slider = qobject_cast<QSlider*>(controls[4]->focusProxy());
+    auto* slider = qobject_cast<ValueSlider*>(controls[4]->focusProxy());
     ASSERT_TRUE(slider);
     EXPECT_EQ(slider->minimum(), 10);
     EXPECT_EQ(slider->maximum(), 200);
-    EXPECT_FALSE(slider->hasTracking());
-    auto* readout = controls[4]->findChild<QLineEdit*>();
-    slider->setSliderDown(true);
-    slider->setSliderPosition(120);
+    auto* readout = controls[4]->findChild<ReadoutField*>();
+    const CIValue before = effect->save().at("object_count");
+    const QPoint middle = slider->rect().center();
+    QTest::mousePress(slider, Qt::LeftButton, {}, middle);
+    QTest::mouseMove(slider, middle + QPoint(10, 0));
     EXPECT_TRUE(posted.isEmpty());
-    EXPECT_EQ(readout->text(), "120");
-    slider->setSliderDown(false);
+    EXPECT_EQ(readout->text(), QString::number(slider->value()));
+    EXPECT_GT(slider->value(), 105);
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, middle + QPoint(10, 0));
     EXPECT_EQ(posted.size(), 1);
-    EXPECT_EQ(effect->save().at("object_count"), CIValue(120));
+    EXPECT_EQ(effect->save().at("object_count"), CIValue(slider->value()));
+    master.undo.undo();
+    EXPECT_EQ(effect->save().at("object_count"), before);
+    EXPECT_FALSE(master.undo.canUndo());
+    posted.clear();
 
     readout->setFocus();
     readout->selectAll();
@@ -150,7 +155,33 @@ TEST_F(EffectControlsTest, SlidersThatDrawForLongActWhenLetGo)
     EXPECT_EQ(slider->value(), 35);
     EXPECT_EQ(effect->save().at("object_count"), CIValue(35));
     QTest::keyClick(readout, Qt::Key_Return); // the same number is no change
-    EXPECT_EQ(posted.size(), 2);
+    QTest::keyClicks(readout, "nonsense");
+    QTest::keyClick(readout, Qt::Key_Return);
+    EXPECT_EQ(readout->text(), "35");
+    EXPECT_EQ(posted.size(), 1);
+    readout->selectAll();
+    QTest::keyClicks(readout, "5000");
+    QTest::keyClick(readout, Qt::Key_Return);
+    EXPECT_EQ(effect->save().at("object_count"), CIValue(200)) << "no more than the slider has";
+}
+
+TEST_F(EffectControlsTest, DraggingASliderIsOneStepForUndo)
+{
+    select(kSimple);
+    auto* slider = qobject_cast<ValueSlider*>(controls[3]->focusProxy());
+    ASSERT_TRUE(slider);
+    const float before = effect->opacity();
+    const QPoint middle = slider->rect().center();
+    QTest::mousePress(slider, Qt::LeftButton, {}, middle + QPoint(20, 0));
+    for (int x = 21; x < 30; ++x)
+        QTest::mouseMove(slider, middle + QPoint(x, 0));
+    QTest::mouseRelease(slider, Qt::LeftButton, {}, middle + QPoint(30, 0));
+    EXPECT_GT(posted.size(), 3) << "acts while it is dragged";
+    EXPECT_NE(effect->opacity(), before);
+    master.undo.undo();
+    EXPECT_EQ(effect->opacity(), before);
+    EXPECT_EQ(slider->value(), before);
+    EXPECT_FALSE(master.undo.canUndo());
 }
 
 TEST_F(EffectControlsTest, PanelsShowTheirControlsInOrderAndGoAway)
@@ -178,21 +209,30 @@ TEST_F(EffectControlsTest, PanelsShowTheirControlsInOrderAndGoAway)
     EXPECT_TRUE(controls.empty());
 }
 
-TEST_F(EffectControlsTest, ColorWellsChangeWhileTheirPanelIsOpen)
+TEST_F(EffectControlsTest, ColorWellsShowWhatIsTriedAndChangeByWhatIsPicked)
 {
     select(kFlare);
-    auto* well = qobject_cast<ColorSwatch*>(controls[0]->focusProxy());
+    auto* well = qobject_cast<ColorWell*>(controls[0]->focusProxy());
     ASSERT_TRUE(well);
+    const CIColor before = effect->bgColor();
+    for (const bool accepts : {false, true}) {
+        QTest::keyClick(well, Qt::Key_Space);
+        ASSERT_TRUE(well->panel() && well->panel()->isVisible());
+        well->panel()->setCurrentColor(QColor(255, 0, 51, 102));
+        EXPECT_EQ(effect->bgColor().red(), 1) << "the picture follows";
+        EXPECT_NEAR(effect->bgColor().alpha(), 0.4, 1e-4);
+        EXPECT_FALSE(master.undo.canUndo());
+        accepts ? well->panel()->accept() : well->panel()->reject();
+        EXPECT_NEAR(effect->bgColor().blue(), accepts ? 0.2 : before.blue(), 1e-4);
+        EXPECT_EQ(master.undo.canUndo(), accepts);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    master.undo.undo();
+    EXPECT_NEAR(effect->bgColor().alpha(), before.alpha(), 1e-4);
+    EXPECT_FALSE(master.undo.canUndo());
+
     QTest::keyClick(well, Qt::Key_Space);
-    QPointer<QColorDialog> panel = well->findChild<QColorDialog*>();
-    ASSERT_TRUE(panel && panel->isVisible());
-    panel->setCurrentColor(QColor(255, 0, 51, 102));
-    EXPECT_EQ(effect->bgColor().red(), 1);
-    EXPECT_NEAR(effect->bgColor().blue(), 0.2, 1e-4);
-    EXPECT_NEAR(effect->bgColor().alpha(), 0.4, 1e-4);
-    while (master.undo.canUndo())
-        master.undo.undo();
-    EXPECT_EQ(panel->currentColor().alpha(), 0);
+    const QPointer<QColorDialog> panel = well->panel();
     posted.clear();
     effect->clearEffect();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -59,6 +59,25 @@ TEST(UndoManager, NamesFollowTheirStepBetweenTheStacks)
     EXPECT_EQ(undo.undoActionName(), "Second");
 }
 
+TEST(UndoManager, ForgetsWhatIsOnlyTried)
+{
+    UndoManager undo;
+    Knob knob{undo};
+    knob.set(1);
+    undo.setActionName("Set");
+    undo.disableUndoRegistration();
+    undo.disableUndoRegistration();
+    knob.set(5);
+    undo.enableUndoRegistration();
+    knob.set(6);
+    undo.setActionName("Try");
+    undo.enableUndoRegistration();
+    EXPECT_EQ(undo.undoActionName(), "Set");
+    undo.undo();
+    EXPECT_EQ(knob.value, 0);
+    EXPECT_FALSE(undo.canUndo());
+}
+
 TEST(UndoManager, DropsTheActionsOfOneTargetFromBothStacks)
 {
     UndoManager undo;
