@@ -69,7 +69,7 @@ void Controller::showCustomEffectName()
     ui.filterNameLine->setVisible(shown);
     ui.filterHintField->setVisible(!shown || currentCustomEffect->isMousing());
     ui.filterHintField->setText(shown
-            ? tr("Drag on the picture to move the effect. With Shift or without, the arrow keys move it as well.")
+            ? tr("Drag on the picture to move the effect. The arrow keys move it as well.")
             : tr("Choose an effect from the list to draw it over the picture or over a color."));
 }
 

@@ -6,6 +6,7 @@
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
+#include "effects2d/GeneratedEffect.h"
 #include "files/PictureLimits.h"
 #include "files/PlainPicture.h"
 #include "platform/coreimage/passes/Resample.h"
@@ -187,11 +188,15 @@ void Controller::fitZoom()
 {
     const CIRect extent = backgroundImage.extent();
     const int scroller = m_window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, ui.pictureScrollView);
-    const QSize area = ui.pictureScrollView->size();
-    const float zoom = zoomThatFits(extent.width, extent.height, area.width() - scroller, area.height() - scroller);
-    setZoom(zoom);
+    const QSize area = ui.pictureScrollView->size() - QSize(scroller, scroller);
+    const float zoom = zoomThatFits(extent.width, extent.height, area.width(), area.height());
+    // Effects are drawn without a picture, too.
+    const QSizeF canvas = GeneratedEffect::kCanvasWithoutPicture;
+    const float customZoom =
+        extent.isEmpty() ? zoomThatFits(canvas.width(), canvas.height(), area.width(), area.height()) : zoom;
+    setZoom(filerMode() == Custom ? customZoom : zoom);
     ciView->setZoom(zoom);
-    customEffectsView->setZoom(zoom);
+    customEffectsView->setZoom(customZoom);
 }
 
 void Controller::zoomChanged()

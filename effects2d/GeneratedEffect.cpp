@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr QSizeF kCanvasWithoutPicture(726, 544);
 constexpr int kBandHeight = 1024; // rows composited at a time for a picture at full size
 
 QColor colorOf(const CIColor& c)

@@ -17,6 +17,8 @@ class EffectPanel;
 /// Each parameter has a control action `change…(sender)` and an undo target that takes the value and the control.
 class GeneratedEffect : public BaseEffect {
 public:
+    static constexpr QSizeF kCanvasWithoutPicture{726, 544};
+
     void initEffect() override;
     void clearEffect() override;
     void loadImage() override;

@@ -1,0 +1,266 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "effects2d/customEffImageView.h"
+#include "effects2d/GeneratedEffect.h"
+#include "platform/coreimage/CIContext.h"
+#include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/UserDefaults.h"
+#include "ui_MainWindow.h"
+#include "widgets/ColorWell.h"
+#include "widgets/DocPageControl.h"
+#include "widgets/GradientButton.h"
+#include "widgets/PanelCheckBox.h"
+#include "widgets/ValueSlider.h"
+
+#include <QMimeData>
+#include <QPushButton>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace {
+
+const QString kList = QStringLiteral("CustomEffectsFavorites");
+enum Row { kSimple, kLines, kHilbert, kPatchWork, kFlare, kPlasma, kMorphing, kSketch };
+
+class CustomModeTest : public WindowTest {
+protected:
+    CustomModeTest()
+    {
+        controller.openFile(pictureFile("picture.png", 300, 200));
+        QTest::mouseClick(ui.customBtn, Qt::LeftButton);
+        QCoreApplication::processEvents();
+    }
+    ~CustomModeTest() override { UserDefaults::standardUserDefaults().setRecordsForKey({}, kList); }
+
+    void pickRow(int row)
+    {
+        const QModelIndex index = list().model()->index(row, 0);
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, list().visualRect(index).center());
+        QCoreApplication::processEvents();
+    }
+    OutlineView& list() const { return *ui.filterCustomOutlineView; }
+    customEffImageView& view() const { return *ui.customEffectsScrollView->imageView(); }
+    GeneratedEffect* effect() { return dynamic_cast<GeneratedEffect*>(controller.getCurrentCustomEffect()); }
+    template <class Control>
+    QList<Control*> controls() const
+    {
+        return ui.placeCustomCntrlView->findChildren<Control*>();
+    }
+    onlyTextClosedButton* button(int index) const
+    {
+        return qobject_cast<onlyTextClosedButton*>(ui.m_pageCustomController->items().value(index));
+    }
+    static std::uint32_t pixel(const CIImage& image, int x, int y)
+    {
+        const CIBitmap bitmap = CIContext().render(image, {double(x), double(y), 1, 1});
+        return bitmap.row<std::uint32_t>(0)[0];
+    }
+};
+
+TEST_F(CustomModeTest, AnEffectIsACopyThatGoesWithTheNextChoice)
+{
+    EXPECT_EQ(list().model()->rowCount(), 8);
+    EXPECT_FALSE(action("actionApply")->isEnabled());
+    pickRow(kLines);
+    ASSERT_TRUE(effect());
+    EXPECT_EQ(effect()->className(), "linesEffect");
+    EXPECT_EQ(ui.filterNameField->text(), "Lines Effect");
+    EXPECT_TRUE(controller.wasChanged());
+    EXPECT_TRUE(action("actionApply")->isEnabled());
+    const float opacity = effect()->opacity();
+    controls<ValueSlider>().first()->moveTo(13);
+    EXPECT_EQ(effect()->opacity(), 13);
+    controller.undo();
+    EXPECT_EQ(effect()->opacity(), opacity);
+    EXPECT_EQ(controls<ValueSlider>().first()->value(), opacity);
+    controller.redo();
+
+    pickRow(kPlasma);
+    EXPECT_EQ(effect()->className(), "plasmaEffect");
+    pickRow(kLines);
+    EXPECT_EQ(effect()->opacity(), opacity) << "a fresh copy";
+    while (undo.canUndo()) // what remains is the switch to this mode
+        undo.undo();
+    EXPECT_EQ(controller.filerMode(), unsigned(Controller::Standard));
+}
+
+TEST_F(CustomModeTest, EscapeAndApplyEndTheEffect)
+{
+    pickRow(kSimple);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(effect());
+    EXPECT_FALSE(list().selectedItem());
+    EXPECT_TRUE(controls<QWidget>().isEmpty());
+    EXPECT_FALSE(ui.filterNameField->isVisible());
+
+    const CIImage before = controller.backImage();
+    pickRow(kSimple);
+    const CIImage drawn = controller.getEffectedImage();
+    EXPECT_EQ(drawn.extent(), before.extent());
+    QTest::mouseClick(ui.applyBtn, Qt::LeftButton);
+    EXPECT_FALSE(effect());
+    for (const auto& [x, y] : {std::pair{3, 4}, {150, 100}, {299, 199}})
+        EXPECT_EQ(pixel(controller.backImage(), x, y), pixel(drawn, x, y));
+    EXPECT_EQ(undo.undoActionName(), "Apply");
+    controller.undo();
+    EXPECT_TRUE(controller.backImage().isSameAs(before));
+}
+
+TEST_F(CustomModeTest, WithoutAPictureTheCanvasHasItsOwnSize)
+{
+    controller.setBackgroundImage({});
+    EXPECT_LT(view().getZoom(), 1.5f) << "all of it is seen";
+    for (int row = kSimple; row <= kMorphing; ++row) {
+        pickRow(row);
+        EXPECT_EQ(controller.getEffectedImage().extent(), (CIRect{0, 0, 726, 544})) << row;
+        EXPECT_NEAR(view().bounds().width, 726, 20) << row; // with room for a scroller
+    }
+    pickRow(kSketch);
+    EXPECT_FALSE(controller.getEffectedImage());
+    controller.openFile(pictureFile("other.png", 120, 90)); // while an effect is shown
+    EXPECT_EQ(controller.getEffectedImage().extent(), (CIRect{0, 0, 120, 90}));
+    EXPECT_NEAR(view().bounds().width, 120, 5);
+}
+
+TEST_F(CustomModeTest, TheMousePlacesTheAnchorWithTwoStepsForUndo)
+{
+    pickRow(kSimple);
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
+    QApplication::sendEvent(&view(), &enter);
+    EXPECT_FALSE(view().drawsCursor()) << "it has no anchor";
+    pickRow(kFlare);
+    QApplication::sendEvent(&view(), &enter);
+    EXPECT_TRUE(view().drawsCursor());
+    effect()->getDrawImage();
+    const CIPoint start = effect()->startPoint();
+    const auto at = [this](double x, double y) { return view().toWidget({x, y}).toPoint(); };
+    QTest::mousePress(&view(), Qt::LeftButton, {}, at(50, 60));
+    QTest::mouseMove(&view(), at(100, 80));
+    EXPECT_NEAR(effect()->startPoint().x, 100, 1);
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, at(120, 90));
+    EXPECT_NEAR(effect()->startPoint().x, 120, 1);
+    EXPECT_NEAR(effect()->startPoint().y, 90, 1);
+    controller.undo();
+    EXPECT_NEAR(effect()->startPoint().x, 100, 1);
+    controller.undo();
+    EXPECT_EQ(effect()->startPoint(), start);
+}
+
+TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
+{
+    pickRow(kPlasma);
+    controller.zoomTo(1);
+    EXPECT_EQ(view().getZoom(), 1);
+    EXPECT_EQ(ui.zoomField->text(), "100 %");
+    const auto turn = [this](int delta) {
+        const QPointF middle = view().rect().center();
+        QWheelEvent event(
+            middle, view().mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&view(), &event);
+    };
+    turn(120);
+    EXPECT_FLOAT_EQ(view().getZoom(), 1.05f);
+    turn(120);
+    EXPECT_FLOAT_EQ(view().getZoom(), 1.26f);
+    EXPECT_EQ(ui.zoomField->text(), "126 %");
+    const float zoom = view().getZoom();
+    QTest::mouseClick(ui.standardBtn, Qt::LeftButton);
+    controller.zoomTo(2);
+    QTest::mouseClick(ui.customBtn, Qt::LeftButton);
+    EXPECT_EQ(view().getZoom(), zoom) << "each mode has its own";
+    EXPECT_EQ(ui.zoomField->text(), "126 %");
+}
+
+TEST_F(CustomModeTest, ADroppedFileBecomesThePicture)
+{
+    pickRow(kLines);
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(pictureFile("dropped.png", 80, 50))});
+    QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(&view(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &files, Qt::LeftButton, {});
+    QApplication::sendEvent(&view(), &drop);
+    EXPECT_EQ(controller.backImage().extent(), (CIRect{0, 0, 80, 50}));
+    EXPECT_TRUE(controller.getFilePath().endsWith("/dropped.png"));
+    EXPECT_EQ(effect()->getDrawImage().extent(), (CIRect{0, 0, 80, 50})) << "the effect has it, too";
+    controller.undo();
+    EXPECT_EQ(controller.backImage().extent().width, 300);
+}
+
+TEST_F(CustomModeTest, FavouritesBringEffectsBackAcrossRuns)
+{
+    for (int row = kSimple; row <= kSketch; ++row) {
+        pickRow(row);
+        if (row == kHilbert)
+            controls<ValueSlider>().first()->moveTo(33);
+        QTest::mouseClick(ui.addFavouriteBtn, Qt::LeftButton);
+    }
+    ASSERT_EQ(ui.m_pageCustomController->pageCount(), 8);
+    controller.saveFavorites();
+    controller.readFavorites();
+    ASSERT_EQ(ui.m_pageCustomController->pageCount(), 8);
+    EXPECT_EQ(button(kHilbert)->toolTip(), "Hilbert Lines Effect Generator");
+    QTest::mouseClick(button(kHilbert), Qt::LeftButton);
+    ASSERT_TRUE(effect());
+    EXPECT_EQ(effect()->className(), "hilbertLinesEffect");
+    EXPECT_EQ(effect()->opacity(), 33);
+    EXPECT_TRUE(button(kHilbert)->isChecked());
+    EXPECT_FALSE(list().selectedItem());
+    EXPECT_FALSE(controls<ValueSlider>().isEmpty());
+    effect()->seOpacity(50);
+    QTest::mouseClick(button(kPlasma), Qt::LeftButton);
+    EXPECT_FALSE(button(kHilbert)->isChecked());
+    QTest::mouseClick(button(kHilbert), Qt::LeftButton);
+    EXPECT_EQ(effect()->opacity(), 33) << "a copy is edited, not the favourite";
+    QTest::mouseClick(button(kHilbert), Qt::LeftButton);
+    EXPECT_FALSE(effect());
+    pickRow(kFlare);
+    QTest::mouseClick(button(kSimple), Qt::LeftButton);
+    pickRow(kFlare);
+    EXPECT_FALSE(button(kSimple)->isChecked());
+    QTest::mouseClick(button(kSimple), Qt::LeftButton);
+    QTest::keyClick(button(kSimple), Qt::Key_Delete);
+    EXPECT_FALSE(effect());
+    EXPECT_EQ(ui.m_pageCustomController->pageCount(), 7);
+}
+
+TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
+{
+    for (int row : {int(kSimple), int(kPlasma)}) {
+        pickRow(row);
+        controller.addFavoritesCustom();
+    }
+    controller.escapeEffect();
+    controller.filterChangedCustom(button(0));
+    controller.undo();
+    EXPECT_FALSE(effect()) << "none was there before: cleared";
+    EXPECT_FALSE(button(0)->isChecked());
+    controller.filterChangedCustom(button(0));
+    controller.filterChangedCustom(button(1));
+    controller.undo();
+    EXPECT_EQ(effect()->className(), "plasmaEffect") << "the 3D list doesn't know the former button";
+    EXPECT_TRUE(button(1)->isChecked());
+}
+
+TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
+{
+    pickRow(kPlasma);
+    controller.addFavoritesCustom();
+    controller.saveFavoritesCustom();
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    StoredRecords records = defaults.recordsForKey(kList).value();
+    records[0]["classObj"] = KeyedArchive::archivedData(CIDictionary{{"class", "newerEffect"}, {"depth", 3}});
+    defaults.setRecordsForKey(records, kList);
+    controller.readFavoritesCustom();
+    controller.escapeEffect();
+    QTest::mouseClick(button(0), Qt::LeftButton);
+    EXPECT_FALSE(effect());
+    EXPECT_FALSE(button(0)->isChecked());
+    controller.saveFavoritesCustom();
+    const CIValue stored = KeyedArchive::unarchivedValue(defaults.recordsForKey(kList)->at(0).at("classObj").bytes());
+    EXPECT_EQ(stored.toDictionary().at("depth"), CIValue(3));
+}
+
+} // namespace
