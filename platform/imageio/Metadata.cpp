@@ -62,7 +62,7 @@ std::string readableValue(const Exiv2::Exifdatum& datum, const Exiv2::ExifData& 
 {
     const bool isBinary = datum.typeId() == Exiv2::undefined || datum.typeId() == Exiv2::unsignedByte;
     if (isBinary && datum.size() > kLongestBinary)
-        return "(" + std::to_string(datum.size()) + " bytes)";
+        return std::string("(").append(std::to_string(datum.size())).append(" bytes)");
     std::string text = datum.print(&all);
     if (text.size() > 1 && text[0] == 'F' && std::isdigit(static_cast<unsigned char>(text[1])))
         text.replace(0, 1, "f/"); // F2.8
