@@ -187,6 +187,8 @@ public:
     void openImgPanelDidEnd(int returnCode, const QStringList& files);
     /// Opens a picture file as the open panel does.
     void openFile(const QString& path);
+    /// The same as an undo step; nothing while the program is busy.
+    void openDroppedFile(const QString& path);
     void setFilePath(const QString& path) override; // empty for none
     void showInfoPanel(); // or hides it
     QString getFilePath() const { return _filePath; }

@@ -1,12 +1,14 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/PictureFiles.h"
-#include "controls/MyImageView.h"
 #include "app/RecentFiles.h"
+#include "controls/MyImageView.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
+#include "widgets/BackgroundWork.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -90,6 +92,21 @@ void Controller::showReduced(const std::string& file)
                            .transformed(CIAffineTransform::scaling(width / bitmap.width(), height / bitmap.height()))
                            .cropped({0, 0, width, height}));
     ciView->waitForFrame(kPatience);
+}
+
+void Controller::openDroppedFile(const QString& path)
+{
+    if (path.isEmpty() || isWorkRunning() || QApplication::activeModalWidget())
+        return;
+    const CIImage image = readImage(path);
+    if (!image) {
+        showReadFailure(path);
+        return;
+    }
+    setFilePath(path);
+    undoPaste(image);
+    m_undoManager.setActionName(tr("Open"));
+    rememberRecentFile(path);
 }
 
 void Controller::setFilePath(const QString& path)

@@ -11,9 +11,11 @@
 #include "platform/foundation/TintedIcon.h"
 #include "ui_MainWindow.h"
 #include "widgets/CustomScroller.h"
+#include "widgets/DropFileTypes.h"
 
 #include <QCloseEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QShortcut>
 
 #include <array>
@@ -23,6 +25,7 @@ MainWindow::MainWindow()
     , m_contextMenu(new QMenu(this))
 {
     ui->setupUi(this);
+    setAcceptDrops(true);
     setLayout();
     setIcons();
     setShortcuts();
@@ -246,6 +249,20 @@ void MainWindow::keyReleaseEvent(QKeyEvent* event)
 {
     if (!event->isAutoRepeat() && m_pressedKeys.remove(event->key()) && m_controller)
         m_controller->keyUp(event->key());
+}
+
+/// Views that do something of their own with files get them first.
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    const QString path = onlyDroppedFile(*event->mimeData());
+    event->setAccepted(m_controller && !path.isEmpty() && isAcceptableEffectPicture(path));
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    if (m_controller)
+        m_controller->openDroppedFile(onlyDroppedFile(*event->mimeData()));
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)

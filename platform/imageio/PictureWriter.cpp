@@ -150,10 +150,23 @@ public:
         if (::stat(m_target.c_str(), &old) == 0 && ::fchmod(m_descriptor, old.st_mode & 07777) != 0)
             imageLog("The permissions of " + m_target.string() + " can't be kept.");
         m_isCommitted = ::fsync(m_descriptor) == 0 && ::rename(m_path.c_str(), m_target.c_str()) == 0;
+        if (m_isCommitted)
+            flushFolder();
         return m_isCommitted;
     }
 
 private:
+    /// So that the new name survives a power cut. Not all file systems can; the file is whole either way.
+    void flushFolder() const
+    {
+        const fs::path folder = m_target.has_parent_path() ? m_target.parent_path() : fs::path(".");
+        const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (descriptor < 0)
+            return;
+        static_cast<void>(::fsync(descriptor));
+        ::close(descriptor);
+    }
+
     fs::path m_target, m_path;
     int m_descriptor = -1;
     bool m_isCommitted = false;

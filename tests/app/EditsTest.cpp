@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -18,6 +19,7 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
+#include <QUrl>
 
 #include <vector>
 
@@ -215,6 +217,31 @@ TEST_F(EditsTest, BrokenClipboardGivesNoPictureAndTheWayBack)
     QApplication::clipboard()->setMimeData(broken);
     controller.paste();
     EXPECT_FALSE(controller.backImage());
+    controller.undo();
+    EXPECT_EQ(shown(), kPicture);
+}
+
+TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
+{
+    open(kPicture);
+    const auto drop = [&](const QString& path) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent dropped(QPointF(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &dropped);
+        return true;
+    };
+    EXPECT_FALSE(drop(folder.filePath("text.txt")));
+    EXPECT_TRUE(drop(folder.filePath("missing.png")));
+    EXPECT_EQ(shown(), kPicture) << "what can't be read replaces nothing";
+    const QString file = pictureFile("dropped.PNG", 8, 6);
+    EXPECT_TRUE(drop(file));
+    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 8, 6}));
+    EXPECT_EQ(controller.getFilePath(), file);
     controller.undo();
     EXPECT_EQ(shown(), kPicture);
 }
