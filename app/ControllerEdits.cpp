@@ -123,8 +123,11 @@ void Controller::copy()
             tiff = std::move(encoded.value());
         shown = screenPicture(bitmap);
     });
-    if (tiff.empty())
+    if (tiff.empty()) {
+        if (!control.isCancelled())
+            showMessage(tr("There was not enough memory to copy the picture"));
         return;
+    }
     Pasteboard::generalPasteboard().setPicture(
         QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())), shown);
     updateMainBtnState();

@@ -94,6 +94,8 @@ void Controller::awakeFromNib()
 {
     infoPanel = new ImageInfo(&m_window);
     m_resizePanel = new ResizePanel(&m_window, *this);
+    for (const QDialog* panel : {static_cast<QDialog*>(infoPanel), static_cast<QDialog*>(m_resizePanel)})
+        connect(panel, &QDialog::finished, this, &Controller::validateMenuItems); // their buttons are on no more
     setBackgroundImage(readImage(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg"))));
     setDefaultImagePaths();
     CIPlugIn::loadAllPlugIns();

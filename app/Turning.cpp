@@ -4,20 +4,58 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
+
+#include <tbb/blocked_range.h>
+#include <tbb/parallel_for.h>
 
 namespace {
 
 constexpr int kBlock = 32; // pixels a side: source and target of a block stay in the cache
 
+/// Pixels that are about to be written, all of them.
+struct Canvas {
+    Canvas(int width, int height, std::size_t pixelBytes)
+        : width(width)
+        , height(height)
+        , bytesPerRow(std::size_t(width) * pixelBytes)
+        , pixels(std::make_shared_for_overwrite<std::byte[]>(bytesPerRow * std::size_t(height)))
+    {
+    }
+    template <class Pixel>
+    Pixel* row(int y) const
+    {
+        return reinterpret_cast<Pixel*>(pixels.get() + std::size_t(y) * bytesPerRow);
+    }
+    CIBitmap bitmapLike(const CIBitmap& source) const
+    {
+        return {pixels.get(), width, height, bytesPerRow, source.format(), source.alpha(), source.colorSpace(), pixels};
+    }
+
+    int width, height;
+    std::size_t bytesPerRow;
+    std::shared_ptr<std::byte[]> pixels;
+};
+
 template <std::size_t Bytes>
 using PixelOf = std::array<std::byte, Bytes>;
 
-template <std::size_t Bytes>
-void rotateBlock(const CIBitmap& source, bool left, int top, int x0, CIBitmap& target, std::byte* first)
+/// Calls `work` with each row, on all cores.
+template <class Work>
+void forRows(int count, Work work)
 {
-    const int bottom = std::min(top + kBlock, target.height()), x1 = std::min(x0 + kBlock, target.width());
+    tbb::parallel_for(tbb::blocked_range<int>(0, count, kBlock), [&](const tbb::blocked_range<int>& rows) {
+        for (int y = rows.begin(); y < rows.end(); ++y)
+            work(y);
+    });
+}
+
+template <std::size_t Bytes>
+void rotateBlock(const CIBitmap& source, bool left, int top, int bottom, int x0, const Canvas& target)
+{
+    const int x1 = std::min(x0 + kBlock, target.width);
     for (int y = top; y < bottom; ++y) {
-        auto* row = reinterpret_cast<PixelOf<Bytes>*>(first + std::size_t(y) * target.bytesPerRow());
+        auto* row = target.row<PixelOf<Bytes>>(y);
         const int column = left ? source.width() - 1 - y : y;
         for (int x = x0; x < x1; ++x) {
             const std::byte* from = source.row(left ? x : source.height() - 1 - x);
@@ -27,22 +65,23 @@ void rotateBlock(const CIBitmap& source, bool left, int top, int x0, CIBitmap& t
 }
 
 template <std::size_t Bytes>
-void rotate(const CIBitmap& source, bool left, CIBitmap& target)
+void rotate(const CIBitmap& source, bool left, const Canvas& target)
 {
-    std::byte* const first = target.mutableRow(0);
-    for (int y = 0; y < target.height(); y += kBlock)
-        for (int x = 0; x < target.width(); x += kBlock)
-            rotateBlock<Bytes>(source, left, y, x, target, first);
+    const int strips = (target.height + kBlock - 1) / kBlock;
+    tbb::parallel_for(0, strips, [&](int strip) {
+        const int top = strip * kBlock, bottom = std::min(top + kBlock, target.height);
+        for (int x = 0; x < target.width; x += kBlock)
+            rotateBlock<Bytes>(source, left, top, bottom, x, target);
+    });
 }
 
 template <std::size_t Bytes>
-void mirror(const CIBitmap& source, CIBitmap& target)
+void mirror(const CIBitmap& source, const Canvas& target)
 {
-    const auto width = std::size_t(source.width());
-    for (int y = 0; y < source.height(); ++y) {
+    forRows(source.height(), [&](int y) {
         const auto* from = reinterpret_cast<const PixelOf<Bytes>*>(source.row(y));
-        std::reverse_copy(from, from + width, reinterpret_cast<PixelOf<Bytes>*>(target.mutableRow(y)));
-    }
+        std::reverse_copy(from, from + source.width(), target.row<PixelOf<Bytes>>(y));
+    });
 }
 
 /// Calls `work` with the number of bytes of a pixel.
@@ -61,20 +100,21 @@ void forPixelSize(CIFormat format, Work work)
 
 CIBitmap rotatedBitmap(const CIBitmap& source, bool left)
 {
-    CIBitmap target(source.height(), source.width(), source.format(), source.alpha(), source.colorSpace());
+    const Canvas target(source.height(), source.width(), bytesPerPixel(source.format()));
     forPixelSize(source.format(), [&]<std::size_t Bytes>() { rotate<Bytes>(source, left, target); });
-    return target;
+    return target.bitmapLike(source);
 }
 
 CIBitmap flippedBitmap(const CIBitmap& source, bool vertical)
 {
-    CIBitmap target(source.width(), source.height(), source.format(), source.alpha(), source.colorSpace());
-    if (!vertical)
+    const Canvas target(source.width(), source.height(), bytesPerPixel(source.format()));
+    if (vertical)
+        forRows(source.height(), [&](int y) {
+            std::copy_n(source.row(source.height() - 1 - y), target.bytesPerRow, target.row<std::byte>(y));
+        });
+    else
         forPixelSize(source.format(), [&]<std::size_t Bytes>() { mirror<Bytes>(source, target); });
-    for (int y = 0; vertical && y < source.height(); ++y)
-        std::copy_n(source.row(source.height() - 1 - y), std::size_t(source.width()) * bytesPerPixel(source.format()),
-            target.mutableRow(y));
-    return target;
+    return target.bitmapLike(source);
 }
 
 CIImage transformedToOrigin(const CIImage& picture, const CIAffineTransform& transform)

@@ -38,11 +38,14 @@ public:
         m_bar->setRange(0, kBarSteps);
         m_bar->setTextVisible(false);
         m_bar->setAccessibleName(title);
+        m_cancel->setAutoDefault(false); // a late Return is for what was there before
         m_cancel->setToolTip(QObject::tr("Stops and leaves everything as it was"));
         auto* layout = new QVBoxLayout(this);
         layout->setContentsMargins(16, 16, 16, 16);
         layout->setSpacing(12);
-        layout->addWidget(new QLabel(title));
+        auto* label = new QLabel(title);
+        label->setTextFormat(Qt::PlainText); // it may hold a file name
+        layout->addWidget(label);
         layout->addWidget(m_bar);
         layout->addWidget(m_cancel, 0, Qt::AlignRight);
         connect(m_cancel, &QPushButton::clicked, this, &ProgressSheet::reject);

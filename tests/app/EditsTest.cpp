@@ -171,8 +171,8 @@ TEST_F(EditsTest, ResizesInOneStep)
 
     answering("OK", [&] { controller.resizeImageHeight(900'000, 900'000); });
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
-    action("actionResize")->trigger();
-    EXPECT_FALSE(panel->isVisible());
+    panel->close();
+    EXPECT_FALSE(action("actionResize")->isChecked());
 }
 
 TEST_F(EditsTest, OtherProgramsPasteWhatIsCopied)

@@ -107,6 +107,11 @@ TEST_F(ExportTest, EveryFormatIsAFileThatOthersRead)
         const Result<CIBitmap> back = readPicture(path(format.file).toStdString());
         ASSERT_TRUE(back) << back.message();
         EXPECT_GE(likeness(*back, truth), format.decibels);
+        if (QStringList({"JPEG", "TIFF", "PNG"}).contains(format.kind)) {
+            const QString profile =
+                QString::fromStdString(readPictureInfo(path(format.file).toStdString())->profileName);
+            EXPECT_TRUE(profile.contains("sRGB")) << profile.toStdString();
+        }
     }
     EXPECT_TRUE(QFile::exists(path("OUT.pdf")));
 }
@@ -246,6 +251,25 @@ TEST_F(ExportTest, StoppingALongSaveLeavesEverythingAsItWas)
     EXPECT_TRUE(controller.wasChanged());
     EXPECT_EQ(identify(path("photo.jpeg")), before);
     EXPECT_EQ(lower.entryList(QDir::Files | QDir::Hidden), QStringList{"photo.jpeg"});
+}
+
+TEST_F(ExportTest, TheFinishedPictureIsThatOfTheMode)
+{
+    openNoise("noise.png");
+    EXPECT_TRUE(controller.getEffectedImage().isSameAs(controller.backImage())) << "nothing is being edited";
+    EXPECT_EQ(likeness(controller.createObjectImage(), current()), INFINITY);
+    pick("CIColorInvert");
+    EXPECT_EQ(controller.createObjectImage().row<std::uint8_t>(0)[0], 255);
+    EXPECT_EQ(controller.getCGImage().row<std::uint8_t>(0)[0], 0) << "the source";
+    pick("CICheckerboardGenerator");
+    EXPECT_EQ(controller.getEffectedImage().extent(), controller.getBgImageExtent()) << "generators have no end";
+    for (QAbstractButton* mode :
+        {static_cast<QAbstractButton*>(ui.threeDBtn), static_cast<QAbstractButton*>(ui.customBtn)}) {
+        mode->click();
+        EXPECT_TRUE(controller.getEffectedImage().isSameAs(controller.backImage())) << "no effect is chosen";
+    }
+    controller.setModeResult(Controller::Custom, [] { return CIImage::fromBitmap(CIBitmap(7, 5)); });
+    EXPECT_EQ(controller.createObjectImage(72).width(), 7);
 }
 
 TEST_F(ExportTest, DescribesBitmaps)
