@@ -177,9 +177,8 @@ TEST_F(FavouritesTest, ManyWithLargePicturesAreReadAtOnce)
     timer.start();
     controller.readFavorites();
     EXPECT_EQ(ui.m_pageController->pageCount(), 200);
-    EXPECT_LT(timer.elapsed(), 400) << "ms; none of the pictures is read";
+    EXPECT_LT(timer.elapsed(), 1500) << "ms, a tenth of it on a quiet machine; none of the pictures is read";
     RecordProperty("ms", int(timer.elapsed()));
-    std::printf("200 favourites read in %lld ms\n", static_cast<long long>(timer.elapsed()));
     controller.setBackgroundImage({});
 }
 
