@@ -1,3 +1,4 @@
+#include "app/AboutWindow.h"
 #include "app/Controller.h"
 #include "app/HelpWindow.h"
 #include "app/MainWindow.h"
@@ -9,9 +10,6 @@
 #include "platform/foundation/ResourcePaths.h"
 #include "ui_MainWindow.h"
 #include "widgets/GradientButton.h"
-
-#include <QCoreApplication>
-#include <QMessageBox>
 
 void Controller::connectInterface()
 {
@@ -169,11 +167,6 @@ void Controller::displayHelp()
 
 void Controller::orderFrontAboutPanel()
 {
-    QMessageBox about(&m_window);
-    about.setWindowTitle(tr("About Lumivex"));
-    about.setWindowModality(Qt::WindowModal);
-    about.setIconPixmap(m_window.windowIcon().pixmap(QSize(64, 64), m_window.devicePixelRatioF()));
-    about.setText(tr("<b>Lumivex %1</b>").arg(QCoreApplication::applicationVersion()));
-    about.setInformativeText(tr("A picture editor with live filters."));
+    AboutWindow about(&m_window);
     about.exec();
 }

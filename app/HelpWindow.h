@@ -1,9 +1,15 @@
 // Shows the help book.
 #pragma once
 
-#include <QTextBrowser>
+#include "app/HelpPage.h"
 
-class HelpWindow : public QTextBrowser {
+#include <QWidget>
+
+class QListWidget;
+class QToolButton;
+
+/// A list of the book's pages, the page that is read, and the way back. Follows the program's look.
+class HelpWindow : public QWidget {
     Q_OBJECT
 
 public:
@@ -13,5 +19,15 @@ public:
     static void show(QWidget& mainWindow);
 
 private:
-    explicit HelpWindow(QWidget* parent);
+    explicit HelpWindow(QWidget& mainWindow);
+
+    QToolButton* addButton(const QString& icon, const QString& name, const QKeySequence& key);
+    void addLayout();
+    void fillContents();
+    void pageChanged(const QUrl& address);
+
+    HelpPage* m_page;
+    QListWidget* m_contents;
+    QToolButton* m_back;
+    QToolButton* m_forward;
 };

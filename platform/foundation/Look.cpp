@@ -140,6 +140,10 @@ QTreeView, QListView { background: @panel; border: none; outline: none; show-dec
 QTreeView::item { min-height: 24px; border: none; padding: 0; }
 QTreeView::item:hover, QTreeView::branch:hover { background: @hover; }
 QTreeView::item:selected, QTreeView::branch:selected { background: @accent; color: @accentText; }
+#HelpWindow QListView { padding: 0 4px; }
+#HelpWindow QListView::item { min-height: 28px; padding: 0 8px; border-radius: 6px; }
+#HelpWindow QListView::item:hover { background: @hover; }
+#HelpWindow QListView::item:selected { background: @accent; color: @accentText; }
 QHeaderView::section { background: @window; border: none; border-bottom: 1px solid @separator; padding: 4px 8px; }
 
 QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: @border; }
