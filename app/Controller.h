@@ -182,6 +182,10 @@ public:
     /// Its undo asks `filterChanged3D` for the previous one, which in this mode finds nothing or clears the effect.
     void filterChangedCustom(onlyTextClosedButton* sender);
 
+    // Before and after: ControllerCompare.cpp
+    /// Shows the picture without the filter, as long as `held`, in standard mode.
+    void compare(bool held);
+
     // Files: ControllerFiles.cpp
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files);

@@ -19,6 +19,7 @@ void Controller::connectInterface()
     for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
         connect(button, &QAbstractButton::clicked, this, [this, button] { changeFilterMode(button); });
     connect(ui.applyBtn, &QAbstractButton::clicked, this, &Controller::applyBtn);
+    connect(&m_window, &MainWindow::compareHeld, this, &Controller::compare);
     connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
 }
@@ -95,6 +96,7 @@ void Controller::updateMainBtnState()
 {
     pasteBtn->setEnabled(Pasteboard::generalPasteboard().offersTIFF());
     ui.applyBtn->setEnabled(hasCurrentItem());
+    ui.compareBtn->setEnabled(filerMode() == Standard && currentFilter);
     updateWinTitle();
     validateMenuItems();
 }

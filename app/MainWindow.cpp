@@ -13,12 +13,19 @@
 #include "widgets/CustomScroller.h"
 #include "widgets/DropFileTypes.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QShortcut>
 
 #include <array>
+
+namespace {
+
+constexpr Qt::Key kCompareKey = Qt::Key_F7; // on every keyboard, and no text field wants it
+
+} // namespace
 
 MainWindow::MainWindow()
     : ui(std::make_unique<Ui::MainWindow>())
@@ -91,6 +98,7 @@ void MainWindow::setIcons()
     ui->standardBtn->setIcon(tintedIcon(QStringLiteral("mode-standard")));
     ui->threeDBtn->setIcon(tintedIcon(QStringLiteral("mode-3d")));
     ui->customBtn->setIcon(tintedIcon(QStringLiteral("mode-custom")));
+    ui->compareBtn->setIcon(tintedIcon(QStringLiteral("compare")));
     ui->applyBtn->setIcon(tintedIcon(QStringLiteral("apply"), IconTint::OnAccent));
     ui->searchField->addAction(tintedIcon(QStringLiteral("search")), QLineEdit::LeadingPosition);
     setWindowIcon(QIcon(QStringLiteral(":/icons/io.github.lumivex.Lumivex.svg")));
@@ -162,6 +170,8 @@ void MainWindow::setButtons()
         button->setDefaultAction(action);
     }
     ui->applyBtn->setProperty("prominent", true);
+    connect(ui->compareBtn, &QAbstractButton::pressed, this, [this] { emit compareHeld(true); });
+    connect(ui->compareBtn, &QAbstractButton::released, this, [this] { emit compareHeld(false); });
 }
 
 /// What depends on the look.
@@ -243,7 +253,19 @@ void MainWindow::showEvent(QShowEvent* event)
     }
 }
 
-void MainWindow::keyPressEvent(QKeyEvent* event) { m_pressedKeys.insert(event->key()); }
+void MainWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        holdCompareKey(false); // another window will get its release
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event)
+{
+    m_pressedKeys.insert(event->key());
+    if (event->key() == kCompareKey && !event->isAutoRepeat())
+        holdCompareKey(true);
+}
 
 void MainWindow::keyReleaseEvent(QKeyEvent* event)
 {
@@ -265,8 +287,26 @@ void MainWindow::dropEvent(QDropEvent* event)
         m_controller->openDroppedFile(onlyDroppedFile(*event->mimeData()));
 }
 
+/// As if the button were held.
+void MainWindow::holdCompareKey(bool held)
+{
+    if (held && ui->compareBtn->isEnabled())
+        qApp->installEventFilter(this); // text fields keep releases to themselves
+    else
+        qApp->removeEventFilter(this);
+    if (held == ui->compareBtn->isDown() || (held && !ui->compareBtn->isEnabled()))
+        return;
+    ui->compareBtn->setDown(held);
+    emit compareHeld(held);
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::KeyRelease) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == kCompareKey && !key->isAutoRepeat())
+            holdCompareKey(false);
+    }
     return (watched == ui->searchField && searchFieldEvent(event)) || QMainWindow::eventFilter(watched, event);
 }
 

@@ -26,10 +26,15 @@ public:
     /// Is told of what happens to the window; null for nobody.
     void setController(Controller* controller) { m_controller = controller; }
 
+signals:
+    /// The button for looking at the picture without the filter, or its key, is held down or let go.
+    void compareHeld(bool held);
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -44,6 +49,7 @@ private:
     void dress();
     void focusNextPane();
     bool searchFieldEvent(QEvent* event);
+    void holdCompareKey(bool held);
 
     std::unique_ptr<Ui::MainWindow> ui;
     QMenu* m_contextMenu = nullptr;

@@ -52,14 +52,23 @@ void MyImageView::setController(ImageViewMaster* master)
 void MyImageView::setContext(std::shared_ptr<CIContext> context)
 {
     d->context = std::move(context);
-    d->renderer.reset();
+    d->result.renderer.reset();
+    d->original.renderer.reset();
 }
 
 void MyImageView::setNeedsDisplay()
 {
-    d->pictureChanged = true;
+    d->result.changed = d->original.changed = true;
     update();
 }
+
+void MyImageView::setShowsOriginal(bool shows)
+{
+    d->showsOriginal = shows;
+    update();
+}
+
+bool MyImageView::showsOriginal() const { return d->showsOriginal; }
 
 // --- layout ---
 
@@ -69,14 +78,15 @@ CIPoint MyImageView::pictureSize() const
     return {extent.width, extent.height};
 }
 
-void MyImageView::boundsResized() { d->pictureChanged = true; } // some results fill the bounds
+void MyImageView::boundsResized() { d->result.changed = true; } // some results fill the bounds
 
 // --- drawing ---
 
 /// The visible part of the picture, in whole steps of the grid that is rendered; nothing when none of it is seen.
 std::optional<FrameRequest> MyImageView::frameRequest() const
 {
-    if (d->picture.isNull())
+    const CIImage& picture = d->shown().picture;
+    if (picture.isNull())
         return {};
     const double pixelsPerPicturePixel = double(zoom) * devicePixelRatioF();
     const double scale = gridScale(pixelsPerPicturePixel);
@@ -85,7 +95,7 @@ std::optional<FrameRequest> MyImageView::frameRequest() const
     constexpr double tiny = 1e-6;
     int left = int(std::floor(lowerLeft.x * scale + tiny)), right = int(std::ceil(upperRight.x * scale - tiny));
     int bottom = int(std::floor(lowerLeft.y * scale + tiny)), top = int(std::ceil(upperRight.y * scale - tiny));
-    const CIRect extent = d->picture.extent();
+    const CIRect extent = picture.extent();
     const auto limited = [](double v) { return int(std::clamp(v, -1e9, 1e9)); };
     left = std::max(left, limited(std::floor(extent.left() * scale)));
     bottom = std::max(bottom, limited(std::floor(extent.bottom() * scale)));
@@ -93,39 +103,41 @@ std::optional<FrameRequest> MyImageView::frameRequest() const
     top = std::min(top, limited(std::ceil(extent.top() * scale)));
     if (right <= left || top <= bottom)
         return {};
-    return FrameRequest{d->picture, scale, left, top, {right - left, top - bottom}};
+    return FrameRequest{picture, scale, left, top, {right - left, top - bottom}};
 }
 
 /// Brings the frame up to date, as far as that is quickly done.
 void MyImageView::refreshFrame()
 {
-    if (d->pictureChanged) {
-        d->pictureChanged = false;
-        d->picture = controller ? controller->coreImageResult(false) : CIImage();
+    Private::Layer& layer = d->shown();
+    if (std::exchange(layer.changed, false)) {
+        layer.picture = {};
+        if (controller)
+            layer.picture = d->showsOriginal ? controller->backImage() : controller->coreImageResult(false);
     }
-    if (d->picture.isNull())
-        d->frame.reset();
+    if (layer.picture.isNull())
+        layer.frame.reset();
     const std::optional<FrameRequest> request = frameRequest();
     if (!request)
         return;
-    if (!d->renderer) {
+    if (!layer.renderer) {
         if (!d->context)
             d->context = std::make_shared<CIContext>();
-        d->renderer = std::make_unique<FrameRenderer>(d->context);
-        connect(d->renderer.get(), &FrameRenderer::frameReady, this, qOverload<>(&QWidget::update));
+        layer.renderer = std::make_unique<FrameRenderer>(d->context);
+        connect(layer.renderer.get(), &FrameRenderer::frameReady, this, qOverload<>(&QWidget::update));
     }
-    d->renderer->request(*request);
-    const bool isShown = d->frame && d->frame->request == *request;
-    if (!isShown && d->renderer->isQuick(kPaintPatience))
-        d->renderer->waitForAnyFrame(kPaintPatience);
-    if (std::optional<Frame> newer = d->renderer->takeFrame())
-        d->frame = std::move(newer);
+    layer.renderer->request(*request);
+    const bool isShown = layer.frame && layer.frame->request == *request;
+    if (!isShown && layer.renderer->isQuick(kPaintPatience))
+        layer.renderer->waitForAnyFrame(kPaintPatience);
+    if (std::optional<Frame> newer = layer.renderer->takeFrame())
+        layer.frame = std::move(newer);
 }
 
 bool MyImageView::waitForFrame(int milliseconds)
 {
     refreshFrame();
-    const bool finished = !frameRequest() || d->renderer->waitForFrame(milliseconds);
+    const bool finished = !frameRequest() || d->shown().renderer->waitForFrame(milliseconds);
     repaint();
     return finished;
 }
@@ -138,15 +150,16 @@ void MyImageView::paintEvent(QPaintEvent*)
     refreshFrame();
     drawFrame(painter);
     const bool byKeyboard = d->selected && hasFocus();
-    if ((displayingPoints || byKeyboard) && !QApplication::activeModalWidget())
+    if ((displayingPoints || byKeyboard) && !d->showsOriginal && !QApplication::activeModalWidget())
         drawPoints(painter);
 }
 
 void MyImageView::drawFrame(QPainter& painter) const
 {
-    if (!d->frame || d->frame->pixels.isNull() || d->picture.isNull())
+    const Private::Layer& layer = d->shown();
+    if (!layer.frame || layer.frame->pixels.isNull() || layer.picture.isNull())
         return;
-    const Frame& frame = *d->frame;
+    const Frame& frame = *layer.frame;
     const double ratio = devicePixelRatioF();
     const double step = double(zoom) * ratio / frame.scale(); // device pixels per pixel of the frame
     const QImage& pixels = frame.pixels;

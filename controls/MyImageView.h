@@ -26,6 +26,10 @@ public:
     /// The picture has changed: asks the controller for it again when next drawn. (`update` only repaints.)
     void setNeedsDisplay();
 
+    /// Shows the source picture in place of the filter's result, without the filter's points.
+    void setShowsOriginal(bool shows);
+    bool showsOriginal() const;
+
     /// Waits until the picture is rendered in full and shown; for tests and screenshots.
     bool waitForFrame(int milliseconds = 10000);
 

@@ -93,7 +93,7 @@ void MyImageView::pressed(CIPoint point)
     parmIndex = -1;
     parmKey.clear();
     parmMode = ParmMode::kNothing;
-    const std::vector<ControlPoint> points = pointsOf(controller);
+    const std::vector<ControlPoint> points = pointsOf(d->showsOriginal ? nullptr : controller); // none is seen on it
     // However far away it is: small marks need no aim.
     if (const auto nearest = nearestControlPoint(points, point)) {
         parmIndex = 0;

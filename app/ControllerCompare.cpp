@@ -1,0 +1,6 @@
+#include "app/Controller.h"
+#include "app/MainWindow.h"
+#include "controls/MyImageView.h"
+#include "ui_MainWindow.h"
+
+void Controller::compare(bool held) { ciView->setShowsOriginal(held && filerMode() == Standard && currentFilter); }

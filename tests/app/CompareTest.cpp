@@ -1,0 +1,119 @@
+#include "WindowFixture.h"
+
+#include "controls/MyImageView.h"
+#include "controls/PictureScrollView.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QTest>
+
+namespace {
+
+const QColor kPictureColor(200, 100, 50); // of pictureFile
+
+class CompareTest : public WindowTest {
+protected:
+    CompareTest()
+    {
+        controller.openFile(pictureFile("plain.png", 120, 80));
+        pick("CIColorInvert");
+    }
+
+    /// What is seen in the middle of the picture.
+    QColor shown()
+    {
+        EXPECT_TRUE(view.waitForFrame());
+        return view.grab().toImage().pixelColor(view.rect().center() * view.devicePixelRatioF());
+    }
+
+    MyImageView& view = *ui.pictureScrollView->imageView();
+};
+
+TEST_F(CompareTest, HoldingKeyOrButtonShowsThePictureWithoutTheFilter)
+{
+    const QColor inverted = shown();
+    ASSERT_NE(inverted, kPictureColor);
+    const bool couldUndo = undo.canUndo();
+    const QString title = window.windowTitle();
+    const std::shared_ptr<CIFilter> filter = controller.getCurrentFilter();
+
+    for (QWidget* focused :
+        {static_cast<QWidget*>(ui.listView), static_cast<QWidget*>(ui.searchField), static_cast<QWidget*>(&view)}) {
+        focused->setFocus();
+        QTest::keyPress(focused, Qt::Key_F7);
+        EXPECT_EQ(shown(), kPictureColor) << focused->objectName().toStdString();
+        EXPECT_TRUE(ui.compareBtn->isDown());
+        QTest::keyRelease(focused, Qt::Key_F7);
+        EXPECT_EQ(shown(), inverted) << focused->objectName().toStdString();
+        EXPECT_FALSE(ui.compareBtn->isDown());
+    }
+    QTest::mousePress(ui.compareBtn, Qt::LeftButton);
+    EXPECT_EQ(shown(), kPictureColor);
+    QTest::mouseRelease(ui.compareBtn, Qt::LeftButton);
+    EXPECT_EQ(shown(), inverted);
+    ui.compareBtn->setFocus();
+    QTest::keyPress(ui.compareBtn, Qt::Key_Space);
+    EXPECT_EQ(shown(), kPictureColor);
+    QTest::keyRelease(ui.compareBtn, Qt::Key_Space);
+    EXPECT_EQ(shown(), inverted);
+
+    EXPECT_EQ(undo.canUndo(), couldUndo);
+    EXPECT_EQ(window.windowTitle(), title);
+    EXPECT_EQ(controller.getCurrentFilter(), filter);
+}
+
+TEST_F(CompareTest, WhatHappensMeanwhileIsSeenAfterwards)
+{
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_EQ(shown(), kPictureColor);
+    pick("CIColorPosterize");
+    EXPECT_EQ(shown(), kPictureColor) << "another filter doesn't end it";
+    controller.openFile(pictureFile("larger.png", 300, 200));
+    EXPECT_EQ(controller.getBgImageExtent().width, 300);
+    EXPECT_EQ(shown(), kPictureColor);
+    pick("CIColorInvert");
+    QTest::keyRelease(&window, Qt::Key_F7);
+    EXPECT_NE(shown(), kPictureColor);
+}
+
+TEST_F(CompareTest, EndsWithTheFilterTheModeAndTheWindow)
+{
+    QTest::keyPress(&window, Qt::Key_F7);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(ui.compareBtn->isDown());
+    EXPECT_FALSE(ui.compareBtn->isEnabled());
+    EXPECT_FALSE(view.showsOriginal());
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_FALSE(view.showsOriginal()) << "nothing to compare with";
+
+    pick("CIColorInvert");
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_TRUE(view.showsOriginal());
+    action("action3D")->trigger();
+    EXPECT_FALSE(view.showsOriginal());
+    EXPECT_FALSE(ui.compareBtn->isEnabled());
+    action("actionStandard")->trigger();
+
+    QApplication::setActiveWindow(&window);
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_TRUE(view.showsOriginal());
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    EXPECT_FALSE(view.showsOriginal()) << "the release goes to the other window";
+}
+
+TEST_F(CompareTest, PointsThatAreNotSeenAreNotGrabbed)
+{
+    pick("CIBumpDistortion");
+    QTest::keyPress(&window, Qt::Key_F7);
+    const auto center = [&] { return controller.getCurrentFilter()->valueForKey("inputCenter"); };
+    const CIValue before = center();
+    QTest::mousePress(&view, Qt::LeftButton, {}, view.rect().center());
+    QTest::mouseMove(&view, view.rect().center() + QPoint(20, 10));
+    QTest::mouseRelease(&view, Qt::LeftButton, {}, view.rect().center() + QPoint(20, 10));
+    EXPECT_TRUE(center() == before);
+    QTest::keyRelease(&window, Qt::Key_F7);
+}
+
+} // namespace
