@@ -27,6 +27,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class CatalogueSearch;
@@ -182,6 +183,12 @@ public:
     /// Its undo asks `filterChanged3D` for the previous one, which in this mode finds nothing or clears the effect.
     void filterChangedCustom(onlyTextClosedButton* sender);
 
+    // All inputs at once: ControllerInputs.cpp
+    /// To what they hold when such a filter is newly chosen.
+    void resetAllInputs();
+    /// To values that sliders and picture have room for; pictures stay.
+    void randomizeInputs();
+
     // Before and after: ControllerCompare.cpp
     /// Shows the picture without the filter, as long as `held`, in standard mode.
     void compare(bool held);
@@ -294,6 +301,9 @@ private:
     std::shared_ptr<CIFilter> sharedFilter(const CIFilter& filter);
     void setSharedFilterValueForKey(
         const std::shared_ptr<CIFilter>& filter, const CIValue& value, const std::string& key);
+    void setAllInputs(
+        const QString& actionName, const std::function<std::optional<CIValue>(const CIInputAttributes&)>& valueFor);
+    bool hasInputsToSet(bool randomly) const;
     void registerUndoPaste();
     CIImage restored(KeptPicture& kept);
     void dropImagesOfPastFilters();

@@ -37,6 +37,8 @@ void Controller::connectActions()
     on(ui.actionRedo, &Controller::redo);
     on(ui.actionCopy, &Controller::copy);
     on(ui.actionPaste, &Controller::paste);
+    on(ui.actionResetInputs, &Controller::resetAllInputs);
+    on(ui.actionRandomizeInputs, &Controller::randomizeInputs);
     on(ui.actionRotateLeft, &Controller::rotateLeft);
     on(ui.actionRotateRight, &Controller::rotateRight);
     on(ui.actionFlipHorizont, &Controller::flipHorizont);
@@ -122,6 +124,8 @@ bool Controller::validateMenuItem(QAction& item)
         pasteBtn->setEnabled(enabled);
     } else if (&item == ui.actionClearEffect || &item == ui.actionApply || &item == ui.actionAddFavourite) {
         enabled = hasCurrentItem();
+    } else if (&item == ui.actionResetInputs || &item == ui.actionRandomizeInputs) {
+        enabled = hasInputsToSet(&item == ui.actionRandomizeInputs);
     } else if (&item == ui.actionRemoveFavourite) {
         enabled = selectedFavourite() && selectedFavourite()->isChecked();
     } else if (&item == ui.actionStandard || &item == ui.action3D || &item == ui.actionCustom) {

@@ -115,6 +115,8 @@ void MainWindow::setShortcuts()
         {ui->actionUndo, {Qt::CTRL | Qt::Key_Z}},
         {ui->actionRedo, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}},
         {ui->actionCopy, {Qt::CTRL | Qt::Key_C}},
+        {ui->actionResetInputs, {Qt::CTRL | Qt::Key_Backspace}},
+        {ui->actionRandomizeInputs, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}},
         {ui->actionRotateLeft, {Qt::CTRL | Qt::Key_L}},
         {ui->actionRotateRight, {Qt::CTRL | Qt::Key_R}},
         {ui->actionFlipHorizont, {Qt::CTRL | Qt::SHIFT | Qt::Key_H}},
