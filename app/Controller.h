@@ -192,6 +192,8 @@ public:
     // Before and after: ControllerCompare.cpp
     /// Shows the picture without the filter, as long as `held`, in standard mode.
     void compare(bool held);
+    /// Splits the view as the menu item says, in standard mode with a filter.
+    void splitView();
 
     // Files: ControllerFiles.cpp
     void openImg();

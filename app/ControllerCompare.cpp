@@ -4,3 +4,8 @@
 #include "ui_MainWindow.h"
 
 void Controller::compare(bool held) { ciView->setShowsOriginal(held && filerMode() == Standard && currentFilter); }
+
+void Controller::splitView()
+{
+    ciView->setSplit(ui.actionSplitView->isChecked() && filerMode() == Standard && currentFilter);
+}

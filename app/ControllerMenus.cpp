@@ -52,6 +52,7 @@ void Controller::connectActions()
     on(ui.actionZoomIn, &Controller::zoomIn);
     on(ui.actionZoomOut, &Controller::zoomOut);
     on(ui.actionFit, &Controller::zoomToFit);
+    on(ui.actionSplitView, &Controller::splitView);
     on(ui.actionHelp, &Controller::displayHelp);
     on(ui.actionAbout, &Controller::orderFrontAboutPanel);
     connect(ui.menuRecent, &QMenu::aboutToShow, this, &Controller::fillRecentMenu);
@@ -99,6 +100,7 @@ void Controller::updateMainBtnState()
     pasteBtn->setEnabled(Pasteboard::generalPasteboard().offersTIFF());
     ui.applyBtn->setEnabled(hasCurrentItem());
     ui.compareBtn->setEnabled(filerMode() == Standard && currentFilter);
+    splitView();
     updateWinTitle();
     validateMenuItems();
 }
@@ -136,6 +138,8 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionZoomIn || &item == ui.actionZoomOut || &item == ui.actionFit
         || &item == ui.actionActualSize) {
         enabled = filerMode() != ThreeD;
+    } else if (&item == ui.actionSplitView) {
+        enabled = filerMode() == Standard && currentFilter;
     } else if (&item == ui.actionFullScreen) {
         item.setChecked(m_window.isFullScreen());
     } else if (&item == ui.actionHelp) {

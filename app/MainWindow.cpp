@@ -89,6 +89,7 @@ void MainWindow::setIcons()
         {ui->actionZoomOut, "zoom-out"},
         {ui->actionActualSize, "actual-size"},
         {ui->actionFit, "fit"},
+        {ui->actionSplitView, "split"},
         {ui->actionAddFavourite, "favourite-add"},
     };
     for (const auto& [action, name] : icons) {
@@ -136,6 +137,7 @@ void MainWindow::setShortcuts()
         {ui->actionZoomOut, {Qt::CTRL | Qt::Key_Minus}},
         {ui->actionActualSize, {Qt::CTRL | Qt::ALT | Qt::Key_0}},
         {ui->actionFit, {Qt::CTRL | Qt::Key_0}},
+        {ui->actionSplitView, {Qt::Key_F8}},
         {ui->actionFullScreen, {Qt::Key_F11}},
         {ui->actionHelp, {Qt::Key_F1}},
     };
@@ -162,6 +164,7 @@ void MainWindow::setButtons()
         {ui->undoBtn, ui->actionUndo},
         {ui->redoBtn, ui->actionRedo},
         {ui->pasteBtn, ui->actionPaste},
+        {ui->splitBtn, ui->actionSplitView},
         {ui->fitBtn, ui->actionFit},
         {ui->actualSizeBtn, ui->actionActualSize},
         {ui->addFavouriteBtn, ui->actionAddFavourite},

@@ -38,6 +38,9 @@ MyImageView::MyImageView(PictureScrollView* scrollView)
     setWhatsThis(tr("The picture as the filter shows it. Drag the points of the filter, zoom with the wheel, "
                     "move the picture with the middle button or the space bar held."));
     installAccessibleImageView();
+    d->divider = new SplitDivider(this);
+    connect(d->divider, &SplitDivider::moved, this, qOverload<>(&QWidget::update));
+    connect(this, &ZoomedCanvas::layoutChanged, d->divider, &SplitDivider::followView);
 }
 
 MyImageView::~MyImageView() { delete d->dropHighlight; }
@@ -70,6 +73,17 @@ void MyImageView::setShowsOriginal(bool shows)
 
 bool MyImageView::showsOriginal() const { return d->showsOriginal; }
 
+void MyImageView::setSplit(bool split)
+{
+    d->divider->setTakenAtLine(!controller || !controller->isControlsPresent());
+    if (!split && window()->focusWidget() == d->divider)
+        setFocus();
+    d->divider->setVisible(split);
+    update();
+}
+
+bool MyImageView::isSplit() const { return !d->divider->isHidden(); }
+
 // --- layout ---
 
 CIPoint MyImageView::pictureSize() const
@@ -83,9 +97,8 @@ void MyImageView::boundsResized() { d->result.changed = true; } // some results 
 // --- drawing ---
 
 /// The visible part of the picture, in whole steps of the grid that is rendered; nothing when none of it is seen.
-std::optional<FrameRequest> MyImageView::frameRequest() const
+std::optional<FrameRequest> MyImageView::frameRequest(const CIImage& picture) const
 {
-    const CIImage& picture = d->shown().picture;
     if (picture.isNull())
         return {};
     const double pixelsPerPicturePixel = double(zoom) * devicePixelRatioF();
@@ -106,18 +119,24 @@ std::optional<FrameRequest> MyImageView::frameRequest() const
     return FrameRequest{picture, scale, left, top, {right - left, top - bottom}};
 }
 
-/// Brings the frame up to date, as far as that is quickly done.
-void MyImageView::refreshFrame()
+void MyImageView::refreshFrames()
 {
-    Private::Layer& layer = d->shown();
+    refresh(d->shown());
+    if (d->isSplit())
+        refresh(d->original);
+}
+
+/// Brings the frame up to date, as far as that is quickly done.
+void MyImageView::refresh(Layer& layer)
+{
     if (std::exchange(layer.changed, false)) {
         layer.picture = {};
         if (controller)
-            layer.picture = d->showsOriginal ? controller->backImage() : controller->coreImageResult(false);
+            layer.picture = &layer == &d->original ? controller->backImage() : controller->coreImageResult(false);
     }
     if (layer.picture.isNull())
         layer.frame.reset();
-    const std::optional<FrameRequest> request = frameRequest();
+    const std::optional<FrameRequest> request = frameRequest(layer.picture);
     if (!request)
         return;
     if (!layer.renderer) {
@@ -136,8 +155,11 @@ void MyImageView::refreshFrame()
 
 bool MyImageView::waitForFrame(int milliseconds)
 {
-    refreshFrame();
-    const bool finished = !frameRequest() || d->shown().renderer->waitForFrame(milliseconds);
+    refreshFrames();
+    const auto finish = [&](const Layer& layer) {
+        return !frameRequest(layer.picture) || layer.renderer->waitForFrame(milliseconds);
+    };
+    const bool finished = finish(d->shown()) && (!d->isSplit() || finish(d->original));
     repaint();
     return finished;
 }
@@ -147,16 +169,32 @@ void MyImageView::paintEvent(QPaintEvent*)
     QPainter painter(this);
     setSubpixel(painter);
     painter.fillRect(rect(), surround(palette()));
-    refreshFrame();
-    drawFrame(painter);
+    refreshFrames();
+    drawFrames(painter);
     const bool byKeyboard = d->selected && hasFocus();
     if ((displayingPoints || byKeyboard) && !d->showsOriginal && !QApplication::activeModalWidget())
         drawPoints(painter);
 }
 
-void MyImageView::drawFrame(QPainter& painter) const
+void MyImageView::drawFrames(QPainter& painter) const
 {
-    const Private::Layer& layer = d->shown();
+    if (d->isSplit()) {
+        const int x = d->divider->lineX();
+        painter.save();
+        painter.setClipRect(QRect(0, 0, x, height()));
+        drawFrame(painter, d->original);
+        painter.setClipRect(QRect(x, 0, width() - x, height()));
+        drawFrame(painter, d->result);
+        painter.restore();
+    } else {
+        drawFrame(painter, d->shown());
+    }
+    if (isSplit())
+        d->divider->drawLine(painter);
+}
+
+void MyImageView::drawFrame(QPainter& painter, const Layer& layer) const
+{
     if (!layer.frame || layer.frame->pixels.isNull() || layer.picture.isNull())
         return;
     const Frame& frame = *layer.frame;

@@ -30,6 +30,10 @@ public:
     void setShowsOriginal(bool shows);
     bool showsOriginal() const;
 
+    /// Shows the source picture left of a divider that can be moved, and the filter's result right of it.
+    void setSplit(bool split);
+    bool isSplit() const;
+
     /// Waits until the picture is rendered in full and shown; for tests and screenshots.
     bool waitForFrame(int milliseconds = 10000);
 
@@ -62,10 +66,13 @@ protected:
 
 private:
     struct Private;
+    struct Layer;
 
-    void refreshFrame();
-    std::optional<FrameRequest> frameRequest() const;
-    void drawFrame(QPainter&) const;
+    void refreshFrames();
+    void refresh(Layer& layer);
+    std::optional<FrameRequest> frameRequest(const CIImage& picture) const;
+    void drawFrames(QPainter&) const;
+    void drawFrame(QPainter&, const Layer& layer) const;
     void drawPoints(QPainter&) const;
     void mouseContentMenu(const QPoint& globalPosition);
     void mouseEntered();

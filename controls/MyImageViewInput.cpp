@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QEnterEvent>
 #include <QKeyEvent>
 #include <QMenu>
@@ -190,7 +191,10 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
 
 void MyImageView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && d->selected)
+    const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (sideways && event->modifiers() & Qt::ControlModifier && d->isSplit())
+        QCoreApplication::sendEvent(d->divider, event);
+    else if (event->key() == Qt::Key_Escape && d->selected)
         selectPoint({});
     else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
         ZoomedCanvas::keyPressEvent(event);

@@ -38,7 +38,7 @@ TEST(InterfaceIcons, AreInTheProgram)
         {"open", "save", "undo", "redo", "rotate-left", "rotate-right", "flip-horizontal", "flip-vertical", "resize",
             "info", "copy", "paste", "apply", "cancel", "search", "zoom-in", "zoom-out", "fit", "actual-size",
             "mode-standard", "mode-3d", "mode-custom", "favourite-add", "chevron-left", "chevron-right", "chevron-down",
-            "compare", "histogram", "reset", "dice", "menu", "close", "help", "picture", "drop"})
+            "compare", "split", "histogram", "reset", "dice", "menu", "close", "help", "picture", "drop"})
         EXPECT_TRUE(icons.contains(name + ".svg")) << qPrintable(name);
 }
 
