@@ -47,6 +47,43 @@ TEST(Median, IsTheFifthOfNine)
     });
 }
 
+/// 8-bit pictures are not converted for these filters; the float twin converts them.
+TEST(Rank, OfCodesIsTheRankOfTheirLight)
+{
+    CIBitmap source = noise8(700, 180);
+    for (int y = 0; y < source.height(); ++y)
+        for (std::size_t x = 3; x < source.row<std::uint8_t>(y).size(); x += 4)
+            source.mutableRow<std::uint8_t>(y)[x] = std::uint8_t(x); // nobody's business in an opaque bitmap
+    const CIImage picture = CIImage::fromBitmap(source);
+    const CIImage moved = picture.transformed(CIAffineTransform::translation(-11, 7)).cropped({3, 20, 600, 111});
+    const auto ranked = [](const char* name, const CIImage& image, const CIDictionary& inputs) {
+        const auto f = filter(name, image);
+        for (const auto& [key, value] : inputs)
+            f->setValueForKey(value, key);
+        return f->outputImage();
+    };
+    const std::vector<CIImage> images = {ranked("CIMedianFilter", picture, {}), ranked("CIMedianFilter", moved, {}),
+        ranked("CIMorphologyMaximum", moved, {{"inputRadius", 6.3}}),
+        ranked("CIMorphologyMinimum", moved.clampedToExtent(), {{"inputRadius", 2}}).cropped({-20, 0, 700, 160}),
+        ranked("CIMorphologyRectangleMaximum", moved, {{"inputWidth", 7}, {"inputHeight", 20}}),
+        ranked("CIMorphologyRectangleMinimum", ranked("CIMedianFilter", moved, {}), {{"inputWidth", 3}}),
+        ranked("CIColorInvert", ranked("CIMorphologyRectangleMaximum", moved, {}), {})};
+    const CIContext quick, slow(CIContext::Arithmetic::Floats);
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        const int apart = i + 1 < images.size() ? 0 : 1; // the last one calculates
+        const auto isAlike = [apart](int a, int b) { return std::abs(a - b) <= apart; };
+        for (const CIRect& part : {images[i].extent(), CIRect{60, 33, 301, 57}})
+            for (const CIFormat format : {CIFormat::RGBA8, CIFormat::BGRA8}) {
+                const CIBitmap out = quick.render(images[i], part, 1, format, CIAlpha::Premultiplied);
+                const CIBitmap twin = slow.render(images[i], part, 1, format, CIAlpha::Premultiplied);
+                ASSERT_EQ(out.height(), int(part.height));
+                for (int y = 0; y < out.height(); ++y)
+                    ASSERT_TRUE(std::ranges::equal(out.row<std::uint8_t>(y), twin.row<std::uint8_t>(y), isAlike))
+                        << "image " << i << ", row " << y;
+            }
+    }
+}
+
 TEST(Convolution, WeighsNeighborsAsAPageIsRead)
 {
     const CIBitmap source = dot(9, 9, 4, 4);

@@ -1,5 +1,7 @@
 #include "platform/coreimage/graph/Basics.h"
 
+#include "platform/coreimage/graph/Codes.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -83,12 +85,47 @@ private:
     std::unique_ptr<RowReader> m_source;
 };
 
+/// As above.
+class CropCodes : public CodeReader {
+public:
+    CropCodes(const Node& source, const CIRect& extent, const Render& render, const GridRect& area, Scratch& scratch)
+        : m_inside(area.intersected(render.grid.cellsIn(extent)))
+        , m_before(std::size_t(m_inside.x0 - area.x0) * 4)
+        , m_isWhole(m_inside.width() == area.width())
+        , m_row(static_cast<std::uint8_t*>(scratch.bytes(std::size_t(area.width()) * 4)))
+        , m_zeros(static_cast<std::uint8_t*>(scratch.bytes(std::size_t(area.width()) * 4)))
+    {
+        std::memset(m_row, 0, std::size_t(area.width()) * 4);
+        std::memset(m_zeros, 0, std::size_t(area.width()) * 4);
+        if (!m_inside.isEmpty())
+            m_source = source.openCodes(render, m_inside, scratch);
+    }
+    const std::uint8_t* row(int y) override
+    {
+        if (!m_source || y < m_inside.y0 || y >= m_inside.y1)
+            return m_zeros;
+        const std::uint8_t* const source = m_source->row(y);
+        if (m_isWhole)
+            return source;
+        std::memcpy(m_row + m_before, source, std::size_t(m_inside.width()) * 4);
+        return m_row;
+    }
+
+private:
+    GridRect m_inside;
+    std::size_t m_before;
+    bool m_isWhole;
+    std::uint8_t *m_row, *m_zeros;
+    std::unique_ptr<CodeReader> m_source;
+};
+
 class CropNode : public WrapperNode {
 public:
     bool codeTables(const Render& render, CodeTables& tables) const override
     {
         return m_source->codeTables(render, tables);
     }
+    bool hasCodes(const Render& render, CodeForm& form) const override { return m_source->hasCodes(render, form); }
     CropNode(NodePtr source, const CIRect& rect)
         : WrapperNode(source, source->extent().intersected(rect), source->isOpaque())
     {
@@ -96,6 +133,10 @@ public:
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
         return std::make_unique<CropReader>(*m_source, extent(), render, area, scratch);
+    }
+    std::unique_ptr<CodeReader> openCodes(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        return std::make_unique<CropCodes>(*m_source, extent(), render, area, scratch);
     }
 };
 
@@ -112,6 +153,14 @@ public:
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
         return m_source->open(shifted(render), area, scratch);
+    }
+    bool hasCodes(const Render& render, CodeForm& form) const override
+    {
+        return m_source->hasCodes(shifted(render), form);
+    }
+    std::unique_ptr<CodeReader> openCodes(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        return m_source->openCodes(shifted(render), area, scratch);
     }
     bool codeTables(const Render& render, CodeTables& tables) const override
     {
@@ -133,26 +182,28 @@ private:
     double m_dx, m_dy;
 };
 
-/// Reads the nearest row inside, and repeats its end pixels.
-class ClampReader : public RowReader {
+/// What of the inside is repeated to fill an area: the nearest row, and its end pixels.
+class Repetition {
 public:
-    ClampReader(
-        const Node& source, const GridRect& inside, const Render& render, const GridRect& area, Scratch& scratch)
+    Repetition(const GridRect& inside, const GridRect& area)
         : m_inside(inside)
         , m_area(area)
         , m_read(nearest(area, inside))
-        , m_out(allocateRow(scratch, area.width()))
     {
-        m_source = source.open(render, m_read, scratch);
     }
-    Row row(int y) override
+    /// The part of the inside that is needed.
+    const GridRect& read() const { return m_read; }
+    int rowFor(int y) const { return std::clamp(y, m_inside.y0, m_inside.y1 - 1); }
+    /// A row of `read` into a row of the area.
+    template <class T>
+    void spread(const T* from, T* to) const
     {
-        const Row source = m_source->row(std::clamp(y, m_inside.y0, m_inside.y1 - 1));
-        spread(source.r, m_out.r);
-        spread(source.g, m_out.g);
-        spread(source.b, m_out.b);
-        spread(source.a, m_out.a);
-        return m_out;
+        const int width = m_area.width();
+        const int before = std::clamp(m_read.x0 - m_area.x0, 0, width);
+        const int copied = std::clamp(std::min(m_read.x1, m_area.x1) - m_area.x0 - before, 0, width - before);
+        std::fill_n(to, before, from[0]);
+        std::copy_n(from + std::max(0, m_area.x0 + before - m_read.x0), copied, to + before);
+        std::fill_n(to + before + copied, width - before - copied, from[m_read.width() - 1]);
     }
 
 private:
@@ -167,19 +218,52 @@ private:
         nearestSpan(r.y0, r.y1, inside.y0, inside.y1);
         return r;
     }
-    void spread(const float* from, float* to) const
-    {
-        const int width = m_area.width();
-        const int before = std::clamp(m_read.x0 - m_area.x0, 0, width);
-        const int copied = std::clamp(std::min(m_read.x1, m_area.x1) - m_area.x0 - before, 0, width - before);
-        std::fill_n(to, before, from[0]);
-        std::copy_n(from + std::max(0, m_area.x0 + before - m_read.x0), copied, to + before);
-        std::fill_n(to + before + copied, width - before - copied, from[m_read.width() - 1]);
-    }
 
     GridRect m_inside, m_area, m_read;
+};
+
+class ClampReader : public RowReader {
+public:
+    ClampReader(const Node& source, const Repetition& repetition, const Render& render, int width, Scratch& scratch)
+        : m_repetition(repetition)
+        , m_out(allocateRow(scratch, width))
+        , m_source(source.open(render, repetition.read(), scratch))
+    {
+    }
+    Row row(int y) override
+    {
+        const Row source = m_source->row(m_repetition.rowFor(y));
+        m_repetition.spread(source.r, m_out.r);
+        m_repetition.spread(source.g, m_out.g);
+        m_repetition.spread(source.b, m_out.b);
+        m_repetition.spread(source.a, m_out.a);
+        return m_out;
+    }
+
+private:
+    Repetition m_repetition;
     MutableRow m_out;
     std::unique_ptr<RowReader> m_source;
+};
+
+class ClampCodes : public CodeReader {
+public:
+    ClampCodes(const Node& source, const Repetition& repetition, const Render& render, int width, Scratch& scratch)
+        : m_repetition(repetition)
+        , m_out(static_cast<std::uint32_t*>(scratch.bytes(std::size_t(width) * sizeof(std::uint32_t))))
+        , m_source(source.openCodes(render, repetition.read(), scratch))
+    {
+    }
+    const std::uint8_t* row(int y) override
+    {
+        m_repetition.spread(reinterpret_cast<const std::uint32_t*>(m_source->row(m_repetition.rowFor(y))), m_out);
+        return reinterpret_cast<const std::uint8_t*>(m_out);
+    }
+
+private:
+    Repetition m_repetition;
+    std::uint32_t* m_out;
+    std::unique_ptr<CodeReader> m_source;
 };
 
 class ClampNode : public WrapperNode {
@@ -194,7 +278,16 @@ public:
         const GridRect inside = render.grid.cellsIn(m_source->extent());
         if (inside.isEmpty()) // too small to have a cell of its own on this grid
             return std::make_unique<ConstantReader>(Pixel<float>{0, 0, 0, 0}, area.width(), scratch);
-        return std::make_unique<ClampReader>(*m_source, inside, render, area, scratch);
+        return std::make_unique<ClampReader>(*m_source, Repetition(inside, area), render, area.width(), scratch);
+    }
+    bool hasCodes(const Render& render, CodeForm& form) const override
+    {
+        return m_source->hasCodes(render, form) && !render.grid.cellsIn(m_source->extent()).isEmpty();
+    }
+    std::unique_ptr<CodeReader> openCodes(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        const Repetition repetition(render.grid.cellsIn(m_source->extent()), area);
+        return std::make_unique<ClampCodes>(*m_source, repetition, render, area.width(), scratch);
     }
 };
 

@@ -1,5 +1,7 @@
 #include "platform/coreimage/graph/BitmapNode.h"
 
+#include "platform/coreimage/graph/Codes.h"
+
 #include "platform/coreimage/kernel/Batch.h"
 
 #include <algorithm>
@@ -278,6 +280,40 @@ private:
     MutableRow m_out;
 };
 
+/// The bitmap's own bytes, with alpha set: opaque bitmaps may hold anything there.
+class BitmapCodes : public CodeReader {
+public:
+    BitmapCodes(const CIBitmap& bitmap, int left, int top, const GridRect& area, Scratch& scratch)
+        : m_bitmap(bitmap)
+        , m_area(area)
+        , m_inside(area.intersected({left, top - bitmap.height(), left + bitmap.width(), top}))
+        , m_left(left)
+        , m_top(top)
+        , m_row(static_cast<std::uint32_t*>(scratch.bytes(std::size_t(area.width()) * sizeof(std::uint32_t))))
+    {
+    }
+    const std::uint8_t* row(int y) override
+    {
+        if (y < m_inside.y0 || y >= m_inside.y1 || m_inside.isEmpty()) {
+            std::fill_n(m_row, m_area.width(), 0);
+        } else {
+            const auto pixels = m_bitmap.row<std::uint32_t>(m_top - 1 - y).subspan(std::size_t(m_inside.x0 - m_left));
+            std::uint32_t* const to = m_row + (m_inside.x0 - m_area.x0);
+            std::fill(m_row, to, 0);
+            for (int x = 0; x < m_inside.width(); ++x)
+                to[x] = pixels[std::size_t(x)] | 0xff000000u;
+            std::fill(to + m_inside.width(), m_row + m_area.width(), 0);
+        }
+        return reinterpret_cast<const std::uint8_t*>(m_row);
+    }
+
+private:
+    CIBitmap m_bitmap;
+    GridRect m_area, m_inside;
+    int m_left, m_top;
+    std::uint32_t* m_row;
+};
+
 constexpr std::size_t kKept = 3; // grids: the view, its coarser first frame, a thumbnail
 constexpr double kMostCopied = 6e6; // cells; a larger grid is reduced tile by tile
 
@@ -356,11 +392,25 @@ bool BitmapNode::isAskedAgain(const Grid& grid) const
     return again;
 }
 
+bool BitmapNode::hasCodes(const Render& render, CodeForm& form) const
+{
+    const Grid& grid = render.grid;
+    form = {m_bitmap.format(), m_bitmap.colorSpace()};
+    return grid.scale == 1 && isWhole(grid.phaseX) && isWhole(grid.phaseY) && bytesPerPixel(m_bitmap.format()) == 4
+        && m_bitmap.alpha() == CIAlpha::Opaque;
+}
+
+std::unique_ptr<CodeReader> BitmapNode::openCodes(const Render& render, const GridRect& area, Scratch& scratch) const
+{
+    return std::make_unique<BitmapCodes>(m_bitmap, -int(std::lround(render.grid.phaseX)),
+        m_bitmap.height() - int(std::lround(render.grid.phaseY)), area, scratch);
+}
+
 bool BitmapNode::codeTables(const Render& render, CodeTables& tables) const
 {
     const Grid& grid = render.grid;
-    if (grid.scale != 1 || !isWhole(grid.phaseX) || !isWhole(grid.phaseY) || bytesPerPixel(m_bitmap.format()) != 4
-        || m_bitmap.alpha() != CIAlpha::Opaque)
+    CodeForm form;
+    if (!hasCodes(render, form))
         return false;
     CIBitmap codes(256, 1, m_bitmap.format(), CIAlpha::Opaque, m_bitmap.colorSpace());
     const auto row = codes.mutableRow<std::uint8_t>(0);

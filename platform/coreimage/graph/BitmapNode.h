@@ -33,6 +33,8 @@ public:
     std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch&) const override;
 
     bool codeTables(const Render&, CodeTables&) const override;
+    bool hasCodes(const Render&, CodeForm&) const override;
+    std::unique_ptr<CodeReader> openCodes(const Render&, const GridRect& area, Scratch&) const override;
 
     const CIBitmap& bitmap() const { return m_bitmap; }
     /// The halved copies, largest first; made on first use.

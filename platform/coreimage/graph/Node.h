@@ -12,6 +12,8 @@ namespace ci {
 
 class GridCopy;
 struct CodeTables;
+class CodeReader;
+struct CodeForm;
 
 /// Whole grid cells: columns x0 to x1 - 1, rows y0 to y1 - 1, y up.
 struct GridRect {
@@ -98,6 +100,9 @@ public:
     /// What the codes of an opaque 8-bit bitmap become, when the image is that bitmap with each component on its own
     /// changed; false when it is more than that.
     virtual bool codeTables(const Render&, CodeTables&) const { return false; }
+    /// True when the image on this grid consists of 8-bit codes, each pixel opaque or 0, so that `openCodes` works.
+    virtual bool hasCodes(const Render&, CodeForm&) const { return false; }
+    virtual std::unique_ptr<CodeReader> openCodes(const Render&, const GridRect&, Scratch&) const;
     /// How far, in cells, the graph below reads beyond what is asked of it: decides the size of tiles. 0 for nodes
     /// that work row by row, at least 1 for those that buffer their whole area.
     virtual int reach(const Grid&) const { return 0; }

@@ -86,8 +86,19 @@ public:
         const auto [x, y] = m_kernel->margin(grid);
         return std::max({1, x, y}) + m_source->reach(grid);
     }
+    bool hasCodes(const Render& render, CodeForm& form) const override
+    {
+        return m_kernel->onlyChooses() && !render.floats && m_source->hasCodes(render, form);
+    }
+    std::unique_ptr<CodeReader> openCodes(const Render& render, const GridRect& area, Scratch& scratch) const override
+    {
+        return readCodes(chosenCodes(render, area, scratch), extent(), render);
+    }
     std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
     {
+        CodeForm form;
+        if (hasCodes(render, form))
+            return decodeCodes(chosenCodes(render, area, scratch), form, extent(), render, scratch);
         const Planes out = Planes::allocate(area, scratch);
         {
             const ScratchScope scope(scratch);
@@ -111,6 +122,15 @@ public:
     }
 
 private:
+    CodeSheet chosenCodes(const Render& render, const GridRect& area, Scratch& scratch) const
+    {
+        const CodeSheet out = allocateCodes(area, scratch);
+        const ScratchScope scope(scratch);
+        const auto [x, y] = m_kernel->margin(render.grid);
+        const GridRect read = area.grown(x, y);
+        m_kernel->runOnCodes(*m_source->openCodes(render, read, scratch), read, out, scratch);
+        return out;
+    }
     /// True when halving the whole image once reads less than halving around each tile, and needs little memory.
     bool sharingPays(const Render& render, int times) const
     {

@@ -1,6 +1,7 @@
 // A block of pixels as four planes: what passes read and write.
 #pragma once
 
+#include "platform/coreimage/graph/Codes.h"
 #include "platform/coreimage/graph/Node.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ struct Planes {
     /// The row from column `x` on.
     MutableRow row(int y, int x) const { return {at(0, x, y), at(1, x, y), at(2, x, y), at(3, x, y)}; }
     MutableRow row(int y) const { return row(y, area.x0); }
+    Sheet<float> sheet(int c) const { return {area, stride, 1, plane[c]}; }
     /// Fills the area from a reader that was opened for it.
     void fill(RowReader&) const;
 };
@@ -66,6 +68,10 @@ public:
     virtual int halvings(const Grid&) const { return 0; }
     /// `in` reads `area`, which covers `out` with the margin (in cells of the render) around it.
     virtual void run(const Render&, RowReader& in, const GridRect& area, const Planes& out, Scratch&) const = 0;
+    /// True when every value of the result is one of those read, chosen by their order: codes will do then.
+    virtual bool onlyChooses() const { return false; }
+    /// As `run`, at full size.
+    virtual void runOnCodes(CodeReader&, const GridRect&, const Sheet<std::uint8_t>&, Scratch&) const { }
 };
 
 /// `keepsOpaque`: where all that is read is opaque, so is the result.

@@ -6,24 +6,28 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <xsimd/xsimd.hpp>
 
 namespace ci {
 
 using Batch = xsimd::batch<float>;
+using CodeBatch = xsimd::batch<std::uint8_t>; // 8-bit codes; knows only min and max
 
 template <class V>
 inline constexpr int kLanes = 1;
 template <>
 inline constexpr int kLanes<Batch> = int(Batch::size);
+template <>
+inline constexpr int kLanes<CodeBatch> = int(CodeBatch::size);
 
 /// Rows are padded to this many floats, enough for every instruction set.
 inline constexpr int kRowPadding = 16;
 inline constexpr float kPi = 3.14159265358979f;
 inline constexpr float kTwoPi = 2 * kPi;
 
-template <class V>
-V loadRow(const float* p)
+template <class V, class T>
+V loadRow(const T* p)
 {
     if constexpr (std::is_same_v<V, float>)
         return *p;
@@ -33,6 +37,7 @@ V loadRow(const float* p)
 
 inline void storeRow(float* p, float v) { *p = v; }
 inline void storeRow(float* p, const Batch& v) { v.store_unaligned(p); }
+inline void storeRow(std::uint8_t* p, const CodeBatch& v) { v.store_unaligned(p); }
 
 /// 0, 1, 2 … in the lanes.
 template <class V>
@@ -53,6 +58,8 @@ inline float min(float a, float b) { return a < b ? a : b; }
 inline float max(float a, float b) { return a > b ? a : b; }
 inline Batch min(const Batch& a, const Batch& b) { return xsimd::min(a, b); }
 inline Batch max(const Batch& a, const Batch& b) { return xsimd::max(a, b); }
+inline CodeBatch min(const CodeBatch& a, const CodeBatch& b) { return xsimd::min(a, b); }
+inline CodeBatch max(const CodeBatch& a, const CodeBatch& b) { return xsimd::max(a, b); }
 
 inline float select(bool which, float yes, float no) { return which ? yes : no; }
 inline Batch select(const Batch::batch_bool_type& which, const Batch& yes, const Batch& no)

@@ -39,6 +39,9 @@ struct Reach {
     int highest() const { return low + (part > 0 ? 1 : 0); }
 };
 
+template <class V>
+using Value = std::conditional_t<std::is_same_v<V, CodeBatch>, std::uint8_t, float>;
+
 /// to[x] = a (1 - part) + b part.
 template <class V>
 void mixLine(const float* a, const float* b, float part, float* to, int count)
@@ -49,7 +52,7 @@ void mixLine(const float* a, const float* b, float part, float* to, int count)
 
 /// to[x] = the extreme of a[x] and b[x]; `to` may be one of them.
 template <Extreme E, class V>
-void extremeLine(const float* a, const float* b, float* to, int count)
+void extremeLine(const Value<V>* a, const Value<V>* b, Value<V>* to, int count)
 {
     for (int x = 0; x < count; x += kLanes<V>)
         storeRow(to + x, extreme<E>(loadRow<V>(a + x), loadRow<V>(b + x)));
@@ -78,63 +81,82 @@ public:
         const Reach across(m_across, render.grid), along(m_along, render.grid);
         forEachPlane(in, out, [&](int c) {
             if (render.floats)
-                plane<float>(in, out, c, across, along, scratch);
+                sheet<float>(in.sheet(c), out.sheet(c), across, along, scratch);
             else
-                plane<Batch>(in, out, c, across, along, scratch);
+                sheet<Batch>(in.sheet(c), out.sheet(c), across, along, scratch);
         });
+    }
+    bool onlyChooses() const override { return true; }
+    void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override
+    {
+        const CodeSheet in = allocateCodes(area, scratch);
+        fillCodes(in, reader);
+        sheet<CodeBatch>(in, out, Reach(m_across, Grid()), Reach(m_along, Grid()), scratch);
     }
 
 private:
-    template <class V>
-    void plane(
-        const Planes& in, const Planes& out, int c, const Reach& across, const Reach& along, Scratch& scratch) const
+    template <class V, class T>
+    void sheet(const Sheet<T>& in, const Sheet<T>& out, const Reach& across, const Reach& along, Scratch& scratch) const
     {
         const ScratchScope scope(scratch);
-        const int width = out.area.width();
-        float* const runs = scratch.floats(std::size_t(in.area.width()) + 2 * kRowPadding);
-        float* const wider = scratch.floats(std::size_t(width) + kRowPadding);
+        const int width = out.length(), from = (out.area.x0 - in.area.x0) * in.step;
+        T* const runs = row<T>(in.length(), scratch);
+        T* const wider = row<T>(in.length(), scratch);
         for (int y = in.area.y0; y < in.area.y1; ++y) {
-            float* const line = in.line(c, y);
-            std::copy_n(line, in.area.width(), runs);
-            const int from = out.area.x0 - in.area.x0;
-            const int size = doubleRuns<V>(runs, in.area.width(), across.low);
-            extremeLine<E, V>(runs + from - across.low, runs + from + across.low + 1 - size, line + from, width);
-            if (across.part > 0) {
-                std::copy_n(line + from, width, wider);
-                extremeLine<E, V>(runs + from - across.low - 1, runs + from + across.low + 2 - size, runs, width);
-                extremeLine<E, V>(runs, wider, runs, width);
-                mixLine<V>(wider, runs, across.part, line + from, width);
+            T* const line = in.line(y);
+            std::copy_n(line, in.length(), runs);
+            const int size = doubleRuns<V>(runs, in.length(), in.step, across.low);
+            const auto widest = [&](int low, T* to) {
+                extremeLine<E, V>(runs + from - low * in.step, runs + from + (low + 1 - size) * in.step, to, width);
+            };
+            widest(across.low, line + from);
+            if constexpr (std::is_same_v<T, float>) {
+                if (across.part > 0) {
+                    std::copy_n(line + from, width, wider);
+                    widest(across.low + 1, runs);
+                    extremeLine<E, V>(runs, wider, runs, width);
+                    mixLine<V>(wider, runs, across.part, line + from, width);
+                }
             }
         }
-        columns<V>(in, out, c, along, wider);
+        columns<V>(in, out, along, wider);
+    }
+
+    template <class T>
+    static T* row(int length, Scratch& scratch)
+    {
+        constexpr int kRoom = 2 * 64; // bytes
+        return static_cast<T*>(scratch.bytes(std::size_t(length) * sizeof(T) + kRoom));
     }
 
     /// Doubles the runs in place as far as they fit into 2 `reach` + 1 cells; the length they have in the end.
-    template <class V>
-    static int doubleRuns(float* runs, int width, int reach)
+    template <class V, class T>
+    static int doubleRuns(T* runs, int length, int step, int reach)
     {
         int size = 1;
         for (int i = 0; i < doublings(reach); ++i, size *= 2)
-            extremeLine<E, V>(runs, runs + size, runs, width - size);
+            extremeLine<E, V>(runs, runs + size * step, runs, length - size * step);
         return size;
     }
 
-    template <class V>
-    static void columns(const Planes& in, const Planes& out, int c, const Reach& along, float* wider)
+    template <class V, class T>
+    static void columns(const Sheet<T>& in, const Sheet<T>& out, const Reach& along, T* wider)
     {
-        const int from = out.area.x0, width = out.area.width();
-        const auto at = [&](int y) { return in.at(c, from, y); };
+        const int width = out.length();
+        const auto at = [&](int y) { return in.at(out.area.x0, y); };
         int size = 1;
         for (int i = 0; i < doublings(along.low); ++i, size *= 2)
             for (int y = in.area.y0; y + size < in.area.y1; ++y)
                 extremeLine<E, V>(at(y), at(y + size), at(y), width);
         for (int y = out.area.y0; y < out.area.y1; ++y) {
-            float* const to = out.line(c, y);
+            T* const to = out.line(y);
             extremeLine<E, V>(at(y - along.low), at(y + along.low + 1 - size), to, width);
-            if (along.part > 0) {
-                extremeLine<E, V>(at(y - along.low - 1), at(y + along.low + 2 - size), wider, width);
-                extremeLine<E, V>(to, wider, wider, width);
-                mixLine<V>(to, wider, along.part, to, width);
+            if constexpr (std::is_same_v<T, float>) {
+                if (along.part > 0) {
+                    extremeLine<E, V>(at(y - along.low - 1), at(y + along.low + 2 - size), wider, width);
+                    extremeLine<E, V>(to, wider, wider, width);
+                    mixLine<V>(to, wider, along.part, to, width);
+                }
             }
         }
     }
@@ -142,7 +164,7 @@ private:
     double m_across, m_along; // px to each side
 };
 
-/// One row of a disc: two runs of 2^level cells, `first` and `second` floats away from the middle.
+/// One row of a disc: two runs of 2^level cells, `first` and `second` values away from the middle.
 struct Chord {
     std::ptrdiff_t first, second;
 };
@@ -164,49 +186,58 @@ public:
     {
         const Planes in = Planes::allocate(area, scratch);
         in.fill(reader);
-        const Reach reach(m_radius, render.grid);
         forEachPlane(in, out, [&](int c) {
             if (render.floats)
-                plane<float>(in, out, c, reach, render.grid, scratch);
+                sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
             else
-                plane<Batch>(in, out, c, reach, render.grid, scratch);
+                sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
         });
+    }
+    bool onlyChooses() const override { return true; }
+    void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override
+    {
+        const CodeSheet in = allocateCodes(area, scratch);
+        fillCodes(in, reader);
+        sheet<CodeBatch>(in, out, Grid(), scratch);
     }
 
 private:
-    template <class V>
-    void plane(const Planes& in, const Planes& out, int c, const Reach& reach, const Grid& grid, Scratch& scratch) const
+    template <class V, class T>
+    void sheet(const Sheet<T>& in, const Sheet<T>& out, const Grid& grid, Scratch& scratch) const
     {
         const ScratchScope scope(scratch);
-        const int levels = doublings(reach.highest()) + 1, width = in.area.width();
+        const Reach reach(m_radius, grid);
+        const int levels = doublings(reach.highest()) + 1;
         const std::size_t size = in.stride * std::size_t(in.area.height());
-        float* const runs = scratch.floats(std::size_t(levels) * size + 2 * kRowPadding);
+        T* const runs = static_cast<T*>(scratch.bytes((std::size_t(levels) * size + 2 * 64) * sizeof(T)));
         for (int y = in.area.y0; y < in.area.y1; ++y) {
-            float* line = runs + std::size_t(y - in.area.y0) * in.stride;
-            std::copy_n(in.line(c, y), in.stride, line);
+            T* line = runs + std::size_t(y - in.area.y0) * in.stride;
+            std::copy_n(in.line(y), in.stride, line);
             for (int k = 1; k < levels; ++k, line += size)
-                extremeLine<E, V>(line, line + (1 << (k - 1)), line + size, width);
+                extremeLine<E, V>(line, line + (in.step << (k - 1)), line + size, in.length());
         }
         // At full size the radius stands as it is; elsewhere the two next whole ones are mixed.
         const auto radius = [&](int whole) { return grid.scale == 1 ? std::min(m_radius, kWidest) : double(whole); };
-        const std::vector<Chord> chords = chordsOf(radius(reach.low), in.stride, size);
+        const std::vector<Chord> chords = chordsOf(radius(reach.low), in.stride, size, in.step);
         const std::vector<Chord> wider =
-            reach.part > 0 ? chordsOf(radius(reach.low + 1), in.stride, size) : std::vector<Chord>();
+            reach.part > 0 ? chordsOf(radius(reach.low + 1), in.stride, size, in.step) : std::vector<Chord>();
         for (int y = out.area.y0; y < out.area.y1; ++y) {
-            const float* const middle =
-                runs + std::size_t(y - in.area.y0) * in.stride + std::size_t(out.area.x0 - in.area.x0);
-            float* const to = out.line(c, y);
-            for (int x = 0; x < out.area.width(); x += kLanes<V>) {
+            const T* const middle =
+                runs + std::size_t(y - in.area.y0) * in.stride + std::ptrdiff_t(out.area.x0 - in.area.x0) * in.step;
+            T* const to = out.line(y);
+            for (int x = 0; x < out.length(); x += kLanes<V>) {
                 V value = extremeOf<V>(middle + x, chords);
-                if (!wider.empty())
-                    value = mix(value, extremeOf<V>(middle + x, wider), V(reach.part));
+                if constexpr (std::is_same_v<T, float>) {
+                    if (!wider.empty())
+                        value = mix(value, extremeOf<V>(middle + x, wider), V(reach.part));
+                }
                 storeRow(to + x, value);
             }
         }
     }
 
-    template <class V>
-    static V extremeOf(const float* middle, const std::vector<Chord>& chords)
+    template <class V, class T>
+    static V extremeOf(const T* middle, const std::vector<Chord>& chords)
     {
         V one = loadRow<V>(middle), other = one; // two chains, neither waits for the other
         for (const Chord& chord : chords) {
@@ -216,15 +247,15 @@ private:
         return extreme<E>(one, other);
     }
 
-    static std::vector<Chord> chordsOf(double radius, std::size_t stride, std::size_t plane)
+    static std::vector<Chord> chordsOf(double radius, std::size_t stride, std::size_t level, int step)
     {
         std::vector<Chord> chords;
         const int rows = int(std::floor(radius + 1e-6));
         for (int dy = -rows; dy <= rows; ++dy) {
             const int half = int(std::floor(std::sqrt(std::max(0.0, radius * radius - dy * dy)) + 1e-6));
-            const int level = doublings(half);
-            const std::ptrdiff_t start = level * std::ptrdiff_t(plane) + dy * std::ptrdiff_t(stride);
-            chords.push_back({start - half, start + half + 1 - (1 << level)});
+            const int doubled = doublings(half);
+            const std::ptrdiff_t start = doubled * std::ptrdiff_t(level) + dy * std::ptrdiff_t(stride);
+            chords.push_back({start - half * step, start + (half + 1 - (1 << doubled)) * step});
         }
         return chords;
     }
@@ -250,10 +281,17 @@ public:
         in.fill(reader);
         forEachPlane(in, out, [&](int c) {
             if (render.floats)
-                plane<float>(in, out, c, render.grid, scratch);
+                sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
             else
-                plane<Batch>(in, out, c, render.grid, scratch);
+                sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
         });
+    }
+    bool onlyChooses() const override { return true; }
+    void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override
+    {
+        const CodeSheet in = allocateCodes(area, scratch);
+        fillCodes(in, reader);
+        sheet<CodeBatch>(in, out, Grid(), scratch);
     }
 
 private:
@@ -262,35 +300,38 @@ private:
     /// Where a cell covers several pixels, the median has less to do; it is gone when nine pixels make one cell.
     static float share(const Grid& grid) { return float(std::clamp((3 * grid.scale - 1) / 2, 0.0, 1.0)); }
 
-    template <class V>
-    void plane(const Planes& in, const Planes& out, int c, const Grid& grid, Scratch& scratch) const
+    template <class V, class T>
+    void sheet(const Sheet<T>& in, const Sheet<T>& out, const Grid& grid, Scratch& scratch) const
     {
         const ScratchScope scope(scratch);
-        const int step = apart(grid), left = out.area.x0 - in.area.x0;
+        const int step = apart(grid), aside = step * in.step, left = (out.area.x0 - in.area.x0) * in.step;
         const float part = share(grid);
-        const auto room = std::size_t(in.area.width() + 2 * kRowPadding);
-        float *const low = scratch.floats(room), *const middle = scratch.floats(room),
-                     *const high = scratch.floats(room);
+        const std::size_t room = (std::size_t(in.length()) + 2 * 64) * sizeof(T);
+        T *const low = static_cast<T*>(scratch.bytes(room)), *const middle = static_cast<T*>(scratch.bytes(room)),
+                 *const high = static_cast<T*>(scratch.bytes(room));
         for (int y = out.area.y0; y < out.area.y1; ++y) {
-            const float *below = in.line(c, y - step), *line = in.line(c, y), *above = in.line(c, y + step);
-            for (int x = 0; x < in.area.width(); x += kLanes<V>) {
+            const T *below = in.line(y - step), *line = in.line(y), *above = in.line(y + step);
+            for (int x = 0; x < in.length(); x += kLanes<V>) {
                 const V p = loadRow<V>(below + x), q = loadRow<V>(line + x), r = loadRow<V>(above + x);
                 const V least = min(p, q), most = max(p, q), rest = min(most, r);
                 storeRow(low + x, min(least, rest));
                 storeRow(middle + x, max(least, rest));
                 storeRow(high + x, max(most, r));
             }
-            float* const to = out.line(c, y);
-            for (int x = 0; x < out.area.width(); x += kLanes<V>) {
+            T* const to = out.line(y);
+            for (int x = 0; x < out.length(); x += kLanes<V>) {
                 const int at = left + x;
-                const auto three = [&](const float* from) {
+                const auto three = [&](const T* from) {
                     return std::array{
-                        loadRow<V>(from + at - step), loadRow<V>(from + at), loadRow<V>(from + at + step)};
+                        loadRow<V>(from + at - aside), loadRow<V>(from + at), loadRow<V>(from + at + aside)};
                 };
                 const auto l = three(low), m = three(middle), h = three(high);
-                const V median =
-                    middleOf(max(max(l[0], l[1]), l[2]), middleOf(m[0], m[1], m[2]), min(min(h[0], h[1]), h[2]));
-                storeRow(to + x, part < 1 ? mix(loadRow<V>(line + at), median, V(part)) : median);
+                V median = middleOf(max(max(l[0], l[1]), l[2]), middleOf(m[0], m[1], m[2]), min(min(h[0], h[1]), h[2]));
+                if constexpr (std::is_same_v<T, float>) {
+                    if (part < 1)
+                        median = mix(loadRow<V>(line + at), median, V(part));
+                }
+                storeRow(to + x, median);
             }
         }
     }
