@@ -6,7 +6,7 @@
 #include "app/EffectList.h"
 #include "app/FavouritesStore.h"
 #include "app/OutlineModel.h"
-#include "app/PictureFormats.h"
+#include "platform/chain/PictureFormats.h"
 #include "app/PictureHistory.h"
 #include "controls/ImageViewMaster.h"
 #include "controls/ParameterMaster.h"

@@ -1,5 +1,5 @@
 // Custom mode.
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/OutlineView.h"

@@ -1,4 +1,4 @@
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/Turning.h"

@@ -1,7 +1,7 @@
 // The finished picture, and how it becomes a file.
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "app/Controller.h"
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
 #include "files/ExportFormats.h"
 #include "files/ImageDestination.h"

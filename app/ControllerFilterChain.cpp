@@ -1,6 +1,6 @@
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "app/Controller.h"
-#include "app/FilterChain.h"
+#include "platform/chain/FilterChain.h"
 #include "app/MainWindow.h"
 #include "controls/MyImageView.h"
 #include "files/ResizePanel.h"

@@ -1,6 +1,6 @@
 // The panel of the current filter.
 #include "app/Controller.h"
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
 #include "controls/BezelStyle.h"
 #include "controls/ControlPoints.h"

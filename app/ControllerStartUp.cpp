@@ -56,7 +56,7 @@ Controller::Controller(MainWindow& window)
     , m_list3D(m_effects3D, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
     , m_effectsCustom(effectsCustom())
     , m_listCustom(m_effectsCustom, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
-    , m_favorites({QStringLiteral("EffectsFavorites"), nullptr, [this](auto* button) { filterChanged(button); }},
+    , m_favorites({kFilterFavouritesKey, nullptr, [this](auto* button) { filterChanged(button); }},
           *m_pageController, *this)
     , m_favorites3D({QStringLiteral("3DEffectsFavorites"), &m_effects3D.prototypes(),
                         [this](auto* button) { filterChanged3D(button); }},

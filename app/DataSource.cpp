@@ -1,6 +1,6 @@
 #include "app/DataSource.h"
 
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 #include "controls/ControlPoints.h"
 #include "platform/foundation/TintedIcon.h"
 

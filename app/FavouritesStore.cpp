@@ -1,9 +1,9 @@
 #include "app/FavouritesStore.h"
 
-#include "app/Log.h"
 #include "app/Thumbnail.h"
 #include "effects2d/CustomEffects.h"
 #include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/Log.h"
 #include "platform/foundation/UserDefaults.h"
 #include "widgets/DocPageControl.h"
 
@@ -16,17 +16,6 @@ const QString kEffectKey = QStringLiteral("classObj");
 const QString kToolTipKey = QStringLiteral("ToolTipName");
 
 void log(const std::exception& error) { qCWarning(lumivexLog, "%s", error.what()); }
-
-/// Nothing for bytes that can't be read, with a line in the log.
-CIValue unarchived(const QByteArray& bytes)
-{
-    try {
-        return KeyedArchive::unarchivedValue(bytes);
-    } catch (const std::exception& error) {
-        log(error);
-        return {};
-    }
-}
 
 /// Archives values into records. One picture is often part of several favourites; it is archived once.
 class Archiver {
@@ -78,14 +67,6 @@ QByteArray bytesOf(const CIData& data)
 
 } // namespace
 
-CIValue Favourite::valueForKey(const std::string& key) const
-{
-    if (const auto found = values.find(key); found != values.end())
-        return found->second;
-    const auto found = unread.find(key);
-    return found == unread.end() ? CIValue() : unarchived(found->second.bytes());
-}
-
 FavouritesStore::FavouritesStore(FavouritesFamily family, DocPageControl& strip, FavouritesMaster& master)
     : m_family(std::move(family))
     , m_strip(strip)
@@ -112,7 +93,9 @@ void FavouritesStore::add(const QImage& thumbnail, const QString& toolTip, CIDic
 {
     if (!toolTip.isEmpty())
         values["ToolTipName"] = toolTip.toStdString();
-    m_favourites.push_back({addButton(thumbnail, toolTip), nullptr, std::move(values), {}});
+    Favourite& favourite = m_favourites.emplace_back();
+    favourite.values = std::move(values);
+    favourite.button = addButton(thumbnail, toolTip);
 }
 
 void FavouritesStore::add(const QImage& thumbnail, const BaseEffect& effect)
@@ -190,17 +173,10 @@ void FavouritesStore::read()
 
 Favourite FavouritesStore::favouriteFrom(const StoredRecord& record)
 {
-    Favourite favourite;
+    Favourite favourite{settingsFrom(record, kThumbnailKey), nullptr, nullptr};
     QImage thumbnail;
-    for (const auto& [key, data] : record) {
-        if (key == kThumbnailKey) {
-            thumbnail = thumbnailOfTiff(bytesOf(unarchived(data.bytes()).toData()));
-        } else if (data.isInFile()) {
-            favourite.unread[key.toStdString()] = data;
-        } else if (CIValue value = unarchived(data.bytes()); !value.isNothing()) {
-            favourite.values[key.toStdString()] = std::move(value);
-        }
-    }
+    if (const auto found = record.find(kThumbnailKey); found != record.end())
+        thumbnail = thumbnailOfTiff(bytesOf(unarchivedValue(found->second.bytes()).toData()));
     if (m_family.prototypes) {
         const auto stored = favourite.values.find(kEffectKey.toStdString());
         if (stored != favourite.values.end())

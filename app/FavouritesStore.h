@@ -5,6 +5,7 @@
 #pragma once
 
 #include "effects2d/BaseEffect.h"
+#include "platform/chain/FilterSettings.h"
 #include "platform/foundation/StoredRecords.h"
 #include "widgets/onlyTextClosedButton.h"
 
@@ -15,20 +16,14 @@
 class DocPageControl;
 class FavouritesMaster;
 
-/// What a button brings back.
-struct Favourite {
+/// What a button brings back: in standard mode a filter's settings, else an effect.
+struct Favourite : FilterSettings {
     /// Null when its thumbnail can't be read: then it can't be pressed, but it is kept.
     QPointer<onlyTextClosedButton> button;
     /// 3D and custom: the effect (under "class"); to be copied, not used. Null when its class is unknown.
     std::shared_ptr<BaseEffect> effect;
-    /// Everything else by its key: standard mode has "class" (the filter's name), "ToolTipName" and each input key.
-    CIDictionary values;
-    /// Large values that were not looked at yet: pictures stay on the disk until the button is pressed.
-    std::map<std::string, StoredData> unread;
 
-    /// Reads it if need be. Nothing when there is none, or (with a line in the log) when it is damaged.
-    CIValue valueForKey(const std::string& key) const;
-    bool hasClass() const { return effect || values.contains("class"); }
+    bool hasClass() const { return effect || FilterSettings::hasClass(); }
 };
 
 struct FavouritesFamily {

@@ -1,6 +1,6 @@
 #include "app/InputValues.h"
 
-#include "app/FilterChain.h"
+#include "platform/chain/FilterChain.h"
 #include "controls/TransformParts.h"
 
 #include <algorithm>

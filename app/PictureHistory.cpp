@@ -1,6 +1,6 @@
 #include "app/PictureHistory.h"
 
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "platform/imageio/ImageLog.h"
 
 KeptPicture::KeptPicture(const CIImage& image)

@@ -1,6 +1,6 @@
 #include "app/Turning.h"
 
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/Controller.h"
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
 #include "app/TextRenderer.h"
 #include "platform/foundation/Appearance.h"

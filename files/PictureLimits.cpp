@@ -5,16 +5,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include <unistd.h>
-
 namespace {
 
 constexpr std::int64_t kSharesOfMemory = 4;
 constexpr float kLongestSide = 1'000'000; // px; far beyond what any format stores
 
 } // namespace
-
-std::int64_t physicalMemory() { return std::int64_t(::sysconf(_SC_PHYS_PAGES)) * ::sysconf(_SC_PAGESIZE); }
 
 std::optional<QSize> pixelSize(float width, float height)
 {

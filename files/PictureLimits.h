@@ -2,14 +2,12 @@
 #pragma once
 
 #include "platform/coreimage/CIBitmap.h"
+#include "platform/foundation/PhysicalMemory.h"
 
 #include <QSize>
 
 #include <cstdint>
 #include <optional>
-
-/// Bytes of memory that the computer has.
-std::int64_t physicalMemory();
 
 /// Rounded to whole pixels, at least one each way. Nothing for values that are no size at all.
 std::optional<QSize> pixelSize(float width, float height);

@@ -1,5 +1,6 @@
 // Exif, IPTC and XMP, read by Exiv2.
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PropertyTree.h"
 
 #include <exiv2/exiv2.hpp>
@@ -13,19 +14,6 @@ namespace imageio {
 namespace {
 
 constexpr long kLongestBinary = 256; // bytes; longer ones are only counted
-
-void prepareExiv2()
-{
-    static std::once_flag once;
-    std::call_once(once, [] {
-        Exiv2::LogMsg::setHandler([](int, const char* message) {
-            const std::string line(message);
-            imageLog(line.substr(0, line.find_last_not_of("\r\n") + 1));
-        });
-        Exiv2::XmpParser::initialize();
-        Exiv2::enableBMFF(); // HEIF, AVIF
-    });
-}
 
 /// Where tags of the directory `group` go; empty for those that describe only how the file is laid out.
 std::string_view placeOf(std::string_view group)
@@ -108,6 +96,26 @@ void dropEmptyGroups(Properties& properties)
 }
 
 } // namespace
+
+void prepareExiv2()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        Exiv2::LogMsg::setHandler([](int, const char* message) {
+            const std::string line(message);
+            imageLog(line.substr(0, line.find_last_not_of("\r\n") + 1));
+        });
+        // Its XMP parser works for one thread at a time.
+        static std::recursive_mutex oneAtATime;
+        Exiv2::XmpParser::initialize(
+            [](void* mutex, bool locks) {
+                auto& guard = *static_cast<std::recursive_mutex*>(mutex);
+                locks ? guard.lock() : guard.unlock();
+            },
+            &oneAtATime);
+        Exiv2::enableBMFF(); // HEIF, AVIF
+    });
+}
 
 void addMetadata(const std::filesystem::path& file, Properties& properties)
 {

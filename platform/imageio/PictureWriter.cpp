@@ -3,6 +3,7 @@
 #include "platform/imageio/BmpWriter.h"
 #include "platform/imageio/IconWriter.h"
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PictureRows.h"
 
 #include <algorithm>
@@ -180,6 +181,38 @@ Failure cannotWrite(const fs::path& file, int error)
     return failure;
 }
 
+bool writeAll(int descriptor, std::span<const std::byte> bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(descriptor, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        bytes = bytes.subspan(std::size_t(count));
+    }
+    return true;
+}
+
+/// False when it can't be encoded or stored.
+bool encodeWithMetadata(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
+{
+    Result<std::vector<std::byte>> encoded = encodePicture(bitmap, options);
+    errno = 0;
+    return encoded
+        && writeAll(
+            descriptor, withMetadataOf(options.metadataOf, std::move(*encoded), bitmap.width(), bitmap.height()));
+}
+
+bool encodeInto(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
+{
+    if (!options.metadataOf.empty())
+        return encodeWithMetadata(descriptor, bitmap, options);
+    errno = 0;
+    const TargetPtr target(vips_target_new_to_descriptor(descriptor));
+    return encodeTo(target.get(), bitmap, options);
+}
+
 bool isCancelled(const WriteOptions& options) { return options.control && options.control->isCancelled(); }
 
 } // namespace
@@ -193,9 +226,7 @@ Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const Wr
         FileBeside beside(file);
         if (beside.descriptor() < 0)
             return cannotWrite(file, errno);
-        errno = 0;
-        const TargetPtr target(vips_target_new_to_descriptor(beside.descriptor()));
-        const bool isEncoded = encodeTo(target.get(), bitmap, options);
+        const bool isEncoded = encodeInto(beside.descriptor(), bitmap, options);
         if (isCancelled(options))
             return Failure{"The picture was not written."};
         if (!isEncoded)

@@ -18,6 +18,9 @@ struct WriteOptions {
     double quality = 0.9; // 0 to 1, for formats that lose detail
     double dotsPerInch = 0; // stored in the file; 0 stores none
     int bitsPerComponent = 0; // 8 or 16; 0 takes what the bitmap has. Formats that know only 8 bits use 8
+    /// A file whose Exif, IPTC and XMP entries the new one gets, where the format has room for them. Those that
+    /// describe the pixels and the layout of that file are left out. Empty for none.
+    std::filesystem::path metadataOf = {};
     CIRenderControl* control = nullptr; // is told how far it is; once cancelled, nothing is written
 };
 

@@ -1,7 +1,7 @@
 // Turning, resizing, copying and pasting the picture.
 #include "WindowFixture.h"
 
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "app/RecentFiles.h"
 #include "app/Turning.h"
 #include "files/ResizePanel.h"

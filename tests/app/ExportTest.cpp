@@ -1,7 +1,7 @@
 // Saving, and quitting with unsaved changes.
 #include "WindowFixture.h"
 
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 #include "files/SavePanel.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"

@@ -4,9 +4,11 @@
 #include "app/Thumbnail.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
+#include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTest>
 
 namespace {
@@ -180,6 +182,47 @@ TEST_F(FavouritesTest, ManyWithLargePicturesAreReadAtOnce)
     EXPECT_LT(timer.elapsed(), 1500) << "ms, a tenth of it on a quiet machine; none of the pictures is read";
     RecordProperty("ms", int(timer.elapsed()));
     controller.setBackgroundImage({});
+}
+
+TEST_F(FavouritesTest, MakeTheSamePictureFromTheCommandLine)
+{
+    const QString data = QFileInfo(UserDefaults::standardUserDefaults().file()).absolutePath();
+    QFile::link(data, data + "/lumivex"); // where the other program looks
+    QImage source(90, 70, QImage::Format_RGB32);
+    for (int y = 0; y < source.height(); ++y)
+        for (int x = 0; x < source.width(); ++x)
+            source.setPixel(x, y, qRgb(2 * x, 3 * y, x * y % 256));
+    const QString path = folder.filePath("source.png");
+    ASSERT_TRUE(source.save(path));
+    const std::pair<const char*, CIValue> favourites[] = {{"CIGaussianBlur", 3.5}, {"CICheckerboardGenerator", 12},
+        {"CIColorMap", {}}, {"CIGlassDistortion", {}}, {"CITwirlDistortion", 40}};
+    for (const auto& [filter, value] : favourites)
+        addFavourite(filter,
+            value.isNothing()                                     ? ""
+                : QByteArray(filter) == "CICheckerboardGenerator" ? "inputWidth"
+                                                                  : "inputRadius",
+            value);
+    controller.saveFavorites();
+    controller.openFile(path);
+    for (int i = 0; i < int(std::size(favourites)); ++i) {
+        SCOPED_TRACE(favourites[i].first);
+        press(button(i));
+        const CIBitmap shown = controller.createObjectImage();
+        QProcess program;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_DATA_HOME", data);
+        environment.remove("DISPLAY");
+        program.setProcessEnvironment(environment);
+        program.start(LUMIVEX_RENDER, {"--favourite", button(i)->toolTip(), path, "-o", folder.filePath("out")});
+        ASSERT_TRUE(program.waitForFinished(60'000));
+        EXPECT_EQ(program.exitCode(), 0) << program.readAllStandardError().toStdString();
+        const Result<CIBitmap> written = readPicture(folder.filePath("out/source.png").toStdString());
+        ASSERT_TRUE(written) << written.message();
+        ASSERT_EQ(written->width(), shown.width());
+        ASSERT_EQ(written->height(), shown.height());
+        for (int y = 0; y < shown.height(); ++y)
+            ASSERT_TRUE(std::equal(shown.row(y), shown.row(y) + 4 * shown.width(), written->row(y))) << "row " << y;
+    }
 }
 
 } // namespace

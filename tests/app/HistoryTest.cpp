@@ -1,7 +1,7 @@
 // Undo steps that hold pictures.
 #include "WindowFixture.h"
 
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 
 #include <QDir>
 #include <QFile>

@@ -62,6 +62,7 @@ private:
     std::size_t m_next = 0;
 };
 
+/// What both a single render and a batch know, and what only one of them does: that is looked at in the end.
 void takeRenderOption(Arguments& arguments, const std::string& word, Words& words)
 {
     if (word == "--set")
@@ -74,14 +75,58 @@ void takeRenderOption(Arguments& arguments, const std::string& word, Words& word
         arguments.scale = parseScale(words.takeValueOf(word));
     else if (word == "--repeat")
         arguments.repeat = parseRepeat(words.takeValueOf(word));
+    else if (word == "--favourite")
+        arguments.favourite = words.takeValueOf(word);
+    else if (word == "--quiet")
+        arguments.isQuiet = true;
     else if (word == "-o")
         arguments.output = words.takeValueOf(word);
+    else if (word == "--")
+        while (!words.isAtEnd())
+            arguments.files.push_back(words.take());
     else if (word.starts_with('-'))
         throw UsageError("unknown option '" + word + "'");
-    else if (!arguments.filter.empty())
-        throw UsageError("one filter at a time: '" + arguments.filter + "' or '" + word + "'");
     else
-        arguments.filter = word;
+        arguments.files.push_back(word);
+}
+
+std::optional<Task> taskNamed(const std::string& word)
+{
+    if (word == "--list")
+        return Task::List;
+    if (word == "--list-favourites")
+        return Task::ListFavourites;
+    if (word == "--describe")
+        return Task::Describe;
+    if (word == "--version")
+        return Task::Version;
+    return std::nullopt;
+}
+
+void checkBatch(const Arguments& arguments)
+{
+    if (!arguments.values.empty() || !arguments.images.empty() || arguments.rect || arguments.scale != 1
+        || arguments.repeat != 0)
+        throw UsageError("a favourite has its own values: only -o and --quiet go with --favourite");
+    if (arguments.files.empty())
+        throw UsageError("no files named; --help shows how");
+    if (arguments.output.empty())
+        throw UsageError("no output folder named; use -o folder");
+}
+
+/// The only word that is no option is the filter.
+void checkRender(Arguments& arguments)
+{
+    if (arguments.files.empty())
+        throw UsageError("no filter named; --help shows how");
+    if (arguments.files.size() > 1)
+        throw UsageError("one filter at a time: '" + arguments.files[0] + "' or '" + arguments.files[1] + "'");
+    if (arguments.isQuiet)
+        throw UsageError("--quiet goes with --favourite");
+    if (arguments.output.empty() && arguments.repeat == 0)
+        throw UsageError("no output file named; use -o out.png");
+    arguments.filter = std::move(arguments.files.front());
+    arguments.files.clear();
 }
 
 } // namespace
@@ -90,27 +135,28 @@ Arguments parseArguments(const std::vector<std::string>& all)
 {
     Arguments arguments;
     Words words(all);
-    bool hasTask = false;
+    bool hasTask = false, isBatch = false;
     while (!words.isAtEnd()) {
         const std::string& word = words.take();
         if (word == "--help" || word == "-h")
             return Arguments();
-        if (word == "--list" || word == "--describe" || word == "--version") {
-            arguments.task = word == "--list" ? Task::List : word == "--describe" ? Task::Describe : Task::Version;
+        if (const std::optional<Task> task = taskNamed(word)) {
+            arguments.task = *task;
             hasTask = true;
-            if (word == "--describe")
+            if (task == Task::Describe)
                 arguments.filter = words.takeValueOf(word);
         } else {
+            isBatch = isBatch || word == "--favourite";
             takeRenderOption(arguments, word, words);
         }
     }
     if (hasTask)
         return arguments;
-    arguments.task = Task::Render;
-    if (arguments.filter.empty())
-        throw UsageError("no filter named; --help shows how");
-    if (arguments.output.empty() && arguments.repeat == 0)
-        throw UsageError("no output file named; use -o out.png");
+    arguments.task = isBatch ? Task::Batch : Task::Render;
+    if (isBatch)
+        checkBatch(arguments);
+    else
+        checkRender(arguments);
     return arguments;
 }
 
@@ -138,12 +184,14 @@ std::optional<std::vector<double>> parseNumbers(std::string_view text)
 
 std::string usageText()
 {
-    return R"(Renders one filter of the image engine into a PNG file.
+    return R"(Renders one filter of the image engine into a PNG file, or applies a favourite of the editor to many files.
 
   lumivex-render --list                  name, display name and categories of every filter
   lumivex-render --describe NAME         the filter's attributes as JSON
   lumivex-render NAME [--set key=value]... [--image key=file]... [--rect x,y,w,h] [--scale s] -o out.png
   lumivex-render NAME ... --repeat N     also prints 'median_ms<TAB>min_ms<TAB>max_ms' of N renders
+  lumivex-render --list-favourites       names of the editor's favourites of standard mode, in their order
+  lumivex-render --favourite NAME [--quiet] FILE... -o FOLDER
 
 Values: 10 or 0.5 for numbers; 150,150 for vectors; 1,0,0,0.5 or #rrggbbaa for colors (sRGB);
 six numbers a,b,c,d,tx,ty for transforms; text as it stands. Inputs that are not set have their defaults.
@@ -151,5 +199,10 @@ Without --rect the filter's whole extent is rendered; where that is infinite, th
 or else 512 x 512 pixels at the origin. y points up. --scale is output pixels per picture pixel.
 The output has 16 bits where an input picture has more than 8, else 8.
 A mistake is told in one line on standard error, with exit status 2 and no output file.
+
+With --favourite every file is written into the folder under its own name and in its own format, or as .png where that
+format can't be written; Exif, IPTC and XMP entries are kept. Input files are never overwritten. A file that fails is
+named on standard error, the others go on, and the exit status is 1. A terminal shows a line for each file unless
+--quiet is given.
 )";
 }

@@ -15,7 +15,7 @@ struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-enum class Task { Help, Version, List, Describe, Render };
+enum class Task { Help, Version, List, Describe, Render, ListFavourites, Batch };
 
 struct Arguments {
     Task task = Task::Help;
@@ -25,7 +25,10 @@ struct Arguments {
     std::optional<CIRect> rect; // picture pixels
     double scale = 1;
     int repeat = 0; // timed renders; 0 times none
-    std::string output; // may be empty when only times are wanted
+    std::string output; // may be empty when only times are wanted; the folder of a batch
+    std::string favourite; // of a batch
+    std::vector<std::string> files; // of a batch
+    bool isQuiet = false; // a batch tells only what went wrong
 };
 
 /// Throws UsageError for an unknown option, a missing or a malformed value.

@@ -1,4 +1,4 @@
-#include "app/Baking.h"
+#include "platform/chain/Baking.h"
 
 #include "platform/coreimage/graph/BitmapNode.h"
 

@@ -1,6 +1,6 @@
-#include "app/FilterChain.h"
-#include "app/Baking.h"
-#include "app/PictureFormats.h"
+#include "platform/chain/FilterChain.h"
+#include "platform/chain/Baking.h"
+#include "platform/chain/PictureFormats.h"
 #include "platform/coreimage/CIContext.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,3 @@
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 
 Q_LOGGING_CATEGORY(lumivexLog, "lumivex")

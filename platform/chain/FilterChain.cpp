@@ -1,6 +1,6 @@
-#include "app/FilterChain.h"
+#include "platform/chain/FilterChain.h"
 
-#include "app/Log.h"
+#include "platform/foundation/Log.h"
 
 #include <algorithm>
 

@@ -1,0 +1,98 @@
+#include "platform/imageio/ImageLog.h"
+#include "platform/imageio/PictureProperties.h"
+#include "platform/imageio/PictureReader.h"
+#include "platform/imageio/PictureWriter.h"
+#include "tests/imageio/PictureFiles.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class MetadataCopy : public testing::Test {
+protected:
+    MetadataCopy()
+    {
+        setImageLog([](std::string_view) {});
+    }
+    ~MetadataCopy() override { setImageLog({}); }
+
+    /// A photograph that was held upright, with entries written by another program.
+    fs::path photograph()
+    {
+        const fs::path file = folder.path() / "photo.jpg";
+        EXPECT_TRUE(writePicture(noiseBitmap(40, 30, CIFormat::RGBA8, CIAlpha::Opaque), file,
+            {.format = PictureFormat::Jpeg, .dotsPerInch = 300}));
+        const std::string line = "exiv2 -M'set Exif.Image.Model Camera' -M'set Exif.Image.Orientation 6'"
+                                 " -M'set Exif.Photo.ExposureTime 1/250' -M'set Exif.Photo.PixelXDimension 40'"
+                                 " -M'set Exif.GPSInfo.GPSLatitude 4/1 15/1 33/1' -M'set Iptc.Application2.City Bern'"
+                                 " -M'set Xmp.dc.creator Somebody' -M'set Xmp.tiff.Orientation 6' "
+            + file.string();
+        EXPECT_EQ(std::system(line.c_str()), 0);
+        return file;
+    }
+    std::string valueOf(const fs::path& file, std::string_view group, std::string_view key)
+    {
+        const Result<PictureFileProperties> read = readPictureProperties(file);
+        if (!read)
+            return read.message();
+        const auto place = std::ranges::find(read->properties, group, &PictureProperty::key);
+        if (place == read->properties.end())
+            return {};
+        const auto value = std::ranges::find(place->children, key, &PictureProperty::key);
+        return value == place->children.end() ? std::string() : value->value;
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(MetadataCopy, CarriesWhatStaysTrueIntoEveryFormatThatTakesIt)
+{
+    const fs::path photo = photograph();
+    const CIBitmap turned = noiseBitmap(30, 41, CIFormat::RGBA16, CIAlpha::Opaque);
+    for (const auto& [name, format] : {std::pair("a.jpg", PictureFormat::Jpeg), {"a.tiff", PictureFormat::Tiff},
+             {"a.png", PictureFormat::Png}, {"a.webp", PictureFormat::WebP}, {"a.jp2", PictureFormat::Jpeg2000}}) {
+        SCOPED_TRACE(name);
+        const fs::path file = folder.path() / name;
+        ASSERT_TRUE(writePicture(turned, file, {.format = format}));
+        const std::string profile = readPictureInfo(file)->profileName;
+        ASSERT_TRUE(writePicture(turned, file, {.format = format, .metadataOf = photo}));
+        const Result<CIBitmap> back = readPicture(file);
+        ASSERT_TRUE(back) << back.message();
+        EXPECT_EQ(back->height(), 41) << "nobody turns it once more";
+        EXPECT_EQ(valueOf(file, "{TIFF}", "Model"), "Camera");
+        EXPECT_EQ(valueOf(file, "{Exif}", "ExposureTime"), "1/250 s");
+        EXPECT_EQ(valueOf(file, "{Exif}", "PixelXDimension"), "30");
+        EXPECT_EQ(valueOf(file, "{GPS}", "GPSLatitude"), valueOf(photo, "{GPS}", "GPSLatitude"));
+        EXPECT_EQ(valueOf(file, "{IPTC}", "City"), format == PictureFormat::WebP ? "" : "Bern") << "WebP has no IPTC";
+        EXPECT_EQ(valueOf(file, "{XMP}", "dc:creator"), "Somebody");
+        EXPECT_EQ(valueOf(file, "{XMP}", "tiff:Orientation"), "");
+        EXPECT_EQ(readPictureInfo(file)->profileName, profile);
+    }
+}
+
+TEST_F(MetadataCopy, WritesThePictureWhereThereIsNothingToCarry)
+{
+    const CIBitmap bitmap = noiseBitmap(9, 7, CIFormat::RGBA8, CIAlpha::Opaque);
+    const fs::path file = folder.path() / "a";
+    const fs::path broken = folder.path() / "broken";
+    std::ofstream(broken) << "\xff\xd8\xff\xe1 no Exif";
+    for (const fs::path& source : {broken, folder.path() / "missing", photograph()}) {
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = PictureFormat::Gif, .metadataOf = source}));
+        EXPECT_EQ(readPictureInfo(file)->formatName, "GIF");
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = PictureFormat::Png, .metadataOf = source}));
+        EXPECT_EQ(readPictureInfo(file)->width, 9);
+    }
+    // Onto itself: the source is read before it gives way.
+    const fs::path photo = photograph();
+    ASSERT_TRUE(writePicture(bitmap, photo, {.format = PictureFormat::Jpeg, .metadataOf = photo}));
+    EXPECT_EQ(valueOf(photo, "{TIFF}", "Model"), "Camera");
+    EXPECT_EQ(readPictureInfo(photo)->width, 9);
+}
+
+} // namespace
