@@ -1,6 +1,5 @@
 #include "controls/MyImageView.h"
 
-#include "controls/AccessibleImageView.h"
 #include "controls/MyImageViewPrivate.h"
 #include "controls/PictureScrollView.h"
 #include "controls/PointMark.h"
@@ -37,7 +36,6 @@ MyImageView::MyImageView(PictureScrollView* scrollView)
         tr("Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms."));
     setWhatsThis(tr("The picture as the filter shows it. Drag the points of the filter, zoom with the wheel, "
                     "move the picture with the middle button or the space bar held."));
-    installAccessibleImageView();
     d->divider = new SplitDivider(this);
     connect(d->divider, &SplitDivider::moved, this, qOverload<>(&QWidget::update));
     connect(this, &ZoomedCanvas::layoutChanged, d->divider, &SplitDivider::followView);

@@ -40,6 +40,7 @@ public:
     std::uint32_t grabMode() const { return parmMode; }
     const std::string& grabKey() const { return parmKey; }
     bool isDisplayingPoints() const { return displayingPoints; }
+    QList<CanvasPoint> canvasPoints() const override;
 
 protected:
     CIPoint pictureSize() const override;

@@ -148,6 +148,8 @@ void MyImageView::selectPoint(std::optional<std::size_t> index)
 {
     d->selected = index;
     update();
+    if (index)
+        notifyPoint(this, qsizetype(*index), QAccessible::Focus);
 }
 
 void MyImageView::focusOutEvent(QFocusEvent* event)
@@ -186,7 +188,19 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
     controller->setFilterValueForKey(*filter, dragged->value, point.key);
     controller->setActionNameForFilterKey(*filter, point.key);
     setNeedsDisplay();
+    notifyPoint(this, qsizetype(*d->selected), QAccessible::DescriptionChanged);
     return true;
+}
+
+QList<CanvasPoint> MyImageView::canvasPoints() const
+{
+    QList<CanvasPoint> result;
+    for (const ControlPoint& point : pointsOf(d->showsOriginal ? nullptr : controller)) {
+        const QString position = tr("%1, %2").arg(std::lround(point.position.x)).arg(std::lround(point.position.y));
+        const bool selected = d->selected == std::size_t(result.size());
+        result.append({QString::fromStdString(point.label), position, toWidget(point.position), selected});
+    }
+    return result;
 }
 
 void MyImageView::keyPressEvent(QKeyEvent* event)

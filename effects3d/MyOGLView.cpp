@@ -69,6 +69,7 @@ void setProjection(double x, double y, double z)
 MyOGLView::MyOGLView(QWidget* parent)
     : QWidget(parent)
 {
+    installAccessibleCanvas();
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("3D picture"));
     setAccessibleDescription(tr("Drag to turn. The arrow keys turn it as well."));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "effects3d/OGLViewMaster.h"
+#include "widgets/AccessibleCanvas.h"
 
 #include <QImage>
 #include <QWidget>
@@ -18,7 +19,7 @@ class PictureTexture;
 /// Effects see a space whose unit is half the view's shorter side, wherever the view is longer than wide or the other
 /// way round; what has the least z is in front. The plain picture fills nine tenths of the view.
 /// Points given to effects are view coordinates: y up, the origin in the lower left corner.
-class MyOGLView : public QWidget {
+class MyOGLView : public QWidget, public AccessibleCanvas {
     Q_OBJECT
 public:
     explicit MyOGLView(QWidget* parent = nullptr);

@@ -24,6 +24,7 @@ ZoomedCanvas::ZoomedCanvas(CanvasScrollView* scrollView)
     : QWidget(scrollView)
     , m_scrollView(scrollView)
 {
+    installAccessibleCanvas();
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -36,6 +37,8 @@ void ZoomedCanvas::setZoom(float newZoom)
     zoom = clampedZoom(newZoom);
     resizeViewBoundCenter(true, int(PictureCenter::Toward));
 }
+
+QString ZoomedCanvas::canvasValue() const { return tr("%1 %").arg(std::lround(zoom * 100)); }
 
 void ZoomedCanvas::resizeViewBoundCenter(bool force, int center)
 {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/coreimage/CIGeometry.h"
+#include "widgets/AccessibleCanvas.h"
 
 #include <QWidget>
 
@@ -14,7 +15,7 @@ class CanvasScrollView;
 ///
 /// The widget is as large as the visible part. Its own coordinates ("view coordinates": `bounds`, mouse positions) are
 /// picture pixels, y up.
-class ZoomedCanvas : public QWidget {
+class ZoomedCanvas : public QWidget, public AccessibleCanvas {
     Q_OBJECT
 public:
     explicit ZoomedCanvas(CanvasScrollView* scrollView);
@@ -30,6 +31,8 @@ public:
     /// From widget to view coordinates and back. Device pixels and picture pixels are aligned as drawn.
     CIPoint toPicture(const QPointF& widget) const;
     QPointF toWidget(CIPoint picture) const;
+
+    QString canvasValue() const override; // the zoom
 
     /// Scrolls so that the picture keeps its center when the visible part changes size.
     void visibleSizeChanged(const QSizeF& before);

@@ -173,3 +173,25 @@ TEST_F(ImageViewTest, IsACanvasToAssistiveTechnology)
     EXPECT_EQ(accessible->text(QAccessible::Name), "Picture");
     EXPECT_EQ(accessible->text(QAccessible::Value), "50 %");
 }
+
+TEST_F(ImageViewTest, ItsPointsAreThereForAssistiveTechnology)
+{
+    open(pattern(200, 200));
+    edit("CICrop");
+    master.filter->setValueForKey(CIVector{50, 50, 60, 70}, "inputRectangle");
+    QAccessibleInterface* canvas = QAccessible::queryAccessibleInterface(&view);
+    const int widgets = int(view.findChildren<QWidget*>(Qt::FindDirectChildrenOnly).size());
+    ASSERT_EQ(canvas->childCount(), 4 + widgets);
+    QAccessibleInterface* corner = canvas->child(0);
+    EXPECT_TRUE(corner->text(QAccessible::Name).endsWith("top right"));
+    EXPECT_EQ(corner->text(QAccessible::Description), "110, 120");
+    EXPECT_EQ(corner->rect().center(), view.mapToGlobal(at(110, 120)) - QPoint(1, 1));
+    for (int i = 0; i < canvas->childCount(); ++i)
+        EXPECT_EQ(canvas->indexOfChild(canvas->child(i)), i);
+    view.setFocus();
+    QTest::keyClick(&view, Qt::Key_Tab);
+    EXPECT_EQ(canvas->focusChild(), corner);
+    master.filter.reset();
+    EXPECT_EQ(canvas->childCount(), widgets);
+    EXPECT_FALSE(corner->isValid());
+}
