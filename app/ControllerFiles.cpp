@@ -6,6 +6,7 @@
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 #include "widgets/BackgroundWork.h"
+#include "widgets/FilePanel.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -44,6 +45,7 @@ void Controller::openImg()
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilters(pictureNameFilters());
+    dressFilePanel(*panel);
     if (!m_lastFolder.isEmpty())
         panel->setDirectory(m_lastFolder);
     connect(panel, &QFileDialog::finished, this, [this, panel](int code) {

@@ -3,6 +3,7 @@
 #include "controls/DropImageView.h"
 #include "controls/ParameterView.h"
 #include "controls/PictureConversion.h"
+#include "widgets/FilePanel.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -75,6 +76,7 @@ void ParameterView::chooseFile(std::function<void(const QString&)> chosen)
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilters(master->pictureNameFilters());
+    dressFilePanel(*panel);
     if (!imageView->filePath().isEmpty())
         panel->setDirectory(QFileInfo(imageView->filePath()).absolutePath());
     connect(panel, &QDialog::accepted, this, [panel, chosen = std::move(chosen)] {

@@ -1,6 +1,7 @@
 #include "files/SavePanel.h"
 
 #include "platform/foundation/TintedIcon.h"
+#include "widgets/FilePanel.h"
 
 SavePanel::SavePanel(QWidget* window, QWidget* accessory)
     : QFileDialog(window)
@@ -32,6 +33,7 @@ void SavePanel::giveBackAccessory()
 
 void SavePanel::dress()
 {
+    dressFilePanel(*this);
     resize(760, 520);
     const std::pair<const char*, const char*> icons[] = {
         {"backButton", "chevron-left"},
