@@ -112,12 +112,11 @@ class Widget:
 
     @property
     def value(self):
-        return self.node.get_value_iface().get_current_value()
+        return Atspi.Value.get_current_value(self.node)
 
     @property
     def text(self):
-        content = self.node.get_text_iface()
-        return content.get_text(0, content.get_character_count())
+        return Atspi.Text.get_text(self.node, 0, Atspi.Text.get_character_count(self.node))
 
     def children(self):
         for i in range(self.node.get_child_count()):
