@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstring>
 
 namespace ci {
 
@@ -45,6 +46,14 @@ bool isOne(const Planes& p, int c)
         if (others)
             return false;
     }
+    return true;
+}
+
+bool areEqual(const Planes& p, int c, int d)
+{
+    for (int y = p.area.y0; y < p.area.y1; ++y)
+        if (std::memcmp(p.line(c, y), p.line(d, y), std::size_t(p.area.width()) * sizeof(float)) != 0)
+            return false;
     return true;
 }
 

@@ -27,19 +27,26 @@ struct Planes {
 
 /// True when every value of the plane is 1, as the alpha of most pictures is.
 bool isOne(const Planes& p, int c);
+/// True when the planes `c` and `d` are the same, as the colors of gray pictures are.
+bool areEqual(const Planes& p, int c, int d);
 
-/// Works `each(c)` out for the planes that need it; where all that is read is opaque, alpha is 1 without work.
+/// Works `each(c)` out for the planes that need it; where all that is read is opaque, alpha is 1 without work, and
+/// where it is gray, one color is enough. `each` may change what it reads.
 template <class Each>
 void forEachPlane(const Planes& in, const Planes& out, Each each)
 {
-    for (int c = 0; c < 4; ++c) {
-        if (c < 3 || !isOne(in, c)) {
+    const bool opaque = isOne(in, 3);
+    const bool same[] = {false, areEqual(in, 1, 0), areEqual(in, 2, 0)};
+    for (int c = 0; c < 3; ++c) {
+        if (!same[c])
             each(c);
-            continue;
-        }
-        for (int y = out.area.y0; y < out.area.y1; ++y)
-            std::fill_n(out.line(c, y), out.area.width(), 1.0f);
+        for (int y = out.area.y0; same[c] && y < out.area.y1; ++y)
+            std::copy_n(out.line(0, y), out.area.width(), out.line(c, y));
     }
+    if (!opaque)
+        each(3);
+    for (int y = out.area.y0; opaque && y < out.area.y1; ++y)
+        std::fill_n(out.line(3, y), out.area.width(), 1.0f);
 }
 
 /// Hands out the rows of a finished block.
