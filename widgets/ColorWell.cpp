@@ -90,6 +90,6 @@ void ColorWell::paintEvent(QPaintEvent*)
     }
     painter.setClipping(false);
     const bool marked = hasFocus() || underMouse() || isDown();
-    painter.setPen(QPen(marked ? look.accentMark : look.border, hasFocus() ? 2 : 1));
+    painter.setPen(QPen(marked ? look.accentMark : look.edge, hasFocus() ? 2 : 1));
     painter.drawPath(shape);
 }

@@ -26,7 +26,7 @@ void PanelCheckBox::paintEvent(QPaintEvent*)
     const QRectF box(0.5, (height() - kBox) / 2 + 0.5, kBox - 1, kBox - 1);
     const bool marked = underMouse() || hasFocus() || isDown();
     painter.setBrush(isChecked() ? look.accentMark : isDown() ? look.pressed : look.field);
-    painter.setPen(QPen(isChecked() || marked ? look.accentMark : look.border, 1));
+    painter.setPen(QPen(isChecked() || marked ? look.accentMark : look.edge, 1));
     painter.drawRoundedRect(box, kCorner, kCorner);
     if (hasFocus() && isChecked()) {
         painter.setBrush(Qt::NoBrush);

@@ -113,7 +113,7 @@ void ValueSlider::paintEvent(QPaintEvent*)
         painter.setPen(look.border);
     } else {
         const bool marked = m_dragged || m_hovered || hasFocus();
-        const QColor edge = dark ? look.panel : look.secondaryText.lighter(150);
+        const QColor edge = dark ? look.panel : look.edge;
         painter.setBrush(m_dragged ? look.accent : dark ? look.text : look.field);
         painter.setPen(QPen(marked ? look.accentMark : edge, hasFocus() ? 2 : 1));
     }

@@ -13,9 +13,10 @@ const Look& Look::light()
         .hover = QColor(232, 232, 234),
         .pressed = QColor(222, 222, 225),
         .border = QColor(207, 207, 211),
+        .edge = QColor(138, 138, 145),
         .separator = QColor(223, 223, 226),
         .text = QColor(32, 32, 36),
-        .secondaryText = QColor(98, 98, 106),
+        .secondaryText = QColor(95, 95, 103),
         .disabledText = QColor(160, 160, 166),
         .accent = QColor(208, 200, 255),
         .accentText = QColor(38, 30, 84),
@@ -35,6 +36,7 @@ const Look& Look::dark()
         .hover = QColor(56, 56, 60),
         .pressed = QColor(68, 68, 72),
         .border = QColor(72, 72, 76),
+        .edge = QColor(116, 116, 122),
         .separator = QColor(22, 22, 24),
         .text = QColor(232, 232, 235),
         .secondaryText = QColor(164, 164, 170),
@@ -92,7 +94,7 @@ QMenu::item:selected { background: @accent; color: @accentText; }
 QMenu::item:disabled { color: @disabledText; background: transparent; }
 QMenu::separator { height: 1px; background: @separator; margin: 4px 8px; }
 
-QLineEdit { background: @field; border: 1px solid @border; border-radius: 6px; padding: 3px 7px;
+QLineEdit { background: @field; border: 1px solid @edge; border-radius: 6px; padding: 3px 7px;
             selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus { border-color: @accentMark; }
 QLineEdit:disabled { color: @disabledText; background: @window; }
@@ -111,7 +113,7 @@ QPushButton[mini="true"] { border-radius: 4px; padding: 0 8px; min-height: 0; }
 QPushButton[bezelStyle="8"] { border-radius: 0; }
 
 ReadoutField { background: @window; border: 1px solid transparent; border-radius: 4px; padding: 0; }
-ReadoutField[bezeled="true"], ReadoutField:hover { background: @field; border-color: @border; }
+ReadoutField[bezeled="true"], ReadoutField:hover { background: @field; border-color: @edge; }
 ReadoutField:focus { background: @field; border-color: @accentMark; }
 ColorWell, BaseColoredButton, GradientButton { min-height: 0; padding: 0; border: none; }
 
@@ -157,7 +159,7 @@ QSlider::handle:horizontal:disabled { background: @window; border-color: @border
 
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; }
-QScrollBar::handle { background: @border; border-radius: 3px; margin: 3px; }
+QScrollBar::handle { background: @edge; border-radius: 3px; margin: 3px; }
 QScrollBar::handle:vertical { min-height: 32px; }
 QScrollBar::handle:horizontal { min-width: 32px; }
 QScrollBar::handle:hover { background: @secondaryText; }
@@ -181,7 +183,7 @@ QString styleSheetOf(const Look& look)
         {"@disabledText", look.disabledText},
         {"@accentText", look.accentText},
         {"@accentMark", look.accentMark},
-        {"@handleEdge", dark ? look.panel : look.secondaryText.lighter(150)},
+        {"@handleEdge", dark ? look.panel : look.edge},
         {"@separator", look.separator},
         {"@surround", look.surround},
         {"@pressed", look.pressed},
@@ -189,6 +191,7 @@ QString styleSheetOf(const Look& look)
         {"@window", look.window},
         {"@button", look.button},
         {"@border", look.border},
+        {"@edge", look.edge},
         {"@accent", look.accent},
         {"@panel", look.panel},
         {"@field", look.field},

@@ -14,7 +14,8 @@ struct Look {
     QColor button; // push buttons at rest
     QColor hover; // under the mouse
     QColor pressed; // held down
-    QColor border; // edges of fields and buttons
+    QColor border; // edges of buttons and menus, which their text tells of too; tracks
+    QColor edge; // of what is known by its edge alone: text fields, check boxes, color wells, knobs
     QColor separator; // hair lines between areas
     QColor text;
     QColor secondaryText; // captions, units, group names
