@@ -11,16 +11,21 @@ namespace {
 
 struct Options {
     QCommandLineParser parser;
-    QCommandLineOption help, version;
+    QCommandLineOption help, version, newWindow;
 
     Options()
         : help(parser.addHelpOption())
         , version(parser.addVersionOption())
+        , newWindow(QStringLiteral("new-window"),
+              QCoreApplication::translate("CommandLine", "Open a window of its own, whatever else is open."))
     {
+        parser.addOption(newWindow);
         parser.setApplicationDescription(
             QCoreApplication::translate("CommandLine", "Edits a picture with live filters."));
         parser.addPositionalArgument(QStringLiteral("picture"),
-            QCoreApplication::translate("CommandLine", "The picture file to open."), QStringLiteral("[picture]"));
+            QCoreApplication::translate(
+                "CommandLine", "Picture files to open: the first in a window that is open already, if it can be."),
+            QStringLiteral("[picture...]"));
     }
 };
 
@@ -53,18 +58,12 @@ int answerInText(const QStringList& arguments)
     return 0;
 }
 
-std::optional<QString> pictureArgument(const QStringList& arguments)
+std::optional<StartRequest> startRequest(const QStringList& arguments)
 {
     Options options;
     if (!options.parser.parse(arguments)) {
         std::fprintf(stderr, "%s\n", qPrintable(options.parser.errorText()));
         return std::nullopt;
     }
-    const QStringList pictures = options.parser.positionalArguments();
-    if (pictures.size() > 1) {
-        std::fprintf(stderr, "%s\n",
-            qPrintable(QCoreApplication::translate("CommandLine", "Only one picture can be opened at a time.")));
-        return std::nullopt;
-    }
-    return pictures.isEmpty() ? QString() : pictures.first();
+    return StartRequest{options.parser.positionalArguments(), options.parser.isSet(options.newWindow)};
 }

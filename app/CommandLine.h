@@ -12,6 +12,10 @@ bool wantsOnlyText(int argc, const char* const* argv);
 /// Prints what was asked for; the exit code.
 int answerInText(const QStringList& arguments);
 
-/// The picture to open, empty for none; nothing, after a message to the error output, when the arguments can't be
-/// understood.
-std::optional<QString> pictureArgument(const QStringList& arguments);
+struct StartRequest {
+    QStringList pictures; // as they were written
+    bool newWindow = false; // a process of its own, whatever else is running
+};
+
+/// Nothing, after a message to the error output, when the arguments can't be understood.
+std::optional<StartRequest> startRequest(const QStringList& arguments);

@@ -292,6 +292,12 @@ public:
 
     bool wasChanged() const { return m_wasChanged; }
 
+    // Other processes: ControllerSession.cpp
+    /// The first one here, unless the user would lose changes and doesn't agree; the others in windows of their own.
+    void openFilesFromOutside(const QStringList& paths);
+    /// Starts a process for it; an empty path opens the window alone.
+    static void openInNewWindow(const QString& path);
+
 private:
     void connectInterface();
     void connectActions();

@@ -1,9 +1,10 @@
 #include "app/CommandLine.h"
 #include "app/Controller.h"
-#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
+#include "app/OneInstance.h"
 #include "app/TextRenderer.h"
 #include "platform/foundation/Appearance.h"
+#include "platform/foundation/Log.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -16,20 +17,35 @@ int main(int argc, char** argv)
         const QCoreApplication application(argc, argv); // needs no display
         return answerInText(application.arguments());
     }
+    OneInstance instance;
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.lumivex.Lumivex"));
-    const std::optional<QString> picture = pictureArgument(QCoreApplication::arguments());
-    if (!picture)
+    const std::optional<StartRequest> request = startRequest(QCoreApplication::arguments());
+    if (!request)
         return 2;
+    QStringList pictures;
+    for (const QString& picture : request->pictures)
+        pictures << QFileInfo(picture).absoluteFilePath();
+    if (!request->newWindow && instance.start(pictures) == OneInstance::Start::HandedOver)
+        return 0;
 
     CITextRenderer::install(std::make_shared<TextRenderer>());
     Appearance::shared().dressApplication();
     MainWindow window;
     Controller controller(window);
     controller.awakeFromNib();
-    if (!picture->isEmpty())
-        controller.openFile(QFileInfo(*picture).absoluteFilePath());
+    if (!pictures.isEmpty())
+        controller.openFile(pictures.takeFirst());
+    for (const QString& picture : pictures)
+        Controller::openInNewWindow(picture);
     window.show();
     controller.applicationDidFinishLaunching();
+    QObject::connect(&instance, &OneInstance::requested, &controller, [&](const QStringList& paths) {
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+        window.raise();
+        window.activateWindow();
+        qunsetenv("XDG_ACTIVATION_TOKEN"); // not for the next process
+        controller.openFilesFromOutside(paths);
+    });
     return QApplication::exec();
 }

@@ -21,6 +21,16 @@ endif()
 
 set(id io.github.lumivex.Lumivex)
 install(FILES resources/${id}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+# The bus starts the program by its full path, which is known only when it is installed. A package is put together
+# elsewhere than where it goes.
+install(CODE "
+    set(prefix \${CMAKE_INSTALL_PREFIX})
+    if(DEFINED CPACK_PACKAGING_INSTALL_PREFIX)
+        set(prefix \${CPACK_PACKAGING_INSTALL_PREFIX})
+    endif()
+    set(program \${prefix}/${CMAKE_INSTALL_BINDIR}/lumivex)
+    configure_file(\"${CMAKE_SOURCE_DIR}/resources/${id}.service.in\" \"${CMAKE_BINARY_DIR}/${id}.service\" @ONLY)")
+install(FILES ${CMAKE_BINARY_DIR}/${id}.service DESTINATION ${CMAKE_INSTALL_DATADIR}/dbus-1/services)
 install(FILES resources/${id}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 foreach(program lumivex lumivex-render)
     configure_file(docs/${program}.1 ${CMAKE_BINARY_DIR}/docs/${program}.1 @ONLY)

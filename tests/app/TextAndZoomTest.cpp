@@ -63,11 +63,12 @@ TEST(CommandLine, TellsAQuestionFromAPictureOfThatName)
     EXPECT_FALSE(asks("--", "--help"));
     EXPECT_FALSE(asks());
 
-    EXPECT_EQ(pictureArgument({"lumivex"}), QString());
-    EXPECT_EQ(pictureArgument({"lumivex", "a b.png"}), "a b.png");
-    EXPECT_EQ(pictureArgument({"lumivex", "--", "--help"}), "--help");
-    EXPECT_FALSE(pictureArgument({"lumivex", "--wrong"}));
-    EXPECT_FALSE(pictureArgument({"lumivex", "a.png", "b.png"}));
+    EXPECT_TRUE(startRequest({"lumivex"})->pictures.isEmpty());
+    EXPECT_EQ(startRequest({"lumivex", "a b.png", "c.png"})->pictures, (QStringList{"a b.png", "c.png"}));
+    EXPECT_EQ(startRequest({"lumivex", "--", "--help"})->pictures, QStringList("--help"));
+    EXPECT_TRUE(startRequest({"lumivex", "--new-window", "a.png"})->newWindow);
+    EXPECT_FALSE(startRequest({"lumivex", "a.png"})->newWindow);
+    EXPECT_FALSE(startRequest({"lumivex", "--wrong"}));
 }
 
 double inkOf(const CIBitmap& bitmap)
