@@ -41,10 +41,13 @@ class OutlineView;
 class QAbstractButton;
 class QAction;
 class QLabel;
+class QSessionManager;
 class QSlider;
 class QStackedWidget;
+class SessionJournal;
 class ZoomedCanvas;
 class customEffImageView;
+struct SessionState;
 
 namespace Ui {
 class MainWindow;
@@ -292,6 +295,15 @@ public:
 
     bool wasChanged() const { return m_wasChanged; }
 
+    // Unexpected ends: ControllerSession.cpp
+    /// From now on, what is being edited is kept in the folder `home`, at most a minute old.
+    void startJournal(const QString& home);
+    /// Brings back a session that ended unexpectedly, if there is one and the user wants it. A picture that was opened
+    /// meanwhile, and further sessions, get windows of their own.
+    void offerRestore(const QString& home);
+    SessionState sessionState();
+    void restoreSession(const SessionState& state);
+
     // Other processes: ControllerSession.cpp
     /// The first one here, unless the user would lose changes and doesn't agree; the others in windows of their own.
     void openFilesFromOutside(const QStringList& paths);
@@ -299,6 +311,10 @@ public:
     static void openInNewWindow(const QString& path);
 
 private:
+    void commitData(QSessionManager& session);
+    bool asksToRestore(const SessionState& state);
+    void restoreFilter(const SessionState& state);
+    void markSessionClean();
     void connectInterface();
     void connectActions();
     void connectLists();
@@ -359,6 +375,7 @@ private:
     MainWindow& m_window;
     Ui::MainWindow& ui;
     PictureHistory m_history;
+    std::unique_ptr<SessionJournal> m_journal;
     UndoManager m_undoManager;
     DataSource m_dataSource;
     OutlineModel m_catalogue;

@@ -1,11 +1,11 @@
 // Custom mode.
-#include "platform/chain/Baking.h"
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/OutlineView.h"
 #include "app/Thumbnail.h"
 #include "effects2d/CustomEffects.h"
 #include "effects2d/customEffImageView.h"
+#include "platform/chain/Baking.h"
 #include "ui_MainWindow.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,3 @@
-#include "platform/chain/Baking.h"
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/Turning.h"
@@ -9,6 +8,7 @@
 #include "effects2d/GeneratedEffect.h"
 #include "files/PictureLimits.h"
 #include "files/PlainPicture.h"
+#include "platform/chain/Baking.h"
 #include "platform/coreimage/passes/Resample.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureReader.h"

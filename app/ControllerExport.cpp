@@ -1,11 +1,11 @@
 // The finished picture, and how it becomes a file.
-#include "platform/chain/Baking.h"
 #include "app/Controller.h"
-#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
 #include "files/ExportFormats.h"
 #include "files/ImageDestination.h"
 #include "files/SavePanel.h"
+#include "platform/chain/Baking.h"
+#include "platform/foundation/Log.h"
 #include "ui_SaveOptions.h"
 #include "widgets/AlertPanel.h"
 #include "widgets/BackgroundWork.h"
@@ -225,6 +225,8 @@ bool Controller::writeInBackground(
             result = write(bitmap, control.writing);
     });
     m_saveWasStopped = !result && control.isCancelled();
+    if (result)
+        markSessionClean();
     if (!result && !m_saveWasStopped)
         showMessage(QString::fromStdString(result.message()));
     return result.isOk();

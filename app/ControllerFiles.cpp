@@ -69,8 +69,10 @@ void Controller::openFile(const QString& path)
     showReduced(file);
     const CIImage image = pictureOf(whole.get());
     setBackgroundImage(image);
-    if (image)
+    if (image) {
         rememberRecentFile(path);
+        markSessionClean();
+    }
 }
 
 /// Large JPEG files are on screen in about half the time when they are decoded no larger than that; the whole picture

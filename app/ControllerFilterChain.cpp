@@ -1,9 +1,9 @@
-#include "platform/chain/Baking.h"
 #include "app/Controller.h"
-#include "platform/chain/FilterChain.h"
 #include "app/MainWindow.h"
 #include "controls/MyImageView.h"
 #include "files/ResizePanel.h"
+#include "platform/chain/Baking.h"
+#include "platform/chain/FilterChain.h"
 #include "widgets/BackgroundWork.h"
 
 #include <initializer_list>

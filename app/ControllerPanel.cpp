@@ -1,12 +1,12 @@
 // The panel of the current filter.
 #include "app/Controller.h"
-#include "platform/foundation/Log.h"
 #include "app/MainWindow.h"
 #include "controls/BezelStyle.h"
 #include "controls/ControlPoints.h"
 #include "controls/FilterView.h"
 #include "controls/PictureScrollView.h"
 #include "platform/foundation/Appearance.h"
+#include "platform/foundation/Log.h"
 #include "ui_MainWindow.h"
 
 #include <QAbstractButton>

@@ -2,6 +2,7 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/OutlineView.h"
+#include "app/SessionJournal.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
@@ -134,4 +135,6 @@ void Controller::applicationWillTerminate()
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     defaults.setObjectForKey(m_window.saveGeometry(), kWindowFrameName);
     defaults.synchronize();
+    if (m_journal)
+        m_journal->remove();
 }

@@ -8,7 +8,6 @@
 #include "widgets/DocPageControl.h"
 
 #include <QApplication>
-#include <QSessionManager>
 
 void Controller::windowWillClose()
 {
@@ -49,13 +48,7 @@ void Controller::applicationDidFinishLaunching()
         if (state == Qt::ApplicationActive)
             applicationDidBecomeActive();
     });
-    connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& session) {
-        if (m_wasChanged && session.allowsInteraction()) {
-            if (applicationShouldTerminate() == TerminateReply::Cancel)
-                session.cancel();
-            session.release();
-        }
-    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Controller::commitData);
 }
 
 void Controller::applicationDidBecomeActive() { updateMainBtnState(); }

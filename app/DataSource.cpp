@@ -1,7 +1,7 @@
 #include "app/DataSource.h"
 
-#include "platform/foundation/Log.h"
 #include "controls/ControlPoints.h"
+#include "platform/foundation/Log.h"
 #include "platform/foundation/TintedIcon.h"
 
 #include <QCoreApplication>

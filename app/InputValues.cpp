@@ -1,7 +1,7 @@
 #include "app/InputValues.h"
 
-#include "platform/chain/FilterChain.h"
 #include "controls/TransformParts.h"
+#include "platform/chain/FilterChain.h"
 
 #include <algorithm>
 #include <cmath>

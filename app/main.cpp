@@ -2,12 +2,14 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/OneInstance.h"
+#include "app/SessionFolder.h"
 #include "app/TextRenderer.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Log.h"
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QTimer>
 
 int main(int argc, char** argv)
 {
@@ -40,6 +42,9 @@ int main(int argc, char** argv)
         Controller::openInNewWindow(picture);
     window.show();
     controller.applicationDidFinishLaunching();
+    const QString home = SessionFolder::stateHome();
+    controller.startJournal(home);
+    QTimer::singleShot(0, &controller, [&] { controller.offerRestore(home); });
     QObject::connect(&instance, &OneInstance::requested, &controller, [&](const QStringList& paths) {
         window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
         window.raise();

@@ -25,8 +25,4 @@ private:
     bool store(const CIBitmap& bitmap);
 
     QTemporaryFile m_file;
-    int m_width = 0, m_height = 0;
-    CIFormat m_format{};
-    CIAlpha m_alpha{};
-    CIColorSpace m_space{};
 };
