@@ -6,9 +6,10 @@ set(LUMIVEX_PACKAGER "Lumivex <lumivex@localhost>" CACHE STRING "Who answers for
 set(CPACK_PACKAGE_CONTACT "${LUMIVEX_PACKAGER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "Shows one picture in one window: pick a filter, tune it while the picture follows,
-apply it, pick the next, save. Also has effects in space and generated ones,
-and lumivex-render, which renders single filters without a display.")
+    "Shows one picture in one window: pick a filter, tune it while the picture
+follows, apply it, pick the next, save. Also has effects in space and
+generated ones, and lumivex-render, which renders
+single filters without a display.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
