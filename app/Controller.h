@@ -142,6 +142,10 @@ public:
     void undo();
     void redo();
 
+    // All steps in a menu: ControllerUndoHistory.cpp
+    /// So many redos, or undos when negative; fewer when there are no more.
+    void goInUndoHistory(int moves);
+
     // The panel: ControllerPanel.cpp
     /// Builds the rows of the current filter; nothing without one.
     void updateFilterControls(int tag);
@@ -360,6 +364,7 @@ private:
         const QString& path, const std::function<Result<void>(const CIBitmap&, CIRenderControl&)>& write);
     void rememberRecentFile(const QString& path);
     void fillRecentMenu();
+    void fillUndoHistoryMenu();
     void setWasChanged(bool changed);
     void replacePicture(const CIImage& image, const QString& actionName);
     void showPanel(QWidget& panel);

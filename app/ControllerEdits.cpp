@@ -59,7 +59,8 @@ void Controller::rotateImage(bool left)
     if (!rotated)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
-    m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
+    if (!m_undoManager.isUndoing()) // the redo is called what it does, not what the undo does
+        m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
     setBackgroundImage(rotated);
     customEffectsView->setZoom(customEffectsView->getZoom()); // lays itself out for the new size
 }
@@ -70,7 +71,8 @@ void Controller::flipImage(bool vertical)
     if (!flipped)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
-    m_undoManager.setActionName(vertical ? tr("Flip Vertical") : tr("Flip Horizontal"));
+    if (!m_undoManager.isUndoing())
+        m_undoManager.setActionName(vertical ? tr("Flip Vertical") : tr("Flip Horizontal"));
     setBackgroundImage(flipped);
 }
 

@@ -56,6 +56,7 @@ void Controller::connectActions()
     on(ui.actionHelp, &Controller::displayHelp);
     on(ui.actionAbout, &Controller::orderFrontAboutPanel);
     connect(ui.menuRecent, &QMenu::aboutToShow, this, &Controller::fillRecentMenu);
+    connect(ui.menuUndoHistory, &QMenu::aboutToShow, this, &Controller::fillUndoHistoryMenu);
     connect(ui.actionActualSize, &QAction::triggered, this, [this] { zoomTo(1); });
 
     int tag = 0;
@@ -113,6 +114,7 @@ bool Controller::validateMenuItem(QAction& item)
         item.setText(m_undoManager.undoMenuItemTitle());
     } else if (&item == ui.actionRedo) {
         enabled = m_undoManager.canRedo();
+        ui.menuUndoHistory->setEnabled(enabled || m_undoManager.canUndo());
         item.setText(m_undoManager.redoMenuItemTitle());
     } else if (&item == ui.actionCopy || &item == ui.actionRotateLeft || &item == ui.actionRotateRight
         || &item == ui.actionFlipHorizont || &item == ui.actionFlipVert) {

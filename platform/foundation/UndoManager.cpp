@@ -53,6 +53,24 @@ QString UndoManager::undoActionName() const
 
 QString UndoManager::redoActionName() const { return m_redo.empty() ? QString() : m_redo.back().name; }
 
+QStringList UndoManager::namesOf(const Stack& steps)
+{
+    QStringList names;
+    for (auto step = steps.rbegin(); step != steps.rend(); ++step)
+        names << step->name;
+    return names;
+}
+
+QStringList UndoManager::undoActionNames() const
+{
+    QStringList names = namesOf(m_undo);
+    if (m_state == State::Collecting && !m_open.actions.empty())
+        names.prepend(m_open.name);
+    return names;
+}
+
+QStringList UndoManager::redoActionNames() const { return namesOf(m_redo); }
+
 QString UndoManager::undoMenuItemTitle() const
 {
     const QString name = undoActionName();

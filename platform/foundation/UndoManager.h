@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QObject>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -29,6 +29,9 @@ public:
     /// Empty when there is nothing to undo or the step has no name.
     QString undoActionName() const;
     QString redoActionName() const;
+    /// Of all steps, that which would be run next first.
+    QStringList undoActionNames() const;
+    QStringList redoActionNames() const;
     /// For menus: "Undo" followed by the action name.
     QString undoMenuItemTitle() const;
     QString redoMenuItemTitle() const;
@@ -75,6 +78,7 @@ private:
     using Stack = std::vector<Step>;
     enum class State { Collecting, Undoing, Redoing };
 
+    static QStringList namesOf(const Stack& steps);
     void run(Stack& from, Stack& to, State state);
     void pushUndo(Step step);
 

@@ -59,6 +59,29 @@ TEST(UndoManager, NamesFollowTheirStepBetweenTheStacks)
     EXPECT_EQ(undo.undoActionName(), "Second");
 }
 
+TEST(UndoManager, ListsTheNamesOfAllStepsNearestFirst)
+{
+    UndoManager undo;
+    Knob knob{undo};
+    EXPECT_EQ(undo.undoActionNames(), QStringList());
+    for (const char* name : {"one", "", "three"}) {
+        knob.set(knob.value + 1);
+        undo.setActionName(name);
+    }
+    EXPECT_EQ(undo.undoActionNames(), QStringList({"three", "", "one"}));
+    undo.undo();
+    undo.undo();
+    EXPECT_EQ(undo.undoActionNames(), QStringList({"one"}));
+    EXPECT_EQ(undo.redoActionNames(), QStringList({"", "three"}));
+    undo.beginUndoGrouping();
+    knob.set(9);
+    undo.setActionName("open group");
+    EXPECT_EQ(undo.undoActionNames(), QStringList({"open group", "one"}));
+    undo.endUndoGrouping();
+    EXPECT_EQ(undo.undoActionNames(), QStringList({"open group", "one"}));
+    EXPECT_TRUE(undo.redoActionNames().isEmpty());
+}
+
 TEST(UndoManager, ForgetsWhatIsOnlyTried)
 {
     UndoManager undo;
