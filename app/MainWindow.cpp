@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/Controller.h"
+#include "app/HistogramPane.h"
 #include "app/OutlineView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
@@ -67,6 +68,7 @@ void MainWindow::setLayout()
     });
     connect(ui->actionFullScreen, &QAction::triggered, this,
         [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
+    installHistogram(*ui);
     ui->listView->setFocus();
 }
 
@@ -138,6 +140,7 @@ void MainWindow::setShortcuts()
         {ui->actionActualSize, {Qt::CTRL | Qt::ALT | Qt::Key_0}},
         {ui->actionFit, {Qt::CTRL | Qt::Key_0}},
         {ui->actionSplitView, {Qt::Key_F8}},
+        {ui->actionHistogram, {Qt::CTRL | Qt::ALT | Qt::Key_H}},
         {ui->actionFullScreen, {Qt::Key_F11}},
         {ui->actionHelp, {Qt::Key_F1}},
     };
@@ -191,15 +194,16 @@ void MainWindow::dress()
                                        "QLabel { color: %3; }",
         look.window, look.separator, look.secondaryText));
     for (QWidget* panel : {ui->sideBar, ui->controlPanel})
-        panel->setStyleSheet(sheet("#sideBar, #controlPanel, #controlPages, #placeCntrlView, #place3DCntrlView, "
-                                   "#placeCustomCntrlView, "
-                                   "QScrollArea { background: %1; }"
-                                   "#filterNameField { color: %2; font-weight: 600; padding: 12px 16px; }"
-                                   "#filterNameLine { background: %3; }"
-                                   "#filterHintField { color: %4; }"
-                                   "#filterHintField { padding: 12px 16px; }"
-                                   "#favouritesRow { background: %1; border: none; border-top: 1px solid %3; }",
-            look.panel, look.text, look.separator, look.secondaryText));
+        panel->setStyleSheet(
+            sheet("#sideBar, #controlPanel, #controlPages, #placeCntrlView, #place3DCntrlView, "
+                  "#placeCustomCntrlView, "
+                  "QScrollArea { background: %1; }"
+                  "#filterNameField { color: %2; font-weight: 600; padding: 12px 16px; }"
+                  "#filterNameLine { background: %3; }"
+                  "#filterHintField { color: %4; }"
+                  "#filterHintField { padding: 12px 16px; }"
+                  "#favouritesRow, #histogramRow { background: %1; border: none; border-top: 1px solid %3; }",
+                look.panel, look.text, look.separator, look.secondaryText));
     ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }", look.surround));
 }
 

@@ -67,6 +67,7 @@ void MyImageView::setShowsOriginal(bool shows)
 {
     d->showsOriginal = shows;
     update();
+    emit frameShown();
 }
 
 bool MyImageView::showsOriginal() const { return d->showsOriginal; }
@@ -132,8 +133,8 @@ void MyImageView::refresh(Layer& layer)
         if (controller)
             layer.picture = &layer == &d->original ? controller->backImage() : controller->coreImageResult(false);
     }
-    if (layer.picture.isNull())
-        layer.frame.reset();
+    if (layer.picture.isNull() && std::exchange(layer.frame, std::nullopt))
+        emit frameShown();
     const std::optional<FrameRequest> request = frameRequest(layer.picture);
     if (!request)
         return;
@@ -147,8 +148,16 @@ void MyImageView::refresh(Layer& layer)
     const bool isShown = layer.frame && layer.frame->request == *request;
     if (!isShown && layer.renderer->isQuick(kPaintPatience))
         layer.renderer->waitForAnyFrame(kPaintPatience);
-    if (std::optional<Frame> newer = layer.renderer->takeFrame())
+    if (std::optional<Frame> newer = layer.renderer->takeFrame()) {
         layer.frame = std::move(newer);
+        emit frameShown();
+    }
+}
+
+QImage MyImageView::shownFrame() const
+{
+    const std::optional<Frame>& frame = d->shown().frame;
+    return frame ? frame->pixels : QImage();
 }
 
 bool MyImageView::waitForFrame(int milliseconds)

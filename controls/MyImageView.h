@@ -34,6 +34,10 @@ public:
     void setSplit(bool split);
     bool isSplit() const;
 
+    /// What is on the screen: the rendered part of the result, or of the source picture while that is shown. ARGB32_
+    /// Premultiplied; null when there is none.
+    QImage shownFrame() const;
+
     /// Waits until the picture is rendered in full and shown; for tests and screenshots.
     bool waitForFrame(int milliseconds = 10000);
 
@@ -41,6 +45,10 @@ public:
     const std::string& grabKey() const { return parmKey; }
     bool isDisplayingPoints() const { return displayingPoints; }
     QList<CanvasPoint> canvasPoints() const override;
+
+signals:
+    /// There is another `shownFrame`, or none any more.
+    void frameShown();
 
 protected:
     CIPoint pictureSize() const override;
