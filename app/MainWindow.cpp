@@ -3,6 +3,7 @@
 #include "app/Controller.h"
 #include "app/HistogramPane.h"
 #include "app/OutlineView.h"
+#include "app/WindowGestures.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
@@ -62,6 +63,8 @@ void MainWindow::setLayout()
         CustomScroller::installIn(*list);
     CustomScroller::installIn(*ui->controlScrollArea);
     ui->searchField->installEventFilter(this);
+    ui->listView->installEventFilter(this);
+    new WindowGestures(*this, *ui);
     connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
         ui->searchField->setFocus(Qt::ShortcutFocusReason);
         ui->searchField->selectAll();
@@ -132,12 +135,12 @@ void MainWindow::setShortcuts()
         {ui->actionFindFilter, {Qt::CTRL | Qt::Key_F}},
         {ui->actionApply, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
         {ui->actionClearEffect, {Qt::Key_Escape}},
-        {ui->actionStandard, {Qt::CTRL | Qt::Key_1}},
-        {ui->action3D, {Qt::CTRL | Qt::Key_2}},
-        {ui->actionCustom, {Qt::CTRL | Qt::Key_3}},
+        {ui->actionStandard, {Qt::ALT | Qt::Key_1}},
+        {ui->action3D, {Qt::ALT | Qt::Key_2}},
+        {ui->actionCustom, {Qt::ALT | Qt::Key_3}},
         {ui->actionZoomIn, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}},
         {ui->actionZoomOut, {Qt::CTRL | Qt::Key_Minus}},
-        {ui->actionActualSize, {Qt::CTRL | Qt::ALT | Qt::Key_0}},
+        {ui->actionActualSize, {Qt::CTRL | Qt::Key_1, Qt::CTRL | Qt::ALT | Qt::Key_0}},
         {ui->actionFit, {Qt::CTRL | Qt::Key_0}},
         {ui->actionSplitView, {Qt::Key_F8}},
         {ui->actionHistogram, {Qt::CTRL | Qt::ALT | Qt::Key_H}},
@@ -316,7 +319,8 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event)
         if (key->key() == kCompareKey && !key->isAutoRepeat())
             holdCompareKey(false);
     }
-    return (watched == ui->searchField && searchFieldEvent(event)) || QMainWindow::eventFilter(watched, event);
+    return (watched == ui->searchField && searchFieldEvent(event)) || (watched == ui->listView && foundListEvent(event))
+        || QMainWindow::eventFilter(watched, event);
 }
 
 /// Escape empties the field and only then is the effect's; Down goes to the list.
@@ -333,9 +337,31 @@ bool MainWindow::searchFieldEvent(QEvent* event)
     }
     if (clears)
         ui->searchField->clear();
-    else if (key == Qt::Key_Down)
-        ui->listView->setFocus(Qt::TabFocusReason);
-    else
+    else if (key == Qt::Key_Down) {
+        ui->listView->enter();
+        m_listIsSearched = true;
+    } else
         return false;
+    return true;
+}
+
+/// Escape goes back to the search from where the list was entered, until a filter is chosen.
+bool MainWindow::foundListEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FocusOut)
+        m_listIsSearched = false;
+    if (!m_listIsSearched || (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride))
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        m_listIsSearched = false;
+    if (key != Qt::Key_Escape)
+        return false;
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    ui->searchField->setFocus(Qt::ShortcutFocusReason);
+    ui->searchField->selectAll();
     return true;
 }

@@ -49,6 +49,7 @@ private:
     void dress();
     void focusNextPane();
     bool searchFieldEvent(QEvent* event);
+    bool foundListEvent(QEvent* event);
     void holdCompareKey(bool held);
 
     std::unique_ptr<Ui::MainWindow> ui;
@@ -56,4 +57,5 @@ private:
     Controller* m_controller = nullptr;
     QSet<int> m_pressedKeys; // whose releases are for this window: those after a sheet's Escape are not
     bool m_wasShown = false;
+    bool m_listIsSearched = false; // entered from the search field, and no filter is chosen yet
 };

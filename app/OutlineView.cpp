@@ -4,6 +4,7 @@
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -68,6 +69,16 @@ const OutlineItem* OutlineView::selectedItem() const
     return rows.isEmpty() ? nullptr : rows.first().data(OutlineModel::ItemRole).value<const OutlineItem*>();
 }
 
+void OutlineView::enter()
+{
+    const QModelIndex first = model()->index(0, 0, model()->index(0, 0));
+    if (!selectedItem() && first.isValid()) {
+        selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        scrollTo(first);
+    }
+    setFocus(Qt::TabFocusReason);
+}
+
 QModelIndex OutlineView::indexOfItem(const OutlineItem* item, const QModelIndex& parent) const
 {
     for (int row = 0; item && row < model()->rowCount(parent); ++row) {
@@ -97,6 +108,15 @@ void OutlineView::selectionChanged(const QItemSelection& selected, const QItemSe
     emit selectionDidChange();
 }
 
+/// Keys walk over groups without dropping what is selected.
+QItemSelectionModel::SelectionFlags OutlineView::selectionCommand(const QModelIndex& index, const QEvent* event) const
+{
+    const bool byKey = event && event->type() == QEvent::KeyPress;
+    if (byKey && index.isValid() && isGroup(index))
+        return QItemSelectionModel::NoUpdate;
+    return QTreeView::selectionCommand(index, event);
+}
+
 void OutlineView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
     QTreeView::currentChanged(current, previous);
@@ -117,6 +137,13 @@ void OutlineView::keyPressEvent(QKeyEvent* event)
         event->ignore(); // the window's
         return;
     }
+    const bool typing = m_typed.isValid() && m_typed.elapsed() < QApplication::keyboardInputInterval();
+    if (event->key() == Qt::Key_Space && !typing) {
+        event->ignore(); // the picture's
+        return;
+    }
+    if (!event->text().isEmpty() && event->text().front().isPrint())
+        m_typed.start();
     QTreeView::keyPressEvent(event);
 }
 

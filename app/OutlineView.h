@@ -3,6 +3,7 @@
 
 #include "app/OutlineDataSource.h"
 
+#include <QElapsedTimer>
 #include <QTreeView>
 
 /// A tree view of an OutlineModel, straight or through a proxy, in the program's own look. Groups can be walked over
@@ -15,6 +16,8 @@ public:
 
     /// Null when no row is selected.
     const OutlineItem* selectedItem() const;
+    /// Gives the list the keyboard, at its selected row or else at the first that can be chosen, which it isn't yet.
+    void enter();
     /// Selects and shows the row, if the list has it just now.
     void selectItem(const OutlineItem* item);
     /// Selects the row; for groups and invalid indexes nothing.
@@ -35,10 +38,13 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
     void keyPressEvent(QKeyEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     QModelIndex indexOfItem(const OutlineItem* item, const QModelIndex& parent = {}) const;
     void paintCell(QPainter& painter, const QModelIndex& cell, bool selected) const;
+
+    QElapsedTimer m_typed; // since the last letter that looks for a row
 };

@@ -146,6 +146,12 @@ void ZoomedCanvas::updateCursor()
         setCursor(m_spaceHeld ? Qt::OpenHandCursor : pointer());
 }
 
+void ZoomedCanvas::setSpaceHeld(bool held)
+{
+    m_spaceHeld = held;
+    updateCursor();
+}
+
 void ZoomedCanvas::endPan()
 {
     m_panFrom.reset();
@@ -192,8 +198,7 @@ void ZoomedCanvas::keyPressEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Space) {
         QWidget::keyPressEvent(event); // the scroll view scrolls
     } else if (!event->isAutoRepeat()) {
-        m_spaceHeld = true;
-        updateCursor();
+        setSpaceHeld(true);
     }
 }
 
@@ -202,8 +207,7 @@ void ZoomedCanvas::keyReleaseEvent(QKeyEvent* event)
     if (event->key() != Qt::Key_Space) {
         QWidget::keyReleaseEvent(event);
     } else if (!event->isAutoRepeat()) {
-        m_spaceHeld = false;
-        updateCursor();
+        setSpaceHeld(false);
     }
 }
 

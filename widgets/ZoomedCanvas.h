@@ -34,6 +34,9 @@ public:
 
     QString canvasValue() const override; // the zoom
 
+    /// While it is held, the left button moves the picture.
+    void setSpaceHeld(bool held);
+
     /// Scrolls so that the picture keeps its center when the visible part changes size.
     void visibleSizeChanged(const QSizeF& before);
 
