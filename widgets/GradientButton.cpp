@@ -96,8 +96,7 @@ void GradientButton::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;
     shape.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
-    QBrush filling(m_image);
-    filling.setTransform(QTransform::fromScale(1 / m_image.devicePixelRatio(), 1 / m_image.devicePixelRatio()));
+    const QBrush filling(m_image); // scales it by the image's device pixel ratio itself
     painter.fillPath(shape, filling);
     if (isDown())
         painter.fillPath(shape, QColor(0, 0, 0, 40));

@@ -85,6 +85,19 @@ TEST(GradientButton, IsVioletWhenOnAndDarkerBelowInBothLooks)
     EXPECT_FALSE(button.isChecked());
 }
 
+TEST(GradientButton, ShadesOnceFromTopToBottomOnAnyScreen)
+{
+    GradientButton button;
+    button.resize(60, 100);
+    const QImage shown = button.grab().toImage();
+    int before = 255;
+    for (double y : {10, 30, 49, 51, 70, 90}) {
+        const int lightness = shown.pixelColor((QPointF(8, y) * shown.devicePixelRatio()).toPoint()).lightness();
+        EXPECT_LT(lightness, before) << "at " << y;
+        before = lightness;
+    }
+}
+
 class ScrollerTest : public testing::Test {
 protected:
     ScrollerTest()
