@@ -127,7 +127,9 @@ void Controller::setDefaultImagePaths()
 
 void Controller::restoreWindowFrame()
 {
-    m_window.restoreGeometry(UserDefaults::standardUserDefaults().objectForKey(kWindowFrameName).toByteArray());
+    const QByteArray frame = UserDefaults::standardUserDefaults().objectForKey(kWindowFrameName).toByteArray();
+    if (!m_window.restoreGeometry(frame))
+        m_window.resize(m_window.size().boundedTo(m_window.screen()->availableSize())); // small screens, large fonts
 }
 
 void Controller::applicationWillTerminate()

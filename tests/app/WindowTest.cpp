@@ -118,6 +118,18 @@ TEST_F(WindowTest, ComesBackWhereItWas)
     UserDefaults::standardUserDefaults().removeObjectForKey("Velmora");
 }
 
+TEST_F(WindowTest, IsNeverTooNarrowForItsToolsNorLargerThanTheScreenAtFirst)
+{
+    const QSize screen = window.screen()->availableSize();
+    EXPECT_LE(window.width(), std::max(screen.width(), window.minimumSizeHint().width()));
+    EXPECT_LE(window.height(), std::max(screen.height(), 520));
+    window.resize(100, 100);
+    QCoreApplication::processEvents();
+    for (QAbstractButton* tool : ui.toolRow->findChildren<QAbstractButton*>())
+        EXPECT_GE(tool->width(), tool->minimumSizeHint().width()) << tool->objectName().toStdString();
+    EXPECT_GE(ui.standardBtn->width(), ui.standardBtn->sizeHint().width());
+}
+
 TEST_F(WindowTest, OpenPanelIsASheetOfTheWindow)
 {
     controller.openImg();
