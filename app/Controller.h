@@ -30,6 +30,7 @@
 #include <optional>
 #include <vector>
 
+class CataloguePictures;
 class CatalogueSearch;
 class DocPageControl;
 class FilterView;
@@ -202,6 +203,9 @@ public:
     /// Splits the view as the menu item says, in standard mode with a filter.
     void splitView();
 
+    // Thumbnails in the list of filters: ControllerCatalogue.cpp
+    void thumbnailsToggled();
+
     // Files: ControllerFiles.cpp
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files);
@@ -341,6 +345,9 @@ private:
     void rebuildPanel();
     void showFilterName(bool shown);
     std::vector<std::shared_ptr<BaseEffect>> effects3D();
+    void connectThumbnails();
+    void showThumbnails();
+    void updateThumbnails();
     void connect3D();
     void setCurrent3DEffect(const std::shared_ptr<BaseEffect>& effect);
     void updateView3D();
@@ -434,6 +441,7 @@ private:
     QString m_readFailure; // why the last file could not be read; empty when it could
     QTimer m_messageEnd;
     CatalogueSearch* m_search;
+    CataloguePictures* m_cataloguePictures = nullptr;
     QPointer<FilterView> m_panel;
     const OutlineItem* m_chosenRow = nullptr; // whose filter is the current one; it may be hidden by the search
     bool m_selectionIsOurs = false; // the selection changes on our own account: no choice of the user

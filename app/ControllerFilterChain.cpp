@@ -39,6 +39,7 @@ void Controller::setBackgroundImage(const CIImage& image)
         if (effect)
             effect->reloadImage();
     updatePictureInfo();
+    updateThumbnails();
     ResizePanel::setWHH(float(image.extent().width), float(image.extent().height));
     updateView();
     validateMenuItems();

@@ -53,6 +53,7 @@ void Controller::connectActions()
     on(ui.actionZoomOut, &Controller::zoomOut);
     on(ui.actionFit, &Controller::zoomToFit);
     on(ui.actionSplitView, &Controller::splitView);
+    on(ui.actionThumbnails, &Controller::thumbnailsToggled);
     on(ui.actionHelp, &Controller::displayHelp);
     on(ui.actionAbout, &Controller::orderFrontAboutPanel);
     connect(ui.menuRecent, &QMenu::aboutToShow, this, &Controller::fillRecentMenu);

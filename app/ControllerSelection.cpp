@@ -11,6 +11,7 @@ void Controller::connectLists()
     m_search->setSourceModel(&m_catalogue);
     listView->setModel(m_search);
     listView->expandAll();
+    connectThumbnails();
     connect(listView, &OutlineView::selectionDidChange, this, [this] {
         if (!m_selectionIsOurs)
             outlineViewSelectionDidChange(*listView);

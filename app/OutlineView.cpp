@@ -1,6 +1,7 @@
 #include "app/OutlineView.h"
 
 #include "app/OutlineModel.h"
+#include "app/Thumbnail.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
 
@@ -8,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPainterPath>
 
 namespace {
 
@@ -16,15 +18,17 @@ constexpr int kMarkerColumnWidth = 32;
 constexpr int kInset = 4; // of the rounded highlight from the list's edges
 constexpr int kChevronSize = 12;
 constexpr int kMarkerSize = 14;
+constexpr int kPictureRowHeight = kFavouriteThumbnail.height() + 11;
+constexpr int kPictureGap = 8;
 
 /// Gives rows their height; everything is painted by the view.
 class RowHeight : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+    int least = kRowHeight;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        return {QStyledItemDelegate::sizeHint(option, index).width(),
-            std::max(kRowHeight, option.fontMetrics.height() + 8)};
+        return {QStyledItemDelegate::sizeHint(option, index).width(), std::max(least, option.fontMetrics.height() + 8)};
     }
 };
 
@@ -61,6 +65,15 @@ void OutlineView::setModel(QAbstractItemModel* model)
         header()->setSectionResizeMode(column, QHeaderView::Fixed);
         header()->resizeSection(column, kMarkerColumnWidth);
     }
+}
+
+void OutlineView::setPictures(Pictures pictures)
+{
+    m_pictures = std::move(pictures);
+    static_cast<RowHeight*>(itemDelegate())->least = m_pictures ? kPictureRowHeight : kRowHeight;
+    doItemsLayout();
+    if (currentIndex().isValid())
+        scrollTo(currentIndex());
 }
 
 const OutlineItem* OutlineView::selectedItem() const
@@ -194,9 +207,31 @@ void OutlineView::paintCell(QPainter& painter, const QModelIndex& cell, bool sel
     const QColor color = isGroup(cell) ? look.secondaryText : look.text;
     painter.setFont(drawnFont);
     painter.setPen(selected ? look.accentText : color);
-    const QRect place = rect.adjusted(4, 0, -4, 0);
+    QRect place = rect.adjusted(4, 0, -4, 0);
+    if (m_pictures && cell.column() == 0 && !isGroup(cell))
+        place = paintPicture(painter, cell,
+            layoutDirection() == Qt::RightToLeft ? place.adjusted(0, 0, indentation(), 0)
+                                                 : place.adjusted(-indentation(), 0, 0, 0)); // names need the room
     painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeading,
         QFontMetrics(drawnFont).elidedText(text, Qt::ElideRight, place.width()));
+}
+
+/// Answers the place that is left for the title.
+QRect OutlineView::paintPicture(QPainter& painter, const QModelIndex& cell, const QRect& place) const
+{
+    const QSize size = kFavouriteThumbnail;
+    const QRect spot = QStyle::alignedRect(layoutDirection(), Qt::AlignVCenter | Qt::AlignLeading, size, place);
+    const QImage picture = m_pictures(cell.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    painter.save();
+    QPainterPath outline;
+    outline.addRoundedRect(spot, 3, 3);
+    painter.setClipPath(outline);
+    painter.fillRect(spot, Appearance::shared().look().hover);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(spot, picture);
+    painter.restore();
+    const int used = size.width() + kPictureGap;
+    return layoutDirection() == Qt::RightToLeft ? place.adjusted(0, 0, -used, 0) : place.adjusted(used, 0, 0, 0);
 }
 
 void OutlineView::drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const

@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QTreeView>
 
+#include <functional>
+
 /// A tree view of an OutlineModel, straight or through a proxy, in the program's own look. Groups can be walked over
 /// and opened with the keyboard (Left, Right, Return) but not selected.
 class OutlineView : public QTreeView {
@@ -27,6 +29,11 @@ public:
     bool isItemExpanded(const OutlineItem* item) const { return isExpanded(indexOfItem(item)); }
     void setItemExpanded(const OutlineItem* item, bool expanded) { setExpanded(indexOfItem(item), expanded); }
 
+    /// Little pictures of `kFavouriteThumbnail` points before the rows' titles, asked for as rows are drawn; null
+    /// images leave their place free. Without a function there are none.
+    using Pictures = std::function<QImage(const OutlineItem*)>;
+    void setPictures(Pictures pictures);
+
     void setModel(QAbstractItemModel* model) override;
 
 signals:
@@ -45,6 +52,8 @@ protected:
 private:
     QModelIndex indexOfItem(const OutlineItem* item, const QModelIndex& parent = {}) const;
     void paintCell(QPainter& painter, const QModelIndex& cell, bool selected) const;
+    QRect paintPicture(QPainter& painter, const QModelIndex& cell, const QRect& place) const;
 
     QElapsedTimer m_typed; // since the last letter that looks for a row
+    Pictures m_pictures;
 };

@@ -1,0 +1,94 @@
+#include "WindowFixture.h"
+
+#include "app/CataloguePictures.h"
+#include "app/OutlineView.h"
+#include "platform/foundation/UserDefaults.h"
+#include "ui_MainWindow.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+const QColor kPictureColor(200, 100, 50); // of pictureFile
+
+class CataloguePicturesTest : public WindowTest {
+protected:
+    ~CataloguePicturesTest() override
+    {
+        UserDefaults::standardUserDefaults().removeObjectForKey(QStringLiteral("FilterThumbnails"));
+    }
+
+    static QColor invertedColor()
+    {
+        const std::shared_ptr<CIFilter> filter = CIFilter::filterWithName("CIColorInvert");
+        filter->setValueForKey(
+            CIImage::fromColor(CIColor(kPictureColor.redF(), kPictureColor.greenF(), kPictureColor.blueF()))
+                .cropped({0, 0, 80, 50}),
+            "inputImage");
+        return favouriteThumbnail(filter->outputImage()).pixelColor(40, 25);
+    }
+    /// The list's pixel in the middle of the filter's thumbnail.
+    QColor shown(const QString& className)
+    {
+        ui.searchField->setText(className);
+        const QAbstractItemModel& model = *ui.listView->model();
+        const QModelIndexList found =
+            model.match(model.index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
+        const QRect cell = ui.listView->visualRect(found.value(0));
+        const QImage image = ui.listView->viewport()->grab().toImage();
+        return image.pixelColor(
+            QPoint(cell.left() + kFavouriteThumbnail.width() / 2, cell.center().y()) * image.devicePixelRatio());
+    }
+};
+
+TEST_F(CataloguePicturesTest, ShowWhatAFilterMakesOfTheOpenPicture)
+{
+    controller.openFile(pictureFile("plain.png", 120, 80));
+    const int before = ui.listView->visualRect(ui.listView->model()->index(0, 0)).height();
+    const QColor inverted = invertedColor();
+    EXPECT_NE(shown("CIColorInvert"), inverted) << "not asked for yet";
+
+    action("actionThumbnails")->trigger();
+    EXPECT_GT(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000));
+
+    controller.openFile(pictureFile("other.png", 60, 90));
+    controller.rotateLeft();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000)) << "made anew";
+
+    action("actionThumbnails")->trigger();
+    EXPECT_EQ(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), before);
+}
+
+TEST(CataloguePictures, AreMadeForTheLatestPictureOnly)
+{
+    const auto plain = [](double grey) {
+        return CIImage::fromColor(CIColor(grey, grey, grey)).cropped({0, 0, 80, 50});
+    };
+    int asked = 0;
+    CataloguePictures pictures([&](const QString& name, const CIImage& picture) {
+        ++asked;
+        return name == QStringLiteral("nothing") ? CIImage() : picture;
+    });
+    QSignalSpy ready(&pictures, &CataloguePictures::pictureReady);
+    EXPECT_TRUE(pictures.pictureFor("any").isNull());
+    pictures.setPicture(plain(0));
+    EXPECT_TRUE(pictures.pictureFor("any").isNull());
+    pictures.setPicture(plain(1)); // while the first may be in work
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !pictures.pictureFor("any").isNull(); }, 10000));
+    const QImage made = pictures.pictureFor("any");
+    EXPECT_EQ(made.size(), kFavouriteThumbnail * 2);
+    EXPECT_EQ(made.pixelColor(40, 25), QColor(Qt::white));
+
+    const int before = asked;
+    pictures.pictureFor("any");
+    pictures.pictureFor("nothing");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked == before + 1; }, 10000));
+    QTest::qWait(200);
+    pictures.pictureFor("nothing");
+    QTest::qWait(200);
+    EXPECT_EQ(asked, before + 1) << "what shows nothing is asked for once";
+}
+
+} // namespace
