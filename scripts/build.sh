@@ -17,5 +17,10 @@ build() {
     done
     (($#)) && targets=(--target "${@:2}")
     cmake --preset "$preset" --log-level=NOTICE "${options[@]}" >/dev/null
+    # g++ would read the old precompiled header while it makes the new one.
+    local header
+    find "build/$preset" -name 'cmake_pch.hxx' | while read -r header; do
+        [[ $header.gch -nt $header ]] || rm -f "$header.gch"
+    done
     cmake --build "build/$preset" --parallel "$(nproc 2>/dev/null || echo 2)" "${targets[@]}"
 }
