@@ -39,6 +39,7 @@ class MainWindow;
 class MyImageView;
 class MyOGLView;
 class OutlineView;
+class PictureMetadata;
 class QAbstractButton;
 class QAction;
 class QLabel;
@@ -361,7 +362,8 @@ private:
     ZoomedCanvas* zoomedView() const;
     void showZoom();
     void showReduced(const std::string& file);
-    CIImage pictureOf(const Result<CIBitmap>& read);
+    CIImage pictureOf(const Result<CIBitmap>& read, const QString& path);
+    void takeMetadataOf(const CIImage& image);
     void updatePictureInfo();
     void showMessage(const QString& text);
     double chosenResolution() const;
@@ -438,6 +440,11 @@ private:
     std::vector<std::weak_ptr<CIFilter>> m_madeFilters; // all that undo steps may still need
     PictureFormats m_formats;
     CIFormat m_pictureFormat = CIFormat::RGBA8;
+    std::shared_ptr<const PictureMetadata> m_metadata; // of the file that the picture came from
+    struct {
+        std::weak_ptr<const ci::Node> picture;
+        QString path;
+    } m_lastRead;
     QString m_readFailure; // why the last file could not be read; empty when it could
     QTimer m_messageEnd;
     CatalogueSearch* m_search;

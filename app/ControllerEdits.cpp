@@ -138,8 +138,10 @@ void Controller::copy()
 void Controller::registerUndoPaste()
 {
     dropImagesOfPastFilters();
-    m_undoManager.registerUndoWithTarget(
-        this, [this, kept = m_history.keep(backgroundImage)] { undoPaste(restored(*kept)); });
+    m_undoManager.registerUndoWithTarget(this, [this, kept = m_history.keep(backgroundImage), metadata = m_metadata] {
+        undoPaste(restored(*kept));
+        m_metadata = metadata;
+    });
 }
 
 CIImage Controller::restored(KeptPicture& kept)
@@ -177,6 +179,7 @@ void Controller::paste()
         m_readFailure = QString::fromStdString(read.message());
     }
     setBackgroundImage(image);
+    takeMetadataOf(image);
     if (filerMode() != ThreeD)
         setZoom(zoomedView()->getZoom());
 }
@@ -185,6 +188,7 @@ void Controller::undoPaste(const CIImage& image)
 {
     registerUndoPaste();
     setBackgroundImage(image);
+    takeMetadataOf(image);
     if (filerMode() != ThreeD)
         setZoom(zoomedView()->getZoom());
 }

@@ -199,7 +199,8 @@ bool Controller::simplySaveResolutionPath(int index, double, const QString& path
 {
     const PictureFormat format = bitmapFormatForType(QLatin1String(kExportFormats[std::size_t(index)].typeIdentifier));
     const bool isWritten = writeInBackground(path, [&](const CIBitmap& bitmap, CIRenderControl& control) {
-        return writePicture(bitmap, QFile::encodeName(path).toStdString(), {.format = format, .control = &control});
+        return writePicture(bitmap, QFile::encodeName(path).toStdString(),
+            {.format = format, .metadata = m_metadata, .control = &control});
     });
     qCInfo(lumivexLog) << (isWritten ? "YES" : "NO");
     return true;

@@ -3,6 +3,7 @@
 #include "app/PictureFiles.h"
 #include "app/RecentFiles.h"
 #include "controls/MyImageView.h"
+#include "platform/imageio/PictureMetadata.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 #include "widgets/BackgroundWork.h"
@@ -67,8 +68,9 @@ void Controller::openFile(const QString& path)
     const std::string file = QFile::encodeName(path).toStdString();
     auto whole = std::async(std::launch::async, [&file] { return readPicture(file); });
     showReduced(file);
-    const CIImage image = pictureOf(whole.get());
+    const CIImage image = pictureOf(whole.get(), path);
     setBackgroundImage(image);
+    takeMetadataOf(image);
     if (image) {
         rememberRecentFile(path);
         markSessionClean();
@@ -140,10 +142,10 @@ CIImage Controller::readImage(const QString& path)
     m_readFailure.clear();
     if (path.isEmpty())
         return {};
-    return pictureOf(readPicture(QFile::encodeName(path).toStdString()));
+    return pictureOf(readPicture(QFile::encodeName(path).toStdString()), path);
 }
 
-CIImage Controller::pictureOf(const Result<CIBitmap>& read)
+CIImage Controller::pictureOf(const Result<CIBitmap>& read, const QString& path)
 {
     m_readFailure.clear();
     if (!read) {
@@ -152,7 +154,16 @@ CIImage Controller::pictureOf(const Result<CIBitmap>& read)
     }
     const CIImage image = CIImage::fromBitmap(read.value());
     m_formats.remember(image, read.value().format());
+    m_lastRead = {image.node(), path};
     return image;
+}
+
+/// What comes from no file, as by a paste, has none. Read now, since a save may replace the file.
+void Controller::takeMetadataOf(const CIImage& image)
+{
+    m_metadata.reset();
+    if (image && image.node() == m_lastRead.picture.lock())
+        m_metadata = PictureMetadata::ofFile(QFile::encodeName(m_lastRead.path).toStdString());
 }
 
 QStringList Controller::pictureNameFilters()

@@ -6,6 +6,7 @@
 #include "app/SessionJournal.h"
 #include "effects2d/CustomEffects.h"
 #include "platform/foundation/Log.h"
+#include "platform/imageio/PictureMetadata.h"
 #include "ui_MainWindow.h"
 #include "widgets/AlertPanel.h"
 #include "widgets/BackgroundWork.h"
@@ -45,6 +46,8 @@ SessionState Controller::sessionState()
     SessionState state;
     state.values = {{"path", _filePath.toStdString()}, {"mode", double(filerMode())}, {"wasChanged", m_wasChanged},
         {"format", double(m_pictureFormat)}};
+    if (m_metadata)
+        state.values["metadataOf"] = m_metadata->file().string();
     if (backgroundImage && !backgroundImage.extent().isInfinite())
         state.pictures[kPicture] = backgroundImage;
     if (currentFilter) {
@@ -104,6 +107,8 @@ void Controller::restoreSession(const SessionState& state)
     m_readFailure.clear();
     setFilePath(QString::fromStdString(valueOf(state, "path").toString()));
     setBackgroundImage(image);
+    const std::string described = valueOf(state, "metadataOf").toString();
+    m_metadata = described.empty() ? nullptr : PictureMetadata::ofFile(described);
     const std::array<GradientButton*, 3> buttons{standardBtn, threeDBtn, customBtn};
     const auto mode = std::size_t(std::clamp(valueOf(state, "mode").toDouble(), 0.0, 2.0));
     changeFilterMode(buttons[mode]);

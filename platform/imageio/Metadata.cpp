@@ -117,11 +117,13 @@ void prepareExiv2()
     });
 }
 
+std::string plainPath(const std::filesystem::path& file) { return std::filesystem::absolute(file).string(); }
+
 void addMetadata(const std::filesystem::path& file, Properties& properties)
 {
     prepareExiv2();
     try {
-        const auto image = Exiv2::ImageFactory::open(file.string());
+        const auto image = Exiv2::ImageFactory::open(plainPath(file));
         image->readMetadata();
         addExif(image->exifData(), properties);
         addIptc(image->iptcData(), properties);

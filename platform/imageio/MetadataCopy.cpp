@@ -9,6 +9,14 @@
 #include <cstdint>
 #include <string_view>
 
+struct PictureMetadata::Entries {
+    Exiv2::ExifData exif;
+    Exiv2::IptcData iptc;
+    Exiv2::XmpData xmp;
+    Exiv2::ByteOrder byteOrder = Exiv2::invalidByteOrder; // that of maker notes, whose bytes stay as they are
+    double dotsPerInch = 0;
+};
+
 namespace imageio {
 
 namespace {
@@ -24,29 +32,37 @@ bool isOneOf(std::string_view name, const std::array<std::string_view, count>& n
 /// Of a file's first directory, in which TIFF-like formats also say how the pixels are stored.
 bool isAboutThePicture(std::string_view tag)
 {
-    constexpr std::array<std::string_view, 20> tags{"ImageDescription", "DocumentName", "PageName", "Make", "Model",
-        "Software", "DateTime", "Artist", "HostComputer", "Copyright", "XResolution", "YResolution", "ResolutionUnit",
-        "Rating", "RatingPercent", "XPTitle", "XPComment", "XPAuthor", "XPKeywords", "XPSubject"};
+    constexpr std::array<std::string_view, 17> tags{"ImageDescription", "DocumentName", "PageName", "Make", "Model",
+        "Software", "DateTime", "Artist", "HostComputer", "Copyright", "Rating", "RatingPercent", "XPTitle",
+        "XPComment", "XPAuthor", "XPKeywords", "XPSubject"};
     return isOneOf(tag, tags);
+}
+
+bool isPreview(std::string_view tag) // those in maker notes, too
+{
+    return tag.find("Preview") != tag.npos || tag.find("Thumbnail") != tag.npos;
 }
 
 bool staysTrue(const Exiv2::Exifdatum& datum)
 {
     const std::string group = datum.groupName(), tag = datum.tagName();
+    if (isPreview(tag) || isPreview(group))
+        return false;
     if (group == "Image")
         return isAboutThePicture(tag);
     if (group == "Photo")
         return tag != "PixelXDimension" && tag != "PixelYDimension" && tag != "ColorSpace"
             && tag != "InteroperabilityTag";
-    return group != "Iop" && !group.starts_with("Thumbnail") && !group.starts_with("SubImage")
-        && !group.starts_with("SubThumb") && !group.starts_with("Image");
+    return group != "Iop" && !group.starts_with("SubImage") && !group.starts_with("SubThumb")
+        && !group.starts_with("Image");
 }
 
 bool staysTrue(const Exiv2::Xmpdatum& datum)
 {
-    constexpr std::array<std::string_view, 9> keys{"Xmp.tiff.Orientation", "Xmp.tiff.ImageWidth",
+    constexpr std::array<std::string_view, 12> keys{"Xmp.tiff.Orientation", "Xmp.tiff.ImageWidth",
         "Xmp.tiff.ImageLength", "Xmp.tiff.BitsPerSample", "Xmp.exif.PixelXDimension", "Xmp.exif.PixelYDimension",
-        "Xmp.exif.ColorSpace", "Xmp.photoshop.ICCProfile", "Xmp.tiff.PhotometricInterpretation"};
+        "Xmp.exif.ColorSpace", "Xmp.photoshop.ICCProfile", "Xmp.tiff.PhotometricInterpretation", "Xmp.tiff.XResolution",
+        "Xmp.tiff.YResolution", "Xmp.tiff.ResolutionUnit"};
     const std::string key = datum.key(), group = datum.groupName();
     // Camera raw settings would be carried out a second time, on pixels that have them already.
     return !isOneOf(key, keys) && !key.starts_with("Xmp.xmp.Thumbnails") && group != "crs";
@@ -58,18 +74,48 @@ bool takesAnything(const Exiv2::Image& image)
         [&](Exiv2::MetadataId kind) { return (image.checkMode(kind) & Exiv2::amWrite) != 0; });
 }
 
-void carryExif(const Exiv2::Image& from, Exiv2::Image& to, int width, int height)
+double dotsPerInchOf(const Exiv2::ExifData& exif)
 {
-    Exiv2::ExifData& target = to.exifData();
-    bool isCopied = false;
-    for (const Exiv2::Exifdatum& datum : from.exifData())
-        if (staysTrue(datum)) {
-            target[datum.key()].setValue(&datum.value());
-            isCopied = true;
-        }
-    if (!isCopied)
+    constexpr double kCentimetersPerInch = 2.54;
+    constexpr float kPerCentimeter = 3; // as Exif counts units
+    const auto across = exif.findKey(Exiv2::ExifKey("Exif.Image.XResolution"));
+    const auto unit = exif.findKey(Exiv2::ExifKey("Exif.Image.ResolutionUnit"));
+    if (across == exif.end() || across->count() == 0)
+        return 0;
+    const double number = across->toFloat();
+    const bool isPerCentimeter = unit != exif.end() && unit->count() > 0 && unit->toFloat() == kPerCentimeter;
+    const double perInch = isPerCentimeter ? number * kCentimetersPerInch : number;
+    return perInch >= 1 && perInch < 100'000 ? perInch : 0; // files also say 0, or nonsense
+}
+
+bool isEmpty(const PictureMetadata::Entries& entries)
+{
+    return entries.exif.empty() && entries.iptc.empty() && entries.xmp.empty();
+}
+
+std::unique_ptr<PictureMetadata::Entries> entriesOf(const Exiv2::Image& image)
+{
+    auto entries = std::make_unique<PictureMetadata::Entries>();
+    for (const Exiv2::Exifdatum& datum : image.exifData())
+        if (staysTrue(datum))
+            entries->exif.add(datum);
+    for (const Exiv2::Xmpdatum& datum : image.xmpData())
+        if (staysTrue(datum))
+            entries->xmp.add(datum);
+    entries->iptc = image.iptcData();
+    entries->byteOrder = image.byteOrder();
+    entries->dotsPerInch = dotsPerInchOf(image.exifData());
+    return isEmpty(*entries) && entries->dotsPerInch == 0 ? nullptr : std::move(entries);
+}
+
+void putExif(const PictureMetadata::Entries& entries, Exiv2::Image& to, int width, int height)
+{
+    if (entries.exif.empty())
         return;
-    to.setByteOrder(from.byteOrder()); // that of maker notes, whose bytes stay as they are
+    Exiv2::ExifData& target = to.exifData();
+    for (const Exiv2::Exifdatum& datum : entries.exif)
+        target[datum.key()].setValue(&datum.value());
+    to.setByteOrder(entries.byteOrder);
     target["Exif.Image.Orientation"] = kUpright;
     target["Exif.Photo.ColorSpace"] = kSrgb;
     target["Exif.Photo.PixelXDimension"] = std::uint32_t(width);
@@ -78,26 +124,23 @@ void carryExif(const Exiv2::Image& from, Exiv2::Image& to, int width, int height
 
 } // namespace
 
-std::vector<std::byte> withMetadataOf(
-    const std::filesystem::path& source, std::vector<std::byte> encoded, int width, int height)
+std::vector<std::byte> withMetadata(
+    const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height)
 {
+    if (isEmpty(metadata.entries()))
+        return encoded;
     prepareExiv2();
     try {
-        const auto from = Exiv2::ImageFactory::open(source.string());
-        from->readMetadata();
-        if (from->exifData().empty() && from->iptcData().empty() && from->xmpData().empty())
-            return encoded;
         const auto to = Exiv2::ImageFactory::open(
             reinterpret_cast<const Exiv2::byte*>(encoded.data()), static_cast<long>(encoded.size()));
         if (!takesAnything(*to))
             return encoded;
         to->readMetadata();
-        carryExif(*from, *to, width, height);
-        for (const Exiv2::Iptcdatum& datum : from->iptcData())
+        putExif(metadata.entries(), *to, width, height);
+        for (const Exiv2::Iptcdatum& datum : metadata.entries().iptc)
             to->iptcData().add(datum);
-        for (const Exiv2::Xmpdatum& datum : from->xmpData())
-            if (staysTrue(datum))
-                to->xmpData().add(datum);
+        for (const Exiv2::Xmpdatum& datum : metadata.entries().xmp)
+            to->xmpData().add(datum);
         to->writeMetadata();
         Exiv2::BasicIo& bytes = to->io();
         if (bytes.open() != 0)
@@ -105,9 +148,33 @@ std::vector<std::byte> withMetadataOf(
         const auto* first = reinterpret_cast<const std::byte*>(bytes.mmap());
         return {first, first + bytes.size()};
     } catch (const std::exception& error) { // also for formats that carry no metadata
-        imageLog(source.filename().string() + ": " + error.what());
+        imageLog("Metadata of " + metadata.file().filename().string() + " are left out: " + error.what());
         return encoded;
     }
 }
 
 } // namespace imageio
+
+PictureMetadata::PictureMetadata(std::filesystem::path file, std::unique_ptr<Entries> entries)
+    : m_file(std::move(file))
+    , m_entries(std::move(entries))
+{
+}
+
+PictureMetadata::~PictureMetadata() = default;
+
+double PictureMetadata::dotsPerInch() const { return m_entries->dotsPerInch; }
+
+std::shared_ptr<const PictureMetadata> PictureMetadata::ofFile(const std::filesystem::path& file)
+{
+    imageio::prepareExiv2();
+    try {
+        const auto image = Exiv2::ImageFactory::open(imageio::plainPath(file));
+        image->readMetadata();
+        std::unique_ptr<Entries> entries = imageio::entriesOf(*image);
+        return entries ? std::make_shared<const PictureMetadata>(file, std::move(entries)) : nullptr;
+    } catch (const std::exception& error) { // also for formats that carry no metadata
+        imageLog(file.filename().string() + ": " + error.what());
+        return nullptr;
+    }
+}

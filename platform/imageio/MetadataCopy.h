@@ -1,8 +1,10 @@
-// What a picture file says about itself, carried over to another one.
+// Puts metadata into picture files in memory.
 #pragma once
 
+#include "platform/imageio/PictureMetadata.h"
+
 #include <cstddef>
-#include <filesystem>
+#include <string>
 #include <vector>
 
 namespace imageio {
@@ -10,11 +12,12 @@ namespace imageio {
 /// To be called before anything of Exiv2; more than once does no harm.
 void prepareExiv2();
 
-/// `encoded` (a picture file in memory, `width` x `height` px, upright, sRGB) with the Exif, IPTC and XMP entries of
-/// `source`. Entries that describe the pixels or the layout of the old file are left out: size, orientation, color
-/// space, preview pictures. `encoded` itself where the source has nothing, the format takes nothing, or the entries are
-/// damaged, with a line in the log.
-std::vector<std::byte> withMetadataOf(
-    const std::filesystem::path& source, std::vector<std::byte> encoded, int width, int height);
+/// The file's name for Exiv2, which takes some relative ones for addresses in the network or for standard input.
+std::string plainPath(const std::filesystem::path& file);
+
+/// `encoded` (a picture file, `width` x `height` px, upright, sRGB) with these entries. `encoded` itself where the
+/// format takes nothing or the entries don't fit, with a line in the log.
+std::vector<std::byte> withMetadata(
+    const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height);
 
 } // namespace imageio

@@ -200,13 +200,12 @@ bool encodeWithMetadata(int descriptor, const CIBitmap& bitmap, const WriteOptio
     Result<std::vector<std::byte>> encoded = encodePicture(bitmap, options);
     errno = 0;
     return encoded
-        && writeAll(
-            descriptor, withMetadataOf(options.metadataOf, std::move(*encoded), bitmap.width(), bitmap.height()));
+        && writeAll(descriptor, withMetadata(*options.metadata, std::move(*encoded), bitmap.width(), bitmap.height()));
 }
 
 bool encodeInto(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
 {
-    if (!options.metadataOf.empty())
+    if (options.metadata)
         return encodeWithMetadata(descriptor, bitmap, options);
     errno = 0;
     const TargetPtr target(vips_target_new_to_descriptor(descriptor));

@@ -3,9 +3,11 @@
 
 #include "platform/coreimage/CIBitmap.h"
 #include "platform/coreimage/CIContext.h"
+#include "platform/imageio/PictureMetadata.h"
 #include "platform/imageio/Result.h"
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -18,9 +20,8 @@ struct WriteOptions {
     double quality = 0.9; // 0 to 1, for formats that lose detail
     double dotsPerInch = 0; // stored in the file; 0 stores none
     int bitsPerComponent = 0; // 8 or 16; 0 takes what the bitmap has. Formats that know only 8 bits use 8
-    /// A file whose Exif, IPTC and XMP entries the new one gets, where the format has room for them. Those that
-    /// describe the pixels and the layout of that file are left out. Empty for none.
-    std::filesystem::path metadataOf = {};
+    /// Goes into the file where its format has room; what can't be stored is left out and logged. Null for none.
+    std::shared_ptr<const PictureMetadata> metadata = nullptr;
     CIRenderControl* control = nullptr; // is told how far it is; once cancelled, nothing is written
 };
 

@@ -1,8 +1,9 @@
 // Saving, and quitting with unsaved changes.
 #include "WindowFixture.h"
 
-#include "platform/chain/Baking.h"
+#include "app/SessionFolder.h"
 #include "files/SavePanel.h"
+#include "platform/chain/Baking.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
@@ -67,12 +68,21 @@ protected:
         return 10 * std::log10(255 * 255 * double(a.width()) * a.height() * 4 / sum);
     }
 
-    static QString identify(const QString& file)
+    static QString outputOf(const QString& program, const QStringList& arguments)
     {
         QProcess process;
-        process.start("identify", {"-format", "%m %w %h", file});
+        process.start(program, arguments);
         EXPECT_TRUE(process.waitForFinished());
         return QString::fromUtf8(process.readAllStandardOutput());
+    }
+    static QString identify(const QString& file) { return outputOf("identify", {"-format", "%m %w %h", file}); }
+    /// What another program reads of camera, orientation, width, author and resolution.
+    static QString metadata(const QString& file)
+    {
+        return outputOf("exiv2",
+            {"-q", "-Pv", "-g", "Image.Model", "-g", "Image.Orientation", "-g", "Photo.PixelXDimension", "-g",
+                "dc.creator", file})
+            .simplified();
     }
 
     QDir lower;
@@ -161,6 +171,48 @@ TEST_F(ExportTest, SavesInPlaceWhereTheExtensionAllows)
     ASSERT_TRUE(QFile::copy(path("photo.jpeg"), path("photo.jpg")));
     controller.openFile(path("photo.jpg"));
     answering({"OK", "OK"}, [&] { controller.saveImg(); }); // the question, then what went wrong
+}
+
+TEST_F(ExportTest, KeepsWhatTheFileSaidAboutItself)
+{
+    openNoise("photo.jpeg");
+    outputOf("exiv2",
+        {"-M", "set Exif.Image.Model Camera", "-M", "set Exif.Image.Orientation 6", "-M", "set Xmp.dc.creator Somebody",
+            path("photo.jpeg")});
+    controller.openFile(path("photo.jpeg"));
+    EXPECT_EQ(controller.getBgImageExtent().width, 48) << "turned upright";
+    pick("CIColorInvert");
+    controller.applyBtn();
+    controller.resizeImageHeight(24, 32);
+    controller.rotateLeft();
+    answering("OK", [&] { controller.saveImg(); }); // over the file that it comes from
+    EXPECT_EQ(metadata(path("photo.jpeg")), "Camera 1 32 Somebody");
+    for (const QString format : {"TIFF", "PNG", "JPEG-2000"}) {
+        chooseFormat(format);
+        controller.savePanelDidEnd(QDialog::Accepted, path("kept"));
+        EXPECT_EQ(metadata(path("kept." + format.toLower())), "Camera 1 32 Somebody") << format.toStdString();
+    }
+
+    // Pictures that come from elsewhere carry none of it, until their step is undone.
+    chooseFormat("PNG");
+    controller.copy();
+    controller.paste();
+    controller.savePanelDidEnd(QDialog::Accepted, path("pasted"));
+    EXPECT_EQ(metadata(path("pasted.png")), "");
+    controller.undo();
+    controller.savePanelDidEnd(QDialog::Accepted, path("back"));
+    EXPECT_EQ(metadata(path("back.png")), "Camera 1 32 Somebody");
+    controller.redo();
+    controller.savePanelDidEnd(QDialog::Accepted, path("again"));
+    EXPECT_EQ(metadata(path("again.png")), "");
+    controller.openDroppedFile(path("kept.tiff"));
+    const SessionState state = controller.sessionState();
+    controller.openFile(pictureFile("plain.png", 10, 10));
+    controller.savePanelDidEnd(QDialog::Accepted, path("plain"));
+    EXPECT_EQ(metadata(path("plain.png")), "");
+    controller.restoreSession(state);
+    controller.savePanelDidEnd(QDialog::Accepted, path("restored"));
+    EXPECT_EQ(metadata(path("restored.png")), "Camera 1 32 Somebody");
 }
 
 TEST_F(ExportTest, ReportsAnUnwritableFolderAndKeepsTheFile)

@@ -28,10 +28,12 @@ protected:
         const fs::path file = folder.path() / "photo.jpg";
         EXPECT_TRUE(writePicture(noiseBitmap(40, 30, CIFormat::RGBA8, CIAlpha::Opaque), file,
             {.format = PictureFormat::Jpeg, .dotsPerInch = 300}));
-        const std::string line = "exiv2 -M'set Exif.Image.Model Camera' -M'set Exif.Image.Orientation 6'"
-                                 " -M'set Exif.Photo.ExposureTime 1/250' -M'set Exif.Photo.PixelXDimension 40'"
-                                 " -M'set Exif.GPSInfo.GPSLatitude 4/1 15/1 33/1' -M'set Iptc.Application2.City Bern'"
-                                 " -M'set Xmp.dc.creator Somebody' -M'set Xmp.tiff.Orientation 6' "
+        const std::string line =
+            "exiv2 -M'set Exif.Image.Model Camera' -M'set Exif.Image.Orientation 6'"
+            " -M'set Exif.Photo.ExposureTime 1/250' -M'set Exif.Photo.PixelXDimension 40'"
+            " -M'set Exif.GPSInfo.GPSLatitude 4/1 15/1 33/1' -M'set Iptc.Application2.City Bern'"
+            " -M'set Xmp.dc.creator Somebody' -M'set Xmp.tiff.Orientation 6' -M'set Xmp.tiff.XResolution 600/1'"
+            " -M'set Exif.Image.XResolution 600/1' -M'set Exif.Image.ResolutionUnit 2' "
             + file.string();
         EXPECT_EQ(std::system(line.c_str()), 0);
         return file;
@@ -54,6 +56,7 @@ protected:
 TEST_F(MetadataCopy, CarriesWhatStaysTrueIntoEveryFormatThatTakesIt)
 {
     const fs::path photo = photograph();
+    EXPECT_EQ(PictureMetadata::ofFile(photo)->dotsPerInch(), 600);
     const CIBitmap turned = noiseBitmap(30, 41, CIFormat::RGBA16, CIAlpha::Opaque);
     for (const auto& [name, format] : {std::pair("a.jpg", PictureFormat::Jpeg), {"a.tiff", PictureFormat::Tiff},
              {"a.png", PictureFormat::Png}, {"a.webp", PictureFormat::WebP}, {"a.jp2", PictureFormat::Jpeg2000}}) {
@@ -61,7 +64,7 @@ TEST_F(MetadataCopy, CarriesWhatStaysTrueIntoEveryFormatThatTakesIt)
         const fs::path file = folder.path() / name;
         ASSERT_TRUE(writePicture(turned, file, {.format = format}));
         const std::string profile = readPictureInfo(file)->profileName;
-        ASSERT_TRUE(writePicture(turned, file, {.format = format, .metadataOf = photo}));
+        ASSERT_TRUE(writePicture(turned, file, {.format = format, .metadata = PictureMetadata::ofFile(photo)}));
         const Result<CIBitmap> back = readPicture(file);
         ASSERT_TRUE(back) << back.message();
         EXPECT_EQ(back->height(), 41) << "nobody turns it once more";
@@ -72,6 +75,8 @@ TEST_F(MetadataCopy, CarriesWhatStaysTrueIntoEveryFormatThatTakesIt)
         EXPECT_EQ(valueOf(file, "{IPTC}", "City"), format == PictureFormat::WebP ? "" : "Bern") << "WebP has no IPTC";
         EXPECT_EQ(valueOf(file, "{XMP}", "dc:creator"), "Somebody");
         EXPECT_EQ(valueOf(file, "{XMP}", "tiff:Orientation"), "");
+        EXPECT_EQ(valueOf(file, "{XMP}", "tiff:XResolution"), "");
+        EXPECT_EQ(valueOf(file, "{TIFF}", "XResolution").find("600"), std::string::npos) << "it has its own";
         EXPECT_EQ(readPictureInfo(file)->profileName, profile);
     }
 }
@@ -83,16 +88,42 @@ TEST_F(MetadataCopy, WritesThePictureWhereThereIsNothingToCarry)
     const fs::path broken = folder.path() / "broken";
     std::ofstream(broken) << "\xff\xd8\xff\xe1 no Exif";
     for (const fs::path& source : {broken, folder.path() / "missing", photograph()}) {
-        ASSERT_TRUE(writePicture(bitmap, file, {.format = PictureFormat::Gif, .metadataOf = source}));
+        ASSERT_TRUE(
+            writePicture(bitmap, file, {.format = PictureFormat::Gif, .metadata = PictureMetadata::ofFile(source)}));
         EXPECT_EQ(readPictureInfo(file)->formatName, "GIF");
-        ASSERT_TRUE(writePicture(bitmap, file, {.format = PictureFormat::Png, .metadataOf = source}));
+        ASSERT_TRUE(
+            writePicture(bitmap, file, {.format = PictureFormat::Png, .metadata = PictureMetadata::ofFile(source)}));
         EXPECT_EQ(readPictureInfo(file)->width, 9);
     }
-    // Onto itself: the source is read before it gives way.
+    // Onto itself: what was read stays when the file gives way.
     const fs::path photo = photograph();
-    ASSERT_TRUE(writePicture(bitmap, photo, {.format = PictureFormat::Jpeg, .metadataOf = photo}));
+    ASSERT_TRUE(
+        writePicture(bitmap, photo, {.format = PictureFormat::Jpeg, .metadata = PictureMetadata::ofFile(photo)}));
     EXPECT_EQ(valueOf(photo, "{TIFF}", "Model"), "Camera");
     EXPECT_EQ(readPictureInfo(photo)->width, 9);
+}
+
+TEST_F(MetadataCopy, LeavesPreviewsBehind)
+{
+    const fs::path photo = photograph();
+    const fs::path preview = folder.path() / "photo-thumb.jpg"; // where the tool looks for it
+    ASSERT_TRUE(
+        writePicture(noiseBitmap(20, 15, CIFormat::RGBA8, CIAlpha::Opaque), preview, {.format = PictureFormat::Jpeg}));
+    ASSERT_EQ(std::system(("exiv2 -it insert " + photo.string()).c_str()), 0);
+    const auto previewsOf = [](const fs::path& file) {
+        std::string lines;
+        FILE* tool = popen(("exiv2 -pp " + file.string()).c_str(), "r");
+        for (int c = std::fgetc(tool); c != EOF; c = std::fgetc(tool))
+            lines.push_back(char(c));
+        pclose(tool);
+        return lines;
+    };
+    ASSERT_NE(previewsOf(photo), "");
+    const fs::path file = folder.path() / "a.jpg";
+    ASSERT_TRUE(writePicture(noiseBitmap(9, 7, CIFormat::RGBA8, CIAlpha::Opaque), file,
+        {.format = PictureFormat::Jpeg, .metadata = PictureMetadata::ofFile(photo)}));
+    EXPECT_EQ(previewsOf(file), "");
+    EXPECT_EQ(valueOf(file, "{TIFF}", "Model"), "Camera");
 }
 
 } // namespace

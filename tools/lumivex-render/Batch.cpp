@@ -160,8 +160,12 @@ private:
         const CIBitmap bitmap = renderedBitmap(m_context, result, read->format(), &m_control);
         if (bitmap.isNull())
             return Failure{"there is not enough memory for the result"};
-        return writePicture(
-            bitmap, file.output, {.format = file.format, .metadataOf = file.input, .control = &m_control});
+        const std::shared_ptr<const PictureMetadata> metadata = PictureMetadata::ofFile(file.input);
+        return writePicture(bitmap, file.output,
+            {.format = file.format,
+                .dotsPerInch = metadata ? metadata->dotsPerInch() : 0,
+                .metadata = metadata,
+                .control = &m_control});
     }
 
     /// As the editor does it when the favourite is pressed and the picture saved.
