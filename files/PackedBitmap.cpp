@@ -77,10 +77,15 @@ CIBitmap unpackBitmap(QIODevice& device, std::int64_t maxPixels)
     Header header;
     if (!get(device, &header, sizeof header) || !header.isSane(maxPixels))
         return {};
+    const std::size_t rowBytes = std::size_t(header.width) * bytesPerPixel(CIFormat(header.format));
+    // Even a single color takes three bytes for each 128 KB.
+    constexpr std::int64_t kMostBytesPerByte = 128 * 1024 / 3;
+    if (std::int64_t(rowBytes) > device.bytesAvailable() * kMostBytesPerByte / header.height)
+        return {};
     CIBitmap bitmap(
         header.width, header.height, CIFormat(header.format), CIAlpha(header.alpha), CIColorSpace(header.space));
-    const std::size_t rowBytes = std::size_t(header.width) * bytesPerPixel(bitmap.format());
-    std::vector<std::byte> rows(rowBytes * kRowsAtOnce), packed(ZSTD_compressBound(rows.size()));
+    std::vector<std::byte> rows(rowBytes * std::size_t(std::min(kRowsAtOnce, header.height)));
+    std::vector<std::byte> packed(ZSTD_compressBound(rows.size()));
     for (int top = 0; top < header.height; top += kRowsAtOnce) {
         const auto count = std::size_t(std::min(kRowsAtOnce, header.height - top));
         quint64 size = 0;

@@ -13,6 +13,7 @@
 
 struct ReadOptions {
     std::int64_t maxPixels = 500'000'000; // width times height; larger pictures are refused
+    std::int64_t maxBytes = 0; // of the pixels as they are returned; 0 takes half of the computer's memory
     int maxSide = 0; // px; when set, a larger picture is reduced while it is decoded. Quick, and good for a first view
     std::chrono::seconds timeLimit{120};
     const std::atomic<bool>* cancelled = nullptr; // set from another thread to give up; the result is then a failure
@@ -35,9 +36,9 @@ struct PictureInfo {
 /// when no pixel is transparent. Drawings (SVG, PDF)
 /// are rendered 1024 to 8192 pixels large and see no other file.
 ///
-/// Fails with a message fit to show when the file is missing, damaged, incomplete, of an unknown format or over
-/// `maxPixels`; the header is checked before memory is taken, and the technical reason is logged.
-/// Blocks while it reads; may be called from several threads at once.
+/// Fails with a message fit to show when the file is missing, damaged, incomplete, of an unknown format, over
+/// `maxPixels` or too large for the memory; the header is checked before memory is taken, and the technical reason is
+/// logged. Blocks while it reads; may be called from several threads at once.
 Result<CIBitmap> readPicture(const std::filesystem::path& file, const ReadOptions& = {});
 
 /// The same from bytes in memory, which must stay until the call returns.

@@ -1,8 +1,11 @@
 #include "platform/imageio/PictureSink.h"
 
+#include "platform/foundation/PhysicalMemory.h"
+
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <new>
 
 namespace imageio {
 
@@ -89,6 +92,7 @@ public:
         m_format = format == VIPS_FORMAT_UCHAR ? CIFormat::RGBA8
             : format == VIPS_FORMAT_USHORT     ? CIFormat::RGBA16
                                                : CIFormat::RGBAf;
+        requireMemory(width, height, m_format, options);
         const bool swaps = swapsSides(orientation);
         m_bitmap = CIBitmap(swaps ? height : width, swaps ? width : height, m_format, alpha,
             m_format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : CIColorSpace::SRGB);
@@ -168,6 +172,14 @@ private:
 };
 
 } // namespace
+
+void requireMemory(int width, int height, CIFormat format, const ReadOptions& options)
+{
+    constexpr std::int64_t kShareOfMemory = 2; // filters and the history need some, too
+    const std::int64_t most = options.maxBytes > 0 ? options.maxBytes : physicalMemory() / kShareOfMemory;
+    if (std::int64_t(width) * height > most / std::int64_t(bytesPerPixel(format)))
+        throw std::bad_alloc();
+}
 
 SinkResult pullIntoBitmap(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options)
 {

@@ -14,6 +14,10 @@ struct SinkResult {
     SinkEnd end = SinkEnd::Damaged;
 };
 
+/// Throws std::bad_alloc for more than the options allow. Memory that the system promises is not always there when it
+/// is used, and then it ends the program: better to be refused before.
+void requireMemory(int width, int height, CIFormat format, const ReadOptions& options);
+
 /// Pulls `image` (1 or 3 color bands, optional alpha; 8 or 16 bits or float) through once, strip by strip, and
 /// turns it upright on the way: no second copy of the picture is made. `orientation` is the EXIF number; `alpha`
 /// says what the pixels are if one of them is transparent.

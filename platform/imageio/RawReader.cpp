@@ -1,6 +1,7 @@
 #include "platform/imageio/RawReader.h"
 
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/PictureSink.h"
 
 #include <algorithm>
 
@@ -110,6 +111,7 @@ Result<CIBitmap> readRaw(const PictureInput& input, const ReadOptions& options)
     const std::int64_t pixels = std::int64_t(sizes.raw_width) * sizes.raw_height;
     if (pixels > options.maxPixels)
         return Failure{input.name() + " is too large to be opened."};
+    requireMemory(sizes.raw_width, sizes.raw_height, CIFormat::RGBA16, options);
     const int longerSide = std::max(sizes.iwidth, sizes.iheight);
     setDeveloping(*raw, options.maxSide > 0 && longerSide / 2 >= options.maxSide);
     int error = raw->unpack();

@@ -1,4 +1,4 @@
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/PictureSamples.h"
 
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
@@ -16,28 +16,6 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::Not;
-
-struct Sample {
-    std::string name;
-    Bytes bytes;
-    bool mustBeWhole = true; // half of the file can never make a picture
-};
-
-std::vector<Sample> samples()
-{
-    const CIBitmap noise = noiseBitmap(61, 47);
-    const auto encoded = [&](PictureFormat format) { return *encodePicture(noise, {.format = format}); };
-    Bytes tiffPixels(61 * 47 * 3, std::byte(77));
-    const std::string svg = "<svg xmlns='http://www.w3.org/2000/svg' width='30' height='20'>"
-                            "<g><path d='M0 0L9 9L0 9z' fill='#123456'/></g></svg>";
-    return {{"png", encoded(PictureFormat::Png)}, {"jpeg", withExifOrientation(encoded(PictureFormat::Jpeg), 6)},
-        {"tiff", encoded(PictureFormat::Tiff)}, {"plain tiff", tiffFile(61, 47, 3, 8, 2, tiffPixels)},
-        {"webp", encoded(PictureFormat::WebP)}, {"jpeg 2000", encoded(PictureFormat::Jpeg2000)},
-        {"gif", encoded(PictureFormat::Gif)}, {"two frames", gifFile(), false}, {"bmp", bmpFile(), false},
-        {"icon", iconFile(), false}, {"sgi", sgiFile()}, {"psd", psdFile(), false}, {"exr", exrFile()},
-        {"raw", rawFile()}, {"avif", avifFile(noise)}, {"jpeg xl", jpegXlFile(noise)}, {"svg", bytesOf(svg)},
-        {"pdf", pdfFile(), false}};
-}
 
 /// Silences the log while a few thousand broken files are read.
 class HostileFiles : public ::testing::Test {
@@ -62,7 +40,7 @@ void expectSound(const Result<CIBitmap>& result)
 
 TEST_F(HostileFiles, TruncatedFilesAreRefused)
 {
-    for (const Sample& sample : samples()) {
+    for (const PictureSample& sample : pictureSamples()) {
         ASSERT_TRUE(readPicture(sample.bytes)) << sample.name;
         for (int part = 0; part < 40; ++part) {
             const std::size_t size = sample.bytes.size() * std::size_t(part) / 40;
@@ -83,7 +61,7 @@ TEST_F(HostileFiles, FlippedBitsDoNoHarm)
     std::uint32_t state = 99;
     const auto random = [&state] { return (state = state * 1664525 + 1013904223) >> 8; };
     const ReadOptions options{.maxPixels = 20'000'000, .timeLimit = std::chrono::seconds(10)};
-    for (const Sample& sample : samples())
+    for (const PictureSample& sample : pictureSamples())
         for (int round = 0; round < 60; ++round) {
             Bytes broken = sample.bytes;
             const std::size_t reach =
@@ -144,6 +122,9 @@ TEST_F(HostileFiles, HugeClaimsCostNeitherMemoryNorTime)
     EXPECT_THAT(large.message(), HasSubstr("30000 × 30000"));
     EXPECT_FALSE(readPicture(pngFile(3, 2, 8, 0, bytesOf({1, 2, 3, 4, 5, 6})), {.maxPixels = 5}));
     EXPECT_TRUE(readPicture(pngFile(3, 2, 8, 0, bytesOf({1, 2, 3, 4, 5, 6})), {.maxPixels = 6}));
+    EXPECT_TRUE(readPicture(pngFile(3, 2, 8, 0, bytesOf({1, 2, 3, 4, 5, 6})), {.maxBytes = 24}));
+    for (const Bytes& file : {pngFile(3, 2, 8, 0, bytesOf({1, 2, 3, 4, 5, 6})), rawFile()})
+        EXPECT_THAT(readPicture(file, {.maxBytes = 23}).message(), HasSubstr("not enough memory"));
 }
 
 TEST_F(HostileFiles, DrawingsCantRunAway)
