@@ -7,6 +7,7 @@
 #include "effects2d/customEffImageView.h"
 #include "effects2d/GeneratedEffect.h"
 #include "files/PictureLimits.h"
+#include "files/PictureMessages.h"
 #include "files/PlainPicture.h"
 #include "platform/chain/Baking.h"
 #include "platform/coreimage/passes/Resample.h"
@@ -176,7 +177,7 @@ void Controller::paste()
         m_formats.remember(image, read.value().format());
         m_readFailure.clear();
     } else {
-        m_readFailure = QString::fromStdString(read.message());
+        m_readFailure = shownPictureMessage(read.message());
     }
     setBackgroundImage(image);
     takeMetadataOf(image);

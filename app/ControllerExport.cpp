@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "files/ExportFormats.h"
 #include "files/ImageDestination.h"
+#include "files/PictureMessages.h"
 #include "files/SavePanel.h"
 #include "platform/chain/Baking.h"
 #include "platform/foundation/Log.h"
@@ -229,6 +230,6 @@ bool Controller::writeInBackground(
     if (result)
         markSessionClean();
     if (!result && !m_saveWasStopped)
-        showMessage(QString::fromStdString(result.message()));
+        showMessage(shownPictureMessage(result.message()));
     return result.isOk();
 }

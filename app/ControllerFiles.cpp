@@ -3,6 +3,7 @@
 #include "app/PictureFiles.h"
 #include "app/RecentFiles.h"
 #include "controls/MyImageView.h"
+#include "files/PictureMessages.h"
 #include "platform/imageio/PictureMetadata.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
@@ -149,7 +150,7 @@ CIImage Controller::pictureOf(const Result<CIBitmap>& read, const QString& path)
 {
     m_readFailure.clear();
     if (!read) {
-        m_readFailure = QString::fromStdString(read.message());
+        m_readFailure = shownPictureMessage(read.message());
         return {};
     }
     const CIImage image = CIImage::fromBitmap(read.value());

@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "controls/BezelStyle.h"
 #include "controls/ControlPoints.h"
+#include "controls/FilterNames.h"
 #include "controls/FilterView.h"
 #include "controls/PictureScrollView.h"
 #include "platform/foundation/Appearance.h"
@@ -82,7 +83,7 @@ void Controller::showFilterName(bool shown)
     if (filerMode() == Custom)
         return showCustomEffectName();
     if (currentFilter)
-        ui.filterNameField->setText(QString::fromStdString(currentFilter->displayName()));
+        ui.filterNameField->setText(shownFilterName(currentFilter->displayName()));
     ui.filterNameField->setVisible(shown);
     ui.filterNameLine->setVisible(shown);
     const bool empty = !m_panel || m_panel->rowCount() == 0;

@@ -1,6 +1,7 @@
 #include "app/DataSource.h"
 
 #include "controls/ControlPoints.h"
+#include "controls/FilterNames.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/TintedIcon.h"
 
@@ -87,7 +88,7 @@ std::vector<std::unique_ptr<FilterRow>> DataSource::buildFilterDictionary(const 
         auto row = std::make_unique<FilterRow>();
         row->className = QString::fromStdString(name);
         if (displayName != attributes.end())
-            row->name = QString::fromStdString(displayName->second.toString());
+            row->name = shownFilterName(displayName->second.toString());
         rows.push_back(std::move(row));
     }
     return rows;

@@ -1,6 +1,7 @@
 #include "app/FavouritesStore.h"
 
 #include "app/Thumbnail.h"
+#include "controls/FilterNames.h"
 #include "effects2d/CustomEffects.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/Log.h"
@@ -80,7 +81,9 @@ onlyTextClosedButton* FavouritesStore::addButton(const QImage& thumbnail, const 
 {
     auto* button = new onlyTextClosedButton;
     button->setImages(QStringLiteral("off_button_50"), QStringLiteral("on_button_50"));
-    button->setName(toolTip);
+    const std::string text = toolTip.toStdString(); // stored in English
+    button->setName(
+        m_family.prototypes ? QCoreApplication::translate("BaseEffect", text.c_str()) : shownFilterName(text));
     button->addBackImage(thumbnail);
     button->setController(&m_master);
     QObject::connect(button, &QAbstractButton::clicked, button, [this, button] { m_family.pressed(button); });

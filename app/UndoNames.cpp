@@ -1,5 +1,6 @@
 #include "app/UndoNames.h"
 
+#include "controls/FilterNames.h"
 #include "controls/ParameterText.h"
 #include "platform/coreimage/CIFilter.h"
 
@@ -9,7 +10,7 @@ QString unInterCap1(const QString& key) { return wordsOfKey(key); }
 
 QString actionNameForFilterKey(const CIFilter& filter, const QString& key)
 {
-    const QString filterName = QString::fromStdString(CIFilter::localizedNameForFilterName(filter.name()));
+    const QString filterName = shownFilterName(CIFilter::localizedNameForFilterName(filter.name()));
     return QCoreApplication::translate("UndoNames", "Change to %1 %2", "%1 is a filter, %2 one of its parameters")
-        .arg(filterName, unInterCap1(key.mid(5)));
+        .arg(filterName, shownInputName(unInterCap1(key.mid(5)).toStdString()));
 }

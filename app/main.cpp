@@ -6,21 +6,27 @@
 #include "app/TextRenderer.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Log.h"
+#include "translations/Translations.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QTimer>
+
+#include <clocale>
 
 int main(int argc, char** argv)
 {
     QCoreApplication::setApplicationName(QStringLiteral("lumivex"));
     QCoreApplication::setApplicationVersion(QStringLiteral(LUMIVEX_VERSION));
     if (wantsOnlyText(argc, argv)) {
-        const QCoreApplication application(argc, argv); // needs no display
+        QCoreApplication application(argc, argv); // needs no display
+        installTranslations(application);
         return answerInText(application.arguments());
     }
     OneInstance instance;
     QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C"); // Qt has set the user's; libraries read and write numbers with a point
+    installTranslations(application);
     QGuiApplication::setDesktopFileName(QStringLiteral("io.github.lumivex.Lumivex"));
     const std::optional<StartRequest> request = startRequest(QCoreApplication::arguments());
     if (!request)

@@ -1,5 +1,7 @@
 #include "controls/ControlPoints.h"
 
+#include "controls/FilterNames.h"
+
 #include <utility>
 
 using namespace ParmMode;
@@ -61,8 +63,9 @@ std::vector<ControlPoint> controlPoints(const CIFilter& filter)
         const CIInputAttributes* input = filter.attributesForKey(key);
         if (!input || !hasControlPoint(*input))
             continue;
-        const std::string label = CIFilter::localizedNameForFilterName(filter.name()) + " " + input->displayName;
-        appendPoints(points, *input, filter.valueForKey(key), label);
+        const QString label = shownFilterName(CIFilter::localizedNameForFilterName(filter.name())) + QLatin1Char(' ')
+            + shownInputName(input->displayName);
+        appendPoints(points, *input, filter.valueForKey(key), label.toStdString());
     }
     return points;
 }

@@ -1,5 +1,7 @@
 #include "controls/ParameterText.h"
 
+#include "controls/FilterNames.h"
+
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -102,8 +104,8 @@ QString wordsOfKey(const QString& key)
 QString captionText(const CIInputAttributes& input)
 {
     if (!input.displayName.empty())
-        return QString::fromStdString(input.displayName);
-    return wordsOfKey(QString::fromStdString(input.key).mid(kKeyPrefix));
+        return shownInputName(input.displayName);
+    return shownInputName(wordsOfKey(QString::fromStdString(input.key).mid(kKeyPrefix)).toStdString());
 }
 
 QFont rowFont(const QFont& family)

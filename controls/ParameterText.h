@@ -47,7 +47,7 @@ std::optional<double> typedNumber(const QString& text);
 /// ("ShadingImage" becomes "Shading Image", "Point12" becomes "Point 1 2"). Nothing is lower-cased.
 QString wordsOfKey(const QString& key);
 
-/// The display name, or else the words of the key without its first five characters, "input".
+/// The display name, or else the words of the key without its first five characters, "input"; in the user's language.
 QString captionText(const CIInputAttributes& input);
 
 /// The font of captions and readouts.

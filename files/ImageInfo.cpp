@@ -15,6 +15,39 @@ constexpr auto kDelay = 20ms;
 
 ImageInfo* sharedPanel = nullptr;
 
+/// Keys with names in other languages. In English, `label` makes a name of any key.
+[[maybe_unused]] constexpr const char* kNamedKeys[] = {
+    QT_TRANSLATE_NOOP("PictureProperty", "PixelWidth"),
+    QT_TRANSLATE_NOOP("PictureProperty", "PixelHeight"),
+    QT_TRANSLATE_NOOP("PictureProperty", "ColorModel"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Orientation"),
+    QT_TRANSLATE_NOOP("PictureProperty", "DPIWidth"),
+    QT_TRANSLATE_NOOP("PictureProperty", "DPIHeight"),
+    QT_TRANSLATE_NOOP("PictureProperty", "ProfileName"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Depth"),
+    QT_TRANSLATE_NOOP("PictureProperty", "HasAlpha"),
+    QT_TRANSLATE_NOOP("PictureProperty", "IsFloat"),
+    QT_TRANSLATE_NOOP("PictureProperty", "IsProgressive"),
+    QT_TRANSLATE_NOOP("PictureProperty", "FrameCount"),
+    QT_TRANSLATE_NOOP("PictureProperty", "LoopCount"),
+    QT_TRANSLATE_NOOP("PictureProperty", "DelayTime"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Make"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Model"),
+    QT_TRANSLATE_NOOP("PictureProperty", "LensModel"),
+    QT_TRANSLATE_NOOP("PictureProperty", "ExposureTime"),
+    QT_TRANSLATE_NOOP("PictureProperty", "FNumber"),
+    QT_TRANSLATE_NOOP("PictureProperty", "FocalLength"),
+    QT_TRANSLATE_NOOP("PictureProperty", "ISOSpeedRatings"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Flash"),
+    QT_TRANSLATE_NOOP("PictureProperty", "WhiteBalance"),
+    QT_TRANSLATE_NOOP("PictureProperty", "DateTime"),
+    QT_TRANSLATE_NOOP("PictureProperty", "DateTimeOriginal"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Artist"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Copyright"),
+    QT_TRANSLATE_NOOP("PictureProperty", "ImageDescription"),
+    QT_TRANSLATE_NOOP("PictureProperty", "Software"),
+};
+
 QTreeWidgetItem* itemOf(const PropertyNode& node)
 {
     auto* item = new QTreeWidgetItem({node.key, node.val});

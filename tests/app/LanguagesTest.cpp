@@ -1,0 +1,109 @@
+#include "WindowFixture.h"
+
+#include "app/OutlineView.h"
+#include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/UserDefaults.h"
+#include "translations/Translations.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QTranslator>
+
+#include <map>
+
+namespace {
+
+/// Before the window is made, which asks for its texts only once.
+struct Speaking {
+    explicit Speaking(const char* language) { EXPECT_TRUE(installTranslations(*qApp, QString::fromLatin1(language))); }
+    ~Speaking() { qDeleteAll(qApp->findChildren<QTranslator*>()); }
+};
+
+class LanguagesTest : public testing::WithParamInterface<const char*>, Speaking, public WindowTest {
+protected:
+    LanguagesTest()
+        : Speaking(GetParam())
+    {
+    }
+};
+
+void expectOneMnemonicEach(const QString& menu, const QList<QAction*>& actions)
+{
+    std::map<QChar, QString> taken;
+    for (const QAction* action : actions) {
+        const QString text = action->text();
+        const qsizetype mark = text.indexOf('&');
+        if (mark < 0)
+            continue;
+        const QString& other = taken[text.at(mark + 1).toCaseFolded()];
+        EXPECT_TRUE(other.isEmpty()) << menu.toStdString() << ": " << other.toStdString() << ", " << text.toStdString();
+        taken[text.at(mark + 1).toCaseFolded()] = text;
+    }
+}
+
+TEST_P(LanguagesTest, NoMenuHasTwoItemsUnderOneLetter)
+{
+    expectOneMnemonicEach("menu bar", ui.menuBar->actions());
+    // The context menu, which has no title, borrows items of several menus.
+    for (const QMenu* menu : ui.menuBar->findChildren<QMenu*>())
+        expectOneMnemonicEach(menu->title(), menu->actions());
+}
+
+TEST_P(LanguagesTest, StoredNamesAreEnglish)
+{
+    controller.openFile(pictureFile("picture.png", 60, 40));
+    pick("CIGaussianBlur");
+    ui.addFavouriteBtn->click();
+    controller.saveFavorites();
+    const QString list = QStringLiteral("EffectsFavorites");
+    const auto records = UserDefaults::standardUserDefaults().recordsForKey(list);
+    UserDefaults::standardUserDefaults().setRecordsForKey({}, list);
+    ASSERT_TRUE(records && records->size() == 1);
+    EXPECT_EQ(KeyedArchive::unarchivedValue(records->front().at("ToolTipName").bytes()).toString(), "Gaussian Blur");
+}
+
+INSTANTIATE_TEST_SUITE_P(InEach, LanguagesTest, testing::Values("en", "de", "fr"));
+
+class GermanTest : Speaking, public WindowTest {
+protected:
+    GermanTest()
+        : Speaking("de")
+    {
+    }
+};
+
+TEST_F(GermanTest, SpeaksOfFiltersInGerman)
+{
+    EXPECT_EQ(ui.menuEdit->title(), "&Bearbeiten");
+    controller.openFile(pictureFile("picture.png", 60, 40));
+    pick("CIGaussianBlur");
+    EXPECT_EQ(ui.filterNameField->text(), "Gaußscher Weichzeichner");
+    EXPECT_EQ(ui.listView->currentIndex().data().toString(), "Gaußscher Weichzeichner");
+    EXPECT_EQ(ui.listView->currentIndex().parent().data().toString(), "Schärfe");
+
+    CIFilter& blur = *controller.getCurrentFilter();
+    controller.setFilterValueForKey(blur, 3.5, "inputRadius");
+    controller.setActionNameForFilterKey(blur, "inputRadius");
+    EXPECT_EQ(undo.undoMenuItemTitle(), "Rückgängig: Gaußscher Weichzeichner: Radius ändern");
+
+    ui.addFavouriteBtn->click();
+    ASSERT_EQ(ui.m_pageController->pageCount(), 1);
+    EXPECT_EQ(ui.m_pageController->items().first()->toolTip(), "Gaußscher Weichzeichner");
+}
+
+TEST_F(GermanTest, SaysWhatIsWrongWithAFile)
+{
+    QFile noPicture(folder.filePath("Brief.png"));
+    ASSERT_TRUE(noPicture.open(QIODevice::WriteOnly) && noPicture.write("not a picture at all") > 0);
+    noPicture.close();
+    controller.openFile(noPicture.fileName());
+    EXPECT_EQ(ui.pictureInfoField->text(), "„Brief.png“ ist kein Bild einer Art, die geöffnet werden kann.");
+    controller.openFile(folder.path());
+    EXPECT_TRUE(ui.pictureInfoField->text().endsWith(" ist ein Ordner, kein Bild."));
+    controller.openFile(folder.filePath("nirgends 100%2.png"));
+    EXPECT_TRUE(ui.pictureInfoField->text().endsWith("Es gibt keine Datei „nirgends 100%2.png“."))
+        << ui.pictureInfoField->text().toStdString();
+}
+
+} // namespace

@@ -1,0 +1,34 @@
+// filter_texts: the names of all filters and inputs, as source text that lupdate reads.
+#include "controls/FilterNames.h"
+#include "controls/ParameterText.h"
+#include "platform/coreimage/CIFilter.h"
+
+#include <iostream>
+#include <set>
+
+namespace {
+
+void print(const char* context, const std::set<std::string>& texts)
+{
+    for (const std::string& text : texts)
+        std::cout << "QT_TRANSLATE_NOOP(\"" << context << "\", \"" << text << "\")\n";
+}
+
+} // namespace
+
+int main()
+{
+    std::set<std::string> filters, inputs;
+    for (const std::string& name : CIFilter::filterNamesInCategory("")) {
+        const auto filter = CIFilter::filterWithName(name);
+        filters.insert(filter->displayName());
+        for (const std::string& key : filter->inputKeys()) {
+            inputs.insert(filter->attributesForKey(key)->displayName);
+            // Undo steps and rows without a display name say the key.
+            inputs.insert(wordsOfKey(QString::fromStdString(key).mid(5)).toStdString());
+        }
+    }
+    inputs.erase("");
+    print(kFilterContext, filters);
+    print(kInputContext, inputs);
+}

@@ -1,0 +1,3807 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>AboutWindow</name>
+    <message>
+        <source>windows and drawing</source>
+        <translation>fenêtres et dessin</translation>
+    </message>
+    <message>
+        <source>picture files</source>
+        <translation>fichiers d’image</translation>
+    </message>
+    <message>
+        <source>camera raw files</source>
+        <translation>fichiers bruts d’appareils photo</translation>
+    </message>
+    <message>
+        <source>what files say about their pictures</source>
+        <translation>métadonnées des fichiers</translation>
+    </message>
+    <message>
+        <source>color profiles</source>
+        <translation>profils de couleur</translation>
+    </message>
+    <message>
+        <source>work on all cores</source>
+        <translation>calcul sur tous les cœurs</translation>
+    </message>
+    <message>
+        <source>vector arithmetic</source>
+        <translation>calcul vectoriel</translation>
+    </message>
+    <message>
+        <source>barcodes</source>
+        <translation>codes-barres</translation>
+    </message>
+    <message>
+        <source>the packed undo history</source>
+        <translation>l’historique compressé</translation>
+    </message>
+    <message>
+        <source>surfaces and solid bodies</source>
+        <translation>surfaces et solides</translation>
+    </message>
+    <message>
+        <source>About Lumivex</source>
+        <translation>À propos de Lumivex</translation>
+    </message>
+    <message>
+        <source>The program&apos;s icon</source>
+        <translation>L’icône du programme</translation>
+    </message>
+    <message>
+        <source>Version, license and libraries; the text can be selected and copied</source>
+        <translation>Version, licence et bibliothèques ; le texte peut être sélectionné et copié</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>A picture editor with live filters. It uses no network.</source>
+        <translation>Un éditeur d’images avec filtres en direct. Il n’utilise pas le réseau.</translation>
+    </message>
+    <message>
+        <source>Free software that comes without any warranty. License: %1</source>
+        <translation>Logiciel libre, fourni sans aucune garantie. Licence : %1</translation>
+    </message>
+    <message>
+        <source>It stands on these libraries:</source>
+        <translation>Il repose sur ces bibliothèques :</translation>
+    </message>
+</context>
+<context>
+    <name>AlertPanel</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Enregistrer…</translation>
+    </message>
+    <message>
+        <source>Don&apos;t Save</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+</context>
+<context>
+    <name>BaseEffect</name>
+    <message>
+        <source>Flare Effect</source>
+        <translation>Éclat lumineux</translation>
+    </message>
+    <message>
+        <source>Flare Effect Generator</source>
+        <translation>Générateur d’éclat lumineux</translation>
+    </message>
+    <message>
+        <source>Hilbert Lines</source>
+        <translation>Lignes de Hilbert</translation>
+    </message>
+    <message>
+        <source>Hilbert Lines Effect Generator</source>
+        <translation>Générateur de lignes de Hilbert</translation>
+    </message>
+    <message>
+        <source>Lines Effect</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Lines Effect Generator</source>
+        <translation>Générateur de lignes</translation>
+    </message>
+    <message>
+        <source>Patch Works</source>
+        <translation>Patchwork</translation>
+    </message>
+    <message>
+        <source>Patch Works Effect Generator</source>
+        <translation>Générateur de patchwork</translation>
+    </message>
+    <message>
+        <source>Pattern Morphing</source>
+        <translation>Métamorphose de motifs</translation>
+    </message>
+    <message>
+        <source>Pattern Morphing Effect Generator</source>
+        <translation>Générateur de motifs métamorphosés</translation>
+    </message>
+    <message>
+        <source>Plasma Effect</source>
+        <translation>Plasma</translation>
+    </message>
+    <message>
+        <source>Plasma Effect Generator</source>
+        <translation>Générateur de plasma</translation>
+    </message>
+    <message>
+        <source>Simple Objects</source>
+        <translation>Objets simples</translation>
+    </message>
+    <message>
+        <source>Simple Objects Generator</source>
+        <translation>Générateur d’objets simples</translation>
+    </message>
+    <message>
+        <source>Sketch Effect</source>
+        <translation>Croquis</translation>
+    </message>
+    <message>
+        <source>Sketch Effect Generator</source>
+        <translation>Générateur de croquis</translation>
+    </message>
+    <message>
+        <source>Surface Rotate</source>
+        <translation>Surface tournante</translation>
+    </message>
+    <message>
+        <source>3D Surface Rotate</source>
+        <translation>Surface tournante en 3D</translation>
+    </message>
+    <message>
+        <source>3D Objects</source>
+        <translation>Objets 3D</translation>
+    </message>
+    <message>
+        <source>3D Objects Texuture</source>
+        <translation>L’image sur des objets 3D</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Edits a picture with live filters.</source>
+        <translation>Retouche une image avec des filtres en direct.</translation>
+    </message>
+    <message>
+        <source>Open a window of its own, whatever else is open.</source>
+        <translation>Ouvrir une fenêtre à part, quoi qu’il y ait d’ouvert.</translation>
+    </message>
+    <message>
+        <source>Picture files to open: the first in a window that is open already, if it can be.</source>
+        <translation>Fichiers d’image à ouvrir : le premier, si possible, dans une fenêtre déjà ouverte.</translation>
+    </message>
+</context>
+<context>
+    <name>Controller</name>
+    <message>
+        <source>Drag the picture to turn it. The arrow keys turn it as well.</source>
+        <translation>Faites glisser l’image pour la tourner. Les touches fléchées la tournent aussi.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to see the picture in space.</source>
+        <translation>Choisissez un effet dans la liste pour voir l’image dans l’espace.</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
+        <translation>Faites glisser sur l’image pour déplacer l’effet. Les touches fléchées le déplacent aussi.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to draw it over the picture or over a color.</source>
+        <translation>Choisissez un effet dans la liste pour le dessiner sur l’image ou sur une couleur.</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>Rotation à gauche</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>Rotation à droite</translation>
+    </message>
+    <message>
+        <source>Flip Vertical</source>
+        <translation>Retourner verticalement</translation>
+    </message>
+    <message>
+        <source>Flip Horizontal</source>
+        <translation>Retourner horizontalement</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be made that large.</source>
+        <translation>L’image ne peut pas devenir aussi grande.</translation>
+    </message>
+    <message>
+        <source>Up to %1 million pixels fit into this computer&apos;s memory.</source>
+        <translation>La mémoire de cet ordinateur contient jusqu’à %1 millions de pixels.</translation>
+    </message>
+    <message>
+        <source>Resizing the picture…</source>
+        <translation>Redimensionnement de l’image…</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to resize the picture</source>
+        <translation>Mémoire insuffisante pour redimensionner l’image</translation>
+    </message>
+    <message>
+        <source>Copying the picture…</source>
+        <translation>Copie de l’image…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to copy the picture</source>
+        <translation>Mémoire insuffisante pour copier l’image</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>Rendering the picture…</source>
+        <translation>Calcul de l’image…</translation>
+    </message>
+    <message>
+        <source>Couldn&apos;t save file.</source>
+        <translation>Impossible d’enregistrer le fichier.</translation>
+    </message>
+    <message>
+        <source>File I/O error occured.</source>
+        <translation>Une erreur d’entrée-sortie s’est produite.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace an existing file?</source>
+        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+    </message>
+    <message>
+        <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
+        <translation>Un fichier du même nom existe déjà. Le remplacer écrasera son contenu.</translation>
+    </message>
+    <message>
+        <source>Save Image As:</source>
+        <translation>Enregistrer l’image sous :</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to save the picture.</source>
+        <translation>Mémoire insuffisante pour enregistrer l’image.</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>Enregistrement de « %1 »…</translation>
+    </message>
+    <message>
+        <source>sRGB 16-bit</source>
+        <translation>sRVB 16 bits</translation>
+    </message>
+    <message>
+        <source>sRGB 32-bit float</source>
+        <translation>sRVB 32 bits flottants</translation>
+    </message>
+    <message>
+        <source>sRGB 8-bit</source>
+        <translation>sRVB 8 bits</translation>
+    </message>
+    <message>
+        <source>Open Picture</source>
+        <translation>Ouvrir une image</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Images (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file name, what is wrong</comment>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px · %3</source>
+        <comment>width, height, color space and depth</comment>
+        <translation>%1 × %2 px · %3</translation>
+    </message>
+    <message>
+        <source>No Pictures Yet</source>
+        <translation>Aucune image pour l’instant</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Vider le menu</translation>
+    </message>
+    <message>
+        <source>Applying the filter…</source>
+        <translation>Application du filtre…</translation>
+    </message>
+    <message>
+        <source>Reset All Inputs</source>
+        <translation>Réinitialiser tous les réglages</translation>
+    </message>
+    <message>
+        <source>Randomize Inputs</source>
+        <translation>Réglages au hasard</translation>
+    </message>
+    <message>
+        <source>Choose a filter from the list to see what it makes of the picture.</source>
+        <translation>Choisissez un filtre dans la liste pour voir ce qu’il fait de l’image.</translation>
+    </message>
+    <message>
+        <source>Drag the points on the picture.</source>
+        <translation>Faites glisser les points sur l’image.</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here.</source>
+        <translation>Il n’y a rien à régler ici.</translation>
+    </message>
+    <message>
+        <source>Do you want to save changes?</source>
+        <translation>Voulez-vous enregistrer les modifications ?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you choose don&apos;t save option.</source>
+        <translation>Si vous n’enregistrez pas, vos modifications seront perdues.</translation>
+    </message>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore the picture?</source>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer l’image ?</translation>
+    </message>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore “%1”?</source>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer « %1 » ?</translation>
+    </message>
+    <message>
+        <source>The picture comes back with its filter, as it was at most a minute before.</source>
+        <translation>L’image revient avec son filtre, telle qu’elle était au plus une minute avant.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Goes on where the work ended</source>
+        <translation>Reprend là où le travail s’est arrêté</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Forgets the changes for good</source>
+        <translation>Oublie définitivement les modifications</translation>
+    </message>
+    <message>
+        <source>Restoring the picture…</source>
+        <translation>Restauration de l’image…</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be restored; its journal is damaged.</source>
+        <translation>L’image ne peut pas être restaurée ; son journal est endommagé.</translation>
+    </message>
+    <message>
+        <source>Do you want to open “%1” here?</source>
+        <translation>Voulez-vous ouvrir « %1 » ici ?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you did not save them.</source>
+        <translation>Les modifications non enregistrées seront perdues.</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Before All Changes</source>
+        <translation>Avant toute modification</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2 fois)</translation>
+    </message>
+    <message>
+        <source>Makes the changes up to this one again</source>
+        <translation>Refait les modifications jusqu’à celle-ci</translation>
+    </message>
+    <message>
+        <source>Takes back what came after</source>
+        <translation>Annule ce qui a suivi</translation>
+    </message>
+    <message>
+        <source>The present state</source>
+        <translation>L’état actuel</translation>
+    </message>
+</context>
+<context>
+    <name>DataSource</name>
+    <message>
+        <source>Geometry</source>
+        <translation>Géométrie</translation>
+    </message>
+    <message>
+        <source>Distortion</source>
+        <translation>Distorsion</translation>
+    </message>
+    <message>
+        <source>Halftone</source>
+        <translation>Demi-teintes</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Stylize</source>
+        <translation>Esthétiques</translation>
+    </message>
+    <message>
+        <source>Gradient</source>
+        <translation>Dégradés</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Tile</source>
+        <translation>Mosaïque</translation>
+    </message>
+    <message>
+        <source>Generator</source>
+        <translation>Générateurs</translation>
+    </message>
+</context>
+<context>
+    <name>DocPageControl</name>
+    <message>
+        <source>Previous favourites</source>
+        <translation>Favoris précédents</translation>
+    </message>
+    <message>
+        <source>Next favourites</source>
+        <translation>Favoris suivants</translation>
+    </message>
+</context>
+<context>
+    <name>DropImageView</name>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Drop a picture file here, or drag this one elsewhere</source>
+        <translation>Déposez un fichier d’image ici, ou faites glisser celle-ci ailleurs</translation>
+    </message>
+</context>
+<context>
+    <name>EffectPanel</name>
+    <message>
+        <source>Flare opacity:</source>
+        <translation>Opacité :</translation>
+    </message>
+    <message>
+        <source>Spikes count:</source>
+        <translation>Rayons :</translation>
+    </message>
+    <message>
+        <source>How many spikes the flare has</source>
+        <translation>Le nombre de rayons de l’éclat</translation>
+    </message>
+    <message>
+        <source>Background Color:</source>
+        <translation>Couleur du fond :</translation>
+    </message>
+    <message>
+        <source>The color laid over the background</source>
+        <translation>La couleur posée sur le fond</translation>
+    </message>
+    <message>
+        <source>Background Image:</source>
+        <translation>Image de fond :</translation>
+    </message>
+    <message>
+        <source>Lay the effect over the picture</source>
+        <translation>Poser l’effet sur l’image</translation>
+    </message>
+    <message>
+        <source>How much of what lies beneath the effect is covered, in percent</source>
+        <translation>La part de ce qui se trouve sous l’effet qui est couverte, en pour cent</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>Générer</translation>
+    </message>
+    <message>
+        <source>Draw the effect anew with other random numbers</source>
+        <translation>Redessiner l’effet avec d’autres nombres aléatoires</translation>
+    </message>
+    <message>
+        <source>Objects opacity:</source>
+        <translation>Opacité :</translation>
+    </message>
+    <message>
+        <source>Lines level:</source>
+        <translation>Niveau :</translation>
+    </message>
+    <message>
+        <source>How often the curve is folded</source>
+        <translation>Combien de fois la courbe est repliée</translation>
+    </message>
+    <message>
+        <source>Line width:</source>
+        <translation>Épaisseur :</translation>
+    </message>
+    <message>
+        <source>How thick the curve is</source>
+        <translation>L’épaisseur de la courbe</translation>
+    </message>
+    <message>
+        <source>Lines count:</source>
+        <translation>Lignes :</translation>
+    </message>
+    <message>
+        <source>How many lines are drawn</source>
+        <translation>Le nombre de lignes dessinées</translation>
+    </message>
+    <message>
+        <source>How thick the lines are</source>
+        <translation>L’épaisseur des lignes</translation>
+    </message>
+    <message>
+        <source>Pattern opacity:</source>
+        <translation>Opacité :</translation>
+    </message>
+    <message>
+        <source>Objects count:</source>
+        <translation>Objets :</translation>
+    </message>
+    <message>
+        <source>How many ellipses the pattern has</source>
+        <translation>Le nombre d’ellipses du motif</translation>
+    </message>
+    <message>
+        <source>Pattern Color:</source>
+        <translation>Couleur du motif :</translation>
+    </message>
+    <message>
+        <source>The color of the pattern</source>
+        <translation>La couleur du motif</translation>
+    </message>
+    <message>
+        <source>How thick the ellipses&apos; lines are</source>
+        <translation>L’épaisseur du trait des ellipses</translation>
+    </message>
+    <message>
+        <source>Proportion:</source>
+        <translation>Proportion :</translation>
+    </message>
+    <message>
+        <source>The width of the ellipses in parts of their height</source>
+        <translation>La largeur des ellipses par rapport à leur hauteur</translation>
+    </message>
+    <message>
+        <source>Plasma opacity:</source>
+        <translation>Opacité :</translation>
+    </message>
+    <message>
+        <source>Object type:</source>
+        <translation>Type d’objet :</translation>
+    </message>
+    <message>
+        <source>What is drawn</source>
+        <translation>Ce qui est dessiné</translation>
+    </message>
+    <message>
+        <source>Rects</source>
+        <translation>Rectangles</translation>
+    </message>
+    <message>
+        <source>Circles</source>
+        <translation>Cercles</translation>
+    </message>
+    <message>
+        <source>Bezier Paths</source>
+        <translation>Courbes de Bézier</translation>
+    </message>
+    <message>
+        <source>Triangles</source>
+        <translation>Triangles</translation>
+    </message>
+    <message>
+        <source>Flowers</source>
+        <translation>Fleurs</translation>
+    </message>
+    <message>
+        <source>Balls</source>
+        <translation>Boules</translation>
+    </message>
+    <message>
+        <source>Lights</source>
+        <translation>Lumières</translation>
+    </message>
+    <message>
+        <source>Spin Squares</source>
+        <translation>Carrés tournants</translation>
+    </message>
+    <message>
+        <source>How many objects are drawn</source>
+        <translation>Le nombre d’objets dessinés</translation>
+    </message>
+</context>
+<context>
+    <name>EvalEffect</name>
+    <message>
+        <source>First Curve:</source>
+        <translation>Première courbe :</translation>
+    </message>
+    <message>
+        <source>How far the lower edge bends</source>
+        <translation>La courbure du bord inférieur</translation>
+    </message>
+    <message>
+        <source>Second Curve:</source>
+        <translation>Seconde courbe :</translation>
+    </message>
+    <message>
+        <source>How far the upper edge bends</source>
+        <translation>La courbure du bord supérieur</translation>
+    </message>
+    <message>
+        <source>Filled Poly:</source>
+        <translation>Surface pleine :</translation>
+    </message>
+    <message>
+        <source>A closed surface, or else a net of lines</source>
+        <translation>Une surface fermée, sinon un réseau de lignes</translation>
+    </message>
+    <message>
+        <source>Colored Light:</source>
+        <translation>Lumière colorée :</translation>
+    </message>
+    <message>
+        <source>Tints the picture with the color</source>
+        <translation>Teinte l’image avec la couleur</translation>
+    </message>
+    <message>
+        <source>Light color</source>
+        <translation>Couleur de la lumière</translation>
+    </message>
+    <message>
+        <source>The color of the light</source>
+        <translation>La couleur de la lumière</translation>
+    </message>
+    <message>
+        <source>Change to First Curve</source>
+        <translation>Changer la première courbe</translation>
+    </message>
+    <message>
+        <source>Change to Second Curve</source>
+        <translation>Changer la seconde courbe</translation>
+    </message>
+    <message>
+        <source>Change to Filled Poly</source>
+        <translation>Changer le remplissage</translation>
+    </message>
+    <message>
+        <source>Change to Colored Light</source>
+        <translation>Changer la lumière colorée</translation>
+    </message>
+    <message>
+        <source>Change to Light Color</source>
+        <translation>Changer la couleur de la lumière</translation>
+    </message>
+</context>
+<context>
+    <name>Filter</name>
+    <message>
+        <source>3 by 3 Convolution</source>
+        <translation>Convolution 3 × 3</translation>
+    </message>
+    <message>
+        <source>3 by 3 RGB Convolution</source>
+        <translation>Convolution RVB 3 × 3</translation>
+    </message>
+    <message>
+        <source>5 by 5 Convolution</source>
+        <translation>Convolution 5 × 5</translation>
+    </message>
+    <message>
+        <source>5 by 5 RGB Convolution</source>
+        <translation>Convolution RVB 5 × 5</translation>
+    </message>
+    <message>
+        <source>7 by 7 Convolution</source>
+        <translation>Convolution 7 × 7</translation>
+    </message>
+    <message>
+        <source>7 by 7 RGB Convolution</source>
+        <translation>Convolution RVB 7 × 7</translation>
+    </message>
+    <message>
+        <source>Accordion Fold Transition</source>
+        <translation>Transition en accordéon</translation>
+    </message>
+    <message>
+        <source>Addition</source>
+        <translation>Addition</translation>
+    </message>
+    <message>
+        <source>Affine Clamp</source>
+        <translation>Affine, bords prolongés</translation>
+    </message>
+    <message>
+        <source>Affine Tile</source>
+        <translation>Mosaïque affine</translation>
+    </message>
+    <message>
+        <source>Affine Transform</source>
+        <translation>Transformation affine</translation>
+    </message>
+    <message>
+        <source>Area Alpha Weighted Histogram</source>
+        <translation>Histogramme de zone pondéré par l’alpha</translation>
+    </message>
+    <message>
+        <source>Area Average</source>
+        <translation>Moyenne de la zone</translation>
+    </message>
+    <message>
+        <source>Area Bounds Red</source>
+        <translation>Limites de la zone rouge</translation>
+    </message>
+    <message>
+        <source>Area Histogram</source>
+        <translation>Histogramme de zone</translation>
+    </message>
+    <message>
+        <source>Area Logarithmic Histogram</source>
+        <translation>Histogramme logarithmique de zone</translation>
+    </message>
+    <message>
+        <source>Area Maximum</source>
+        <translation>Maximum de la zone</translation>
+    </message>
+    <message>
+        <source>Area Maximum Alpha</source>
+        <translation>Alpha maximal de la zone</translation>
+    </message>
+    <message>
+        <source>Area Min and Max</source>
+        <translation>Minimum et maximum de la zone</translation>
+    </message>
+    <message>
+        <source>Area Min and Max Red</source>
+        <translation>Rouge minimal et maximal de la zone</translation>
+    </message>
+    <message>
+        <source>Area Minimum</source>
+        <translation>Minimum de la zone</translation>
+    </message>
+    <message>
+        <source>Area Minimum Alpha</source>
+        <translation>Alpha minimal de la zone</translation>
+    </message>
+    <message>
+        <source>Attributed Text Image Generator</source>
+        <translation>Texte mis en forme</translation>
+    </message>
+    <message>
+        <source>Aztec Code Generator</source>
+        <translation>Code Aztec</translation>
+    </message>
+    <message>
+        <source>Bars Swipe Transition</source>
+        <translation>Transition par bandes</translation>
+    </message>
+    <message>
+        <source>Bicubic Scale Transform</source>
+        <translation>Échelle bicubique</translation>
+    </message>
+    <message>
+        <source>Blend With Alpha Mask</source>
+        <translation>Fusion par masque alpha</translation>
+    </message>
+    <message>
+        <source>Blend With Blue Mask</source>
+        <translation>Fusion par masque bleu</translation>
+    </message>
+    <message>
+        <source>Blend With Mask</source>
+        <translation>Fusion par masque</translation>
+    </message>
+    <message>
+        <source>Blend With Red Mask</source>
+        <translation>Fusion par masque rouge</translation>
+    </message>
+    <message>
+        <source>Bloom</source>
+        <translation>Halo lumineux</translation>
+    </message>
+    <message>
+        <source>Blurred Rectangle Generator</source>
+        <translation>Rectangle flou</translation>
+    </message>
+    <message>
+        <source>Bokeh Blur</source>
+        <translation>Flou bokeh</translation>
+    </message>
+    <message>
+        <source>Box Blur</source>
+        <translation>Flou carré</translation>
+    </message>
+    <message>
+        <source>Bump Distortion</source>
+        <translation>Bosse</translation>
+    </message>
+    <message>
+        <source>Bump Distortion Linear</source>
+        <translation>Bosse linéaire</translation>
+    </message>
+    <message>
+        <source>CMYK Halftone</source>
+        <translation>Trame CMJN</translation>
+    </message>
+    <message>
+        <source>Canny Edge Detector</source>
+        <translation>Contours de Canny</translation>
+    </message>
+    <message>
+        <source>Checkerboard</source>
+        <translation>Damier</translation>
+    </message>
+    <message>
+        <source>Circle Splash Distortion</source>
+        <translation>Éclaboussure circulaire</translation>
+    </message>
+    <message>
+        <source>Circular Screen</source>
+        <translation>Trame circulaire</translation>
+    </message>
+    <message>
+        <source>Circular Wrap Distortion</source>
+        <translation>Enroulement circulaire</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Bords prolongés</translation>
+    </message>
+    <message>
+        <source>Code 128 Barcode Generator</source>
+        <translation>Code-barres Code 128</translation>
+    </message>
+    <message>
+        <source>Color Absolute Difference</source>
+        <translation>Écart de couleur absolu</translation>
+    </message>
+    <message>
+        <source>Color Blend Mode</source>
+        <translation>Mode de fusion Couleur</translation>
+    </message>
+    <message>
+        <source>Color Burn Blend Mode</source>
+        <translation>Mode de fusion Densité couleur +</translation>
+    </message>
+    <message>
+        <source>Color Clamp</source>
+        <translation>Couleurs bornées</translation>
+    </message>
+    <message>
+        <source>Color Controls</source>
+        <translation>Réglages de couleur</translation>
+    </message>
+    <message>
+        <source>Color Cross Polynomial</source>
+        <translation>Polynôme croisé</translation>
+    </message>
+    <message>
+        <source>Color Cube</source>
+        <translation>Cube de couleurs</translation>
+    </message>
+    <message>
+        <source>Color Cube with ColorSpace</source>
+        <translation>Cube, espace colorim.</translation>
+    </message>
+    <message>
+        <source>Color Cubes Mixed With Mask</source>
+        <translation>Cubes et masque</translation>
+    </message>
+    <message>
+        <source>Color Curves</source>
+        <translation>Courbes de couleur</translation>
+    </message>
+    <message>
+        <source>Color Dodge Blend Mode</source>
+        <translation>Mode de fusion Densité couleur −</translation>
+    </message>
+    <message>
+        <source>Color Invert</source>
+        <translation>Inversion des couleurs</translation>
+    </message>
+    <message>
+        <source>Color Map</source>
+        <translation>Carte de couleurs</translation>
+    </message>
+    <message>
+        <source>Color Matrix</source>
+        <translation>Matrice de couleurs</translation>
+    </message>
+    <message>
+        <source>Color Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Color Polynomial</source>
+        <translation>Polynôme de couleurs</translation>
+    </message>
+    <message>
+        <source>Color Posterize</source>
+        <translation>Postérisation</translation>
+    </message>
+    <message>
+        <source>Color Threshold</source>
+        <translation>Seuil de couleur</translation>
+    </message>
+    <message>
+        <source>Color Threshold Otsu</source>
+        <translation>Seuil de couleur d’Otsu</translation>
+    </message>
+    <message>
+        <source>Column Average</source>
+        <translation>Moyenne des colonnes</translation>
+    </message>
+    <message>
+        <source>Combined Keystone Correction</source>
+        <translation>Trapèze, deux sens</translation>
+    </message>
+    <message>
+        <source>Comic Effect</source>
+        <translation>Bande dessinée</translation>
+    </message>
+    <message>
+        <source>Constant Color</source>
+        <translation>Couleur unie</translation>
+    </message>
+    <message>
+        <source>Convert Lab to RGB</source>
+        <translation>De Lab en RVB</translation>
+    </message>
+    <message>
+        <source>Convert RGB to Lab</source>
+        <translation>De RVB en Lab</translation>
+    </message>
+    <message>
+        <source>Copy Machine</source>
+        <translation>Photocopieur</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrage</translation>
+    </message>
+    <message>
+        <source>Crystallize</source>
+        <translation>Cristallisation</translation>
+    </message>
+    <message>
+        <source>Darken Blend Mode</source>
+        <translation>Mode de fusion Obscurcir</translation>
+    </message>
+    <message>
+        <source>Depth To Disparity</source>
+        <translation>Profondeur en disparité</translation>
+    </message>
+    <message>
+        <source>Depth of Field</source>
+        <translation>Profondeur de champ</translation>
+    </message>
+    <message>
+        <source>Difference Blend Mode</source>
+        <translation>Mode de fusion Différence</translation>
+    </message>
+    <message>
+        <source>Disc Blur</source>
+        <translation>Flou en disque</translation>
+    </message>
+    <message>
+        <source>Disintegrate With Mask</source>
+        <translation>Désintégration par masque</translation>
+    </message>
+    <message>
+        <source>Disparity To Depth</source>
+        <translation>Disparité en profondeur</translation>
+    </message>
+    <message>
+        <source>Displacement Distortion</source>
+        <translation>Déplacement</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Fondu</translation>
+    </message>
+    <message>
+        <source>Distance Gradient From Red Mask</source>
+        <translation>Distance du masque rouge</translation>
+    </message>
+    <message>
+        <source>Dither</source>
+        <translation>Tramage</translation>
+    </message>
+    <message>
+        <source>Divide Blend Mode</source>
+        <translation>Mode de fusion Division</translation>
+    </message>
+    <message>
+        <source>Document Enhancer</source>
+        <translation>Document amélioré</translation>
+    </message>
+    <message>
+        <source>Dot Screen</source>
+        <translation>Trame de points</translation>
+    </message>
+    <message>
+        <source>Droste</source>
+        <translation>Effet Droste</translation>
+    </message>
+    <message>
+        <source>Edge Preserve Upsample Filter</source>
+        <translation>Agrandir, contours nets</translation>
+    </message>
+    <message>
+        <source>Edge Work</source>
+        <translation>Dessin des contours</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Contours</translation>
+    </message>
+    <message>
+        <source>Eightfold Reflected Tile</source>
+        <translation>Mosaïque, 8 reflets</translation>
+    </message>
+    <message>
+        <source>Exclusion Blend Mode</source>
+        <translation>Mode de fusion Exclusion</translation>
+    </message>
+    <message>
+        <source>Exposure Adjust</source>
+        <translation>Exposition</translation>
+    </message>
+    <message>
+        <source>False Color</source>
+        <translation>Fausses couleurs</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flash</translation>
+    </message>
+    <message>
+        <source>Fourfold Reflected Tile</source>
+        <translation>Mosaïque, 4 reflets</translation>
+    </message>
+    <message>
+        <source>Fourfold Rotated Tile</source>
+        <translation>Mosaïque, 4 rotations</translation>
+    </message>
+    <message>
+        <source>Fourfold Translated Tile</source>
+        <translation>Mosaïque, 4 translations</translation>
+    </message>
+    <message>
+        <source>Gabor Gradients</source>
+        <translation>Gradients de Gabor</translation>
+    </message>
+    <message>
+        <source>Gamma Adjust</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Gaussian Blur</source>
+        <translation>Flou gaussien</translation>
+    </message>
+    <message>
+        <source>Gaussian Gradient</source>
+        <translation>Dégradé gaussien</translation>
+    </message>
+    <message>
+        <source>Glass Distortion</source>
+        <translation>Verre</translation>
+    </message>
+    <message>
+        <source>Glass Lozenge</source>
+        <translation>Pastille de verre</translation>
+    </message>
+    <message>
+        <source>Glide Reflected Tile</source>
+        <translation>Mosaïque, reflets glissés</translation>
+    </message>
+    <message>
+        <source>Gloom</source>
+        <translation>Pénombre</translation>
+    </message>
+    <message>
+        <source>Guided Filter</source>
+        <translation>Filtre guidé</translation>
+    </message>
+    <message>
+        <source>Hard Light Blend Mode</source>
+        <translation>Mode de fusion Lumière crue</translation>
+    </message>
+    <message>
+        <source>Hatched Screen</source>
+        <translation>Trame hachurée</translation>
+    </message>
+    <message>
+        <source>Height Field From Mask</source>
+        <translation>Relief d’un masque</translation>
+    </message>
+    <message>
+        <source>Hexagonal Pixelate</source>
+        <translation>Pixels hexagonaux</translation>
+    </message>
+    <message>
+        <source>Highlight and Shadow Adjust</source>
+        <translation>Tons clairs et foncés</translation>
+    </message>
+    <message>
+        <source>Histogram Display</source>
+        <translation>Affichage de l’histogramme</translation>
+    </message>
+    <message>
+        <source>Hole Distortion</source>
+        <translation>Trou</translation>
+    </message>
+    <message>
+        <source>Horizontal 9 Convolution</source>
+        <translation>Convolution horiz. 9</translation>
+    </message>
+    <message>
+        <source>Horizontal 9 RGB Convolution</source>
+        <translation>Convolution RVB horiz. 9</translation>
+    </message>
+    <message>
+        <source>Horizontal Keystone Correction</source>
+        <translation>Trapèze horizontal</translation>
+    </message>
+    <message>
+        <source>Hue Adjust</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>Hue Blend Mode</source>
+        <translation>Mode de fusion Teinte</translation>
+    </message>
+    <message>
+        <source>Hue/Saturation/Value Gradient</source>
+        <translation>Dégradé TSV</translation>
+    </message>
+    <message>
+        <source>KMeans</source>
+        <translation>K-moyennes</translation>
+    </message>
+    <message>
+        <source>Kaleidoscope</source>
+        <translation>Kaléidoscope</translation>
+    </message>
+    <message>
+        <source>Lab ∆E</source>
+        <translation>∆E Lab</translation>
+    </message>
+    <message>
+        <source>Lanczos Scale Transform</source>
+        <translation>Échelle de Lanczos</translation>
+    </message>
+    <message>
+        <source>Lenticular Halo</source>
+        <translation>Halo lenticulaire</translation>
+    </message>
+    <message>
+        <source>Light Tunnel Distortion</source>
+        <translation>Tunnel de lumière</translation>
+    </message>
+    <message>
+        <source>Lighten Blend Mode</source>
+        <translation>Mode de fusion Éclaircir</translation>
+    </message>
+    <message>
+        <source>Line Overlay</source>
+        <translation>Dessin au trait</translation>
+    </message>
+    <message>
+        <source>Line Screen</source>
+        <translation>Trame de lignes</translation>
+    </message>
+    <message>
+        <source>Linear Burn Blend Mode</source>
+        <translation>Mode de fusion Densité linéaire +</translation>
+    </message>
+    <message>
+        <source>Linear Dodge Blend Mode</source>
+        <translation>Mode de fusion Densité linéaire −</translation>
+    </message>
+    <message>
+        <source>Linear Gradient</source>
+        <translation>Dégradé linéaire</translation>
+    </message>
+    <message>
+        <source>Linear Light Blend Mode</source>
+        <translation>Mode de fusion Lumière linéaire</translation>
+    </message>
+    <message>
+        <source>Linear to sRGB Tone Curve</source>
+        <translation>Courbe linéaire → sRVB</translation>
+    </message>
+    <message>
+        <source>Luminosity Blend Mode</source>
+        <translation>Mode de fusion Luminosité</translation>
+    </message>
+    <message>
+        <source>Mask to Alpha</source>
+        <translation>Masque en alpha</translation>
+    </message>
+    <message>
+        <source>Masked Variable Blur</source>
+        <translation>Flou variable masqué</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Maximum Component</source>
+        <translation>Composante maximale</translation>
+    </message>
+    <message>
+        <source>Maximum Scale Transform</source>
+        <translation>Échelle par maximum</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Médian</translation>
+    </message>
+    <message>
+        <source>Mesh Generator</source>
+        <translation>Maillage</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Minimum Component</source>
+        <translation>Composante minimale</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mélange</translation>
+    </message>
+    <message>
+        <source>Mod</source>
+        <translation>Transition à trous</translation>
+    </message>
+    <message>
+        <source>Morphology Gradient</source>
+        <translation>Gradient morphologique</translation>
+    </message>
+    <message>
+        <source>Morphology Maximum</source>
+        <translation>Maximum morphologique</translation>
+    </message>
+    <message>
+        <source>Morphology Minimum</source>
+        <translation>Minimum morphologique</translation>
+    </message>
+    <message>
+        <source>Morphology Rectangle Maximum</source>
+        <translation>Maximum rectangulaire</translation>
+    </message>
+    <message>
+        <source>Morphology Rectangle Minimum</source>
+        <translation>Minimum rectangulaire</translation>
+    </message>
+    <message>
+        <source>Motion Blur</source>
+        <translation>Flou de mouvement</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Multiplication</translation>
+    </message>
+    <message>
+        <source>Multiply Blend Mode</source>
+        <translation>Mode de fusion Produit</translation>
+    </message>
+    <message>
+        <source>Nine Part Stretched</source>
+        <translation>Neuf parties étirées</translation>
+    </message>
+    <message>
+        <source>Nine Part Tiled</source>
+        <translation>Neuf parties répétées</translation>
+    </message>
+    <message>
+        <source>Noise Reduction</source>
+        <translation>Réduction du bruit</translation>
+    </message>
+    <message>
+        <source>Op Tile</source>
+        <translation>Mosaïque Op Art</translation>
+    </message>
+    <message>
+        <source>Overlay Blend Mode</source>
+        <translation>Mode de fusion Incrustation</translation>
+    </message>
+    <message>
+        <source>PDF417 Barcode Generator</source>
+        <translation>Code-barres PDF417</translation>
+    </message>
+    <message>
+        <source>Page Curl</source>
+        <translation>Page tournée</translation>
+    </message>
+    <message>
+        <source>Page Curl With Shadow</source>
+        <translation>Page tournée avec ombre</translation>
+    </message>
+    <message>
+        <source>Palette Centroid</source>
+        <translation>Centroïde de palette</translation>
+    </message>
+    <message>
+        <source>Palettize</source>
+        <translation>Réduction à une palette</translation>
+    </message>
+    <message>
+        <source>Parallelogram Tile</source>
+        <translation>Parallélogrammes</translation>
+    </message>
+    <message>
+        <source>Perspective Correction</source>
+        <translation>Redresser la perspective</translation>
+    </message>
+    <message>
+        <source>Perspective Rotate</source>
+        <translation>Rotation en perspective</translation>
+    </message>
+    <message>
+        <source>Perspective Tile</source>
+        <translation>Mosaïque en perspective</translation>
+    </message>
+    <message>
+        <source>Perspective Transform</source>
+        <translation>Perspective</translation>
+    </message>
+    <message>
+        <source>Perspective Transform with Extent</source>
+        <translation>Perspective, étendue</translation>
+    </message>
+    <message>
+        <source>Photo Effect Chrome</source>
+        <translation>Photo chrome</translation>
+    </message>
+    <message>
+        <source>Photo Effect Fade</source>
+        <translation>Photo délavée</translation>
+    </message>
+    <message>
+        <source>Photo Effect Instant</source>
+        <translation>Photo instantanée</translation>
+    </message>
+    <message>
+        <source>Photo Effect Mono</source>
+        <translation>Photo mono</translation>
+    </message>
+    <message>
+        <source>Photo Effect Noir</source>
+        <translation>Photo film noir</translation>
+    </message>
+    <message>
+        <source>Photo Effect Process</source>
+        <translation>Photo développée</translation>
+    </message>
+    <message>
+        <source>Photo Effect Tonal</source>
+        <translation>Photo tonale</translation>
+    </message>
+    <message>
+        <source>Photo Effect Transfer</source>
+        <translation>Photo transfert</translation>
+    </message>
+    <message>
+        <source>Pin Light Blend Mode</source>
+        <translation>Mode de fusion Lumière ponctuelle</translation>
+    </message>
+    <message>
+        <source>Pinch Distortion</source>
+        <translation>Pincement</translation>
+    </message>
+    <message>
+        <source>Pixelate</source>
+        <translation>Pixelliser</translation>
+    </message>
+    <message>
+        <source>Pointillize</source>
+        <translation>Pointillisme</translation>
+    </message>
+    <message>
+        <source>QR Code Generator</source>
+        <translation>Code QR</translation>
+    </message>
+    <message>
+        <source>Radial Gradient</source>
+        <translation>Dégradé radial</translation>
+    </message>
+    <message>
+        <source>Random Generator</source>
+        <translation>Bruit aléatoire</translation>
+    </message>
+    <message>
+        <source>Ripple</source>
+        <translation>Ondulation</translation>
+    </message>
+    <message>
+        <source>Rounded Rectangle Generator</source>
+        <translation>Rectangle arrondi</translation>
+    </message>
+    <message>
+        <source>Rounded Rectangle Stroke Generator</source>
+        <translation>Cadre arrondi</translation>
+    </message>
+    <message>
+        <source>Row Average</source>
+        <translation>Moyenne des lignes</translation>
+    </message>
+    <message>
+        <source>Saliency Map Filter</source>
+        <translation>Carte de saillance</translation>
+    </message>
+    <message>
+        <source>Sample Nearest</source>
+        <translation>Pixel le plus proche</translation>
+    </message>
+    <message>
+        <source>Saturation Blend Mode</source>
+        <translation>Mode de fusion Saturation</translation>
+    </message>
+    <message>
+        <source>Screen Blend Mode</source>
+        <translation>Mode de fusion Superposition</translation>
+    </message>
+    <message>
+        <source>Sepia Tone</source>
+        <translation>Sépia</translation>
+    </message>
+    <message>
+        <source>Shaded Material</source>
+        <translation>Matière ombrée</translation>
+    </message>
+    <message>
+        <source>Sharpen Luminance</source>
+        <translation>Netteté de la luminance</translation>
+    </message>
+    <message>
+        <source>Sixfold Reflected Tile</source>
+        <translation>Mosaïque, 6 reflets</translation>
+    </message>
+    <message>
+        <source>Sixfold Rotated Tile</source>
+        <translation>Mosaïque, 6 rotations</translation>
+    </message>
+    <message>
+        <source>Smooth Linear Gradient</source>
+        <translation>Dégradé linéaire doux</translation>
+    </message>
+    <message>
+        <source>Sobel Gradients</source>
+        <translation>Gradients de Sobel</translation>
+    </message>
+    <message>
+        <source>Soft Light Blend Mode</source>
+        <translation>Mode de fusion Lumière tamisée</translation>
+    </message>
+    <message>
+        <source>Source Atop</source>
+        <translation>Source sur le fond</translation>
+    </message>
+    <message>
+        <source>Source In</source>
+        <translation>Source à l’intérieur</translation>
+    </message>
+    <message>
+        <source>Source Out</source>
+        <translation>Source à l’extérieur</translation>
+    </message>
+    <message>
+        <source>Source Over</source>
+        <translation>Source par-dessus</translation>
+    </message>
+    <message>
+        <source>Spot Color</source>
+        <translation>Tons directs</translation>
+    </message>
+    <message>
+        <source>Spot Light</source>
+        <translation>Projecteur</translation>
+    </message>
+    <message>
+        <source>Star Shine</source>
+        <translation>Éclat d’étoile</translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Redressement</translation>
+    </message>
+    <message>
+        <source>Stretch Crop</source>
+        <translation>Étirer et recadrer</translation>
+    </message>
+    <message>
+        <source>Stripes</source>
+        <translation>Rayures</translation>
+    </message>
+    <message>
+        <source>Subtract Blend Mode</source>
+        <translation>Mode de fusion Soustraction</translation>
+    </message>
+    <message>
+        <source>Sunbeams</source>
+        <translation>Rayons de soleil</translation>
+    </message>
+    <message>
+        <source>Swipe</source>
+        <translation>Balayage</translation>
+    </message>
+    <message>
+        <source>Temperature and Tint</source>
+        <translation>Température et teinte</translation>
+    </message>
+    <message>
+        <source>Text Image Generator</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Thermal</source>
+        <translation>Image thermique</translation>
+    </message>
+    <message>
+        <source>Tone Curve</source>
+        <translation>Courbe tonale</translation>
+    </message>
+    <message>
+        <source>Tone Map Headroom</source>
+        <translation>Plage tonale</translation>
+    </message>
+    <message>
+        <source>Torus Lens Distortion</source>
+        <translation>Lentille torique</translation>
+    </message>
+    <message>
+        <source>Triangle Kaleidoscope</source>
+        <translation>Kaléidoscope triangle</translation>
+    </message>
+    <message>
+        <source>Triangle Tile</source>
+        <translation>Mosaïque de triangles</translation>
+    </message>
+    <message>
+        <source>Twelvefold Reflected Tile</source>
+        <translation>Mosaïque, 12 reflets</translation>
+    </message>
+    <message>
+        <source>Twirl Distortion</source>
+        <translation>Tourbillon</translation>
+    </message>
+    <message>
+        <source>Unsharp Mask</source>
+        <translation>Masque flou</translation>
+    </message>
+    <message>
+        <source>Vertical 9 Convolution</source>
+        <translation>Convolution vert. 9</translation>
+    </message>
+    <message>
+        <source>Vertical 9 RGB Convolution</source>
+        <translation>Convolution RVB vert. 9</translation>
+    </message>
+    <message>
+        <source>Vertical Keystone Correction</source>
+        <translation>Trapèze vertical</translation>
+    </message>
+    <message>
+        <source>Vibrance</source>
+        <translation>Vibrance</translation>
+    </message>
+    <message>
+        <source>Vignette</source>
+        <translation>Vignettage</translation>
+    </message>
+    <message>
+        <source>Vignette Effect</source>
+        <translation>Effet de vignettage</translation>
+    </message>
+    <message>
+        <source>Vivid Light Blend Mode</source>
+        <translation>Mode de fusion Lumière vive</translation>
+    </message>
+    <message>
+        <source>Vortex Distortion</source>
+        <translation>Vortex</translation>
+    </message>
+    <message>
+        <source>White Point Adjust</source>
+        <translation>Point blanc</translation>
+    </message>
+    <message>
+        <source>X-Ray</source>
+        <translation>Rayons X</translation>
+    </message>
+    <message>
+        <source>Zoom Blur</source>
+        <translation>Flou de zoom</translation>
+    </message>
+    <message>
+        <source>sRGB Tone Curve to Linear</source>
+        <translation>Courbe sRVB → linéaire</translation>
+    </message>
+</context>
+<context>
+    <name>FilterView</name>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+</context>
+<context>
+    <name>HelpPage</name>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>A page of the help book; links lead to the others</source>
+        <translation>Une page du livre d’aide ; les liens mènent aux autres</translation>
+    </message>
+</context>
+<context>
+    <name>HelpWindow</name>
+    <message>
+        <source>Back</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Lumivex Help</source>
+        <translation>Aide de Lumivex</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Sommaire</translation>
+    </message>
+    <message>
+        <source>The pages of the help book</source>
+        <translation>Les pages du livre d’aide</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramView</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramme</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>Il n’y a pas d’image.</translation>
+    </message>
+    <message>
+        <source>Mean brightness %1 %, black %2 %, white %3 %</source>
+        <translation>Luminosité moyenne %1 %, noir %2 %, blanc %3 %</translation>
+    </message>
+    <message>
+        <source>How often each brightness is seen, from black to white.
+%1</source>
+        <translation>La fréquence de chaque luminosité, du noir au blanc.
+%1</translation>
+    </message>
+    <message>
+        <source>Luma</source>
+        <translation>Luminance</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+</context>
+<context>
+    <name>ImageInfo</name>
+    <message>
+        <source>Image Information</source>
+        <translation>Informations sur l’image</translation>
+    </message>
+    <message>
+        <source>File:</source>
+        <translation>Fichier :</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>s.o.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Where the picture&apos;s file is</source>
+        <translation>L’emplacement du fichier de l’image</translation>
+    </message>
+    <message>
+        <source>Type:</source>
+        <translation>Type :</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>What the file&apos;s content is, whatever its name says</source>
+        <translation>Ce que contient le fichier, quel que soit son nom</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Of the file on the disk</source>
+        <translation>Du fichier sur le disque</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>All that the file says about its picture</source>
+        <translation>Tout ce que le fichier dit de son image</translation>
+    </message>
+    <message>
+        <source>Property</source>
+        <translation>Propriété</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>PNG Image</source>
+        <translation>Image PNG</translation>
+    </message>
+    <message>
+        <source>GIF Image</source>
+        <translation>Image GIF</translation>
+    </message>
+    <message>
+        <source>JPG Image</source>
+        <translation>Image JPG</translation>
+    </message>
+    <message>
+        <source>WebP Image</source>
+        <translation>Image WebP</translation>
+    </message>
+    <message>
+        <source>TIFF Image</source>
+        <translation>Image TIFF</translation>
+    </message>
+    <message>
+        <source>BMP Image</source>
+        <translation>Image BMP</translation>
+    </message>
+    <message>
+        <source>SVG Image</source>
+        <translation>Image SVG</translation>
+    </message>
+    <message>
+        <source>RAW Image</source>
+        <translation>Image RAW</translation>
+    </message>
+    <message>
+        <source>PDF Image</source>
+        <translation>Image PDF</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+</context>
+<context>
+    <name>Input</name>
+    <message>
+        <source>A Vector</source>
+        <translation>Vecteur A</translation>
+    </message>
+    <message>
+        <source>A larger image to use as a guide.</source>
+        <translation>Image guide</translation>
+    </message>
+    <message>
+        <source>Acute Angle</source>
+        <translation>Angle aigu</translation>
+    </message>
+    <message>
+        <source>Alpha Coefficients</source>
+        <translation>Alpha</translation>
+    </message>
+    <message>
+        <source>Alpha Vector</source>
+        <translation>Vecteur alpha</translation>
+    </message>
+    <message>
+        <source>Always Specify Compaction</source>
+        <translation>Indiquer la forme</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Quantité</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Aspect Ratio</source>
+        <translation>Rapport l/h</translation>
+    </message>
+    <message>
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>B Vector</source>
+        <translation>Vecteur B</translation>
+    </message>
+    <message>
+        <source>Background Image</source>
+        <translation>Image de fond</translation>
+    </message>
+    <message>
+        <source>Backside Image</source>
+        <translation>Verso</translation>
+    </message>
+    <message>
+        <source>Bar Offset</source>
+        <translation>Décalage</translation>
+    </message>
+    <message>
+        <source>Barcode Height</source>
+        <translation>Hauteur code</translation>
+    </message>
+    <message>
+        <source>Bias</source>
+        <translation>Biais</translation>
+    </message>
+    <message>
+        <source>Bias Vector</source>
+        <translation>Biais</translation>
+    </message>
+    <message>
+        <source>Blue Coefficients</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Blue Vector</source>
+        <translation>Vecteur bleu</translation>
+    </message>
+    <message>
+        <source>Bottom Height</source>
+        <translation>Hauteur bas</translation>
+    </message>
+    <message>
+        <source>Bottom Left</source>
+        <translation>En bas à gauche</translation>
+    </message>
+    <message>
+        <source>Bottom Right</source>
+        <translation>En bas à droite</translation>
+    </message>
+    <message>
+        <source>Breakpoint 0</source>
+        <translation>Inflexion 0</translation>
+    </message>
+    <message>
+        <source>Breakpoint 1</source>
+        <translation>Inflexion 1</translation>
+    </message>
+    <message>
+        <source>Breakpoint0</source>
+        <translation>Inflexion 0</translation>
+    </message>
+    <message>
+        <source>Breakpoint1</source>
+        <translation>Inflexion 1</translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation>Luminosité</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centre</translation>
+    </message>
+    <message>
+        <source>Center Color 1</source>
+        <translation>Centre 1</translation>
+    </message>
+    <message>
+        <source>Center Color 2</source>
+        <translation>Centre 2</translation>
+    </message>
+    <message>
+        <source>Center Color 3</source>
+        <translation>Centre 3</translation>
+    </message>
+    <message>
+        <source>Center Stretch Amount</source>
+        <translation>Étirement</translation>
+    </message>
+    <message>
+        <source>Closeness 1</source>
+        <translation>Proximité 1</translation>
+    </message>
+    <message>
+        <source>Closeness 2</source>
+        <translation>Proximité 2</translation>
+    </message>
+    <message>
+        <source>Closeness 3</source>
+        <translation>Proximité 3</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Color 0</source>
+        <translation>Couleur 0</translation>
+    </message>
+    <message>
+        <source>Color 1</source>
+        <translation>Couleur 1</translation>
+    </message>
+    <message>
+        <source>Color 2</source>
+        <translation>Couleur 2</translation>
+    </message>
+    <message>
+        <source>Color Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Compact Style</source>
+        <translation>Forme compacte</translation>
+    </message>
+    <message>
+        <source>Compaction Mode</source>
+        <translation>Compactage</translation>
+    </message>
+    <message>
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message>
+        <source>Concentration</source>
+        <translation>Concentration</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation>Contraste</translation>
+    </message>
+    <message>
+        <source>Contrast 1</source>
+        <translation>Contraste 1</translation>
+    </message>
+    <message>
+        <source>Contrast 2</source>
+        <translation>Contraste 2</translation>
+    </message>
+    <message>
+        <source>Contrast 3</source>
+        <translation>Contraste 3</translation>
+    </message>
+    <message>
+        <source>Correction Level</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>Crop Amount</source>
+        <translation>Recadrage</translation>
+    </message>
+    <message>
+        <source>Cross Angle</source>
+        <translation>Angle croix</translation>
+    </message>
+    <message>
+        <source>Cross Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Cross Scale</source>
+        <translation>Taille croix</translation>
+    </message>
+    <message>
+        <source>Cross Width</source>
+        <translation>Largeur croix</translation>
+    </message>
+    <message>
+        <source>Cube 0 Data</source>
+        <translation>Données du cube 0</translation>
+    </message>
+    <message>
+        <source>Cube 1 Data</source>
+        <translation>Données du cube 1</translation>
+    </message>
+    <message>
+        <source>Cube Data</source>
+        <translation>Données du cube</translation>
+    </message>
+    <message>
+        <source>Cube Dimension</source>
+        <translation>Taille cube</translation>
+    </message>
+    <message>
+        <source>Curves Data</source>
+        <translation>Données des courbes</translation>
+    </message>
+    <message>
+        <source>Curves Domain</source>
+        <translation>Domaine des courbes</translation>
+    </message>
+    <message>
+        <source>Data Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Decay</source>
+        <translation>Décroissance</translation>
+    </message>
+    <message>
+        <source>Displacement Image</source>
+        <translation>Déplacement</translation>
+    </message>
+    <message>
+        <source>Dither</source>
+        <translation>Tramage</translation>
+    </message>
+    <message>
+        <source>E V</source>
+        <translation>Valeur EV</translation>
+    </message>
+    <message>
+        <source>EV</source>
+        <translation>Valeur EV</translation>
+    </message>
+    <message>
+        <source>Edge Intensity</source>
+        <translation>Contours</translation>
+    </message>
+    <message>
+        <source>Epsilon</source>
+        <translation>Epsilon</translation>
+    </message>
+    <message>
+        <source>Extent</source>
+        <translation>Étendue</translation>
+    </message>
+    <message>
+        <source>Extrapolate</source>
+        <translation>Extrapoler</translation>
+    </message>
+    <message>
+        <source>Fade Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Falloff</source>
+        <translation>Atténuation</translation>
+    </message>
+    <message>
+        <source>Flip Y Tiles</source>
+        <translation>Retourner en Y</translation>
+    </message>
+    <message>
+        <source>Focal Length</source>
+        <translation>Focale</translation>
+    </message>
+    <message>
+        <source>Fold Shadow Amount</source>
+        <translation>Ombre plis</translation>
+    </message>
+    <message>
+        <source>Font Name</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Corps</translation>
+    </message>
+    <message>
+        <source>G C R</source>
+        <translation>GCR</translation>
+    </message>
+    <message>
+        <source>G Vector</source>
+        <translation>Vecteur V</translation>
+    </message>
+    <message>
+        <source>Gaussian Sigma</source>
+        <translation>Sigma gauss.</translation>
+    </message>
+    <message>
+        <source>Gradient Image</source>
+        <translation>Dégradé</translation>
+    </message>
+    <message>
+        <source>Gray Component Replacement</source>
+        <translation>Gris (GCR)</translation>
+    </message>
+    <message>
+        <source>Green Coefficients</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Green Vector</source>
+        <translation>Vecteur vert</translation>
+    </message>
+    <message>
+        <source>Grow Amount</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>Guide Image</source>
+        <translation>Image guide</translation>
+    </message>
+    <message>
+        <source>Halo Overlap</source>
+        <translation>Recouvrement</translation>
+    </message>
+    <message>
+        <source>Halo Radius</source>
+        <translation>Rayon du halo</translation>
+    </message>
+    <message>
+        <source>Halo Width</source>
+        <translation>Largeur halo</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>High Limit</source>
+        <translation>Limite haute</translation>
+    </message>
+    <message>
+        <source>Highlight Amount</source>
+        <translation>Tons clairs</translation>
+    </message>
+    <message>
+        <source>Hysteresis Passes</source>
+        <translation>Hystérésis</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Image 2</source>
+        <translation>Image 2</translation>
+    </message>
+    <message>
+        <source>Image2</source>
+        <translation>Image 2</translation>
+    </message>
+    <message>
+        <source>Inset Point 0</source>
+        <translation>Point intérieur 0</translation>
+    </message>
+    <message>
+        <source>Inset Point 1</source>
+        <translation>Point intérieur 1</translation>
+    </message>
+    <message>
+        <source>Intensity</source>
+        <translation>Intensité</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Couches</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Niveaux</translation>
+    </message>
+    <message>
+        <source>Light Points At</source>
+        <translation>Cible lumière</translation>
+    </message>
+    <message>
+        <source>Light Position</source>
+        <translation>Lumière</translation>
+    </message>
+    <message>
+        <source>Low Limit</source>
+        <translation>Limite basse</translation>
+    </message>
+    <message>
+        <source>Luma Sigma</source>
+        <translation>Sigma luma</translation>
+    </message>
+    <message>
+        <source>Mask</source>
+        <translation>Masque</translation>
+    </message>
+    <message>
+        <source>Mask Image</source>
+        <translation>Masque</translation>
+    </message>
+    <message>
+        <source>Max Components</source>
+        <translation>Maximums</translation>
+    </message>
+    <message>
+        <source>Max Height</source>
+        <translation>Hauteur max.</translation>
+    </message>
+    <message>
+        <source>Max Striation Radius</source>
+        <translation>Rayon stries</translation>
+    </message>
+    <message>
+        <source>Max Width</source>
+        <translation>Largeur max.</translation>
+    </message>
+    <message>
+        <source>Maximum Distance</source>
+        <translation>Distance max.</translation>
+    </message>
+    <message>
+        <source>Maximum Stop</source>
+        <translation>Diaph. max.</translation>
+    </message>
+    <message>
+        <source>Maximum Striation Radius</source>
+        <translation>Rayon stries</translation>
+    </message>
+    <message>
+        <source>Means</source>
+        <translation>Moyennes</translation>
+    </message>
+    <message>
+        <source>Mesh</source>
+        <translation>Maillage</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Min Components</source>
+        <translation>Minimums</translation>
+    </message>
+    <message>
+        <source>Min Height</source>
+        <translation>Hauteur min.</translation>
+    </message>
+    <message>
+        <source>Min Width</source>
+        <translation>Largeur min.</translation>
+    </message>
+    <message>
+        <source>Minimum Stop</source>
+        <translation>Diaph. min.</translation>
+    </message>
+    <message>
+        <source>N R Noise Level</source>
+        <translation>Bruit</translation>
+    </message>
+    <message>
+        <source>N R Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>NR Noise Level</source>
+        <translation>Bruit</translation>
+    </message>
+    <message>
+        <source>NR Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutre</translation>
+    </message>
+    <message>
+        <source>Noise Level</source>
+        <translation>Bruit</translation>
+    </message>
+    <message>
+        <source>Normalize</source>
+        <translation>Normaliser</translation>
+    </message>
+    <message>
+        <source>Number Of Folds</source>
+        <translation>Plis</translation>
+    </message>
+    <message>
+        <source>Number of Folds</source>
+        <translation>Plis</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Opacité</translation>
+    </message>
+    <message>
+        <source>Padding</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Palette Image</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Passes</source>
+        <translation>Passes</translation>
+    </message>
+    <message>
+        <source>Perceptual</source>
+        <translation>Perceptif</translation>
+    </message>
+    <message>
+        <source>Periodicity</source>
+        <translation>Périodicité</translation>
+    </message>
+    <message>
+        <source>Pitch</source>
+        <translation>Tangage</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Point 0</source>
+        <translation>Point 0</translation>
+    </message>
+    <message>
+        <source>Point 1</source>
+        <translation>Point 1</translation>
+    </message>
+    <message>
+        <source>Point 2</source>
+        <translation>Point 2</translation>
+    </message>
+    <message>
+        <source>Point 3</source>
+        <translation>Point 3</translation>
+    </message>
+    <message>
+        <source>Point 4</source>
+        <translation>Point 4</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <source>Preferred Aspect Ratio</source>
+        <translation>Rapport l/h</translation>
+    </message>
+    <message>
+        <source>Quiet Space</source>
+        <translation>Marge claire</translation>
+    </message>
+    <message>
+        <source>R Vector</source>
+        <translation>Vecteur R</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Rayon</translation>
+    </message>
+    <message>
+        <source>Radius 0</source>
+        <translation>Rayon 0</translation>
+    </message>
+    <message>
+        <source>Radius 1</source>
+        <translation>Rayon 1</translation>
+    </message>
+    <message>
+        <source>Radius 2</source>
+        <translation>Rayon 2</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Red Coefficients</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Red Vector</source>
+        <translation>Vecteur rouge</translation>
+    </message>
+    <message>
+        <source>Refraction</source>
+        <translation>Réfraction</translation>
+    </message>
+    <message>
+        <source>Replacement Color 1</source>
+        <translation>Substitut 1</translation>
+    </message>
+    <message>
+        <source>Replacement Color 2</source>
+        <translation>Substitut 2</translation>
+    </message>
+    <message>
+        <source>Replacement Color 3</source>
+        <translation>Substitut 3</translation>
+    </message>
+    <message>
+        <source>Ring Amount</source>
+        <translation>Force anneau</translation>
+    </message>
+    <message>
+        <source>Ring Size</source>
+        <translation>Taille anneau</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Roulis</translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation>Rotation</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Lignes</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Saturation</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Scale Factor</source>
+        <translation>Facteur</translation>
+    </message>
+    <message>
+        <source>Shading Image</source>
+        <translation>Ombrage</translation>
+    </message>
+    <message>
+        <source>Shadow Amount</source>
+        <translation>Ombres</translation>
+    </message>
+    <message>
+        <source>Shadow Density</source>
+        <translation>Densité ombre</translation>
+    </message>
+    <message>
+        <source>Shadow Extent</source>
+        <translation>Étendue ombre</translation>
+    </message>
+    <message>
+        <source>Shadow Offset</source>
+        <translation>Décal. ombre</translation>
+    </message>
+    <message>
+        <source>Shadow Radius</source>
+        <translation>Rayon ombre</translation>
+    </message>
+    <message>
+        <source>Shadow Size</source>
+        <translation>Taille ombre</translation>
+    </message>
+    <message>
+        <source>Sharpness</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>Small Image</source>
+        <translation>Petite image</translation>
+    </message>
+    <message>
+        <source>Softness</source>
+        <translation>Douceur</translation>
+    </message>
+    <message>
+        <source>Source Headroom</source>
+        <translation>Plage source</translation>
+    </message>
+    <message>
+        <source>Spatial Sigma</source>
+        <translation>Sigma spatial</translation>
+    </message>
+    <message>
+        <source>Strands</source>
+        <translation>Brins</translation>
+    </message>
+    <message>
+        <source>Striation Contrast</source>
+        <translation>Contr. stries</translation>
+    </message>
+    <message>
+        <source>Striation Strength</source>
+        <translation>Force stries</translation>
+    </message>
+    <message>
+        <source>Sun Radius</source>
+        <translation>Rayon soleil</translation>
+    </message>
+    <message>
+        <source>Target Headroom</source>
+        <translation>Plage cible</translation>
+    </message>
+    <message>
+        <source>Target Image</source>
+        <translation>Image cible</translation>
+    </message>
+    <message>
+        <source>Target Neutral</source>
+        <translation>Neutre cible</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Texture</source>
+        <translation>Texture</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Threshold High</source>
+        <translation>Seuil haut</translation>
+    </message>
+    <message>
+        <source>Threshold Low</source>
+        <translation>Seuil bas</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Temps</translation>
+    </message>
+    <message>
+        <source>Top Left</source>
+        <translation>En haut à gauche</translation>
+    </message>
+    <message>
+        <source>Top Right</source>
+        <translation>En haut à droite</translation>
+    </message>
+    <message>
+        <source>Transform</source>
+        <translation>Transformation</translation>
+    </message>
+    <message>
+        <source>U C R</source>
+        <translation>UCR</translation>
+    </message>
+    <message>
+        <source>Under Color Removal</source>
+        <translation>Couleur (UCR)</translation>
+    </message>
+    <message>
+        <source>Unsharp Mask Intensity</source>
+        <translation>Masque flou</translation>
+    </message>
+    <message>
+        <source>Unsharp Mask Radius</source>
+        <translation>Rayon du flou</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Weights</source>
+        <translation>Poids</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Yaw</source>
+        <translation>Lacet</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Lumivex</source>
+        <translation>Lumivex</translation>
+    </message>
+    <message>
+        <source>Filters from the catalogue</source>
+        <translation>Filtres du catalogue</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Effects in space</source>
+        <translation>Effets dans l’espace</translation>
+    </message>
+    <message>
+        <source>3D</source>
+        <translation>3D</translation>
+    </message>
+    <message>
+        <source>Generated effects</source>
+        <translation>Effets générés</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Créations</translation>
+    </message>
+    <message>
+        <source>Open a picture</source>
+        <translation>Ouvrir une image</translation>
+    </message>
+    <message>
+        <source>Save the picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Turn left</source>
+        <translation>Tourner à gauche</translation>
+    </message>
+    <message>
+        <source>Turn right</source>
+        <translation>Tourner à droite</translation>
+    </message>
+    <message>
+        <source>Exchange left and right</source>
+        <translation>Échanger la gauche et la droite</translation>
+    </message>
+    <message>
+        <source>Turn upside down</source>
+        <translation>Échanger le haut et le bas</translation>
+    </message>
+    <message>
+        <source>Change the size of the picture</source>
+        <translation>Changer la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Information about the file</source>
+        <translation>Informations sur le fichier</translation>
+    </message>
+    <message>
+        <source>Copy the result</source>
+        <translation>Copier le résultat</translation>
+    </message>
+    <message>
+        <source>Paste a picture</source>
+        <translation>Coller une image</translation>
+    </message>
+    <message>
+        <source>Make the result the picture</source>
+        <translation>Faire du résultat l’image</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Search filters</source>
+        <translation>Rechercher un filtre</translation>
+    </message>
+    <message>
+        <source>Shows the filters whose name holds what you type. Return takes the first one.</source>
+        <translation>Montre les filtres dont le nom contient le texte saisi. Entrée prend le premier.</translation>
+    </message>
+    <message>
+        <source>Filters</source>
+        <translation>Filtres</translation>
+    </message>
+    <message>
+        <source>3D effects</source>
+        <translation>Effets 3D</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>No favourites yet</source>
+        <translation>Aucun favori pour l’instant</translation>
+    </message>
+    <message>
+        <source>Add to the favourites</source>
+        <translation>Ajouter aux favoris</translation>
+    </message>
+    <message>
+        <source>Picture area</source>
+        <translation>Zone de l’image</translation>
+    </message>
+    <message>
+        <source>Choose a filter from the list to see what it makes of the picture.</source>
+        <translation>Choisissez un filtre dans la liste pour voir ce qu’il fait de l’image.</translation>
+    </message>
+    <message>
+        <source>Parameters</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>Hold to see the picture without the filter (F7)</source>
+        <translation>Maintenir pour voir l’image sans le filtre (F7)</translation>
+    </message>
+    <message>
+        <source>Hold to see the picture without the filter</source>
+        <translation>Maintenir pour voir l’image sans le filtre</translation>
+    </message>
+    <message>
+        <source>Compare side by side, with a divider on the picture</source>
+        <translation>Comparer côte à côte, avec un séparateur sur l’image</translation>
+    </message>
+    <message>
+        <source>Split view</source>
+        <translation>Vue partagée</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Fit the picture into the window</source>
+        <translation>Ajuster l’image à la fenêtre</translation>
+    </message>
+    <message>
+        <source>Show the picture at actual size</source>
+        <translation>Afficher l’image en taille réelle</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un fichier &amp;récent</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Image</source>
+        <translation>&amp;Image</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Mode</translation>
+    </message>
+    <message>
+        <source>F&amp;avourites</source>
+        <translation>Fa&amp;voris</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Affi&amp;chage</translation>
+    </message>
+    <message>
+        <source>A&amp;ppearance</source>
+        <translation>Appare&amp;nce</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Opens a picture file</source>
+        <translation>Ouvre un fichier d’image</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Saves the result to the picture&apos;s file</source>
+        <translation>Enregistre le résultat dans le fichier de l’image</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Saves the result under another name or in another format</source>
+        <translation>Enregistre le résultat sous un autre nom ou dans un autre format</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Puts the result on the clipboard</source>
+        <translation>Place le résultat dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Rotation à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Turns the picture counter-clockwise</source>
+        <translation>Tourne l’image dans le sens inverse des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Rotation à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Turns the picture clockwise</source>
+        <translation>Tourne l’image dans le sens des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Horizontal</source>
+        <translation>Retourner &amp;horizontalement</translation>
+    </message>
+    <message>
+        <source>Exchanges left and right</source>
+        <translation>Échange la gauche et la droite</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Vertical</source>
+        <translation>Retourner &amp;verticalement</translation>
+    </message>
+    <message>
+        <source>Exchanges top and bottom</source>
+        <translation>Échange le haut et le bas</translation>
+    </message>
+    <message>
+        <source>Resize &amp;Image ...</source>
+        <translation>Redimensionner l’&amp;image…</translation>
+    </message>
+    <message>
+        <source>Changes the size of the picture</source>
+        <translation>Change la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Image &amp;Information ...</source>
+        <translation>&amp;Informations sur l’image…</translation>
+    </message>
+    <message>
+        <source>Shows what the picture&apos;s file says about itself</source>
+        <translation>Montre ce que le fichier dit de lui-même</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Quitte le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>Annule la dernière modification</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation>Refait la modification</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Replaces the picture with the one on the clipboard</source>
+        <translation>Remplace l’image par celle du presse-papiers</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All Inputs</source>
+        <translation>Réinitialiser &amp;tous les réglages</translation>
+    </message>
+    <message>
+        <source>Gives the filter the values that it has when it is chosen</source>
+        <translation>Redonne au filtre ses valeurs de départ</translation>
+    </message>
+    <message>
+        <source>Rando&amp;mize Inputs</source>
+        <translation>Réglages au &amp;hasard</translation>
+    </message>
+    <message>
+        <source>Tries other values, all by chance</source>
+        <translation>Essaie d’autres valeurs, toutes au hasard</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Appliquer</translation>
+    </message>
+    <message>
+        <source>Makes the result the picture</source>
+        <translation>Fait du résultat l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Effect</source>
+        <translation>&amp;Effacer l’effet</translation>
+    </message>
+    <message>
+        <source>Drops the current filter or effect</source>
+        <translation>Abandonne le filtre ou l’effet actuel</translation>
+    </message>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Standard</translation>
+    </message>
+    <message>
+        <source>&amp;3D</source>
+        <translation>&amp;3D</translation>
+    </message>
+    <message>
+        <source>&amp;Custom</source>
+        <translation>&amp;Créations</translation>
+    </message>
+    <message>
+        <source>&amp;Add to the Favourites</source>
+        <translation>A&amp;jouter aux favoris</translation>
+    </message>
+    <message>
+        <source>Remembers the current effect with its settings</source>
+        <translation>Retient l’effet actuel avec ses réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the Favourites</source>
+        <translation>&amp;Retirer des favoris</translation>
+    </message>
+    <message>
+        <source>Forgets the favourite that is switched on</source>
+        <translation>Oublie le favori activé</translation>
+    </message>
+    <message>
+        <source>&amp;Find Filter</source>
+        <translation>Chercher un &amp;filtre</translation>
+    </message>
+    <message>
+        <source>Goes to the search field of the catalogue</source>
+        <translation>Va au champ de recherche du catalogue</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Zoom &amp;avant</translation>
+    </message>
+    <message>
+        <source>Shows the picture larger</source>
+        <translation>Affiche l’image en plus grand</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>Shows the picture smaller</source>
+        <translation>Affiche l’image en plus petit</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>&amp;Taille réelle</translation>
+    </message>
+    <message>
+        <source>Shows each pixel of the picture as one point</source>
+        <translation>Affiche chaque pixel de l’image comme un point</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>Ajuster à la &amp;fenêtre</translation>
+    </message>
+    <message>
+        <source>Shows the whole picture</source>
+        <translation>Affiche l’image entière</translation>
+    </message>
+    <message>
+        <source>&amp;Split View</source>
+        <translation>Vue &amp;partagée</translation>
+    </message>
+    <message>
+        <source>Shows the picture without the filter beside the result</source>
+        <translation>Affiche l’image sans le filtre à côté du résultat</translation>
+    </message>
+    <message>
+        <source>&amp;As the Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Clair ou sombre comme le bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>Draws the program light</source>
+        <translation>Affiche le programme en clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>Draws the program dark</source>
+        <translation>Affiche le programme en sombre</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>Pl&amp;ein écran</translation>
+    </message>
+    <message>
+        <source>Gives the window the whole screen</source>
+        <translation>Donne tout l’écran à la fenêtre</translation>
+    </message>
+    <message>
+        <source>Lumivex &amp;Help</source>
+        <translation>&amp;Aide de Lumivex</translation>
+    </message>
+    <message>
+        <source>Opens the help</source>
+        <translation>Ouvre l’aide</translation>
+    </message>
+    <message>
+        <source>&amp;About Lumivex</source>
+        <translation>À &amp;propos de Lumivex</translation>
+    </message>
+    <message>
+        <source>Says which version this is</source>
+        <translation>Indique la version du programme</translation>
+    </message>
+    <message>
+        <source>Zoom; double-click for actual size, or the whole picture</source>
+        <translation>Zoom ; double-clic pour la taille réelle ou l’image entière</translation>
+    </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation>Histori&amp;que</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>&amp;Histogramme</translation>
+    </message>
+    <message>
+        <source>Shows how often each brightness is seen in the result</source>
+        <translation>Montre la fréquence de chaque luminosité dans le résultat</translation>
+    </message>
+    <message>
+        <source>Filter &amp;Thumbnails</source>
+        <translation>Aperç&amp;us des filtres</translation>
+    </message>
+    <message>
+        <source>Shows in the list what each filter makes of the picture</source>
+        <translation>Montre dans la liste ce que chaque filtre fait de l’image</translation>
+    </message>
+</context>
+<context>
+    <name>MyImageView</name>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms.</source>
+        <translation>Tab va d’un point du filtre à l’autre, les touches fléchées déplacent le point ; la molette zoome.</translation>
+    </message>
+    <message>
+        <source>The picture as the filter shows it. Drag the points of the filter, zoom with the wheel, move the picture with the middle button or the space bar held.</source>
+        <translation>L’image telle que le filtre la montre. Faites glisser les points du filtre, zoomez avec la molette, déplacez l’image avec le bouton central ou en maintenant la barre d’espace.</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>MyOGLView</name>
+    <message>
+        <source>3D picture</source>
+        <translation>Image 3D</translation>
+    </message>
+    <message>
+        <source>Drag to turn. The arrow keys turn it as well.</source>
+        <translation>Faites glisser pour tourner. Les touches fléchées tournent aussi.</translation>
+    </message>
+    <message>
+        <source>Nothing is to be seen from this side. Drag to turn it.</source>
+        <translation>On ne voit rien de ce côté. Faites glisser pour tourner.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectEffect</name>
+    <message>
+        <source>Object type:</source>
+        <translation>Type d’objet :</translation>
+    </message>
+    <message>
+        <source>The body that wears the picture</source>
+        <translation>Le solide qui porte l’image</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Sphère</translation>
+    </message>
+    <message>
+        <source>Cylinder</source>
+        <translation>Cylindre</translation>
+    </message>
+    <message>
+        <source>Torus</source>
+        <translation>Tore</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>Cube</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Cône</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>Pyramide</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Change to Object Type</source>
+        <translation>Changer le type d’objet</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterText</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+</context>
+<context>
+    <name>ParameterView</name>
+    <message>
+        <source>%1
+A double click brings the standard value back</source>
+        <translation>%1
+Un double-clic rétablit la valeur par défaut</translation>
+    </message>
+    <message>
+        <source>%1: type a number</source>
+        <translation>%1 : saisissez un nombre</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Réinitialiser : %1</translation>
+    </message>
+    <message>
+        <source>%1: %2 to %3%4</source>
+        <comment>name, smallest and largest value, unit</comment>
+        <translation>%1 : de %2 à %3%4</translation>
+    </message>
+    <message>
+        <source>%1: choose a color and how opaque it is</source>
+        <translation>%1 : choisissez une couleur et son opacité</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>parameter and X, Y, Z or W</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>Échelle</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Étirement</translation>
+    </message>
+    <message>
+        <source>Skew</source>
+        <translation>Inclinaison</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>parameter and its part, as in Transform Angle</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Choose %1</source>
+        <translation>Choisir : %1</translation>
+    </message>
+    <message>
+        <source>Opens a picture file for %1</source>
+        <translation>Ouvre un fichier d’image pour « %1 »</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Image</translation>
+    </message>
+</context>
+<context>
+    <name>PictureMessage</name>
+    <message>
+        <source>There is no file %1.</source>
+        <translation>Le fichier %1 n’existe pas.</translation>
+    </message>
+    <message>
+        <source>%1 is a folder, not a picture.</source>
+        <translation>%1 est un dossier, pas une image.</translation>
+    </message>
+    <message>
+        <source>%1 is not an ordinary file.</source>
+        <translation>%1 n’est pas un fichier ordinaire.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read: %2.</source>
+        <translation>%1 ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read.</source>
+        <translation>%1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>%1 is empty.</source>
+        <translation>%1 ne contient rien.</translation>
+    </message>
+    <message>
+        <source>%1 is not a picture of a kind that can be opened.</source>
+        <translation>%1 n’est pas une image d’un genre que l’on peut ouvrir.</translation>
+    </message>
+    <message>
+        <source>%1 is damaged or incomplete, so it can&apos;t be opened.</source>
+        <translation>Impossible d’ouvrir %1 : les données sont abîmées ou incomplètes.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be opened: %2 × %3 pixels.</source>
+        <translation>Impossible d’ouvrir %1, de trop grande taille : %2 × %3 pixels.</translation>
+    </message>
+    <message>
+        <source>%1 is too large to be opened.</source>
+        <translation>Impossible d’ouvrir %1, de trop grande taille.</translation>
+    </message>
+    <message>
+        <source>%1 has a kind of pixel that can&apos;t be shown.</source>
+        <translation>%1 a un genre de pixels qui ne peut être affiché.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be opened.</source>
+        <translation>%1 ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>Opening %1 took too long.</source>
+        <translation>%1 : l’ouverture a pris trop de temps.</translation>
+    </message>
+    <message>
+        <source>Opening %1 was given up.</source>
+        <translation>%1 : l’ouverture a été abandonnée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open %1.</source>
+        <translation>Mémoire insuffisante pour ouvrir %1.</translation>
+    </message>
+    <message>
+        <source>There is no picture to write.</source>
+        <translation>Il n’y a pas d’image à écrire.</translation>
+    </message>
+    <message>
+        <source>The picture was not written.</source>
+        <translation>L’image n’a pas été écrite.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written: %2.</source>
+        <translation>%1 ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be written.</source>
+        <translation>%1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The picture</source>
+        <translation>L’image</translation>
+    </message>
+    <message>
+        <source>“%1”</source>
+        <translation>« %1 »</translation>
+    </message>
+</context>
+<context>
+    <name>PictureProperty</name>
+    <message>
+        <source>PixelWidth</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>PixelHeight</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>ColorModel</source>
+        <translation>Modèle de couleur</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>DPIWidth</source>
+        <translation>Résolution horizontale (ppp)</translation>
+    </message>
+    <message>
+        <source>DPIHeight</source>
+        <translation>Résolution verticale (ppp)</translation>
+    </message>
+    <message>
+        <source>ProfileName</source>
+        <translation>Profil de couleur</translation>
+    </message>
+    <message>
+        <source>Depth</source>
+        <translation>Profondeur</translation>
+    </message>
+    <message>
+        <source>HasAlpha</source>
+        <translation>Transparence</translation>
+    </message>
+    <message>
+        <source>IsFloat</source>
+        <translation>Virgule flottante</translation>
+    </message>
+    <message>
+        <source>IsProgressive</source>
+        <translation>Progressif</translation>
+    </message>
+    <message>
+        <source>FrameCount</source>
+        <translation>Nombre d’images</translation>
+    </message>
+    <message>
+        <source>LoopCount</source>
+        <translation>Répétitions</translation>
+    </message>
+    <message>
+        <source>DelayTime</source>
+        <translation>Durée d’affichage</translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation>Marque</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>LensModel</source>
+        <translation>Objectif</translation>
+    </message>
+    <message>
+        <source>ExposureTime</source>
+        <translation>Temps de pose</translation>
+    </message>
+    <message>
+        <source>FNumber</source>
+        <translation>Ouverture</translation>
+    </message>
+    <message>
+        <source>FocalLength</source>
+        <translation>Distance focale</translation>
+    </message>
+    <message>
+        <source>ISOSpeedRatings</source>
+        <translation>Sensibilité ISO</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flash</translation>
+    </message>
+    <message>
+        <source>WhiteBalance</source>
+        <translation>Balance des blancs</translation>
+    </message>
+    <message>
+        <source>DateTime</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>DateTimeOriginal</source>
+        <translation>Date de prise de vue</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Auteur</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>ImageDescription</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Logiciel</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>“%1” can&apos;t be written: %2</source>
+        <comment>file name, reason</comment>
+        <translation>« %1 » ne peut pas être écrit : %2</translation>
+    </message>
+    <message>
+        <source>there is no picture.</source>
+        <translation>il n’y a pas d’image.</translation>
+    </message>
+    <message>
+        <source>The picture was not written.</source>
+        <translation>L’image n’a pas été écrite.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Stops and leaves everything as it was</source>
+        <translation>Arrête et laisse tout comme avant</translation>
+    </message>
+</context>
+<context>
+    <name>ResizePanel</name>
+    <message>
+        <source>Resize Image</source>
+        <translation>Redimensionner l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Width:</source>
+        <translation>&amp;Largeur :</translation>
+    </message>
+    <message>
+        <source>The new width, in the unit beside</source>
+        <translation>La nouvelle largeur, dans l’unité indiquée à côté</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>The unit of width and height</source>
+        <translation>L’unité de la largeur et de la hauteur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>percent</source>
+        <translation>pour cent</translation>
+    </message>
+    <message>
+        <source>inches</source>
+        <translation>pouces</translation>
+    </message>
+    <message>
+        <source>millimeters</source>
+        <translation>millimètres</translation>
+    </message>
+    <message>
+        <source>centimeters</source>
+        <translation>centimètres</translation>
+    </message>
+    <message>
+        <source>picas</source>
+        <translation>picas</translation>
+    </message>
+    <message>
+        <source>&amp;Height:</source>
+        <translation>&amp;Hauteur :</translation>
+    </message>
+    <message>
+        <source>The new height, in the unit beside</source>
+        <translation>La nouvelle hauteur, dans l’unité indiquée à côté</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>&amp;Keep proportions</source>
+        <translation>&amp;Conserver les proportions</translation>
+    </message>
+    <message>
+        <source>The other side follows the one that is typed</source>
+        <translation>L’autre côté suit celui qui est saisi</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Closes the panel and changes nothing</source>
+        <translation>Ferme la fenêtre sans rien changer</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>Gives the picture this size</source>
+        <translation>Donne cette taille à l’image</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+</context>
+<context>
+    <name>SaveOptions</name>
+    <message>
+        <source>&amp;Format:</source>
+        <translation>&amp;Format :</translation>
+    </message>
+    <message>
+        <source>What kind of file is written; the name gets its extension</source>
+        <translation>Le genre de fichier écrit ; le nom reçoit son extension</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>&amp;Résolution :</translation>
+    </message>
+    <message>
+        <source>Dots per inch</source>
+        <translation>Points par pouce</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
+        <source>72 dpi</source>
+        <translation>72 ppp</translation>
+    </message>
+    <message>
+        <source>96 dpi</source>
+        <translation>96 ppp</translation>
+    </message>
+    <message>
+        <source>150 dpi</source>
+        <translation>150 ppp</translation>
+    </message>
+    <message>
+        <source>300 dpi</source>
+        <translation>300 ppp</translation>
+    </message>
+    <message>
+        <source>600 dpi</source>
+        <translation>600 ppp</translation>
+    </message>
+</context>
+<context>
+    <name>SplitDivider</name>
+    <message>
+        <source>Divider</source>
+        <translation>Séparateur</translation>
+    </message>
+    <message>
+        <source>The picture without the filter is left of it, the result is right of it.</source>
+        <translation>L’image sans le filtre est à gauche, le résultat à droite.</translation>
+    </message>
+    <message>
+        <source>Drag to compare: without the filter on the left, with it on the right</source>
+        <translation>Faites glisser pour comparer : à gauche sans le filtre, à droite avec</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDStage</name>
+    <message>
+        <source>3D effects need OpenGL 2.1, which this machine does not offer.
+Everything else works without it.</source>
+        <translation>Les effets 3D demandent OpenGL 2.1, que cette machine n’offre pas.
+Tout le reste fonctionne sans.</translation>
+    </message>
+</context>
+<context>
+    <name>TurnedEffect</name>
+    <message>
+        <source>Rotate</source>
+        <translation>Rotation</translation>
+    </message>
+</context>
+<context>
+    <name>UndoManager</name>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <comment>%1 is what is undone</comment>
+        <translation>Annuler : %1</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <comment>%1 is what is redone</comment>
+        <translation>Rétablir : %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoNames</name>
+    <message>
+        <source>Change to %1 %2</source>
+        <comment>%1 is a filter, %2 one of its parameters</comment>
+        <translation>%1 : changer %2</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomedCanvas</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+</context>
+<context>
+    <name>customEffImageView</name>
+    <message>
+        <source>Generated picture</source>
+        <translation>Image générée</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the anchor of effects that have one; the wheel zooms.</source>
+        <translation>Les touches fléchées déplacent le point d’ancrage des effets qui en ont un ; la molette zoome.</translation>
+    </message>
+    <message>
+        <source>The picture as the effect makes it. Drag to place the effect&apos;s anchor, zoom with the wheel, move the picture with the middle button or the space bar held.</source>
+        <translation>L’image telle que l’effet la fait. Faites glisser pour placer le point d’ancrage, zoomez avec la molette, déplacez l’image avec le bouton central ou en maintenant la barre d’espace.</translation>
+    </message>
+</context>
+<context>
+    <name>onlyTextClosedButton</name>
+    <message>
+        <source>Remove from the favourites</source>
+        <translation>Retirer des favoris</translation>
+    </message>
+</context>
+</TS>
