@@ -6,6 +6,7 @@
 
 #include <QCborArray>
 
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -16,6 +17,7 @@ constexpr CIAlpha kAlphas[] = {CIAlpha::Opaque, CIAlpha::Straight, CIAlpha::Prem
 constexpr CIColorSpace kSpaces[] = {CIColorSpace::SRGB, CIColorSpace::LinearSRGB};
 
 constexpr qint64 kMostBytes = 1'000'000'000; // what one array of bytes holds
+constexpr double kFarthest = 1e9; // px from the origin
 constexpr int kBand = 64; // rows compared at a time
 
 template <class T, std::size_t count>
@@ -127,7 +129,8 @@ CIImage unarchivedImage(const QCborMap& map)
     const QCborArray stored = map[QLatin1String("extent")].toArray();
     const CIRect extent{stored[0].toDouble(), stored[1].toDouble(), stored[2].toDouble(), stored[3].toDouble()};
     const CIRect whole = extent.roundedOut();
-    if (extent.isInfinite() || int(whole.width) != bitmap.width() || int(whole.height) != bitmap.height())
+    const bool isNear = std::abs(whole.x) < kFarthest && std::abs(whole.y) < kFarthest; // not-a-number is not
+    if (extent.isInfinite() || whole.width != bitmap.width() || whole.height != bitmap.height() || !isNear)
         throw ArchiveError("A picture has no place.");
     if (whole.x != 0 || whole.y != 0)
         image = image.transformed(CIAffineTransform::translation(whole.x, whole.y));

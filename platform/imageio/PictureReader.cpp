@@ -1,5 +1,6 @@
 #include "platform/imageio/PictureReader.h"
 
+#include "platform/imageio/DecodeInTime.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureColor.h"
 #include "platform/imageio/PictureLoad.h"
@@ -23,6 +24,8 @@ Failure damaged(const PictureInput& input)
     imageLog(input.name() + " (" + nameOfKind(input.kind()) + "): " + takeVipsError());
     return {input.name() + " is damaged or incomplete, so it can't be opened."};
 }
+
+bool isDrawing(PictureKind kind) { return kind == PictureKind::Svg || kind == PictureKind::Pdf; }
 
 Failure tooLarge(const PictureInput& input, int width, int height)
 {
@@ -91,9 +94,9 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
     case SinkEnd::Damaged:
         return damaged(input);
     case SinkEnd::TimeOver:
-        return Failure{"Opening " + input.name() + " took too long."};
+        return tookTooLong(input);
     case SinkEnd::Cancelled:
-        return Failure{"Opening " + input.name() + " was given up."};
+        return givenUp(input);
     }
     return damaged(input);
 }
@@ -106,6 +109,8 @@ Result<CIBitmap> readChecked(const Result<PictureInput>& input, const ReadOption
         return unknownFormat(*input);
     try {
         useVips();
+        if (isDrawing(input->kind()))
+            return decodeInTime(*input, options, decode);
         return input->kind() == PictureKind::CameraRaw ? readRaw(*input, options) : decode(*input, options);
     } catch (const std::bad_alloc&) {
         return Failure{"There is not enough memory to open " + input->name() + "."};

@@ -2,6 +2,8 @@
 #include "platform/coreimage/CIContext.h"
 
 #include <gtest/gtest.h>
+#include <QCborArray>
+#include <QCborMap>
 
 #include <cmath>
 #include <cstdlib>
@@ -120,6 +122,25 @@ TEST(KeyedArchive, FindsDamageWhereverItIs)
     }
     EXPECT_GT(refused, 500);
     EXPECT_THROW(KeyedArchive::unarchivedValue("\xf6"), ArchiveError) << "CBOR, but no archive";
+}
+
+TEST(KeyedArchive, PutsPicturesOnlyWhereTheyCanBeDrawn)
+{
+    const CIImage picture = CIImage::fromBitmap(noise(3, 2, CIFormat::RGBA8, CIAlpha::Straight));
+    QCborMap archive = QCborValue::fromCbor(KeyedArchive::archivedData(picture)).toMap();
+    const QLatin1String rootKey("root"), imageKey("image"), extentKey("extent");
+    const auto archiveAt = [&](double x, double y, double width, double height) {
+        QCborMap image = archive[rootKey].toMap()[imageKey].toMap();
+        image[extentKey] = QCborArray{x, y, width, height};
+        QCborMap moved = archive;
+        moved[rootKey] = QCborMap{{imageKey, image}};
+        return QCborValue(moved).toCbor();
+    };
+    EXPECT_EQ(KeyedArchive::unarchivedValue(archiveAt(5, -6, 3, 2)).toImage().extent(), CIRect(5, -6, 3, 2));
+    for (const double far : {1e34, -1e34, double(INFINITY), double(NAN)}) {
+        EXPECT_THROW(KeyedArchive::unarchivedValue(archiveAt(far, 0, 3, 2)), ArchiveError) << far;
+        EXPECT_THROW(KeyedArchive::unarchivedValue(archiveAt(0, 0, 3, far)), ArchiveError) << far;
+    }
 }
 
 } // namespace
