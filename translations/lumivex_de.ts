@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Rotate Left</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Mean brightness %1 %, black %2 %, white %3 %</source>
-        <translation>Mittlere Helligkeit %1 %, schwarz %2 %, weiß %3 %</translation>
+        <translation>Mittlere Helligkeit %1&#xa0;%, schwarz %2&#xa0;%, weiß %3&#xa0;%</translation>
     </message>
     <message>
         <source>How often each brightness is seen, from black to white.
@@ -3727,7 +3727,7 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3779,7 +3779,7 @@ Alles andere geht auch ohne.</translation>
     <name>ZoomedCanvas</name>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>

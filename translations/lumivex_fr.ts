@@ -53,7 +53,7 @@
     </message>
     <message>
         <source>Version, license and libraries; the text can be selected and copied</source>
-        <translation>Version, licence et bibliothèques ; le texte peut être sélectionné et copié</translation>
+        <translation>Version, licence et bibliothèques&#xa0;; le texte peut être sélectionné et copié</translation>
     </message>
     <message>
         <source>Version %1</source>
@@ -65,11 +65,11 @@
     </message>
     <message>
         <source>Free software that comes without any warranty. License: %1</source>
-        <translation>Logiciel libre, fourni sans aucune garantie. Licence : %1</translation>
+        <translation>Logiciel libre, fourni sans aucune garantie. Licence&#xa0;: %1</translation>
     </message>
     <message>
         <source>It stands on these libraries:</source>
-        <translation>Il repose sur ces bibliothèques :</translation>
+        <translation>Il repose sur ces bibliothèques&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -194,7 +194,7 @@
     </message>
     <message>
         <source>Picture files to open: the first in a window that is open already, if it can be.</source>
-        <translation>Fichiers d’image à ouvrir : le premier, si possible, dans une fenêtre déjà ouverte.</translation>
+        <translation>Fichiers d’image à ouvrir&#xa0;: le premier, si possible, dans une fenêtre déjà ouverte.</translation>
     </message>
 </context>
 <context>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Rotate Left</source>
@@ -285,7 +285,7 @@
     </message>
     <message>
         <source>Do you want to replace an existing file?</source>
-        <translation>Voulez-vous remplacer le fichier existant ?</translation>
+        <translation>Voulez-vous remplacer le fichier existant&#xa0;?</translation>
     </message>
     <message>
         <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
@@ -293,7 +293,7 @@
     </message>
     <message>
         <source>Save Image As:</source>
-        <translation>Enregistrer l’image sous :</translation>
+        <translation>Enregistrer l’image sous&#xa0;:</translation>
     </message>
     <message>
         <source>There was not enough memory to save the picture.</source>
@@ -301,7 +301,7 @@
     </message>
     <message>
         <source>Saving “%1”…</source>
-        <translation>Enregistrement de « %1 »…</translation>
+        <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>sRGB 16-bit</source>
@@ -338,7 +338,7 @@
     <message>
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>No picture</source>
@@ -383,7 +383,7 @@
     </message>
     <message>
         <source>Do you want to save changes?</source>
-        <translation>Voulez-vous enregistrer les modifications ?</translation>
+        <translation>Voulez-vous enregistrer les modifications&#xa0;?</translation>
     </message>
     <message>
         <source>Your changes will be lost if you choose don&apos;t save option.</source>
@@ -391,11 +391,11 @@
     </message>
     <message>
         <source>Lumivex ended unexpectedly. Restore the picture?</source>
-        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer l’image ?</translation>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer l’image&#xa0;?</translation>
     </message>
     <message>
         <source>Lumivex ended unexpectedly. Restore “%1”?</source>
-        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer « %1 » ?</translation>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>The picture comes back with its filter, as it was at most a minute before.</source>
@@ -423,11 +423,11 @@
     </message>
     <message>
         <source>The picture can&apos;t be restored; its journal is damaged.</source>
-        <translation>L’image ne peut pas être restaurée ; son journal est endommagé.</translation>
+        <translation>L’image ne peut pas être restaurée&#xa0;; son journal est endommagé.</translation>
     </message>
     <message>
         <source>Do you want to open “%1” here?</source>
-        <translation>Voulez-vous ouvrir « %1 » ici ?</translation>
+        <translation>Voulez-vous ouvrir «&#xa0;%1&#xa0;» ici&#xa0;?</translation>
     </message>
     <message>
         <source>Your changes will be lost if you did not save them.</source>
@@ -523,11 +523,11 @@
     <name>EffectPanel</name>
     <message>
         <source>Flare opacity:</source>
-        <translation>Opacité :</translation>
+        <translation>Opacité&#xa0;:</translation>
     </message>
     <message>
         <source>Spikes count:</source>
-        <translation>Rayons :</translation>
+        <translation>Rayons&#xa0;:</translation>
     </message>
     <message>
         <source>How many spikes the flare has</source>
@@ -535,7 +535,7 @@
     </message>
     <message>
         <source>Background Color:</source>
-        <translation>Couleur du fond :</translation>
+        <translation>Couleur du fond&#xa0;:</translation>
     </message>
     <message>
         <source>The color laid over the background</source>
@@ -543,7 +543,7 @@
     </message>
     <message>
         <source>Background Image:</source>
-        <translation>Image de fond :</translation>
+        <translation>Image de fond&#xa0;:</translation>
     </message>
     <message>
         <source>Lay the effect over the picture</source>
@@ -563,11 +563,11 @@
     </message>
     <message>
         <source>Objects opacity:</source>
-        <translation>Opacité :</translation>
+        <translation>Opacité&#xa0;:</translation>
     </message>
     <message>
         <source>Lines level:</source>
-        <translation>Niveau :</translation>
+        <translation>Niveau&#xa0;:</translation>
     </message>
     <message>
         <source>How often the curve is folded</source>
@@ -575,7 +575,7 @@
     </message>
     <message>
         <source>Line width:</source>
-        <translation>Épaisseur :</translation>
+        <translation>Épaisseur&#xa0;:</translation>
     </message>
     <message>
         <source>How thick the curve is</source>
@@ -583,7 +583,7 @@
     </message>
     <message>
         <source>Lines count:</source>
-        <translation>Lignes :</translation>
+        <translation>Lignes&#xa0;:</translation>
     </message>
     <message>
         <source>How many lines are drawn</source>
@@ -595,11 +595,11 @@
     </message>
     <message>
         <source>Pattern opacity:</source>
-        <translation>Opacité :</translation>
+        <translation>Opacité&#xa0;:</translation>
     </message>
     <message>
         <source>Objects count:</source>
-        <translation>Objets :</translation>
+        <translation>Objets&#xa0;:</translation>
     </message>
     <message>
         <source>How many ellipses the pattern has</source>
@@ -607,7 +607,7 @@
     </message>
     <message>
         <source>Pattern Color:</source>
-        <translation>Couleur du motif :</translation>
+        <translation>Couleur du motif&#xa0;:</translation>
     </message>
     <message>
         <source>The color of the pattern</source>
@@ -619,7 +619,7 @@
     </message>
     <message>
         <source>Proportion:</source>
-        <translation>Proportion :</translation>
+        <translation>Proportion&#xa0;:</translation>
     </message>
     <message>
         <source>The width of the ellipses in parts of their height</source>
@@ -627,11 +627,11 @@
     </message>
     <message>
         <source>Plasma opacity:</source>
-        <translation>Opacité :</translation>
+        <translation>Opacité&#xa0;:</translation>
     </message>
     <message>
         <source>Object type:</source>
-        <translation>Type d’objet :</translation>
+        <translation>Type d’objet&#xa0;:</translation>
     </message>
     <message>
         <source>What is drawn</source>
@@ -678,7 +678,7 @@
     <name>EvalEffect</name>
     <message>
         <source>First Curve:</source>
-        <translation>Première courbe :</translation>
+        <translation>Première courbe&#xa0;:</translation>
     </message>
     <message>
         <source>How far the lower edge bends</source>
@@ -686,7 +686,7 @@
     </message>
     <message>
         <source>Second Curve:</source>
-        <translation>Seconde courbe :</translation>
+        <translation>Seconde courbe&#xa0;:</translation>
     </message>
     <message>
         <source>How far the upper edge bends</source>
@@ -694,7 +694,7 @@
     </message>
     <message>
         <source>Filled Poly:</source>
-        <translation>Surface pleine :</translation>
+        <translation>Surface pleine&#xa0;:</translation>
     </message>
     <message>
         <source>A closed surface, or else a net of lines</source>
@@ -702,7 +702,7 @@
     </message>
     <message>
         <source>Colored Light:</source>
-        <translation>Lumière colorée :</translation>
+        <translation>Lumière colorée&#xa0;:</translation>
     </message>
     <message>
         <source>Tints the picture with the color</source>
@@ -1703,7 +1703,7 @@
     </message>
     <message>
         <source>A page of the help book; links lead to the others</source>
-        <translation>Une page du livre d’aide ; les liens mènent aux autres</translation>
+        <translation>Une page du livre d’aide&#xa0;; les liens mènent aux autres</translation>
     </message>
 </context>
 <context>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Mean brightness %1 %, black %2 %, white %3 %</source>
-        <translation>Luminosité moyenne %1 %, noir %2 %, blanc %3 %</translation>
+        <translation>Luminosité moyenne %1&#xa0;%, noir %2&#xa0;%, blanc %3&#xa0;%</translation>
     </message>
     <message>
         <source>How often each brightness is seen, from black to white.
@@ -1774,7 +1774,7 @@
     </message>
     <message>
         <source>File:</source>
-        <translation>Fichier :</translation>
+        <translation>Fichier&#xa0;:</translation>
     </message>
     <message>
         <source>n/a</source>
@@ -1790,7 +1790,7 @@
     </message>
     <message>
         <source>Type:</source>
-        <translation>Type :</translation>
+        <translation>Type&#xa0;:</translation>
     </message>
     <message>
         <source>Type</source>
@@ -1802,7 +1802,7 @@
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message>
         <source>Size</source>
@@ -3168,7 +3168,7 @@
     </message>
     <message>
         <source>Zoom; double-click for actual size, or the whole picture</source>
-        <translation>Zoom ; double-clic pour la taille réelle ou l’image entière</translation>
+        <translation>Zoom&#xa0;; double-clic pour la taille réelle ou l’image entière</translation>
     </message>
     <message>
         <source>Undo &amp;History</source>
@@ -3199,7 +3199,7 @@
     </message>
     <message>
         <source>Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms.</source>
-        <translation>Tab va d’un point du filtre à l’autre, les touches fléchées déplacent le point ; la molette zoome.</translation>
+        <translation>Tab va d’un point du filtre à l’autre, les touches fléchées déplacent le point&#xa0;; la molette zoome.</translation>
     </message>
     <message>
         <source>The picture as the filter shows it. Drag the points of the filter, zoom with the wheel, move the picture with the middle button or the space bar held.</source>
@@ -3229,7 +3229,7 @@
     <name>ObjectEffect</name>
     <message>
         <source>Object type:</source>
-        <translation>Type d’objet :</translation>
+        <translation>Type d’objet&#xa0;:</translation>
     </message>
     <message>
         <source>The body that wears the picture</source>
@@ -3285,20 +3285,20 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>%1: type a number</source>
-        <translation>%1 : saisissez un nombre</translation>
+        <translation>%1&#xa0;: saisissez un nombre</translation>
     </message>
     <message>
         <source>Reset %1</source>
-        <translation>Réinitialiser : %1</translation>
+        <translation>Réinitialiser&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1: %2 to %3%4</source>
         <comment>name, smallest and largest value, unit</comment>
-        <translation>%1 : de %2 à %3%4</translation>
+        <translation>%1&#xa0;: de %2 à %3%4</translation>
     </message>
     <message>
         <source>%1: choose a color and how opaque it is</source>
-        <translation>%1 : choisissez une couleur et son opacité</translation>
+        <translation>%1&#xa0;: choisissez une couleur et son opacité</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -3332,11 +3332,11 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>Choose %1</source>
-        <translation>Choisir : %1</translation>
+        <translation>Choisir&#xa0;: %1</translation>
     </message>
     <message>
         <source>Opens a picture file for %1</source>
-        <translation>Ouvre un fichier d’image pour « %1 »</translation>
+        <translation>Ouvre un fichier d’image pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>Image</source>
@@ -3359,7 +3359,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read: %2.</source>
-        <translation>%1 ne peut pas être lu : %2.</translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read.</source>
@@ -3375,11 +3375,11 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>%1 is damaged or incomplete, so it can&apos;t be opened.</source>
-        <translation>Impossible d’ouvrir %1 : les données sont abîmées ou incomplètes.</translation>
+        <translation>Impossible d’ouvrir %1&#xa0;: les données sont abîmées ou incomplètes.</translation>
     </message>
     <message>
         <source>%1 is too large to be opened: %2 × %3 pixels.</source>
-        <translation>Impossible d’ouvrir %1, de trop grande taille : %2 × %3 pixels.</translation>
+        <translation>Impossible d’ouvrir %1, de trop grande taille&#xa0;: %2 × %3 pixels.</translation>
     </message>
     <message>
         <source>%1 is too large to be opened.</source>
@@ -3395,11 +3395,11 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>Opening %1 took too long.</source>
-        <translation>%1 : l’ouverture a pris trop de temps.</translation>
+        <translation>%1&#xa0;: l’ouverture a pris trop de temps.</translation>
     </message>
     <message>
         <source>Opening %1 was given up.</source>
-        <translation>%1 : l’ouverture a été abandonnée.</translation>
+        <translation>%1&#xa0;: l’ouverture a été abandonnée.</translation>
     </message>
     <message>
         <source>There is not enough memory to open %1.</source>
@@ -3415,7 +3415,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 ne peut pas être écrit : %2.</translation>
+        <translation>%1 ne peut pas être écrit&#xa0;: %2.</translation>
     </message>
     <message>
         <source>%1 can&apos;t be written.</source>
@@ -3427,7 +3427,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>“%1”</source>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -3554,7 +3554,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>“%1” can&apos;t be written: %2</source>
         <comment>file name, reason</comment>
-        <translation>« %1 » ne peut pas être écrit : %2</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2</translation>
     </message>
     <message>
         <source>there is no picture.</source>
@@ -3581,7 +3581,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>&amp;Width:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>The new width, in the unit beside</source>
@@ -3625,7 +3625,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>The new height, in the unit beside</source>
@@ -3668,11 +3668,11 @@ Un double-clic rétablit la valeur par défaut</translation>
     <name>SaveOptions</name>
     <message>
         <source>&amp;Format:</source>
-        <translation>&amp;Format :</translation>
+        <translation>&amp;Format&#xa0;:</translation>
     </message>
     <message>
         <source>What kind of file is written; the name gets its extension</source>
-        <translation>Le genre de fichier écrit ; le nom reçoit son extension</translation>
+        <translation>Le genre de fichier écrit&#xa0;; le nom reçoit son extension</translation>
     </message>
     <message>
         <source>Format</source>
@@ -3680,7 +3680,7 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>&amp;Resolution:</source>
-        <translation>&amp;Résolution :</translation>
+        <translation>&amp;Résolution&#xa0;:</translation>
     </message>
     <message>
         <source>Dots per inch</source>
@@ -3723,11 +3723,11 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
     <message>
         <source>Drag to compare: without the filter on the left, with it on the right</source>
-        <translation>Faites glisser pour comparer : à gauche sans le filtre, à droite avec</translation>
+        <translation>Faites glisser pour comparer&#xa0;: à gauche sans le filtre, à droite avec</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3755,7 +3755,7 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Undo %1</source>
         <comment>%1 is what is undone</comment>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -3764,7 +3764,7 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Redo %1</source>
         <comment>%1 is what is redone</comment>
-        <translation>Rétablir : %1</translation>
+        <translation>Rétablir&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3772,14 +3772,14 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Change to %1 %2</source>
         <comment>%1 is a filter, %2 one of its parameters</comment>
-        <translation>%1 : changer %2</translation>
+        <translation>%1&#xa0;: changer %2</translation>
     </message>
 </context>
 <context>
     <name>ZoomedCanvas</name>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -3790,7 +3790,7 @@ Tout le reste fonctionne sans.</translation>
     </message>
     <message>
         <source>Arrow keys move the anchor of effects that have one; the wheel zooms.</source>
-        <translation>Les touches fléchées déplacent le point d’ancrage des effets qui en ont un ; la molette zoome.</translation>
+        <translation>Les touches fléchées déplacent le point d’ancrage des effets qui en ont un&#xa0;; la molette zoome.</translation>
     </message>
     <message>
         <source>The picture as the effect makes it. Drag to place the effect&apos;s anchor, zoom with the wheel, move the picture with the middle button or the space bar held.</source>
