@@ -74,7 +74,7 @@ class Access(ProductTest):
                 program.pick(name)
                 keys("F6")
                 self.assertFaultless(program)
-        for mode in "ctrl+2", "ctrl+3":
+        for mode in "alt+2", "alt+3":
             keys(mode)
             tree = program.find("tree", ".* effects")
             for effect in [cell.name for cell in tree.children() if cell.role == "table cell" and cell.name]:
@@ -102,7 +102,7 @@ class Access(ProductTest):
         program.pick("twirl dist")
         program.find("slider", "Angle")
         self.assertAllReached(program)
-        for mode, effect in ("ctrl+2", "Surface Rotate"), ("ctrl+3", "Simple Objects"):
+        for mode, effect in ("alt+2", "Surface Rotate"), ("alt+3", "Simple Objects"):
             keys(mode)
             program.find("table cell", effect).click()
             wait(lambda: program.seen("label", effect), "its panel")

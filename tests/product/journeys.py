@@ -142,19 +142,19 @@ class Effects(Journey):
     def test_a_generated_effect_is_drawn_anew_and_applied(self):
         program = self.start_with_quarters()
         before = program.settled()
-        keys("ctrl+3")
+        keys("alt+3")
         area = program.picture().area
         program.find("table cell", "Plasma Effect").click()
         first = program.changes(before, area)
         program.press("Generate")
         program.changes(first, area)
         program.press("Apply")
-        keys("ctrl+1")
+        keys("alt+1")
         wait(lambda: not any(map(near, shown_quarters(program), (RED, GREEN, BLUE, GREY))), "the plasma as the picture")
 
     def test_a_surface_is_turned_by_hand(self):
         program = self.start_with_quarters()
-        keys("ctrl+2")
+        keys("alt+2")
         view = wait(program.picture, "the view")
         area = view.area
         before = program.settled()
