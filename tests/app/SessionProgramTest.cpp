@@ -4,7 +4,9 @@
 #include "app/SessionFolder.h"
 #include "platform/chain/Baking.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -12,11 +14,16 @@ class SessionProgramTest : public ProgramTest {
 protected:
     QString home() const { return environment.value("XDG_STATE_HOME") + "/lumivex"; }
     QStringList sessions() const { return QDir(home()).entryList({"session-*"}, QDir::Dirs); }
+    /// So many pictures are, and the state, which comes last, tells of all.
     bool isKept(int pictureCount) const
     {
         const QStringList names = sessions();
-        return names.size() == 1 && QFile::exists(home() + '/' + names.first() + "/state")
-            && QFile::exists(home() + '/' + names.first() + QString("/picture-%1").arg(pictureCount - 1));
+        if (names.size() != 1)
+            return false;
+        const QDir session(home() + '/' + names.first());
+        const QFileInfo state(session.filePath("state"));
+        const QFileInfo picture(session.filePath(QString("picture-%1").arg(pictureCount - 1)));
+        return state.exists() && picture.exists() && state.lastModified() >= picture.lastModified();
     }
     /// The kept picture of the only session, which must have ended.
     QImage keptPicture() const
