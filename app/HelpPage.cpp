@@ -1,8 +1,10 @@
 #include "app/HelpPage.h"
 
 #include "platform/foundation/Appearance.h"
+#include "translations/Translations.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -22,6 +24,14 @@ a { color: @link; text-decoration: none; }
 .key { color: @link; }
 .note { color: @secondary; }
 )";
+
+/// The file with the page in the window's language, or in English where the book has no other.
+QString translated(const QUrl& page)
+{
+    const QFileInfo english(page.toLocalFile());
+    const QString file = QStringLiteral("%1/%2/%3").arg(english.path(), loadedLanguage(*qApp), english.fileName());
+    return QFileInfo(file).isFile() ? file : english.filePath();
+}
 
 QUrl darkTwin(const QUrl& picture)
 {
@@ -62,7 +72,7 @@ QVariant HelpPage::loadResource(int type, const QUrl& name)
 {
     const QUrl file = source().isEmpty() ? name : source().resolved(name);
     if (type == QTextDocument::HtmlResource) {
-        QFile page(file.toLocalFile());
+        QFile page(translated(file));
         return page.open(QIODevice::ReadOnly) ? withKeys(QString::fromUtf8(page.readAll()), m_mainWindow) : QVariant();
     }
     const bool dark = type == QTextDocument::ImageResource && Appearance::shared().isDark();

@@ -108,6 +108,7 @@ void HelpWindow::fillContents()
     for (QTextBlock block = m_page->document()->begin(); block.isValid(); block = block.next())
         if (const QString link = linkIn(block); block.textList() && !link.isEmpty())
             add(block.text(), m_page->source().resolved(QUrl(link)));
+    m_contents->setMinimumWidth(m_contents->sizeHintForColumn(0) + m_contents->frameWidth() * 2);
 }
 
 void HelpWindow::pageChanged(const QUrl& address)

@@ -8,6 +8,7 @@
 namespace {
 
 const QString kEnglish = QStringLiteral("en");
+const QString kOwnTexts = QStringLiteral(":/translations");
 
 bool install(QCoreApplication& application, const QString& file, const QString& folder)
 {
@@ -43,5 +44,13 @@ bool installTranslations(QCoreApplication& application, const QString& language)
     if (language == kEnglish)
         return true;
     install(application, QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
-    return install(application, QStringLiteral("lumivex_") + language, QStringLiteral(":/translations"));
+    return install(application, QStringLiteral("lumivex_") + language, kOwnTexts);
+}
+
+QString loadedLanguage(const QCoreApplication& application)
+{
+    for (const auto* translator : application.findChildren<const QTranslator*>())
+        if (translator->filePath().startsWith(kOwnTexts))
+            return translator->language();
+    return kEnglish;
 }

@@ -16,3 +16,6 @@ void installTranslations(QCoreApplication& application);
 
 /// The same for one language; "en" loads nothing. False when the program has no texts of that language.
 bool installTranslations(QCoreApplication& application, const QString& language);
+
+/// The language whose texts are loaded: "de", "fr", or "en" when there are none.
+QString loadedLanguage(const QCoreApplication& application);

@@ -38,6 +38,15 @@ QStringList all(const char* expression, const QString& text)
 }
 
 QStringList pages() { return book().entryList({"*.html"}); }
+QStringList languages() { return book().entryList(QDir::Dirs | QDir::NoDotAndDotDot); }
+
+/// Links, pictures and places of keys, in any order: languages order a sentence differently.
+QStringList marksOf(const QString& text)
+{
+    QStringList marks = all("((?:href|src)=\"[^\"]+\"|\\{\\w+\\})", text);
+    marks.sort();
+    return marks;
+}
 
 class HelpTest : public WindowTest {
 protected:
@@ -87,6 +96,34 @@ TEST_F(HelpTest, EveryLinkAndPictureOfTheBookExists)
         bytes += file.size();
     }
     EXPECT_LT(bytes, 1'500'000);
+}
+
+TEST_F(HelpTest, EveryLanguageHasTheWholeBook)
+{
+    EXPECT_EQ(languages(), QStringList({"de", "fr"}));
+    for (const QString& language : languages()) {
+        EXPECT_EQ(QDir(book().filePath(language)).entryList(QDir::Files), pages());
+        for (const QString& page : pages()) {
+            SCOPED_TRACE((language + '/' + page).toStdString());
+            const QString text = textOf(language + '/' + page);
+            EXPECT_EQ(marksOf(text), marksOf(textOf(page)));
+            EXPECT_EQ(all("<html lang=\"(\\w+)\"", text), QStringList(language));
+            EXPECT_EQ(all("(<h2|<li|<tr|<p)", text), all("(<h2|<li|<tr|<p)", textOf(page)));
+        }
+    }
+}
+
+TEST_F(HelpTest, TheFirstPageCallsTheOthersByTheirTitles)
+{
+    for (const QString& folder : QStringList{"."} + languages()) {
+        const QString first = textOf(folder + "/main.html");
+        for (const QString& page : all("<li><a href=\"([^\"]+)\"", first)) {
+            const QString text = textOf(folder + '/' + page);
+            EXPECT_EQ(all("<title>(.+)</title>", text), all("<h1>(.+)</h1>", text));
+            EXPECT_EQ(all("<title>(.+)</title>", text), all(qPrintable("<li><a href=\"" + page + "\">(.+)</a>"), first))
+                << qPrintable(folder + '/' + page);
+        }
+    }
 }
 
 TEST_F(HelpTest, PagesNameTheKeysOfTheMenus)

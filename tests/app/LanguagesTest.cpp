@@ -1,5 +1,7 @@
 #include "WindowFixture.h"
 
+#include "app/HelpPage.h"
+#include "app/HelpWindow.h"
 #include "app/OutlineView.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
@@ -7,7 +9,10 @@
 #include "ui_MainWindow.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QListWidget>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include <map>
@@ -63,6 +68,29 @@ TEST_P(LanguagesTest, StoredNamesAreEnglish)
     EXPECT_EQ(KeyedArchive::unarchivedValue(records->front().at("ToolTipName").bytes()).toString(), "Gaussian Blur");
 }
 
+/// Without the marks for the keyboard and the dots.
+QString plain(QString text) { return text.remove(QRegularExpression(QStringLiteral("&|\\s*(…|\\.\\.\\.)$"))); }
+
+TEST_P(LanguagesTest, TheHelpBookNamesMenusAsTheyAre)
+{
+    QStringList paths;
+    for (const QMenu* menu : ui.menuBar->findChildren<QMenu*>())
+        for (const QAction* item : menu->actions())
+            paths << plain(menu->title()) + " ▸ " + plain(item->text());
+    HelpPage page(window);
+    const QDir book = QFileInfo(HelpWindow::firstPage()).dir();
+    int named = 0;
+    for (const QString& name : book.entryList({"*.html"})) {
+        page.setSource(QUrl::fromLocalFile(book.filePath(name)));
+        static const QRegularExpression path(QStringLiteral("font-weight:[6-9]00;\">([^<]+ ▸ [^<]+)<"));
+        for (auto found = path.globalMatch(page.toHtml()); found.hasNext(); ++named) {
+            const QString text = found.next().captured(1);
+            EXPECT_TRUE(paths.contains(text)) << text.toStdString() << " on " << name.toStdString();
+        }
+    }
+    EXPECT_GE(named, 5);
+}
+
 INSTANTIATE_TEST_SUITE_P(InEach, LanguagesTest, testing::Values("en", "de", "fr"));
 
 class GermanTest : Speaking, public WindowTest {
@@ -90,6 +118,40 @@ TEST_F(GermanTest, SpeaksOfFiltersInGerman)
     ui.addFavouriteBtn->click();
     ASSERT_EQ(ui.m_pageController->pageCount(), 1);
     EXPECT_EQ(ui.m_pageController->items().first()->toolTip(), "Gaußscher Weichzeichner");
+}
+
+TEST_F(GermanTest, OpensTheGermanHelpBook)
+{
+    ui.actionHelp->trigger();
+    auto* help = window.findChild<HelpWindow*>();
+    ASSERT_TRUE(help);
+    const auto* contents = help->findChild<QListWidget*>();
+    EXPECT_EQ(contents->item(0)->text(), "Willkommen");
+    EXPECT_EQ(contents->currentRow(), 0);
+    auto* page = help->findChild<HelpPage*>();
+    EXPECT_TRUE(page->document()->resource(QTextDocument::ImageResource, QUrl("window.jpg")).isValid());
+    page->setSource(page->source().resolved(QUrl("open.html"))); // as a link does
+    EXPECT_EQ(page->documentTitle(), "Ein Bild öffnen");
+    EXPECT_EQ(contents->currentRow(), 1);
+    delete help;
+}
+
+TEST_F(GermanTest, ShowsTheEnglishPageWhereThereIsNoGermanOne)
+{
+    const auto write = [this](const QString& name, const QByteArray& text) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(QDir(folder.path()).mkpath("de") && file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+    };
+    write("old.html", "old");
+    write("new.html", "new, <a href=\"old.html\">older</a>");
+    write("de/old.html", "alt, <a href=\"new.html\">neuer</a>");
+    HelpPage page(window);
+    page.setSource(QUrl::fromLocalFile(folder.filePath("old.html")));
+    EXPECT_EQ(page.toPlainText(), "alt, neuer");
+    page.setSource(page.source().resolved(QUrl("new.html")));
+    EXPECT_EQ(page.toPlainText(), "new, older");
+    page.setSource(page.source().resolved(QUrl("old.html")));
+    EXPECT_EQ(page.toPlainText(), "alt, neuer");
 }
 
 TEST_F(GermanTest, SaysWhatIsWrongWithAFile)

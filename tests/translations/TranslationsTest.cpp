@@ -124,8 +124,10 @@ TEST_F(TranslationsTest, TravelInsideTheProgram)
     EXPECT_EQ(shownFilterName("Gaussian Blur"), "Gaussian Blur");
     EXPECT_FALSE(installTranslations(application, "it"));
     EXPECT_TRUE(installTranslations(application, "en"));
+    EXPECT_EQ(loadedLanguage(application), "en");
     EXPECT_EQ(shownFilterName("Gaussian Blur"), "Gaussian Blur");
     EXPECT_TRUE(installTranslations(application, "de"));
+    EXPECT_EQ(loadedLanguage(application), "de");
     EXPECT_EQ(shownFilterName("Gaussian Blur"), "Gaußscher Weichzeichner");
     EXPECT_EQ(shownInputName("Radius"), "Radius");
     EXPECT_EQ(shownInputName("Of a plug-in"), "Of a plug-in");
