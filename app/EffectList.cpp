@@ -17,8 +17,9 @@ QString translated(const std::string& text) { return QCoreApplication::translate
 
 } // namespace
 
-EffectList::EffectList(std::vector<std::shared_ptr<BaseEffect>> prototypes)
+EffectList::EffectList(std::vector<std::shared_ptr<BaseEffect>> prototypes, Marks marks)
     : m_prototypes(std::move(prototypes))
+    , m_marks(marks)
 {
     for (const std::shared_ptr<BaseEffect>& prototype : m_prototypes) {
         m_rows.push_back(std::make_unique<EffectRow>());
@@ -43,8 +44,9 @@ QVariant EffectList::outlineViewObjectValueForTableColumnByItem(const QString& c
     if (!effect)
         return {};
     if (column == kMarkerColumn)
-        return effect->isMousing() ? QVariant::fromValue(tintedIcon(QStringLiteral("marker"), IconTint::Accent))
-                                   : QVariant();
+        return m_marks == Marks::All || effect->isMousing()
+            ? QVariant::fromValue(tintedIcon(QStringLiteral("marker"), IconTint::Accent))
+            : QVariant();
     return translated(effect->myname());
 }
 

@@ -17,9 +17,13 @@ public:
 class EffectList : public OutlineDataSource {
 public:
     static inline const QString kTitleColumn = QStringLiteral("1");
-    static inline const QString kMarkerColumn = QStringLiteral("0"); // marks effects with a point on the picture
+    static inline const QString kMarkerColumn = QStringLiteral("0"); // marks effects that are dragged on the picture
 
-    explicit EffectList(std::vector<std::shared_ptr<BaseEffect>> prototypes);
+    enum class Marks {
+        Mousing, // effects with an anchor
+        All, // in space, each is turned with the mouse
+    };
+    EffectList(std::vector<std::shared_ptr<BaseEffect>> prototypes, Marks marks);
 
     const std::vector<std::shared_ptr<BaseEffect>>& prototypes() const { return m_prototypes; }
 
@@ -33,4 +37,5 @@ public:
 private:
     std::vector<std::shared_ptr<BaseEffect>> m_prototypes;
     std::vector<std::unique_ptr<EffectRow>> m_rows;
+    Marks m_marks;
 };

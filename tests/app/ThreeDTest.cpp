@@ -61,6 +61,20 @@ TEST_F(ThreeDTest, AChosenEffectIsACopyWithAPanelOfItsOwn)
     EXPECT_EQ(object()->objectRotation()[0], 0) << "the prototype stays as it was";
 }
 
+TEST_F(ThreeDTest, EveryEffectIsMarkedAsOneForTheMouse)
+{
+    const QAbstractItemModel& list = *ui.filter3DOutlineView->model();
+    ASSERT_EQ(list.rowCount(), 2);
+    for (int row = 0; row < 2; ++row)
+        EXPECT_FALSE(list.index(row, 1).data(Qt::DecorationRole).isNull()) << row;
+    const QAbstractItemModel& generated = *ui.filterCustomOutlineView->model();
+    QList<int> marked;
+    for (int row = 0; row < generated.rowCount(); ++row)
+        if (!generated.index(row, 1).data(Qt::DecorationRole).isNull())
+            marked << row;
+    EXPECT_EQ(marked, QList<int>({1, 4, 6})) << "the others have no anchor";
+}
+
 TEST_F(ThreeDTest, UndoStepsOfAnEffectGoWithIt)
 {
     choose(1);
