@@ -381,8 +381,8 @@ private:
     void removeFavourite(
         FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender);
     QPointer<onlyTextClosedButton>& selectedFavourite();
-    void chooseEffectFavourite(
-        FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender);
+    void chooseEffectFavourite(FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, OutlineView& list,
+        onlyTextClosedButton* sender);
     void setCurrentEffect(const std::shared_ptr<BaseEffect>& effect);
     void deselectLists();
 

@@ -98,5 +98,5 @@ void Controller::filterChangedCustom(onlyTextClosedButton* sender)
 {
     m_undoManager.registerUndoWithTarget(
         this, [this, previous = m_selectes_FavBtnCustom] { filterChanged3D(previous); });
-    chooseEffectFavourite(m_favoritesCustom, m_selectes_FavBtnCustom, sender);
+    chooseEffectFavourite(m_favoritesCustom, m_selectes_FavBtnCustom, *filterCustomOutlineView, sender);
 }

@@ -5,6 +5,8 @@
 #include "effects3d/MyOGLView.h"
 #include "ui_MainWindow.h"
 
+#include <QScopedValueRollback>
+
 // --- whatever the mode ---
 
 void Controller::addFavourite()
@@ -88,13 +90,16 @@ void Controller::readFavorites()
     readFavoritesCustom();
 }
 
-/// For the modes of effects.
+/// For the modes of effects; which one it is now doesn't matter to strip and list.
 void Controller::chooseEffectFavourite(
-    FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender)
+    FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, OutlineView& list, onlyTextClosedButton* sender)
 {
     const bool wasSelected = sender && sender == selected;
     switchOff(selected);
-    deselectLists();
+    {
+        const QScopedValueRollback ours(m_selectionIsOurs, true);
+        list.deselectAll();
+    }
     if (!sender || wasSelected) {
         clearAllAndUpdate();
         return;
@@ -121,7 +126,7 @@ void Controller::addFavorites3D()
 
 void Controller::filterChanged3D(onlyTextClosedButton* sender)
 {
-    chooseEffectFavourite(m_favorites3D, m_selectes_FavBtn3D, sender);
+    chooseEffectFavourite(m_favorites3D, m_selectes_FavBtn3D, *filter3DOutlineView, sender);
 }
 
 // --- filters ---

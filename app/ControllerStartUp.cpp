@@ -60,7 +60,8 @@ Controller::Controller(MainWindow& window)
     , m_favorites({kFilterFavouritesKey, nullptr, [this](auto* button) { filterChanged(button); }},
           *m_pageController, *this)
     , m_favorites3D({QStringLiteral("3DEffectsFavorites"), &m_effects3D.prototypes(),
-                        [this](auto* button) { filterChanged3D(button); }},
+                        [this](auto* button) { filterChanged3D(button); },
+                        &QWidget::y}, // all of them lie at the top: a step towards the first
           *m_page3DController, *this)
     , m_favoritesCustom({QStringLiteral("CustomEffectsFavorites"), &m_effectsCustom.prototypes(),
                             [this](auto* button) { filterChangedCustom(button); }},

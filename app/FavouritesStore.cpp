@@ -132,7 +132,7 @@ void FavouritesStore::remove(onlyTextClosedButton* button)
 void FavouritesStore::makeVisible(const onlyTextClosedButton* button)
 {
     constexpr double kHalfAnItem = 17, kItem = 51; // points
-    m_strip.adjustVisibility(int((button->x() + kHalfAnItem) / kItem));
+    m_strip.adjustVisibility(int(((button->*m_family.place)() + kHalfAnItem) / kItem));
 }
 
 // --- saving and reading ---

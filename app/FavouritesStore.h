@@ -32,6 +32,8 @@ struct FavouritesFamily {
     /// `read`. Null for filters.
     const std::vector<std::shared_ptr<BaseEffect>>* prototypes = nullptr;
     std::function<void(onlyTextClosedButton*)> pressed; // the buttons' action
+    /// The place that `makeVisible` goes by.
+    int (QWidget::*place)() const = &QWidget::x;
 };
 
 /// Newest last. Additions and removals are in memory until `save`.
@@ -53,7 +55,7 @@ public:
     bool contains(const onlyTextClosedButton* button) const;
     /// With its button. Nothing when there is none.
     void remove(onlyTextClosedButton* button);
-    /// Scrolls the strip towards the button.
+    /// Lets the strip step towards the item at the family's place of the button.
     void makeVisible(const onlyTextClosedButton* button);
 
     /// Writes the list to the user defaults. Values that can't be archived are logged and left out. False when the list

@@ -243,6 +243,10 @@ TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
     EXPECT_EQ(effect()->className(), "plasmaEffect") << "the 3D list doesn't know the former button";
     EXPECT_TRUE(button(1)->isChecked());
 }
+    controller.filterChangedCustom(button(0));
+    pickRow(kSimple);
+    controller.undo();
+    EXPECT_TRUE(list().selectedItem()) << "only the rows of the 3D list are deselected";
 
 TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
 {

@@ -8,6 +8,7 @@
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
+#include "widgets/DocPageControl.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -208,6 +209,19 @@ TEST_F(ThreeDFavouritesTest, BringTheEffectBackAlsoFromTheDefaults)
     controller.removeFavorites3D(button(0));
     EXPECT_FALSE(controller.getCurrent3DEffect());
     EXPECT_FALSE(button(0));
+}
+
+TEST_F(ThreeDFavouritesTest, AChosenOneLetsTheStripStepTowardsTheFirst)
+{
+    choose(1);
+    const DocPageControl& strip = *ui.m_page3DController;
+    while (strip.visibleOrigin() < 100 && strip.pageCount() < 30) {
+        press(ui.addFavouriteBtn);
+        QTest::qWaitFor([&] { return !strip.isMoving(); });
+    }
+    const int first = strip.currentPage();
+    press(button(first + 1));
+    EXPECT_EQ(strip.currentPage(), first - 1);
 }
 
 TEST_F(ThreeDFavouritesTest, OfAnUnknownClassCantBeSelectedAndAreKept)
