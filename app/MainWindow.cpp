@@ -4,6 +4,7 @@
 #include "app/HistogramPane.h"
 #include "app/OutlineView.h"
 #include "app/WindowGestures.h"
+#include "controls/DropImageView.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
@@ -285,11 +286,13 @@ void MainWindow::keyReleaseEvent(QKeyEvent* event)
         m_controller->keyUp(event->key());
 }
 
-/// Views that do something of their own with files get them first.
+/// Views that do something of their own with files get them first, and what they refuse is refused.
 void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 {
     const QString path = onlyDroppedFile(*event->mimeData());
-    event->setAccepted(m_controller && !path.isEmpty() && isAcceptableEffectPicture(path));
+    const QWidget* under = childAt(event->position().toPoint());
+    const bool isRefused = qobject_cast<const MyImageView*>(under) || qobject_cast<const DropImageView*>(under);
+    event->setAccepted(m_controller && !isRefused && !path.isEmpty() && isAcceptableEffectPicture(path));
 }
 
 void MainWindow::dropEvent(QDropEvent* event)

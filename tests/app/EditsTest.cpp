@@ -1,10 +1,12 @@
 // Turning, resizing, copying and pasting the picture.
 #include "WindowFixture.h"
 
-#include "platform/chain/Baking.h"
 #include "app/RecentFiles.h"
 #include "app/Turning.h"
+#include "controls/DropImageView.h"
+#include "controls/PictureScrollView.h"
 #include "files/ResizePanel.h"
+#include "platform/chain/Baking.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
@@ -224,17 +226,30 @@ TEST_F(EditsTest, BrokenClipboardGivesNoPictureAndTheWayBack)
 TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
 {
     open(kPicture);
+    const auto accepts = [&](const QString& path, QPoint place) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
+        QApplication::sendEvent(&window, &enter);
+        return enter.isAccepted();
+    };
     const auto drop = [&](const QString& path) {
         QMimeData data;
         data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(QPoint(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&window, &enter);
-        if (!enter.isAccepted())
+        if (!accepts(path, {300, 20}))
             return false;
         QDropEvent dropped(QPointF(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&window, &dropped);
         return true;
     };
+    const auto middleOf = [&](QWidget& widget) { return widget.mapTo(&window, widget.rect().center()); };
+    EXPECT_TRUE(accepts("/p/document.pdf", {300, 20}));
+    EXPECT_FALSE(accepts("/p/document.pdf", middleOf(*ui.pictureScrollView->viewport()))) << "the view doesn't want it";
+    pick("CIGlassDistortion");
+    auto* well = ui.placeCntrlView->findChild<DropImageView*>();
+    ASSERT_TRUE(well);
+    EXPECT_FALSE(accepts("/p/its-own.png", middleOf(*well))) << "a well that drops on itself leaves the picture alone";
+    controller.clearAllAndUpdate();
     EXPECT_FALSE(drop(folder.filePath("text.txt")));
     EXPECT_TRUE(drop(folder.filePath("missing.png")));
     EXPECT_EQ(shown(), kPicture) << "what can't be read replaces nothing";
