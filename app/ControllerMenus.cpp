@@ -117,8 +117,7 @@ bool Controller::validateMenuItem(QAction& item)
         enabled = m_undoManager.canRedo();
         ui.menuUndoHistory->setEnabled(enabled || m_undoManager.canUndo());
         item.setText(m_undoManager.redoMenuItemTitle());
-    } else if (&item == ui.actionCopy || &item == ui.actionRotateLeft || &item == ui.actionRotateRight
-        || &item == ui.actionFlipHorizont || &item == ui.actionFlipVert) {
+    } else if (&item == ui.actionCopy) {
         enabled = bool(backgroundImage);
     } else if (&item == ui.actionInfo) {
         item.setChecked(infoPanel && infoPanel->isVisible());
