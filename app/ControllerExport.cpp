@@ -162,8 +162,6 @@ void Controller::savePanelDidEnd(int returnCode, const QString& path)
     m_saveWasStopped = false;
     if (returnCode == QDialog::Accepted && !path.isEmpty())
         saveAs(path);
-    if (m_saveWasStopped)
-        quitAfterSave = false;
     if (quitAfterSave)
         terminate();
 }
@@ -227,6 +225,8 @@ bool Controller::writeInBackground(
             result = write(bitmap, control.writing);
     });
     m_saveWasStopped = !result && control.isCancelled();
+    if (!result)
+        quitAfterSave = false; // the picture would end with the program
     if (result)
         markSessionClean();
     if (!result && !m_saveWasStopped)

@@ -281,6 +281,22 @@ TEST_F(ExportTest, ACancelledPanelStillQuitsButAFailedSaveDoesNot)
     EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Now) << "without a question";
 }
 
+TEST_F(ExportTest, AFileThatCantBeWrittenStopsTheQuitting)
+{
+    using Reply = Controller::TerminateReply;
+    setImageLog([](std::string_view) {});
+    openNoise("noise.png");
+    controller.setFilePath({});
+    pick("CIColorInvert");
+    answering("Save...", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    delete window.findChild<SavePanel*>();
+    chooseFormat("PNG");
+    controller.savePanelDidEnd(QDialog::Accepted, path("no folder/x"));
+    pick("CIColorPosterize");
+    answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
+    setImageLog({});
+}
+
 TEST_F(ExportTest, StoppingALongSaveLeavesEverythingAsItWas)
 {
     openNoise("photo.jpeg");
