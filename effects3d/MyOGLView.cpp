@@ -346,10 +346,19 @@ void MyOGLView::mouseExited()
     update();
 }
 
-void MyOGLView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(event->globalPos()); }
+void MyOGLView::contextMenuEvent(QContextMenuEvent* event)
+{
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    mouseContentMenu(byKey ? mapToGlobal(rect().center()) : event->globalPos());
+}
 
 void MyOGLView::mouseContentMenu(const QPoint& globalPosition)
 {
-    if (QMenu* menu = controller ? controller->contextMenu() : nullptr)
-        menu->popup(globalPosition);
+    QMenu* menu = controller ? controller->contextMenu() : nullptr;
+    if (!menu)
+        return;
+    QFont font = menu->font();
+    font.setPixelSize(11);
+    menu->setFont(font);
+    menu->popup(globalPosition);
 }
