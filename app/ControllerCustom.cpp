@@ -98,5 +98,6 @@ void Controller::filterChangedCustom(onlyTextClosedButton* sender)
 {
     m_undoManager.registerUndoWithTarget(
         this, [this, previous = m_selectes_FavBtnCustom] { filterChanged3D(previous); });
+    m_undoManager.setActionName(tr("Choose Favourite"));
     chooseEffectFavourite(m_favoritesCustom, m_selectes_FavBtnCustom, *filterCustomOutlineView, sender);
 }

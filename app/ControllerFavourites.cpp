@@ -159,8 +159,10 @@ void Controller::filterChanged(onlyTextClosedButton* sender)
         addFilterIndex(QString::fromStdString(favourite->valueForKey("class").toString()), 0);
         if (const std::shared_ptr<CIFilter> filter = currentFilter)
             for (const std::string& key : filter->inputKeys())
-                if (const CIValue value = favourite->valueForKey(key); !value.isNothing())
+                if (const CIValue value = favourite->valueForKey(key); !value.isNothing()) {
                     setFilterValueForKey(*filter, value, key);
+                    setActionNameForFilterKey(*filter, key);
+                }
         updateLayout(); // the rows were made for the filter's own values
         m_favorites.makeVisible(sender);
         sender->setChecked(true);

@@ -34,6 +34,7 @@ void Controller::changeFilterMode(QAbstractButton* sender)
             m_undoManager.removeAllActionsWithTarget(effect.get());
     adjustViewsAndTabs();
     m_undoManager.registerUndoWithTarget(this, [this, previous] { changeFilterMode(previous); });
+    m_undoManager.setActionName(tr("Change Mode"));
     updateMainBtnState();
 }
 

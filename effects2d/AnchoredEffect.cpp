@@ -1,11 +1,15 @@
 #include "effects2d/AnchoredEffect.h"
 
+#include "effects2d/EffectPanel.h"
+
 void AnchoredEffect::registerPosition()
 {
-    if (UndoManager* undo = undoManager())
+    if (UndoManager* undo = undoManager()) {
         undo->registerUndoWithTarget(static_cast<BaseEffect*>(this), [effect = shared_from_this(), point = m_startPT] {
             static_cast<AnchoredEffect&>(*effect).setPositionUNDO(point);
         });
+        undo->setActionName(EffectPanel::tr("Move Anchor"));
+    }
 }
 
 void AnchoredEffect::moveAnchor(CIPoint point)

@@ -155,6 +155,17 @@ CIImage GeneratedEffect::getDrawImage()
 
 // --- parameters ---
 
+void GeneratedEffect::nameUndoStep(const EffectControl* sender)
+{
+    UndoManager* undo = undoManager();
+    if (!undo || !sender || !sender->focusProxy())
+        return; // a step that is taken back keeps its name
+    QString caption = sender->focusProxy()->accessibleName();
+    if (caption.endsWith(QLatin1Char(':')))
+        caption.chop(1);
+    undo->setActionName(EffectPanel::tr("Change to %1", "%1 is a parameter of an effect").arg(caption.trimmed()));
+}
+
 void GeneratedEffect::post(const char* notification)
 {
     NotificationCenter::defaultCenter().postNotificationName(QString::fromLatin1(notification));

@@ -96,6 +96,8 @@ protected:
     float m_opacity = 0; // of the layer, percent
 
 private:
+    /// After the caption of the control.
+    static void nameUndoStep(const EffectControl* sender);
     template <class Effect, class T>
     void registerUndo(void (Effect::*undoTarget)(T, EffectControl*), T value, EffectControl* sender);
     QImage composite(const quartz::Part& part, const QImage& back, const QImage& layer) const;
@@ -126,6 +128,7 @@ void GeneratedEffect::registerUndo(void (Effect::*undoTarget)(T, EffectControl*)
             [effect = shared_from_this(), undoTarget, value, sender = QPointer(sender)] {
                 (static_cast<Effect&>(*effect).*undoTarget)(value, sender);
             });
+    nameUndoStep(sender);
 }
 
 template <class Owner, class Effect, class T>

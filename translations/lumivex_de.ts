@@ -457,6 +457,14 @@
         <source>The present state</source>
         <translation>Der jetzige Stand</translation>
     </message>
+    <message>
+        <source>Choose Favourite</source>
+        <translation>Favorit wählen</translation>
+    </message>
+    <message>
+        <source>Change Mode</source>
+        <translation>Modus wechseln</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -672,6 +680,15 @@
     <message>
         <source>How many objects are drawn</source>
         <translation>Wie viele Objekte gezeichnet werden</translation>
+    </message>
+    <message>
+        <source>Move Anchor</source>
+        <translation>Ankerpunkt verschieben</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <comment>%1 is a parameter of an effect</comment>
+        <translation>%1 ändern</translation>
     </message>
 </context>
 <context>

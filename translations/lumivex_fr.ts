@@ -457,6 +457,14 @@
         <source>The present state</source>
         <translation>L’état actuel</translation>
     </message>
+    <message>
+        <source>Choose Favourite</source>
+        <translation>Choisir un favori</translation>
+    </message>
+    <message>
+        <source>Change Mode</source>
+        <translation>Changer de mode</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -672,6 +680,15 @@
     <message>
         <source>How many objects are drawn</source>
         <translation>Le nombre d’objets dessinés</translation>
+    </message>
+    <message>
+        <source>Move Anchor</source>
+        <translation>Déplacer le point d’ancrage</translation>
+    </message>
+    <message>
+        <source>Change to %1</source>
+        <comment>%1 is a parameter of an effect</comment>
+        <translation>Changer&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -52,6 +52,7 @@ TEST_F(WindowTest, SwitchingTheModeLeavesTheWayBackAsTheOnlyStep)
     ui.customBtn->click();
     EXPECT_EQ(controller.filerMode(), Controller::Custom);
     EXPECT_TRUE(ui.zoomSuperView->isVisible());
+    EXPECT_EQ(undo.undoActionName(), "Change Mode");
     controller.undo();
     EXPECT_EQ(controller.filerMode(), Controller::ThreeD);
     EXPECT_FALSE(undo.canUndo()) << "the filter's change went with the first switch";

@@ -141,6 +141,7 @@ TEST_F(CustomModeTest, TheMousePlacesTheAnchorWithTwoStepsForUndo)
     QTest::mouseRelease(&view(), Qt::LeftButton, {}, at(120, 90));
     EXPECT_NEAR(effect()->startPoint().x, 120, 1);
     EXPECT_NEAR(effect()->startPoint().y, 90, 1);
+    EXPECT_EQ(undo.undoActionName(), "Move Anchor");
     controller.undo();
     EXPECT_NEAR(effect()->startPoint().x, 100, 1);
     controller.undo();
@@ -242,11 +243,11 @@ TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
     controller.undo();
     EXPECT_EQ(effect()->className(), "plasmaEffect") << "the 3D list doesn't know the former button";
     EXPECT_TRUE(button(1)->isChecked());
-}
     controller.filterChangedCustom(button(0));
     pickRow(kSimple);
     controller.undo();
     EXPECT_TRUE(list().selectedItem()) << "only the rows of the 3D list are deselected";
+}
 
 TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
 {

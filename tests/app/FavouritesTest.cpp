@@ -63,6 +63,7 @@ TEST_F(FavouritesTest, BringFilterAndSettingsBackAndGoAwayAtTheSecondPress)
     EXPECT_TRUE(blur->isChecked());
     EXPECT_FALSE(ui.listView->selectedItem());
     EXPECT_TRUE(controller.wasChanged());
+    EXPECT_EQ(undo.undoActionName(), "Change to Gaussian Blur Radius");
     undo.undo();
     undo.undo(); // each value is a step: the radius comes after the image
     EXPECT_NE(number("inputRadius"), 3.5);

@@ -33,7 +33,7 @@ TEST_F(WindowTest, MenusTellWhatCanBeDone)
     EXPECT_TRUE(action("action3D")->isChecked());
     EXPECT_FALSE(action("actionStandard")->isChecked());
     EXPECT_FALSE(action("actionZoomIn")->isEnabled());
-    EXPECT_EQ(action("actionUndo")->text(), "Undo");
+    EXPECT_EQ(action("actionUndo")->text(), "Undo Change Mode");
 }
 
 TEST_F(WindowTest, StandardKeysAreThereAndDifferFromEachOther)

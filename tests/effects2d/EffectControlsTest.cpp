@@ -78,7 +78,10 @@ TEST_F(EffectControlsTest, EveryControlCanBeUndoneAndRedone)
             const CIDictionary after = effect->save();
             EXPECT_NE(before, after);
             EXPECT_TRUE(master.undo.canUndo());
+            const QString name = "Change to " + control->focusProxy()->accessibleName().chopped(1);
+            EXPECT_EQ(master.undo.undoActionName(), name);
             master.undo.undo();
+            EXPECT_EQ(master.undo.redoActionName(), name);
             EXPECT_EQ(effect->save(), before);
             EXPECT_EQ(control->value(), shown);
             EXPECT_FALSE(master.undo.canUndo());
