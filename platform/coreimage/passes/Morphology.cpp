@@ -61,29 +61,20 @@ void extremeLine(const Value<V>* a, const Value<V>* b, Value<V>* to, int count)
 /// The doublings after which two runs cover 2 `reach` + 1 cells.
 int doublings(int reach) { return std::bit_width(unsigned(2 * reach + 1)) - 1; }
 
-template <Extreme E>
-class RectanglePass : public PassKernel {
+/// What chooses among the values around each: one `Pass::sheet<V>(in, out, grid, scratch)` for light and for codes.
+template <class Pass>
+class RankPass : public PassKernel {
 public:
-    RectanglePass(double across, double along)
-        : m_across(across)
-        , m_along(along)
-    {
-    }
-    Margin margin(const Grid& grid) const override
-    {
-        return {Reach(m_across, grid).highest(), Reach(m_along, grid).highest()};
-    }
     void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
         Scratch& scratch) const override
     {
         const Planes in = Planes::allocate(area, scratch);
         in.fill(reader);
-        const Reach across(m_across, render.grid), along(m_along, render.grid);
         forEachPlane(in, out, [&](int c) {
             if (render.floats)
-                sheet<float>(in.sheet(c), out.sheet(c), across, along, scratch);
+                pass().template sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
             else
-                sheet<Batch>(in.sheet(c), out.sheet(c), across, along, scratch);
+                pass().template sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
         });
     }
     bool onlyChooses() const override { return true; }
@@ -91,14 +82,31 @@ public:
     {
         const CodeSheet in = allocateCodes(area, scratch);
         fillCodes(in, reader);
-        sheet<CodeBatch>(in, out, Reach(m_across, Grid()), Reach(m_along, Grid()), scratch);
+        pass().template sheet<CodeBatch>(in, out, Grid(), scratch);
     }
 
 private:
+    const Pass& pass() const { return static_cast<const Pass&>(*this); }
+};
+
+template <Extreme E>
+class RectanglePass : public RankPass<RectanglePass<E>> {
+public:
+    RectanglePass(double across, double along)
+        : m_across(across)
+        , m_along(along)
+    {
+    }
+    PassKernel::Margin margin(const Grid& grid) const override
+    {
+        return {Reach(m_across, grid).highest(), Reach(m_along, grid).highest()};
+    }
+
     template <class V, class T>
-    void sheet(const Sheet<T>& in, const Sheet<T>& out, const Reach& across, const Reach& along, Scratch& scratch) const
+    void sheet(const Sheet<T>& in, const Sheet<T>& out, const Grid& grid, Scratch& scratch) const
     {
         const ScratchScope scope(scratch);
+        const Reach across(m_across, grid), along(m_along, grid);
         const int width = out.length(), from = (out.area.x0 - in.area.x0) * in.step;
         T* const runs = row<T>(in.length(), scratch);
         T* const wider = row<T>(in.length(), scratch);
@@ -122,6 +130,7 @@ private:
         columns<V>(in, out, along, wider);
     }
 
+private:
     template <class T>
     static T* row(int length, Scratch& scratch)
     {
@@ -170,38 +179,18 @@ struct Chord {
 };
 
 template <Extreme E>
-class DiscPass : public PassKernel {
+class DiscPass : public RankPass<DiscPass<E>> {
 public:
     explicit DiscPass(double radius)
         : m_radius(radius)
     {
     }
-    Margin margin(const Grid& grid) const override
+    PassKernel::Margin margin(const Grid& grid) const override
     {
         const int reach = Reach(m_radius, grid).highest();
         return {reach, reach};
     }
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
-    {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        forEachPlane(in, out, [&](int c) {
-            if (render.floats)
-                sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
-            else
-                sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
-        });
-    }
-    bool onlyChooses() const override { return true; }
-    void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override
-    {
-        const CodeSheet in = allocateCodes(area, scratch);
-        fillCodes(in, reader);
-        sheet<CodeBatch>(in, out, Grid(), scratch);
-    }
 
-private:
     template <class V, class T>
     void sheet(const Sheet<T>& in, const Sheet<T>& out, const Grid& grid, Scratch& scratch) const
     {
@@ -236,6 +225,7 @@ private:
         }
     }
 
+private:
     template <class V, class T>
     static V extremeOf(const T* middle, const std::vector<Chord>& chords)
     {
@@ -271,34 +261,9 @@ V middleOf(const V& a, const V& b, const V& c)
     return max(min(a, b), min(max(a, b), c));
 }
 
-class MedianPass : public PassKernel {
+class MedianPass : public RankPass<MedianPass> {
 public:
-    Margin margin(const Grid& grid) const override { return {apart(grid), apart(grid)}; }
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
-    {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        forEachPlane(in, out, [&](int c) {
-            if (render.floats)
-                sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
-            else
-                sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
-        });
-    }
-    bool onlyChooses() const override { return true; }
-    void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override
-    {
-        const CodeSheet in = allocateCodes(area, scratch);
-        fillCodes(in, reader);
-        sheet<CodeBatch>(in, out, Grid(), scratch);
-    }
-
-private:
-    /// How many cells apart neighboring pixels lie.
-    static int apart(const Grid& grid) { return std::max(1, int(std::lround(std::min(grid.scale, 256.0)))); }
-    /// Where a cell covers several pixels, the median has less to do; it is gone when nine pixels make one cell.
-    static float share(const Grid& grid) { return float(std::clamp((3 * grid.scale - 1) / 2, 0.0, 1.0)); }
+    PassKernel::Margin margin(const Grid& grid) const override { return {apart(grid), apart(grid)}; }
 
     template <class V, class T>
     void sheet(const Sheet<T>& in, const Sheet<T>& out, const Grid& grid, Scratch& scratch) const
@@ -335,6 +300,12 @@ private:
             }
         }
     }
+
+private:
+    /// How many cells apart neighboring pixels lie.
+    static int apart(const Grid& grid) { return std::max(1, int(std::lround(std::min(grid.scale, 256.0)))); }
+    /// Where a cell covers several pixels, the median has less to do; it is gone when nine pixels make one cell.
+    static float share(const Grid& grid) { return float(std::clamp((3 * grid.scale - 1) / 2, 0.0, 1.0)); }
 };
 
 template <template <Extreme> class Pass, class... Lengths>
