@@ -1,6 +1,7 @@
 #include "platform/coreimage/CIContext.h"
 
 #include "platform/coreimage/graph/Codes.h"
+#include "platform/coreimage/graph/Once.h"
 #include "platform/coreimage/graph/Transfer.h"
 
 #include <algorithm>
@@ -110,6 +111,7 @@ bool CIContext::renderInto(
                 const GridRect tile = tiles.tile(i);
                 Scratch& scratch = Scratch::ofThread();
                 const ScratchScope scope(scratch);
+                const TileMemory memory;
                 const auto to = [&](int y) {
                     return pixels + std::size_t(top - 1 - y) * stride + std::size_t(tile.x0 - left) * pixelSize;
                 };

@@ -1,5 +1,5 @@
 // Small pictures enlarged along the edges of a larger one.
-#include "platform/coreimage/graph/Interleaved.h"
+#include "platform/coreimage/graph/Once.h"
 #include "platform/coreimage/kernel/PointwiseFilter.h"
 #include "platform/coreimage/passes/Blur.h"
 #include "platform/coreimage/passes/Resample.h"
@@ -63,12 +63,7 @@ struct Line {
     }
 };
 
-/// Large pictures are worked out where they are needed, rather than kept whole.
-CIImage keptIfSmall(const CIImage& image)
-{
-    constexpr double kMost = 6e6; // cells
-    return CIImage(sharedNode(image.node(), kMost));
-}
+CIImage once(const CIImage& image) { return CIImage(onceNode(image.node())); }
 
 /// Around each pixel of the small picture, the line that makes it out of the guide at its size; these lines, enlarged,
 /// are then applied to the guide. K. He, J. Sun, X. Tang: Guided Image Filtering, 2010; K. He, J. Sun: Fast Guided
@@ -83,13 +78,11 @@ CIImage guidedEnlarged(const Values& inputs, const CIImage& small, const CIImage
     const CIImage reduced =
         resampled(guide, std::max(1, int(std::lround(from.width))), std::max(1, int(std::lround(from.height))))
             .transformed(CIAffineTransform::translation(from.x, from.y));
-    const bool sameSize = from.width == to.width && from.height == to.height; // then reading it again costs nothing
-    const CIImage g = sameSize ? reduced : keptIfSmall(reduced);
-    const CIImage meanGuide = mean(g), meanSmall = mean(small);
+    const CIImage g = once(reduced), meanGuide = once(mean(g)), meanSmall = once(mean(small));
     const CIImage meanProduct = mean(pointwise<Product>(in, {g, small}, from)),
                   meanSquare = mean(pointwise<Product>(in, {g, g}, from));
-    const CIImage slope = keptIfSmall(pointwise<Slope>(in, {meanGuide, meanSmall, meanProduct, meanSquare}, from));
-    const CIImage offset = keptIfSmall(pointwise<Offset>(in, {slope, meanGuide, meanSmall}, from));
+    const CIImage slope = once(pointwise<Slope>(in, {meanGuide, meanSmall, meanProduct, meanSquare}, from));
+    const CIImage offset = pointwise<Offset>(in, {slope, meanGuide, meanSmall}, from);
     const auto enlarge = CIAffineTransform::translation(-from.x, -from.y)
                              .then(CIAffineTransform::scaling(to.width / from.width, to.height / from.height))
                              .then(CIAffineTransform::translation(to.x, to.y));

@@ -1,6 +1,7 @@
 #include "platform/coreimage/graph/Interleaved.h"
 
 #include "platform/coreimage/graph/Basics.h"
+#include "platform/coreimage/graph/Once.h"
 
 #include <algorithm>
 #include <atomic>
@@ -136,6 +137,7 @@ std::shared_ptr<const GridCopy> GridCopy::make(const Node& node, const Render& r
     tbb::parallel_for(0, (area.height() + band - 1) / band, [&](int index) {
         Scratch& scratch = Scratch::ofThread();
         const ScratchScope scope(scratch);
+        const TileMemory memory;
         GridRect rows = area;
         rows.y0 += index * band;
         rows.y1 = std::min(rows.y0 + band, area.y1);
