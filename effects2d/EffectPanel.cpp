@@ -216,8 +216,8 @@ private:
         if (!isNumber)
             number = QLocale::c().toDouble(m_readout->text(), &isNumber);
         m_readout->restore();
-        // Leaving the field as it was is no change.
-        if (isNumber)
+        // Leaving the field as it was is no change. "nan" is taken for a number.
+        if (isNumber && !std::isnan(number))
             userSets(rounded(std::clamp(number, m_range.min, m_range.max)));
     }
 

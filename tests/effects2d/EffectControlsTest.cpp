@@ -158,10 +158,13 @@ TEST_F(EffectControlsTest, SlidersThatDrawForLongActWhenLetGo)
     EXPECT_EQ(slider->value(), 35);
     EXPECT_EQ(effect->save().at("object_count"), CIValue(35));
     QTest::keyClick(readout, Qt::Key_Return); // the same number is no change
-    QTest::keyClicks(readout, "nonsense");
-    QTest::keyClick(readout, Qt::Key_Return);
-    EXPECT_EQ(readout->text(), "35");
-    EXPECT_EQ(posted.size(), 1);
+    for (const char* text : {"nonsense", "nan"}) {
+        readout->selectAll();
+        QTest::keyClicks(readout, text);
+        QTest::keyClick(readout, Qt::Key_Return);
+        EXPECT_EQ(readout->text(), "35");
+        EXPECT_EQ(posted.size(), 1) << text;
+    }
     readout->selectAll();
     QTest::keyClicks(readout, "5000");
     QTest::keyClick(readout, Qt::Key_Return);
