@@ -81,6 +81,11 @@ void Controller::resizeImageHeight(float width, float height)
 {
     if (!backgroundImage)
         return;
+    if (!(width > 0 && height > 0)) {
+        AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't have that size."),
+            tr("Its width and its height are numbers above zero."));
+        return;
+    }
     const std::optional<QSize> size = pixelSize(width, height);
     if (!size || !fitsIntoMemory(*size, m_pictureFormat)) {
         AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't be made that large."),

@@ -465,6 +465,14 @@
         <source>Change Mode</source>
         <translation>Modus wechseln</translation>
     </message>
+    <message>
+        <source>The picture can&apos;t have that size.</source>
+        <translation>Diese Größe kann das Bild nicht haben.</translation>
+    </message>
+    <message>
+        <source>Its width and its height are numbers above zero.</source>
+        <translation>Breite und Höhe sind Zahlen über null.</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>

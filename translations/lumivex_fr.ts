@@ -465,6 +465,14 @@
         <source>Change Mode</source>
         <translation>Changer de mode</translation>
     </message>
+    <message>
+        <source>The picture can&apos;t have that size.</source>
+        <translation>L’image ne peut pas avoir cette taille.</translation>
+    </message>
+    <message>
+        <source>Its width and its height are numbers above zero.</source>
+        <translation>Sa largeur et sa hauteur sont des nombres supérieurs à zéro.</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
@@ -171,7 +172,11 @@ TEST_F(EditsTest, ResizesInOneStep)
     controller.undo();
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
 
-    answering("OK", [&] { controller.resizeImageHeight(900'000, 900'000); });
+    for (const auto& [size, told] : {std::pair(900'000.0f, "made that large"), std::pair(0.0f, "have that size")})
+        answering("OK", [&, size = size] {
+            controller.resizeImageHeight(size, 900'000);
+            EXPECT_TRUE(window.findChild<QDialog*>("AlertPanel")->accessibleName().contains(told));
+        });
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
     panel->close();
     EXPECT_FALSE(action("actionResize")->isChecked());
