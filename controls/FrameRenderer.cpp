@@ -146,7 +146,7 @@ void FrameRenderer::Private::renderRequest(std::unique_lock<std::mutex>& lock)
             return;
         refining = true;
     }
-    if (!renderAt(1, request, serial, lock) && hurry && !stop) {
+    if (!renderAt(1, request, serial, lock) && hurry && !stop && serial == newest) {
         const double elapsed = Milliseconds(Clock::now() - started).count();
         pixelTime = std::max(pixelTime, 4 * elapsed / (double(request.size.width()) * request.size.height()));
         pending = true;
@@ -213,6 +213,19 @@ void FrameRenderer::request(const FrameRequest& request)
         d->control->cancel();
     d->impatience.start();
     d->work.notify_all();
+}
+
+void FrameRenderer::forget()
+{
+    const std::lock_guard lock(d->mutex);
+    d->wanted = {};
+    d->finishedSerial = ++d->newest; // nobody need wait
+    d->finishedFull = true;
+    d->finished.reset();
+    d->pending = false;
+    d->impatience.stop();
+    if (d->control)
+        d->control->cancel();
 }
 
 bool FrameRenderer::waitForAnyFrame(int milliseconds)

@@ -41,6 +41,8 @@ public:
 
     /// Asks for a frame. Asking again for the same one does nothing.
     void request(const FrameRequest&);
+    /// There is nothing to see now: drops the newest request, so that asking for the same again renders it again.
+    void forget();
     /// Waits until a frame of the newest request is finished, coarse or full; false when the time is over first.
     bool waitForAnyFrame(int milliseconds);
     /// Waits for the full frame of the newest request.

@@ -133,11 +133,14 @@ void MyImageView::refresh(Layer& layer)
         if (controller)
             layer.picture = &layer == &d->original ? controller->backImage() : controller->coreImageResult(false);
     }
-    if (layer.picture.isNull() && std::exchange(layer.frame, std::nullopt))
-        emit frameShown();
     const std::optional<FrameRequest> request = frameRequest(layer.picture);
-    if (!request)
+    if (!request) {
+        if (layer.renderer)
+            layer.renderer->forget();
+        if (std::exchange(layer.frame, std::nullopt))
+            emit frameShown();
         return;
+    }
     if (!layer.renderer) {
         if (!d->context)
             d->context = std::make_shared<CIContext>();

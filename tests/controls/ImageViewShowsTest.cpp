@@ -93,6 +93,14 @@ TEST_F(ImageViewTest, ShowsNothingWithoutAResult)
     const QColor after = colorAt(shown(), {200, 150});
     EXPECT_GT(difference(before, after), 2);
     EXPECT_EQ(difference(after, colorAt(shown(), {3, 3})), 0);
+
+    master.nothingToShow = false;
+    view.setNeedsDisplay();
+    EXPECT_EQ(difference(before, colorAt(shown(), {200, 150})), 0);
+    master.shown = master.picture.cropped({500, 500, 9, 9}); // a crop dragged off the picture
+    view.setNeedsDisplay();
+    EXPECT_EQ(difference(after, colorAt(shown(), {200, 150})), 0);
+    EXPECT_TRUE(view.shownFrame().isNull());
 }
 
 TEST_F(ImageViewTest, AsksForThePictureOnlyAfterAChange)
