@@ -117,7 +117,7 @@ void Controller::replacePicture(const CIImage& image, const QString& actionName)
 void Controller::copy()
 {
     const CIImage image = getEffectedImage();
-    if (!image)
+    if (!image || image.extent().isEmpty())
         return;
     CIBitmap bitmap;
     std::vector<std::byte> tiff;

@@ -150,6 +150,9 @@ TEST_F(EditsTest, WithoutAPictureNothingHappens)
     controller.copy();
     EXPECT_EQ(undo.canUndo(), couldUndo);
     EXPECT_FALSE(action("actionCopy")->isEnabled());
+    controller.setBackgroundImage(CIImage::fromBitmap(CIBitmap(4, 4)).cropped({9, 9, 4, 4}));
+    controller.copy();
+    EXPECT_FALSE(ui.pictureInfoField->text().contains("memory")) << ui.pictureInfoField->text().toStdString();
     EXPECT_TRUE(action("actionRotateLeft")->isEnabled()) << "like all that is not about an effect or the clipboard";
 }
 
