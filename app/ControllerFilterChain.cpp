@@ -41,6 +41,7 @@ void Controller::setBackgroundImage(const CIImage& image)
     updatePictureInfo();
     updateThumbnails();
     ResizePanel::setWHH(float(image.extent().width), float(image.extent().height));
+    ciView->setNeedsDisplay(); // in the other modes, too: it may have the same size
     updateView();
     validateMenuItems();
 }

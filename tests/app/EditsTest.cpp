@@ -4,6 +4,7 @@
 #include "app/RecentFiles.h"
 #include "app/Turning.h"
 #include "controls/DropImageView.h"
+#include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
 #include "files/ResizePanel.h"
 #include "platform/chain/Baking.h"
@@ -154,6 +155,26 @@ TEST_F(EditsTest, WithoutAPictureNothingHappens)
     controller.copy();
     EXPECT_FALSE(ui.pictureInfoField->text().contains("memory")) << ui.pictureInfoField->text().toStdString();
     EXPECT_TRUE(action("actionRotateLeft")->isEnabled()) << "like all that is not about an effect or the clipboard";
+}
+
+TEST_F(EditsTest, WhatChangesInAnotherModeIsSeenInStandardMode)
+{
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    picture.setPixel(0, 0, 0xff0000ff);
+    const QString file = folder.filePath("corner.png");
+    ASSERT_TRUE(picture.save(file));
+    controller.openFile(file);
+    MyImageView& view = *ui.pictureScrollView->imageView();
+    const auto corner = [&] {
+        EXPECT_TRUE(view.waitForFrame());
+        return view.shownFrame().pixel(0, 0);
+    };
+    const QRgb before = corner();
+    action("action3D")->trigger();
+    controller.flipHorizont(); // the size stays
+    action("actionStandard")->trigger();
+    EXPECT_NE(corner(), before);
 }
 
 TEST_F(EditsTest, ResizesInOneStep)
