@@ -1,13 +1,9 @@
 #include "platform/imageio/DecodeInTime.h"
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <future>
-#include <mutex>
-#include <thread>
+#include "platform/imageio/LooseThread.h"
 
-#include <unistd.h>
+#include <algorithm>
+#include <future>
 
 namespace imageio {
 
@@ -16,26 +12,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::chrono::seconds kLongest = 30s;
-
-std::atomic<int> leftThreads = 0; // given up and still at work
-
-/// What the libraries keep would be taken away under such a thread when the program ends.
-void endBesideLeftThreads()
-{
-#ifdef __GLIBC__
-    static std::once_flag once;
-    std::call_once(once, [] {
-        ::on_exit(
-            [](int status, void*) {
-                if (leftThreads > 0) {
-                    std::fflush(nullptr);
-                    ::_exit(status);
-                }
-            },
-            nullptr);
-    });
-#endif
-}
 
 /// All that the thread needs, for it may outlive the caller and what that owns.
 struct Job {
@@ -57,6 +33,7 @@ std::shared_ptr<Job> jobFor(const PictureInput& input, const ReadOptions& option
     }
     job->options = options;
     job->options.cancelled = &job->isGivenUp;
+    job->options.progress = nullptr; // the caller's
     return job;
 }
 
@@ -71,21 +48,19 @@ Result<CIBitmap> decodeInTime(const PictureInput& input, const ReadOptions& opti
 {
     const std::shared_ptr<Job> job = jobFor(input, options);
     std::future<Result<CIBitmap>> result = job->result.get_future();
-    ++leftThreads;
-    std::thread([job, decode] {
+    runOnLooseThread([job, decode] {
         try {
             useVips();
             job->result.set_value(decode(job->input, job->options));
         } catch (...) {
             job->result.set_exception(std::current_exception());
         }
-        --leftThreads;
-    }).detach();
+    });
     const auto deadline = std::chrono::steady_clock::now() + std::min(options.timeLimit, kLongest);
     const auto isCancelled = [&] { return options.cancelled && options.cancelled->load(std::memory_order_relaxed); };
     while (result.wait_for(20ms) != std::future_status::ready)
         if (isCancelled() || std::chrono::steady_clock::now() > deadline) {
-            endBesideLeftThreads();
+            giveUpLooseThread();
             job->isGivenUp = true;
             return isCancelled() ? givenUp(input) : tookTooLong(input);
         }

@@ -17,6 +17,7 @@ struct ReadOptions {
     int maxSide = 0; // px; when set, a larger picture is reduced while it is decoded. Quick, and good for a first view
     std::chrono::seconds timeLimit{120};
     const std::atomic<bool>* cancelled = nullptr; // set from another thread to give up; the result is then a failure
+    std::atomic<float>* progress = nullptr; // 0 to 1 of the pixels; stays as it is where nobody can tell
 };
 
 /// What the header of a picture file says.

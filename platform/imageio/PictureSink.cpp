@@ -84,6 +84,7 @@ class Sink {
 public:
     Sink(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options)
         : m_bands(vips_image_get_bands(image))
+        , m_height(vips_image_get_height(image))
         , m_options(options)
         , m_deadline(std::chrono::steady_clock::now() + options.timeLimit)
     {
@@ -133,6 +134,8 @@ private:
         default:
             place<std::uint8_t>(region, area);
         }
+        if (m_options.progress)
+            m_options.progress->store(float(area.top + area.height) / float(m_height), std::memory_order_relaxed);
         return 0;
     }
 
@@ -161,7 +164,7 @@ private:
         m_isOpaque = m_isOpaque && smallest >= kFull<T>;
     }
 
-    int m_bands;
+    int m_bands, m_height;
     const ReadOptions& m_options;
     std::chrono::steady_clock::time_point m_deadline;
     CIFormat m_format;

@@ -3,6 +3,7 @@
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
+#include "tests/support/NestedDocument.h"
 
 #include <algorithm>
 #include <chrono>
@@ -146,40 +147,16 @@ TEST_F(HostileFiles, DrawingsCantRunAway)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
 }
 
-/// Forms that each draw the next one ten times.
-Bytes nestedDocument(int depth)
-{
-    const auto stream = [](const std::string& entries, const std::string& content) {
-        return "<<" + entries + "/Length " + std::to_string(content.size()) + ">>stream\n" + content + "\nendstream";
-    };
-    const std::string form = "/Type/XObject/Subtype/Form/BBox[0 0 72 72]";
-    std::string tenTimes;
-    for (int i = 0; i < 10; ++i)
-        tenTimes += "/F Do ";
-    std::string document = "%PDF-1.4\n1 0 obj <</Type/Catalog/Pages 2 0 R>> endobj\n"
-                           "2 0 obj <</Type/Pages/Kids[3 0 R]/Count 1>> endobj\n"
-                           "3 0 obj <</Type/Page/Parent 2 0 R/MediaBox[0 0 72 72]/Contents 4 0 R"
-                           "/Resources<</XObject<</F 5 0 R>>>>>> endobj\n4 0 obj "
-        + stream("", tenTimes) + " endobj\n";
-    for (int i = 0; i < depth; ++i) {
-        const bool isLast = i + 1 == depth;
-        const std::string next = "/Resources<</XObject<</F " + std::to_string(6 + i) + " 0 R>>>>";
-        document += std::to_string(5 + i) + " 0 obj "
-            + stream(form + (isLast ? "" : next), isLast ? "0 0 3 3 re f" : tenTimes) + " endobj\n";
-    }
-    return bytesOf(document + "trailer<</Size " + std::to_string(5 + depth) + "/Root 1 0 R>>\n%%EOF\n");
-}
-
 TEST_F(HostileFiles, EndlessDrawingsAreLeftToThemselves)
 {
-    EXPECT_TRUE(readPicture(nestedDocument(2)));
+    EXPECT_TRUE(readPicture(bytesOf(nestedDocument(2))));
     const auto start = std::chrono::steady_clock::now();
-    const Result<CIBitmap> endless = readPicture(nestedDocument(12), {.timeLimit = std::chrono::seconds(1)});
+    const Result<CIBitmap> endless = readPicture(bytesOf(nestedDocument(12)), {.timeLimit = std::chrono::seconds(1)});
     EXPECT_EQ(endless.message(), "Opening The picture took too long.");
     const std::atomic<bool> isCancelled = true;
-    EXPECT_THAT(readPicture(nestedDocument(12), {.cancelled = &isCancelled}).message(), HasSubstr("given up"));
+    EXPECT_THAT(readPicture(bytesOf(nestedDocument(12)), {.cancelled = &isCancelled}).message(), HasSubstr("given up"));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
-    EXPECT_TRUE(readPicture(nestedDocument(2))) << "others go on";
+    EXPECT_TRUE(readPicture(bytesOf(nestedDocument(2)))) << "others go on";
 }
 
 TEST_F(HostileFiles, WhatIsNoPictureIsToldFromABrokenOne)

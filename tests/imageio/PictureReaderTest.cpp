@@ -244,9 +244,12 @@ TEST(PictureReader, ReducesWhileDecoding)
     EXPECT_EQ(read(pngFile(2, 1, 8, 0, bytesOf({7, 77})), {.maxSide = 100}).width(), 2);
 }
 
-TEST(PictureReader, CanBeGivenUp)
+TEST(PictureReader, SaysHowFarItIsAndCanBeGivenUp)
 {
     const Bytes png = *encodePicture(noiseBitmap(300, 300));
+    std::atomic<float> progress = 0;
+    EXPECT_TRUE(readPicture(png, {.progress = &progress}));
+    EXPECT_EQ(progress, 1);
     const std::atomic<bool> cancelled = true;
     EXPECT_FALSE(readPicture(png, {.cancelled = &cancelled}));
     EXPECT_FALSE(readPicture(rawFile(), {.cancelled = &cancelled}));
