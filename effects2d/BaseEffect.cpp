@@ -1,7 +1,6 @@
 #include "effects2d/BaseEffect.h"
 
 #include "effects2d/EffectMaster.h"
-#include "platform/coreimage/CIContext.h"
 
 void BaseEffect::clearTopControlsView()
 {
@@ -43,6 +42,11 @@ CIDictionary BaseEffect::save() const
 {
     return {{"Name", name}, {"Tips", m_tips}, {"startPT.x", float(m_startPT.x)}, {"startPT.y", float(m_startPT.y)},
         {"class", className()}};
+}
+
+BaseEffect::LaterImage BaseEffect::laterDrawImage()
+{
+    return [image = getDrawImage()](CIRenderControl*) { return image; };
 }
 
 QImage BaseEffect::drawPart(const quartz::Part& part) { return renderedPart(getDrawImage(), part); }

@@ -1,6 +1,7 @@
 // What all generated effects share, flat ones and those in 3D.
 #pragma once
 
+#include "platform/coreimage/CIContext.h"
 #include "platform/coreimage/CIImage.h"
 #include "platform/coreimage/CIValue.h"
 #include "platform/quartz/Drawing.h"
@@ -9,6 +10,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -70,6 +72,10 @@ public:
 
     /// The finished picture at full size; null for none.
     virtual CIImage getDrawImage() { return m_image; }
+    /// What `getDrawImage` gives now, to be made later: on any thread, also when the effect has changed or is gone.
+    /// Null when `control`, which may be null, is cancelled.
+    using LaterImage = std::function<CIImage(CIRenderControl* control)>;
+    virtual LaterImage laterDrawImage();
     /// What of `getDrawImage` lies in a part of the canvas, for the screen. Null when there is no picture.
     virtual QImage drawPart(const quartz::Part& part);
     /// The size of `getDrawImage`, without drawing it. 0 x 0 for none.

@@ -105,8 +105,13 @@ QSizeF GeneratedEffect::drawImageSize()
     return wasInit && m_effectImage ? m_effectImage->size() : canvasSize();
 }
 
-/// The layer at its opacity over the tint over the picture. `back` is null when the picture isn't wanted.
-QImage GeneratedEffect::composite(const quartz::Part& part, const QImage& back, const QImage& layer) const
+GeneratedEffect::Composition GeneratedEffect::composition() const
+{
+    return {m_effectImage->size(), showsBackImage() ? m_image : CIImage(), m_bgColor, m_opacity};
+}
+
+/// The layer at its opacity over the tint over the picture.
+QImage GeneratedEffect::Composition::composite(const quartz::Part& part, const QImage& back, const QImage& layer) const
 {
     QImage result = back;
     if (result.isNull()) {
@@ -116,8 +121,8 @@ QImage GeneratedEffect::composite(const quartz::Part& part, const QImage& back, 
     QPainter painter(&result);
     painter.setRenderHint(QPainter::Antialiasing);
     // Where the canvas ends within a pixel, the tint covers only its share.
-    painter.fillRect(part.fromCanvas().mapRect(QRectF(QPointF(0, 0), m_effectImage->size())), colorOf(m_bgColor));
-    painter.setOpacity(std::clamp(m_opacity / 100.0, 0.0, 1.0));
+    painter.fillRect(part.fromCanvas().mapRect(QRectF(QPointF(0, 0), canvas)), colorOf(tint));
+    painter.setOpacity(std::clamp(opacity / 100.0, 0.0, 1.0));
     painter.drawImage(0, 0, layer);
     return result;
 }
@@ -132,23 +137,39 @@ QImage GeneratedEffect::drawPart(const quartz::Part& part)
     if (m_shownLayer.pixels.isNull() || m_shownLayer.part != part)
         m_shownLayer = {part, m_effectImage->rendered(part)};
     // The copy made here keeps the pixels in `m_shownBack` as they are.
-    return composite(part, showsBackImage() ? m_shownBack.pixels.copy() : QImage(), m_shownLayer.pixels);
+    return composition().composite(part, showsBackImage() ? m_shownBack.pixels.copy() : QImage(), m_shownLayer.pixels);
 }
 
 CIImage GeneratedEffect::getDrawImage()
 {
     prepareToDraw();
+    return m_effectImage ? composition().drawn(*m_effectImage, nullptr) : m_image;
+}
+
+BaseEffect::LaterImage GeneratedEffect::laterDrawImage()
+{
+    prepareToDraw();
     if (!m_effectImage)
-        return m_image;
-    const quartz::Part whole = quartz::Part::whole(m_effectImage->size());
+        return BaseEffect::laterDrawImage();
+    return [composition = composition(), layer = m_effectImage->detached()](
+               CIRenderControl* control) { return composition.drawn(layer, control); };
+}
+
+/// In bands, so that there is no second picture in memory.
+CIImage GeneratedEffect::Composition::drawn(const quartz::Drawing& layer, CIRenderControl* control) const
+{
+    const quartz::Part whole = quartz::Part::whole(canvas);
     CIBitmap bitmap(whole.size.width(), whole.size.height(), CIFormat::BGRA8, CIAlpha::Premultiplied);
     for (int y = 0; y < bitmap.height(); y += kBandHeight) {
+        if (control && control->isCancelled())
+            return {};
         const int height = std::min(kBandHeight, bitmap.height() - y);
         const quartz::Part band{1, 0, whole.top - y, {bitmap.width(), height}};
-        const QImage back = showsBackImage() ? renderedPart(m_image, band) : QImage();
-        const QImage pixels = composite(band, back, m_effectImage->rendered(band));
+        const QImage pixels = composite(band, renderedPart(back, band), layer.rendered(band));
         for (int row = 0; row < height; ++row)
             std::memcpy(bitmap.mutableRow(y + row), pixels.constScanLine(row), std::size_t(bitmap.width()) * 4);
+        if (control)
+            control->setProgress(double(y + height) / bitmap.height());
     }
     return CIImage::fromBitmap(bitmap);
 }

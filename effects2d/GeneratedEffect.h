@@ -34,6 +34,7 @@ public:
     virtual void regenerate(EffectControl* sender);
 
     CIImage getDrawImage() override;
+    LaterImage laterDrawImage() override;
     QImage drawPart(const quartz::Part& part) override;
     QSizeF drawImageSize() override;
 
@@ -100,7 +101,16 @@ private:
     static void nameUndoStep(const EffectControl* sender);
     template <class Effect, class T>
     void registerUndo(void (Effect::*undoTarget)(T, EffectControl*), T value, EffectControl* sender);
-    QImage composite(const quartz::Part& part, const QImage& back, const QImage& layer) const;
+    /// All that the finished picture is made of, apart from the effect.
+    struct Composition {
+        QSizeF canvas;
+        CIImage back; // null when the picture isn't wanted
+        CIColor tint;
+        float opacity; // percent
+        QImage composite(const quartz::Part& part, const QImage& back, const QImage& layer) const;
+        CIImage drawn(const quartz::Drawing& layer, CIRenderControl* control) const;
+    };
+    Composition composition() const;
     bool showsBackImage() const { return m_useBackImage && !m_image.isNull(); }
 
     /// What the screen showed last, so that a new opacity or tint needs no new drawing.

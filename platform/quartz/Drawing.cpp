@@ -108,6 +108,17 @@ void Drawing::append(Figure figure)
     m_figures.push_back(std::move(figure));
 }
 
+Drawing Drawing::detached() const
+{
+    Drawing copy = *this;
+    for (Figure& figure : copy.m_figures)
+        if (!figure.path.isEmpty()) {
+            const QPainterPath::Element first = figure.path.elementAt(0);
+            figure.path.setElementPositionAt(0, first.x, first.y); // no longer shares what it is made of
+        }
+    return copy;
+}
+
 QImage Drawing::rendered(const Part& part) const
 {
     QImage image(part.size, QImage::Format_ARGB32_Premultiplied);

@@ -64,6 +64,9 @@ public:
     const std::vector<Figure>& figures() const { return m_figures; }
     void append(Figure figure); // fills in its bounds
 
+    /// A copy that may be painted on another thread than this one: paths work out things when they are painted.
+    Drawing detached() const;
+
     /// Paints what is seen in `part` into a new image, antialiased. Null when there is no memory for it.
     QImage rendered(const Part& part) const; // ARGB32_Premultiplied
 

@@ -149,6 +149,28 @@ TEST(GeneratedEffect, ShowsThePartsOfWhatItExports)
     EXPECT_EQ(effect->drawPart({0.25, 0, 100, {20, 20}}).size(), QSize(20, 20));
 }
 
+TEST(GeneratedEffect, DrawsLaterWhatItWouldDrawNow)
+{
+    FakeEffectMaster master;
+    master.picture = plainPicture(60, 1500, 0xff204060);
+    Working<simpleEffects> effect(kSimple);
+    effect->seOpacity(50);
+    const auto pixels = [](const CIImage& image) {
+        return CIContext().render(image, {0, 0, 60, 1500}, 1, CIFormat::BGRA8, CIAlpha::Premultiplied);
+    };
+    const CIBitmap now = pixels(effect->getDrawImage());
+    const BaseEffect::LaterImage draw = effect->laterDrawImage();
+    effect->seOpacity(100);
+    effect->clearEffect();
+    CIRenderControl control;
+    const CIBitmap later = pixels(draw(&control));
+    EXPECT_EQ(control.progress(), 1);
+    for (int y = 0; y < 1500; ++y)
+        ASSERT_TRUE(std::ranges::equal(now.row<std::uint32_t>(y), later.row<std::uint32_t>(y))) << y;
+    control.cancel();
+    EXPECT_TRUE(draw(&control).isNull());
+}
+
 TEST(GeneratedEffect, FetchesThePictureOnceAndDrawsOnItsOwnLayer)
 {
     FakeEffectMaster master;
