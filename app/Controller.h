@@ -6,7 +6,6 @@
 #include "app/EffectList.h"
 #include "app/FavouritesStore.h"
 #include "app/OutlineModel.h"
-#include "platform/chain/PictureFormats.h"
 #include "app/PictureHistory.h"
 #include "controls/ImageViewMaster.h"
 #include "controls/ParameterMaster.h"
@@ -15,6 +14,7 @@
 #include "effects3d/OGLViewMaster.h"
 #include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
+#include "platform/chain/PictureFormats.h"
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/UndoManager.h"
 #include "platform/imageio/Result.h"
@@ -49,6 +49,7 @@ class QStackedWidget;
 class SessionJournal;
 class ZoomedCanvas;
 class customEffImageView;
+struct PictureRead;
 struct SessionState;
 
 namespace Ui {
@@ -168,7 +169,7 @@ public:
     void resizeImageHeight(float width, float height) override;
     void copy();
     void paste();
-    void undoPaste(const CIImage& image) override;
+    void undoPaste(const CIImage& image);
     void zoomChanged();
     void setZoom(float zoom) override; // moves the slider only
     void updateZoommWithDelta(double delta) override;
@@ -210,19 +211,27 @@ public:
     // Files: ControllerFiles.cpp
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files);
-    /// Opens a picture file as the open panel does.
-    void openFile(const QString& path);
-    /// The same as an undo step; nothing while the program is busy.
-    void openDroppedFile(const QString& path);
-    void setFilePath(const QString& path) override; // empty for none
+    void setFilePath(const QString& path); // empty for none
     void showInfoPanel(); // or hides it
     QString getFilePath() const { return _filePath; }
     void updateWinTitle();
-    CIImage readImage(const QString& path) override;
     void showReadFailure(const QString& path) override;
     QStringList pictureNameFilters() override;
     /// How the picture's pixels are stored; results that replace the picture are stored alike.
     CIFormat pictureFormat() const { return m_pictureFormat; }
+
+    // Opening: ControllerOpening.cpp
+    /// Opens a picture file as the open panel does. The picture may come later: the file is read in the background, and
+    /// only what has been read replaces picture, path and title. Nothing can be edited meanwhile, and a newer opening
+    /// takes the place of this one.
+    void openFile(const QString& path);
+    /// The same as an undo step, if it is a picture; nothing while the program is busy.
+    void openDroppedFile(const QString& path);
+    void takeDroppedFile(const QString& path) override;
+    /// Leaves everything as it was before the file was opened.
+    void cancelOpening();
+    bool isOpening() const { return m_opening != nullptr; }
+    std::optional<CIImage> readImage(const QString& path) override;
 
     // Export: ControllerExport.cpp
     void initExportFormats();
@@ -237,6 +246,7 @@ public:
     void createPDFFileResolution(const QString& path, double resolution);
     /// The finished picture of the current mode: what the user sees. The source picture when nothing is being edited.
     CIImage getEffectedImage();
+    BaseEffect::LaterImage laterEffectedImage();
     /// Tells what another mode shows: upright, with pixels for points; null when it has no current effect.
     void setModeResult(FilterMode mode, std::function<CIImage()> result);
     /// The pixels of the finished picture. Null when there is no picture or the user stopped the rendering.
@@ -319,7 +329,27 @@ public:
     /// Starts a process for it; an empty path opens the window alone.
     static void openInNewWindow(const QString& path);
 
+signals:
+    /// Finished, failed or cancelled.
+    void openingEnded();
+
 private:
+    struct Opening;
+    void openInBackground(const QString& path, int reducedSide, std::function<void(const CIImage&)> take);
+    int reducedSide() const;
+    void showReduced(const CIImage& picture);
+    void openingFinished(const PictureRead& read);
+    std::shared_ptr<Opening> endOpening();
+    QString openingPath() const;
+    CIImage lastingPicture() const;
+    bool isOpeningShown() const;
+    QString openingText(const QString& path) const;
+    void showOpening();
+    void showOpeningProgress();
+    void hideOpening(const Opening& opening);
+    void setEditable(bool on);
+    bool isFree(const QAction& item) const;
+    CIImage takeRead(const PictureRead& read);
     void commitData(QSessionManager& session);
     bool asksToRestore(const SessionState& state);
     void restoreFilter(const SessionState& state);
@@ -338,6 +368,7 @@ private:
         const QString& actionName, const std::function<std::optional<CIValue>(const CIInputAttributes&)>& valueFor);
     bool hasInputsToSet(bool randomly) const;
     void registerUndoPaste();
+    CIImage turned(const QString& title, const std::function<CIImage()>& turn);
     CIImage restored(KeptPicture& kept);
     void dropImagesOfPastFilters();
     void fitZoom();
@@ -358,11 +389,9 @@ private:
     void connectCustom();
     void setCurrentCustomEffect(const std::shared_ptr<BaseEffect>& effect);
     void showCustomEffectName();
-    void applyCustom();
+    bool applyCustom();
     ZoomedCanvas* zoomedView() const;
     void showZoom();
-    void showReduced(const std::string& file);
-    CIImage pictureOf(const Result<CIBitmap>& read, const QString& path);
     void takeMetadataOf(const CIImage& image);
     void updatePictureInfo();
     void showMessage(const QString& text);
@@ -443,8 +472,9 @@ private:
     std::shared_ptr<const PictureMetadata> m_metadata; // of the file that the picture came from
     struct {
         std::weak_ptr<const ci::Node> picture;
-        QString path;
+        std::shared_ptr<const PictureMetadata> metadata;
     } m_lastRead;
+    std::shared_ptr<Opening> m_opening; // null when nothing is being opened
     QString m_readFailure; // why the last file could not be read; empty when it could
     QTimer m_messageEnd;
     CatalogueSearch* m_search;

@@ -7,6 +7,7 @@
 #include "effects2d/customEffImageView.h"
 #include "platform/chain/Baking.h"
 #include "ui_MainWindow.h"
+#include "widgets/BackgroundWork.h"
 
 #include <QCoreApplication>
 
@@ -75,21 +76,37 @@ void Controller::showCustomEffectName()
 
 CIImage Controller::resultCustom() { return currentCustomEffect ? currentCustomEffect->getDrawImage() : CIImage(); }
 
-void Controller::applyCustom()
+/// False when the user stopped it.
+bool Controller::applyCustom()
 {
-    const CIImage drawn = resultCustom();
-    if (!drawn)
-        return;
-    const CIImage applied = bakedImage(*m_context, drawn, m_pictureFormat);
-    replacePicture(applied ? applied : drawn, tr("Apply"));
-    setWasChanged(true);
+    if (!currentCustomEffect)
+        return true;
+    CIImage drawn, baked;
+    WorkControl control(1);
+    const BaseEffect::LaterImage draw = currentCustomEffect->laterDrawImage();
+    workInBackground(&m_window, tr("Applying the effect…"), control, [&] {
+        drawn = draw(&control.rendering);
+        baked = bakedImage(*m_context, drawn, m_pictureFormat, &control.rendering);
+        makeReducedCopies(baked);
+    });
+    if (control.isCancelled())
+        return false;
+    if (drawn) {
+        replacePicture(baked ? baked : drawn, tr("Apply"));
+        setWasChanged(true);
+    }
+    return true;
 }
 
 void Controller::addFavoritesCustom()
 {
     if (!currentCustomEffect)
         return;
-    const QImage thumbnail = favouriteThumbnail(currentCustomEffect->getDrawImage());
+    QImage thumbnail;
+    WorkControl control(1);
+    const BaseEffect::LaterImage draw = currentCustomEffect->laterDrawImage();
+    workInBackground(&m_window, tr("Drawing the favourite…"), control,
+        [&] { thumbnail = favouriteThumbnail(draw(&control.rendering)); });
     if (!thumbnail.isNull())
         m_favoritesCustom.add(thumbnail, *currentCustomEffect);
 }

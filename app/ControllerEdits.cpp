@@ -1,5 +1,6 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
+#include "app/PictureOpening.h"
 #include "app/Turning.h"
 #include "app/ZoomScale.h"
 #include "controls/MyImageView.h"
@@ -7,12 +8,10 @@
 #include "effects2d/customEffImageView.h"
 #include "effects2d/GeneratedEffect.h"
 #include "files/PictureLimits.h"
-#include "files/PictureMessages.h"
 #include "files/PlainPicture.h"
 #include "platform/chain/Baking.h"
 #include "platform/coreimage/passes/Resample.h"
 #include "platform/foundation/Pasteboard.h"
-#include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
 #include "ui_MainWindow.h"
 #include "widgets/AlertPanel.h"
@@ -54,9 +53,28 @@ void Controller::showZoom()
         ui.zoomField->setText(tr("%1 %").arg(std::lround(zoomedView()->getZoom() * 100)));
 }
 
+/// Beside the living window; null when there is no memory for it, which the user is told. Soon done, so not to be
+/// stopped.
+CIImage Controller::turned(const QString& title, const std::function<CIImage()>& turn)
+{
+    CIImage picture;
+    WorkControl control(1);
+    control.canBeCancelled = false;
+    if (!workInBackground(&m_window, title, control, [&] {
+            picture = turn();
+            makeReducedCopies(picture);
+        })) {
+        showMessage(tr("There was not enough memory to turn the picture"));
+        return {};
+    }
+    return picture;
+}
+
 void Controller::rotateImage(bool left)
 {
-    const CIImage rotated = backgroundImage ? rotatedPicture(backgroundImage, left) : CIImage();
+    if (!backgroundImage || isOpening())
+        return;
+    const CIImage rotated = turned(tr("Rotating the picture…"), [&] { return rotatedPicture(backgroundImage, left); });
     if (!rotated)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
@@ -68,7 +86,10 @@ void Controller::rotateImage(bool left)
 
 void Controller::flipImage(bool vertical)
 {
-    const CIImage flipped = backgroundImage ? flippedPicture(backgroundImage, vertical) : CIImage();
+    if (!backgroundImage || isOpening())
+        return;
+    const CIImage flipped =
+        turned(tr("Flipping the picture…"), [&] { return flippedPicture(backgroundImage, vertical); });
     if (!flipped)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
@@ -79,7 +100,7 @@ void Controller::flipImage(bool vertical)
 
 void Controller::resizeImageHeight(float width, float height)
 {
-    if (!backgroundImage)
+    if (!backgroundImage || isOpening())
         return;
     if (!(width > 0 && height > 0)) {
         AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't have that size."),
@@ -116,15 +137,17 @@ void Controller::replacePicture(const CIImage& image, const QString& actionName)
 
 void Controller::copy()
 {
-    const CIImage image = getEffectedImage();
-    if (!image || image.extent().isEmpty())
+    if (isOpening())
+        return;
+    const BaseEffect::LaterImage image = laterEffectedImage();
+    if (!image)
         return;
     CIBitmap bitmap;
     std::vector<std::byte> tiff;
     QImage shown;
     WorkControl control(0.5);
     workInBackground(&m_window, tr("Copying the picture…"), control, [&] {
-        bitmap = renderedBitmap(*m_context, image, m_pictureFormat, &control.rendering);
+        bitmap = renderedBitmap(*m_context, image(&control.rendering), m_pictureFormat, &control.rendering);
         Result<std::vector<std::byte>> encoded =
             encodePicture(bitmap, {.format = PictureFormat::Tiff, .control = &control.writing});
         if (encoded)
@@ -170,20 +193,20 @@ void Controller::dropImagesOfPastFilters()
 
 void Controller::paste()
 {
-    const QByteArray data = Pasteboard::generalPasteboard().pictureData();
+    const QByteArray data = isOpening() ? QByteArray() : Pasteboard::generalPasteboard().pictureData();
     if (data.isEmpty())
+        return;
+    PictureRead read;
+    WorkControl control(1);
+    workInBackground(&m_window, tr("Pasting the picture…"), control, [&] {
+        read = readUnlessCancelled(
+            [data](const ReadOptions& options) { return readPictureData(data, options); }, control.rendering);
+    });
+    if (control.isCancelled())
         return;
     registerUndoPaste();
     m_undoManager.setActionName(tr("Paste"));
-    const Result<CIBitmap> read = readPicture(std::as_bytes(std::span(data.data(), std::size_t(data.size()))));
-    CIImage image;
-    if (read) {
-        image = CIImage::fromBitmap(read.value());
-        m_formats.remember(image, read.value().format());
-        m_readFailure.clear();
-    } else {
-        m_readFailure = shownPictureMessage(read.message());
-    }
+    const CIImage image = takeRead(read);
     setBackgroundImage(image);
     takeMetadataOf(image);
     if (filerMode() != ThreeD)

@@ -71,13 +71,29 @@ CIImage Controller::getEffectedImage()
     return result ? result : source;
 }
 
+/// The same, to be made on another thread: generated effects take long at full size. Null when there is nothing.
+BaseEffect::LaterImage Controller::laterEffectedImage()
+{
+    if (filerMode() == Custom && currentCustomEffect)
+        return [draw = currentCustomEffect->laterDrawImage(), source = getImage(false)](CIRenderControl* control) {
+            const CIImage drawn = draw(control);
+            return drawn || (control && control->isCancelled()) ? drawn : source;
+        };
+    const CIImage image = getEffectedImage();
+    if (image.extent().isEmpty())
+        return {};
+    return [image](CIRenderControl*) { return image; };
+}
+
 CIBitmap Controller::createObjectImage()
 {
     CIBitmap bitmap;
-    const CIImage image = getEffectedImage();
+    const BaseEffect::LaterImage image = laterEffectedImage();
+    if (!image)
+        return bitmap;
     WorkControl control(1);
     workInBackground(&m_window, tr("Rendering the picture…"), control,
-        [&] { bitmap = renderedBitmap(*m_context, image, m_pictureFormat, &control.rendering); });
+        [&] { bitmap = renderedBitmap(*m_context, image(&control.rendering), m_pictureFormat, &control.rendering); });
     return bitmap;
 }
 
@@ -99,6 +115,8 @@ void Controller::getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& d
 
 void Controller::saveImg()
 {
+    if (isOpening())
+        return;
     if (_filePath.isEmpty()) {
         runSavePanel();
         return;
@@ -141,6 +159,8 @@ bool Controller::saveExistFile()
 
 void Controller::runSavePanel()
 {
+    if (isOpening())
+        return;
     auto* panel = new SavePanel(&m_window, saveObjectOutlet);
     panel->setWindowTitle(tr("Save Image As:"));
     panel->setAttribute(Qt::WA_DeleteOnClose);
@@ -215,11 +235,12 @@ void Controller::createPDFFileResolution(const QString& path, double)
 bool Controller::writeInBackground(
     const QString& path, const std::function<Result<void>(const CIBitmap&, CIRenderControl&)>& write)
 {
-    const CIImage image = getEffectedImage();
+    const BaseEffect::LaterImage image = laterEffectedImage();
     Result<void> result = Failure{tr("There was not enough memory to save the picture.").toStdString()};
     WorkControl control(kRenderingShare);
     workInBackground(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), control, [&] {
-        const CIBitmap bitmap = renderedBitmap(*m_context, image, m_pictureFormat, &control.rendering);
+        const CIImage finished = image ? image(&control.rendering) : CIImage();
+        const CIBitmap bitmap = renderedBitmap(*m_context, finished, m_pictureFormat, &control.rendering);
         control.rendering.setProgress(1);
         if (!control.isCancelled())
             result = write(bitmap, control.writing);

@@ -2,23 +2,15 @@
 #include "app/MainWindow.h"
 #include "app/PictureFiles.h"
 #include "app/RecentFiles.h"
-#include "controls/MyImageView.h"
-#include "files/PictureMessages.h"
-#include "platform/imageio/PictureMetadata.h"
-#include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
-#include "widgets/BackgroundWork.h"
 #include "widgets/FilePanel.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QUrl>
 
 #include <chrono>
-#include <future>
 
 namespace {
 
@@ -63,59 +55,6 @@ void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
         openFile(files.first());
 }
 
-void Controller::openFile(const QString& path)
-{
-    setFilePath(path);
-    const std::string file = QFile::encodeName(path).toStdString();
-    auto whole = std::async(std::launch::async, [&file] { return readPicture(file); });
-    showReduced(file);
-    const CIImage image = pictureOf(whole.get(), path);
-    setBackgroundImage(image);
-    takeMetadataOf(image);
-    if (image) {
-        rememberRecentFile(path);
-        markSessionClean();
-    }
-}
-
-/// Large JPEG files are on screen in about half the time when they are decoded no larger than that; the whole picture
-/// takes the place before anybody can act on it.
-void Controller::showReduced(const std::string& file)
-{
-    constexpr double kLarge = 8e6; // px
-    constexpr int kPatience = 50; // ms
-    const Result<PictureInfo> info = readPictureInfo(file);
-    if (!ciView->isVisible() || !info || info.value().formatName != "JPEG"
-        || double(info.value().width) * info.value().height < kLarge)
-        return;
-    const int side = int(std::max(ciView->width(), ciView->height()) * ciView->devicePixelRatioF());
-    const Result<CIBitmap> reduced = readPicture(file, {.maxSide = side});
-    if (!reduced)
-        return;
-    const CIBitmap& bitmap = reduced.value();
-    const double width = info.value().width, height = info.value().height;
-    setBackgroundImage(CIImage::fromBitmap(bitmap)
-                           .clampedToExtent()
-                           .transformed(CIAffineTransform::scaling(width / bitmap.width(), height / bitmap.height()))
-                           .cropped({0, 0, width, height}));
-    ciView->waitForFrame(kPatience);
-}
-
-void Controller::openDroppedFile(const QString& path)
-{
-    if (path.isEmpty() || isWorkRunning() || QApplication::activeModalWidget())
-        return;
-    const CIImage image = readImage(path);
-    if (!image) {
-        showReadFailure(path);
-        return;
-    }
-    setFilePath(path);
-    undoPaste(image);
-    m_undoManager.setActionName(tr("Open"));
-    rememberRecentFile(path);
-}
-
 void Controller::setFilePath(const QString& path)
 {
     _filePath = path;
@@ -136,35 +75,6 @@ void Controller::updateWinTitle()
         title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
     m_window.setWindowModified(m_wasChanged);
-}
-
-CIImage Controller::readImage(const QString& path)
-{
-    m_readFailure.clear();
-    if (path.isEmpty())
-        return {};
-    return pictureOf(readPicture(QFile::encodeName(path).toStdString()), path);
-}
-
-CIImage Controller::pictureOf(const Result<CIBitmap>& read, const QString& path)
-{
-    m_readFailure.clear();
-    if (!read) {
-        m_readFailure = shownPictureMessage(read.message());
-        return {};
-    }
-    const CIImage image = CIImage::fromBitmap(read.value());
-    m_formats.remember(image, read.value().format());
-    m_lastRead = {image.node(), path};
-    return image;
-}
-
-/// What comes from no file, as by a paste, has none. Read now, since a save may replace the file.
-void Controller::takeMetadataOf(const CIImage& image)
-{
-    m_metadata.reset();
-    if (image && image.node() == m_lastRead.picture.lock())
-        m_metadata = PictureMetadata::ofFile(QFile::encodeName(m_lastRead.path).toStdString());
 }
 
 QStringList Controller::pictureNameFilters()
@@ -190,6 +100,10 @@ void Controller::showMessage(const QString& text)
 
 void Controller::updatePictureInfo()
 {
+    if (isOpeningShown()) {
+        ui.pictureInfoField->setText(openingText(openingPath()));
+        return;
+    }
     const CIRect extent = backgroundImage.extent();
     QString text = m_readFailure.isEmpty() ? tr("No picture") : m_readFailure;
     if (backgroundImage)

@@ -123,13 +123,17 @@ CIImage Controller::coreImageResult(bool overBlack)
 
 void Controller::applyBtn()
 {
+    if (isOpening())
+        return;
     if (filerMode() == Standard) {
         if (CIImage applied = movedToOrigin(coreImageResult(false))) {
             if (currentFilter) {
                 WorkControl control(1);
                 CIImage baked;
-                workInBackground(&m_window, tr("Applying the filter…"), control,
-                    [&] { baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering); });
+                workInBackground(&m_window, tr("Applying the filter…"), control, [&] {
+                    baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering);
+                    makeReducedCopies(baked);
+                });
                 if (control.isCancelled())
                     return;
                 // Pixels from here on; only where there is no memory for them the recipe itself.
@@ -141,8 +145,8 @@ void Controller::applyBtn()
         }
     } else if (filerMode() == ThreeD) {
         apply3D();
-    } else {
-        applyCustom();
+    } else if (!applyCustom()) {
+        return;
     }
     clearAllAndUpdate();
 }

@@ -19,6 +19,7 @@ void Controller::connectInterface()
     for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
         connect(button, &QAbstractButton::clicked, this, [this, button] { changeFilterMode(button); });
     connect(ui.applyBtn, &QAbstractButton::clicked, this, &Controller::applyBtn);
+    connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
     connect(&m_window, &MainWindow::compareHeld, this, &Controller::compare);
     connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
@@ -99,9 +100,10 @@ void Controller::updateLayout()
 
 void Controller::updateMainBtnState()
 {
-    pasteBtn->setEnabled(Pasteboard::generalPasteboard().offersTIFF());
-    ui.applyBtn->setEnabled(hasCurrentItem());
-    ui.compareBtn->setEnabled(filerMode() == Standard && currentFilter);
+    const bool isFree = !isOpeningShown();
+    pasteBtn->setEnabled(isFree && Pasteboard::generalPasteboard().offersTIFF());
+    ui.applyBtn->setEnabled(isFree && hasCurrentItem());
+    ui.compareBtn->setEnabled(isFree && filerMode() == Standard && currentFilter);
     splitView();
     updateWinTitle();
     validateMenuItems();
@@ -115,7 +117,7 @@ bool Controller::validateMenuItem(QAction& item)
         item.setText(m_undoManager.undoMenuItemTitle());
     } else if (&item == ui.actionRedo) {
         enabled = m_undoManager.canRedo();
-        ui.menuUndoHistory->setEnabled(enabled || m_undoManager.canUndo());
+        ui.menuUndoHistory->setEnabled(isFree(item) && (enabled || m_undoManager.canUndo()));
         item.setText(m_undoManager.redoMenuItemTitle());
     } else if (&item == ui.actionCopy) {
         enabled = bool(backgroundImage);
@@ -124,7 +126,7 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionResize) {
         item.setChecked(m_resizePanel && m_resizePanel->isVisible());
     } else if (&item == ui.actionPaste) {
-        enabled = Pasteboard::generalPasteboard().offersTIFF();
+        enabled = isFree(item) && Pasteboard::generalPasteboard().offersTIFF();
         pasteBtn->setEnabled(enabled);
     } else if (&item == ui.actionClearEffect || &item == ui.actionApply || &item == ui.actionAddFavourite) {
         enabled = hasCurrentItem();
@@ -147,6 +149,7 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionHelp) {
         item.setVisible(!HelpWindow::firstPage().isEmpty());
     }
+    enabled = enabled && isFree(item);
     item.setEnabled(enabled);
     return enabled;
 }

@@ -89,7 +89,13 @@ bool Controller::hasCurrentItem() const
     }
 }
 
-void Controller::escapeEffect() { clearAllAndUpdate(); }
+void Controller::escapeEffect()
+{
+    if (isOpening())
+        cancelOpening();
+    else
+        clearAllAndUpdate();
+}
 
 /// Of the current mode, which is that of 3D effects or of generated ones.
 void Controller::setCurrentEffect(const std::shared_ptr<BaseEffect>& effect)

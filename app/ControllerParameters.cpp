@@ -42,6 +42,8 @@ void Controller::setActionNameForFilterKey(const CIFilter& filter, const std::st
 
 void Controller::undo()
 {
+    if (isOpening())
+        return;
     m_undoManager.undo();
     updateView();
     updateLayout();
@@ -49,6 +51,8 @@ void Controller::undo()
 
 void Controller::redo()
 {
+    if (isOpening())
+        return;
     m_undoManager.redo();
     updateView();
     updateLayout();

@@ -48,8 +48,9 @@ SessionState Controller::sessionState()
         {"format", double(m_pictureFormat)}};
     if (m_metadata)
         state.values["metadataOf"] = m_metadata->file().string();
-    if (backgroundImage && !backgroundImage.extent().isInfinite())
-        state.pictures[kPicture] = backgroundImage;
+    const CIImage picture = lastingPicture();
+    if (picture && !picture.extent().isInfinite())
+        state.pictures[kPicture] = picture;
     if (currentFilter) {
         CIDictionary inputs;
         for (const std::string& key : currentFilter->inputKeys()) {
@@ -58,7 +59,7 @@ SessionState Controller::sessionState()
                 continue;
             const CIValue value = currentFilter->valueForKey(key);
             if (const CIImage image = value.toImage(); image) {
-                if (image.node() != backgroundImage.node() && !image.extent().isInfinite())
+                if (image.node() != picture.node() && !image.extent().isInfinite())
                     state.pictures[kInput + key] = image;
             } else if (!value.isNothing() && !value.isImage()) {
                 inputs[key] = value;
@@ -179,7 +180,8 @@ void Controller::offerRestore(const QString& home)
             showMessage(tr("The picture can't be restored; its journal is damaged."));
             continue;
         }
-        const QString opened = _filePath;
+        const QString opened = isOpening() ? openingPath() : _filePath;
+        cancelOpening();
         restoreSession(*state);
         if (m_journal)
             m_journal->adopt(std::move(session));

@@ -2,6 +2,7 @@
 #include "app/Controller.h"
 #include "app/MainWindow.h"
 #include "app/OutlineView.h"
+#include "app/PictureOpening.h"
 #include "app/SessionJournal.h"
 #include "controls/MyImageView.h"
 #include "controls/PictureScrollView.h"
@@ -57,8 +58,8 @@ Controller::Controller(MainWindow& window)
     , m_list3D(m_effects3D, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
     , m_effectsCustom(effectsCustom(), EffectList::Marks::Mousing)
     , m_listCustom(m_effectsCustom, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
-    , m_favorites({kFilterFavouritesKey, nullptr, [this](auto* button) { filterChanged(button); }},
-          *m_pageController, *this)
+    , m_favorites(
+          {kFilterFavouritesKey, nullptr, [this](auto* button) { filterChanged(button); }}, *m_pageController, *this)
     , m_favorites3D({QStringLiteral("3DEffectsFavorites"), &m_effects3D.prototypes(),
                         [this](auto* button) { filterChanged3D(button); },
                         &QWidget::y}, // all of them lie at the top: a step towards the first
@@ -98,7 +99,7 @@ void Controller::awakeFromNib()
     m_resizePanel = new ResizePanel(&m_window, *this);
     for (const QDialog* panel : {static_cast<QDialog*>(infoPanel), static_cast<QDialog*>(m_resizePanel)})
         connect(panel, &QDialog::finished, this, &Controller::validateMenuItems); // their buttons are on no more
-    setBackgroundImage(readImage(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg"))));
+    setBackgroundImage(takeRead(readPictureFile(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg")))));
     setDefaultImagePaths();
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();

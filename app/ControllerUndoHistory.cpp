@@ -11,6 +11,8 @@ constexpr int kLines = 20;
 
 void Controller::goInUndoHistory(int moves)
 {
+    if (isOpening())
+        return;
     for (; moves < 0 && m_undoManager.canUndo(); ++moves)
         m_undoManager.undo();
     for (; moves > 0 && m_undoManager.canRedo(); --moves)

@@ -39,7 +39,7 @@ void Controller::windowDidBecomeVisible()
 void Controller::keyUp(int key)
 {
     if (key == Qt::Key_Escape)
-        clearAllAndUpdate();
+        escapeEffect();
 }
 
 void Controller::applicationDidFinishLaunching()
@@ -57,6 +57,7 @@ Controller::TerminateReply Controller::applicationShouldTerminate()
 {
     if (isWorkRunning())
         return TerminateReply::Cancel; // its thread works for the window
+    cancelOpening(); // what there is to save is the former picture
     if (quitAfterSave || !m_wasChanged)
         return TerminateReply::Now;
     const int answer = AlertPanel::Alert_DONTSAVECANCELMsgText(&m_window, tr("Do you want to save changes?"),

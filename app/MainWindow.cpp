@@ -182,6 +182,7 @@ void MainWindow::setButtons()
         button->setDefaultAction(action);
     }
     ui->applyBtn->setProperty("prominent", true);
+    ui->openingCancelBtn->setShortcut(Qt::Key_Escape); // while it is there, nothing else has the key
     connect(ui->compareBtn, &QAbstractButton::pressed, this, [this] { emit compareHeld(true); });
     connect(ui->compareBtn, &QAbstractButton::released, this, [this] { emit compareHeld(false); });
 }

@@ -33,9 +33,6 @@ public:
     virtual void updateZoommWithDelta(double delta) = 0;
     /// Tells the zoom control what the view's zoom is now; doesn't come back to the view.
     virtual void setZoom(float zoom) = 0;
-    virtual void setFilePath(const QString& path) = 0;
-    /// Replaces the picture, undoably.
-    virtual void undoPaste(const CIImage& image) = 0;
-    /// Reads a dropped file; null when it is no readable picture.
-    virtual CIImage readImage(const QString& path) = 0;
+    /// Makes it the current file, and what can be read of it the picture, undoably. May take effect later.
+    virtual void takeDroppedFile(const QString& path) = 0;
 };

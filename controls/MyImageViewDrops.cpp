@@ -82,8 +82,6 @@ void MyImageView::dropEvent(QDropEvent* event)
     if (!controller || event->mimeData()->hasImage() || event->mimeData()->hasFormat("image/tiff"))
         return;
     const QString path = firstDroppedFile(*event->mimeData());
-    if (path.isEmpty())
-        return;
-    controller->setFilePath(path);
-    controller->undoPaste(controller->readImage(path));
+    if (!path.isEmpty())
+        controller->takeDroppedFile(path);
 }

@@ -5,6 +5,7 @@
 #include "platform/coreimage/CIImage.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <QStringList>
@@ -31,8 +32,9 @@ public:
     /// What the input holds when such a filter is newly chosen; nothing for an unknown key.
     virtual CIValue standardValueForKey(const CIFilter& filter, const std::string& key) = 0;
 
-    /// Reads a picture file; null when it is no readable picture.
-    virtual CIImage readImage(const QString& path) = 0;
+    /// Reads a picture file beside the living window. Null when it is no readable picture, nothing at all when the user
+    /// stopped it.
+    virtual std::optional<CIImage> readImage(const QString& path) = 0;
     /// Tells the user that the file could not be read, without asking for an answer.
     virtual void showReadFailure(const QString& path) = 0;
     /// For open panels: "Pictures (*.png …)" and the like.

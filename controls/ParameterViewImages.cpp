@@ -58,13 +58,16 @@ void ParameterView::addImageWellForImageTagMaster(const CIImage& image, int tag,
 /// The well keeps what it shows if the file is no picture.
 void ParameterView::takeFile(const QString& path)
 {
-    const CIImage image = master->readImage(path);
-    if (image)
-        imageView->setImage(thumbnailOf(image));
+    const QPointer<ParameterView> row(this); // may go meanwhile
+    const std::optional<CIImage> image = master->readImage(path);
+    if (!image || !row)
+        return;
+    if (*image)
+        imageView->setImage(thumbnailOf(*image));
     else
         master->showReadFailure(path);
     if (filter)
-        send(image);
+        send(*image);
 }
 
 void ParameterView::imageWellChanged() { takeFile(imageView->filePath()); }

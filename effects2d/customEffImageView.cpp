@@ -297,9 +297,6 @@ void customEffImageView::dropEvent(QDropEvent* event)
     if (!controller || event->mimeData()->hasImage() || event->mimeData()->hasFormat("image/tiff"))
         return;
     const QString path = firstDroppedFile(*event->mimeData());
-    if (path.isEmpty())
-        return;
-    controller->setFilePath(path);
-    controller->undoPaste(controller->readImage(path));
-    resizeViewBoundCenter(true, int(PictureCenter::Toward));
+    if (!path.isEmpty())
+        controller->takeDroppedFile(path);
 }

@@ -473,6 +473,34 @@
         <source>Its width and its height are numbers above zero.</source>
         <translation>Breite und Höhe sind Zahlen über null.</translation>
     </message>
+    <message>
+        <source>Applying the effect…</source>
+        <translation>Effekt wird angewendet …</translation>
+    </message>
+    <message>
+        <source>Drawing the favourite…</source>
+        <translation>Favorit wird gezeichnet …</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to turn the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu drehen</translation>
+    </message>
+    <message>
+        <source>Rotating the picture…</source>
+        <translation>Bild wird gedreht …</translation>
+    </message>
+    <message>
+        <source>Flipping the picture…</source>
+        <translation>Bild wird gespiegelt …</translation>
+    </message>
+    <message>
+        <source>Pasting the picture…</source>
+        <translation>Bild wird eingefügt …</translation>
+    </message>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>„%1“ wird geöffnet …</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -3214,6 +3242,18 @@
     <message>
         <source>Shows in the list what each filter makes of the picture</source>
         <translation>Zeigt in der Liste, was jeder Filter aus dem Bild macht</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Keeps the picture that was there (Esc)</source>
+        <translation>Behält das bisherige Bild (Esc)</translation>
+    </message>
+    <message>
+        <source>Cancel opening</source>
+        <translation>Öffnen abbrechen</translation>
     </message>
 </context>
 <context>

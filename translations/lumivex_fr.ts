@@ -473,6 +473,34 @@
         <source>Its width and its height are numbers above zero.</source>
         <translation>Sa largeur et sa hauteur sont des nombres supérieurs à zéro.</translation>
     </message>
+    <message>
+        <source>Applying the effect…</source>
+        <translation>Application de l’effet…</translation>
+    </message>
+    <message>
+        <source>Drawing the favourite…</source>
+        <translation>Dessin du favori…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to turn the picture</source>
+        <translation>Mémoire insuffisante pour tourner l’image</translation>
+    </message>
+    <message>
+        <source>Rotating the picture…</source>
+        <translation>Rotation de l’image…</translation>
+    </message>
+    <message>
+        <source>Flipping the picture…</source>
+        <translation>Retournement de l’image…</translation>
+    </message>
+    <message>
+        <source>Pasting the picture…</source>
+        <translation>Collage de l’image…</translation>
+    </message>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
+    </message>
 </context>
 <context>
     <name>DataSource</name>
@@ -3214,6 +3242,18 @@
     <message>
         <source>Shows in the list what each filter makes of the picture</source>
         <translation>Montre dans la liste ce que chaque filtre fait de l’image</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Keeps the picture that was there (Esc)</source>
+        <translation>Garde l’image précédente (Échap)</translation>
+    </message>
+    <message>
+        <source>Cancel opening</source>
+        <translation>Annuler l’ouverture</translation>
     </message>
 </context>
 <context>

@@ -38,6 +38,7 @@ public:
         m_bar->setRange(0, kBarSteps);
         m_bar->setTextVisible(false);
         m_bar->setAccessibleName(title);
+        m_cancel->setVisible(control.canBeCancelled);
         m_cancel->setAutoDefault(false); // a late Return is for what was there before
         m_cancel->setToolTip(QObject::tr("Stops and leaves everything as it was"));
         auto* layout = new QVBoxLayout(this);
@@ -49,18 +50,29 @@ public:
         layout->addWidget(m_bar);
         layout->addWidget(m_cancel, 0, Qt::AlignRight);
         connect(m_cancel, &QPushButton::clicked, this, &ProgressSheet::reject);
-        connect(&m_tick, &QTimer::timeout, this, [this] { m_bar->setValue(int(m_control.progress() * kBarSteps)); });
+        connect(&m_tick, &QTimer::timeout, this, &ProgressSheet::showProgress);
+        showProgress();
         m_tick.start(kTick);
     }
 
     /// The sheet stays until the work has really ended.
     void reject() override
     {
+        if (!m_control.canBeCancelled)
+            return;
         m_control.cancel();
         m_cancel->setEnabled(false);
     }
 
 private:
+    /// The bar runs to and fro as long as nobody can tell how far it is.
+    void showProgress()
+    {
+        const double progress = m_control.progress();
+        m_bar->setRange(0, progress > 0 ? kBarSteps : 0);
+        m_bar->setValue(int(progress * kBarSteps));
+    }
+
     WorkControl& m_control;
     QProgressBar* m_bar;
     QPushButton* m_cancel;

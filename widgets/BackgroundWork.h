@@ -18,6 +18,7 @@ public:
     {
     }
     CIRenderControl rendering, writing;
+    bool canBeCancelled = true; // or else the user waits
 
     void cancel()
     {

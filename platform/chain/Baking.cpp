@@ -52,3 +52,9 @@ CIImage bakedImage(const CIContext& context, const CIImage& image, CIFormat form
 {
     return CIImage::fromBitmap(renderedBitmap(context, image, format, control));
 }
+
+void makeReducedCopies(const CIImage& image)
+{
+    if (const auto* node = dynamic_cast<const ci::BitmapNode*>(image.node().get()))
+        node->levels();
+}

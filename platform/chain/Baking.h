@@ -14,3 +14,6 @@ CIBitmap renderedBitmap(
 
 /// The same as an image of its own with its lower left corner at the origin.
 CIImage bakedImage(const CIContext& context, const CIImage& image, CIFormat format, CIRenderControl* control = nullptr);
+
+/// Makes what views ask a bitmap for first, its reduced copies, so that they need not. From any thread; blocks.
+void makeReducedCopies(const CIImage& image);

@@ -44,7 +44,7 @@ protected:
 
 TEST_F(CataloguePicturesTest, ShowWhatAFilterMakesOfTheOpenPicture)
 {
-    controller.openFile(pictureFile("plain.png", 120, 80));
+    openPicture(pictureFile("plain.png", 120, 80));
     const int before = ui.listView->visualRect(ui.listView->model()->index(0, 0)).height();
     const QColor inverted = invertedColor();
     EXPECT_NE(shown("CIColorInvert"), inverted) << "not asked for yet";
@@ -53,7 +53,7 @@ TEST_F(CataloguePicturesTest, ShowWhatAFilterMakesOfTheOpenPicture)
     EXPECT_GT(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), before);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000));
 
-    controller.openFile(pictureFile("other.png", 60, 90));
+    openPicture(pictureFile("other.png", 60, 90));
     controller.rotateLeft();
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000)) << "made anew";
 

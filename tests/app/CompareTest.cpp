@@ -15,7 +15,7 @@ class CompareTest : public WindowTest {
 protected:
     CompareTest()
     {
-        controller.openFile(pictureFile("plain.png", 120, 80));
+        openPicture(pictureFile("plain.png", 120, 80));
         pick("CIColorInvert");
     }
 
@@ -68,7 +68,7 @@ TEST_F(CompareTest, WhatHappensMeanwhileIsSeenAfterwards)
     EXPECT_EQ(shown(), kPictureColor);
     pick("CIColorPosterize");
     EXPECT_EQ(shown(), kPictureColor) << "another filter doesn't end it";
-    controller.openFile(pictureFile("larger.png", 300, 200));
+    openPicture(pictureFile("larger.png", 300, 200));
     EXPECT_EQ(controller.getBgImageExtent().width, 300);
     EXPECT_EQ(shown(), kPictureColor);
     pick("CIColorInvert");

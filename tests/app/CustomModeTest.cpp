@@ -27,7 +27,7 @@ class CustomModeTest : public WindowTest {
 protected:
     CustomModeTest()
     {
-        controller.openFile(pictureFile("picture.png", 300, 200));
+        openPicture(pictureFile("picture.png", 300, 200));
         QTest::mouseClick(ui.customBtn, Qt::LeftButton);
         QCoreApplication::processEvents();
     }
@@ -118,7 +118,7 @@ TEST_F(CustomModeTest, WithoutAPictureTheCanvasHasItsOwnSize)
     }
     pickRow(kSketch);
     EXPECT_FALSE(controller.getEffectedImage());
-    controller.openFile(pictureFile("other.png", 120, 90)); // while an effect is shown
+    openPicture(pictureFile("other.png", 120, 90)); // while an effect is shown
     EXPECT_EQ(controller.getEffectedImage().extent(), (CIRect{0, 0, 120, 90}));
     EXPECT_NEAR(view().bounds().width, 120, 5);
 }

@@ -143,7 +143,7 @@ TEST_F(EditsTest, FlipIsUndoneByTheOtherFlip)
 
 TEST_F(EditsTest, WithoutAPictureNothingHappens)
 {
-    controller.openFile("/nowhere.png");
+    openPicture("/nowhere.png");
     const bool couldUndo = undo.canUndo();
     controller.rotateLeft();
     controller.flipVert();
@@ -179,7 +179,7 @@ TEST_F(EditsTest, WhatChangesInAnotherModeIsSeenInStandardMode)
 
 TEST_F(EditsTest, ResizesInOneStep)
 {
-    controller.openFile(pictureFile("a.png", 40, 30));
+    openPicture(pictureFile("a.png", 40, 30));
     action("actionResize")->trigger();
     auto* panel = window.findChild<ResizePanel*>();
     ASSERT_TRUE(panel && panel->isVisible());
@@ -208,7 +208,7 @@ TEST_F(EditsTest, ResizesInOneStep)
 
 TEST_F(EditsTest, OtherProgramsPasteWhatIsCopied)
 {
-    controller.openFile(pictureFile("a.png", 12, 7));
+    openPicture(pictureFile("a.png", 12, 7));
     pick("CIColorInvert");
     action("actionCopy")->trigger();
     EXPECT_TRUE(ui.pasteBtn->isEnabled());
@@ -294,10 +294,10 @@ TEST_F(EditsTest, RecentFilesAreInTheirMenu)
 {
     RecentFiles::clear();
     const QString first = pictureFile("first.png", 4, 4), second = pictureFile("second.png", 5, 5);
-    controller.openFile(first);
-    controller.openFile(second);
-    controller.openFile(first);
-    controller.openFile("/nowhere.png");
+    openPicture(first);
+    openPicture(second);
+    openPicture(first);
+    openPicture("/nowhere.png");
     EXPECT_EQ(RecentFiles::list(), QStringList({first, second}));
     emit ui.menuRecent->aboutToShow();
     ASSERT_GE(ui.menuRecent->actions().size(), 2);

@@ -52,7 +52,7 @@ protected:
             for (int x = 0; x < 64; ++x)
                 image.setPixel(x, y, qRgb(x * 4, y * 5, (x * y) % 256));
         ASSERT_TRUE(image.save(path(name), name.endsWith("png") ? "PNG" : "JPEG"));
-        controller.openFile(path(name));
+        openPicture(path(name));
     }
     CIBitmap current() { return renderedBitmap(CIContext(), controller.backImage(), CIFormat::RGBA8); }
 
@@ -148,7 +148,7 @@ TEST_F(ExportTest, TheSheetsQuestionOnlyTellsWhatHappens)
     openNoise("noise.png");
     const QString target = path("there.png");
     ASSERT_TRUE(QFile::copy(path("noise.png"), target));
-    controller.openFile(pictureFile("other.png", 10, 10));
+    openPicture(pictureFile("other.png", 10, 10));
     chooseFormat("PNG");
     answering("Cancel", [&] { controller.savePanelDidEnd(QDialog::Accepted, path("there")); });
     EXPECT_EQ(identify(target), "PNG 10 10") << "overwritten all the same";
@@ -169,7 +169,7 @@ TEST_F(ExportTest, SavesInPlaceWhereTheExtensionAllows)
     EXPECT_TRUE(controller.wasChanged()) << "declined: counts as saved for the caller, but the changes are there";
 
     ASSERT_TRUE(QFile::copy(path("photo.jpeg"), path("photo.jpg")));
-    controller.openFile(path("photo.jpg"));
+    openPicture(path("photo.jpg"));
     answering({"OK", "OK"}, [&] { controller.saveImg(); }); // the question, then what went wrong
 }
 
@@ -179,7 +179,7 @@ TEST_F(ExportTest, KeepsWhatTheFileSaidAboutItself)
     outputOf("exiv2",
         {"-M", "set Exif.Image.Model Camera", "-M", "set Exif.Image.Orientation 6", "-M", "set Xmp.dc.creator Somebody",
             path("photo.jpeg")});
-    controller.openFile(path("photo.jpeg"));
+    openPicture(path("photo.jpeg"));
     EXPECT_EQ(controller.getBgImageExtent().width, 48) << "turned upright";
     pick("CIColorInvert");
     controller.applyBtn();
@@ -207,7 +207,7 @@ TEST_F(ExportTest, KeepsWhatTheFileSaidAboutItself)
     EXPECT_EQ(metadata(path("again.png")), "");
     controller.openDroppedFile(path("kept.tiff"));
     const SessionState state = controller.sessionState();
-    controller.openFile(pictureFile("plain.png", 10, 10));
+    openPicture(pictureFile("plain.png", 10, 10));
     controller.savePanelDidEnd(QDialog::Accepted, path("plain"));
     EXPECT_EQ(metadata(path("plain.png")), "");
     controller.restoreSession(state);
@@ -351,7 +351,7 @@ TEST_F(ExportTest, DescribesBitmaps)
     EXPECT_EQ(description.bitsPerPixel, 64);
     EXPECT_EQ(description.bitsPerSample, 16);
     EXPECT_EQ(description.pixels, bitmap.row(0));
-    controller.openFile(path("none.png"));
+    openPicture(path("none.png"));
     EXPECT_TRUE(controller.getCGImage().isNull());
 }
 

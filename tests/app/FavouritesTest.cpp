@@ -17,7 +17,7 @@ const QString kList = QStringLiteral("EffectsFavorites");
 
 class FavouritesTest : public WindowTest {
 protected:
-    FavouritesTest() { controller.openFile(pictureFile("picture.png", 60, 40)); }
+    FavouritesTest() { openPicture(pictureFile("picture.png", 60, 40)); }
     ~FavouritesTest() override { UserDefaults::standardUserDefaults().setRecordsForKey({}, kList); }
 
     onlyTextClosedButton* button(int index) const
@@ -204,7 +204,7 @@ TEST_F(FavouritesTest, MakeTheSamePictureFromTheCommandLine)
                                                                   : "inputRadius",
             value);
     controller.saveFavorites();
-    controller.openFile(path);
+    openPicture(path);
     for (int i = 0; i < int(std::size(favourites)); ++i) {
         SCOPED_TRACE(favourites[i].first);
         press(button(i));

@@ -60,7 +60,7 @@ constexpr int kInvertedRed = 174; // of 200, in linear light
 
 class HistogramTest : public WindowTest {
 protected:
-    HistogramTest() { controller.openFile(pictureFile("plain.png", 120, 80)); }
+    HistogramTest() { openPicture(pictureFile("plain.png", 120, 80)); }
     ~HistogramTest() override { UserDefaults::standardUserDefaults().removeObjectForKey("HistogramHidden"); }
 
     /// The level of red that the counted pixels have; -1 when they differ.

@@ -99,12 +99,12 @@ TEST_F(HistoryTest, FiftyLargeEditsStayWithinTheBudgetAndAllUndo)
 
 TEST_F(HistoryTest, FiltersOfThePastHoldNoPictures)
 {
-    controller.openFile(pictureFile("a.png", 40, 30));
+    openPicture(pictureFile("a.png", 40, 30));
     pick("CIGaussianBlur");
     controller.setFilterValueForKey(*controller.getCurrentFilter(), 3.0, "inputRadius");
     const std::weak_ptr<CIFilter> blur = controller.getCurrentFilter();
     controller.applyBtn();
-    controller.openFile(pictureFile("b.png", 20, 10));
+    openPicture(pictureFile("b.png", 20, 10));
     controller.rotateLeft();
     controller.undoPaste(controller.backImage());
     ASSERT_FALSE(blur.expired()) << "an undo step needs it";

@@ -20,7 +20,7 @@ protected:
     KeysTest()
     {
         QApplication::setActiveWindow(&window);
-        controller.openFile(pictureFile("plain.png", 800, 600));
+        openPicture(pictureFile("plain.png", 800, 600));
     }
 
     MyImageView& view = *ui.pictureScrollView->imageView();

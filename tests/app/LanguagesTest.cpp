@@ -57,7 +57,7 @@ TEST_P(LanguagesTest, NoMenuHasTwoItemsUnderOneLetter)
 
 TEST_P(LanguagesTest, StoredNamesAreEnglish)
 {
-    controller.openFile(pictureFile("picture.png", 60, 40));
+    openPicture(pictureFile("picture.png", 60, 40));
     pick("CIGaussianBlur");
     ui.addFavouriteBtn->click();
     controller.saveFavorites();
@@ -104,7 +104,7 @@ protected:
 TEST_F(GermanTest, SpeaksOfFiltersInGerman)
 {
     EXPECT_EQ(ui.menuEdit->title(), "&Bearbeiten");
-    controller.openFile(pictureFile("picture.png", 60, 40));
+    openPicture(pictureFile("picture.png", 60, 40));
     pick("CIGaussianBlur");
     EXPECT_EQ(ui.filterNameField->text(), "Gaußscher Weichzeichner");
     EXPECT_EQ(ui.listView->currentIndex().data().toString(), "Gaußscher Weichzeichner");
@@ -159,11 +159,11 @@ TEST_F(GermanTest, SaysWhatIsWrongWithAFile)
     QFile noPicture(folder.filePath("Brief.png"));
     ASSERT_TRUE(noPicture.open(QIODevice::WriteOnly) && noPicture.write("not a picture at all") > 0);
     noPicture.close();
-    controller.openFile(noPicture.fileName());
+    openPicture(noPicture.fileName());
     EXPECT_EQ(ui.pictureInfoField->text(), "„Brief.png“ ist kein Bild einer Art, die geöffnet werden kann.");
-    controller.openFile(folder.path());
+    openPicture(folder.path());
     EXPECT_TRUE(ui.pictureInfoField->text().endsWith(" ist ein Ordner, kein Bild."));
-    controller.openFile(folder.filePath("nirgends 100%2.png"));
+    openPicture(folder.filePath("nirgends 100%2.png"));
     EXPECT_TRUE(ui.pictureInfoField->text().endsWith("Es gibt keine Datei „nirgends 100%2.png“."))
         << ui.pictureInfoField->text().toStdString();
 }

@@ -147,7 +147,7 @@ protected:
         }
         controller.changeFilterMode(ui.standardBtn);
         controller.escapeEffect();
-        controller.openFile(pictureFile("other.png", 5, 5));
+        openPicture(pictureFile("other.png", 5, 5));
         auto found = SessionFolder::abandoned(folder.path());
         ASSERT_EQ(found.size(), 1U);
         const std::optional<SessionState> state = found.front()->read();
@@ -159,7 +159,7 @@ protected:
 
 TEST_F(SessionTest, BringsPictureFilterAndModeBack)
 {
-    controller.openFile(pictureFile("a.png", 60, 40));
+    openPicture(pictureFile("a.png", 60, 40));
     controller.rotateLeft();
     const CIImage turned = controller.getImage(false);
     pick("CIGlassDistortion");
@@ -182,7 +182,7 @@ TEST_F(SessionTest, BringsPictureFilterAndModeBack)
 
 TEST_F(SessionTest, BringsEffectsBack)
 {
-    controller.openFile(pictureFile("a.png", 60, 40));
+    openPicture(pictureFile("a.png", 60, 40));
     controller.changeFilterMode(ui.customBtn);
     ui.filterCustomOutlineView->selectRow(ui.filterCustomOutlineView->model()->index(0, 0));
     ASSERT_TRUE(controller.getCurrentCustomEffect());

@@ -16,7 +16,7 @@ class SplitViewTest : public WindowTest {
 protected:
     SplitViewTest()
     {
-        controller.openFile(pictureFile("plain.png", 120, 80));
+        openPicture(pictureFile("plain.png", 120, 80));
         pick("CIColorInvert");
         action("actionSplitView")->trigger();
         QCoreApplication::processEvents();

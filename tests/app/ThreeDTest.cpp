@@ -109,7 +109,7 @@ TEST_F(ThreeDTest, EscapeDropsTheEffect)
 
 TEST_F(ThreeDTest, ApplyMakesTheViewThePictureAndUndoBringsTheOldOneBack)
 {
-    controller.openFile(pictureFile("plain.png", 300, 200));
+    openPicture(pictureFile("plain.png", 300, 200));
     const CIImage before = controller.backImage();
     EXPECT_NEAR(double(view.width()) / view.height(), 1.5, 0.01) << "the sheet has the picture's proportions";
     choose(1);
@@ -136,7 +136,7 @@ TEST_F(ThreeDTest, TheResultIsTheShotAndNothingWithoutAnEffect)
 
 TEST_F(ThreeDTest, CopiesWhatTheViewShows)
 {
-    controller.openFile(pictureFile("plain.png", 300, 200));
+    openPicture(pictureFile("plain.png", 300, 200));
     choose(1);
     controller.copy();
     const QImage copied = QGuiApplication::clipboard()->image();

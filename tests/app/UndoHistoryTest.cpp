@@ -59,7 +59,7 @@ TEST_F(UndoHistoryTest, GoesToAnyStepAndBack)
 {
     emit ui.menuEdit->aboutToShow();
     EXPECT_FALSE(ui.menuUndoHistory->isEnabled());
-    controller.openFile(pictureFile("plain.png", 60, 40));
+    openPicture(pictureFile("plain.png", 60, 40));
     undo.removeAllActions();
     controller.rotateLeft();
     const double width = controller.getBgImageExtent().width;

@@ -32,6 +32,18 @@ QString WindowTest::pictureFile(const QString& name, int width, int height)
     return path;
 }
 
+void WindowTest::openPicture(const QString& path)
+{
+    controller.openFile(path);
+    waitForPicture();
+}
+
+void WindowTest::waitForPicture()
+{
+    constexpr int kPatience = 60'000; // ms, for a busy machine
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !controller.isOpening(); }, kPatience));
+}
+
 void WindowTest::click(const OutlineItem* row)
 {
     ASSERT_TRUE(row);

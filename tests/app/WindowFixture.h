@@ -20,6 +20,8 @@ protected:
 
     /// Answers the path of a small picture file, `width` by `height` pixels of one color.
     QString pictureFile(const QString& name, int width, int height);
+    void openPicture(const QString& path); // and wait for it
+    void waitForPicture();
     void pick(const QString& className); // a filter, as by a click
     const OutlineItem* groupOf(const QString& className) const;
     void click(const OutlineItem* row);

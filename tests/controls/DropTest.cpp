@@ -63,7 +63,7 @@ TEST_F(ImageViewTest, ADroppedFileBecomesThePicture)
     master.picture = pattern(10, 10);
     drop(view, Files({"/p/one.png"}));
     drop(view, Files({"/p/bad.png"}));
-    EXPECT_EQ(master.log, (std::vector<QString>{"path /p/one.png", "paste", "path /p/bad.png", "paste nothing"}));
+    EXPECT_EQ(master.log, (std::vector<QString>{"dropped /p/one.png", "dropped /p/bad.png"}));
     master.log.clear();
     Files withPicture({"/p/one.png"});
     withPicture.setImageData(QImage(2, 2, QImage::Format_RGB32));

@@ -36,9 +36,7 @@ struct FakeMaster : ImageViewMaster {
     QMenu* contextMenu() override { return &menu; }
     void updateZoommWithDelta(double delta) override { zooms.push_back(float(delta)); }
     void setZoom(float zoom) override { zooms.push_back(zoom); }
-    void setFilePath(const QString& path) override { log.push_back("path " + path); }
-    void undoPaste(const CIImage& image) override { log.push_back(image.isNull() ? "paste nothing" : "paste"); }
-    CIImage readImage(const QString& path) override { return path.endsWith("bad.png") ? CIImage() : picture; }
+    void takeDroppedFile(const QString& path) override { log.push_back("dropped " + path); }
 };
 
 /// Red and green tell the column and the row from below; neighbors differ by far, so that blending is noticed.

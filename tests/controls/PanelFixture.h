@@ -35,7 +35,12 @@ struct FakeParameterMaster : ParameterMaster {
     void beginChange() override { ++openChanges, log.push_back("begin"); }
     void endChange() override { --openChanges, log.push_back("end"); }
     CIValue standardValueForKey(const CIFilter&, const std::string& key) override { return standard[key]; }
-    CIImage readImage(const QString& path) override { return path.contains("bad") ? CIImage() : picture; }
+    std::optional<CIImage> readImage(const QString& path) override
+    {
+        if (path.contains("stopped"))
+            return {};
+        return path.contains("bad") ? CIImage() : picture;
+    }
     void showReadFailure(const QString& path) override { log.push_back("failure " + path.toStdString()); }
     QStringList pictureNameFilters() override { return {"Pictures (*.png)"}; }
 };

@@ -249,6 +249,8 @@ TEST_F(RowTest, ImageWellTakesFilesAndKeepsItsPictureForBadOnes)
     drop("/good.png");
     EXPECT_EQ(well.image().size(), QSize(64, 43));
     EXPECT_TRUE(filter->valueForKey("inputTexture").toImage().isSameAs(master.picture));
+    drop("/stopped.png");
+    EXPECT_TRUE(filter->valueForKey("inputTexture").toImage().isSameAs(master.picture));
     drop("/bad.png");
     EXPECT_EQ(well.image().size(), QSize(64, 43));
     EXPECT_EQ(std::count(master.log.begin(), master.log.end(), "failure /bad.png"), 1);

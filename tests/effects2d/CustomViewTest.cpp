@@ -23,9 +23,7 @@ struct FakeViewMaster : FakeEffectMaster, CustomViewMaster {
     QMenu* contextMenu() override { return &menu; }
     void updateZoommWithDelta(double delta) override { zooms.push_back(float(delta)); }
     void setZoom(float zoom) override { zooms.push_back(zoom); }
-    void setFilePath(const QString& path) override { log << "path " + path; }
-    void undoPaste(const CIImage& image) override { log << (image.isNull() ? "paste nothing" : "paste"); }
-    CIImage readImage(const QString&) override { return picture; }
+    void takeDroppedFile(const QString& path) override { log << "dropped " + path; }
 };
 
 /// A window with nothing but the view, 400 x 300 points of it visible.
@@ -216,7 +214,7 @@ TEST_F(CustomViewTest, TakesDroppedPictures)
     EXPECT_FALSE(offer({"/a/notes.txt", "/a/b.png"})); // the first counts
     EXPECT_TRUE(offer({"/a/b.PnG"}));
     EXPECT_TRUE(offer({"/a/b.Pdf", "/a/c.txt"}));
-    EXPECT_EQ(master.log, (QStringList{"path /a/b.PnG", "paste nothing", "path /a/b.Pdf", "paste nothing"}));
+    EXPECT_EQ(master.log, (QStringList{"dropped /a/b.PnG", "dropped /a/b.Pdf"}));
 }
 
 } // namespace

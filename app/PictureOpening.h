@@ -1,0 +1,63 @@
+// Picture files on their way into the program.
+#pragma once
+
+#include "platform/coreimage/CIContext.h"
+#include "platform/imageio/PictureMetadata.h"
+#include "platform/imageio/PictureReader.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <string>
+
+/// What was read: an image, or why there is none.
+struct PictureRead {
+    CIImage image{};
+    CIFormat format = CIFormat::RGBA8; // of its pixels
+    std::shared_ptr<const PictureMetadata> metadata{}; // null when the source says nothing about itself
+    std::string failure{}; // a message fit to show; empty when there is an image
+};
+
+/// Reads a file on other threads: first a reduced picture, where that is much quicker, then the whole one. Nobody waits
+/// for those threads, so a slow disk or an endless drawing holds up neither the window nor the end of the program.
+class PictureOpening : public QObject {
+    Q_OBJECT
+public:
+    /// `reducedSide` is the longer side of the reduced picture in px, 0 for none.
+    PictureOpening(const QString& path, int reducedSide, QObject* parent);
+    ~PictureOpening() override;
+
+    /// No signal comes any more, and the threads end as soon as they can.
+    void giveUp();
+    const QString& path() const { return m_path; }
+    /// Of the whole picture, 0 to 1; 0 also as long as nobody can tell.
+    double progress() const;
+
+signals:
+    /// Of the same extent as the whole picture will have.
+    void reducedRead(const CIImage& picture);
+    /// The last signal. Soon after there are no threads any more.
+    void finished(const PictureRead& read);
+
+private:
+    struct Job;
+    void readReduced(int side);
+    void readWhole();
+
+    QString m_path;
+    std::shared_ptr<Job> m_job;
+};
+
+/// A picture file with what it says about itself. Blocks.
+PictureRead readPictureFile(const QString& path, const ReadOptions& options = {});
+
+/// The same of a file's bytes, which say nothing else.
+PictureRead readPictureData(const QByteArray& data, const ReadOptions& options = {});
+
+/// Calls `read` on a thread of its own and waits until it is done or, soon, `control` is cancelled; then without
+/// success. `read` owns all that it uses, for it may go on for a while.
+PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> read, CIRenderControl& control);
