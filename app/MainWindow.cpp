@@ -65,7 +65,7 @@ void MainWindow::setLayout()
     CustomScroller::installIn(*ui->controlScrollArea);
     ui->searchField->installEventFilter(this);
     ui->listView->installEventFilter(this);
-    new WindowGestures(*this, *ui);
+    m_gestures = std::make_unique<WindowGestures>(*this, *ui);
     connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
         ui->searchField->setFocus(Qt::ShortcutFocusReason);
         ui->searchField->selectAll();

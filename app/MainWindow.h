@@ -7,6 +7,7 @@
 #include <memory>
 
 class Controller;
+class WindowGestures;
 
 namespace Ui {
 class MainWindow;
@@ -53,6 +54,7 @@ private:
     void holdCompareKey(bool held);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    std::unique_ptr<WindowGestures> m_gestures; // gone before what it watches
     QMenu* m_contextMenu = nullptr;
     Controller* m_controller = nullptr;
     QSet<int> m_pressedKeys; // whose releases are for this window: those after a sheet's Escape are not

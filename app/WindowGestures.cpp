@@ -9,8 +9,7 @@
 #include <QKeyEvent>
 
 WindowGestures::WindowGestures(MainWindow& window, Ui::MainWindow& interface)
-    : QObject(&window)
-    , m_window(window)
+    : m_window(window)
     , ui(interface)
 {
     window.installEventFilter(this); // gets what nobody in the window took
