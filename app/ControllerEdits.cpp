@@ -60,9 +60,11 @@ CIImage Controller::turned(const QString& title, const std::function<CIImage()>&
     CIImage picture;
     WorkControl control(1);
     control.canBeCancelled = false;
+    const bool isDrawnHere = filerMode() == Custom; // the picture's own view has a thread for that
     if (!workInBackground(&m_window, title, control, [&] {
             picture = turn();
-            makeReducedCopies(picture);
+            if (isDrawnHere)
+                makeReducedCopies(picture);
         })) {
         showMessage(tr("There was not enough memory to turn the picture"));
         return {};
@@ -103,8 +105,8 @@ void Controller::resizeImageHeight(float width, float height)
     if (!backgroundImage || isOpening())
         return;
     if (!(width > 0 && height > 0)) {
-        AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't have that size."),
-            tr("Its width and its height are numbers above zero."));
+        AlertPanel::Alert_OKMsgText(
+            &m_window, tr("The picture can't have that size."), tr("Its width and its height are numbers above zero."));
         return;
     }
     const std::optional<QSize> size = pixelSize(width, height);

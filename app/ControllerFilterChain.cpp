@@ -130,10 +130,8 @@ void Controller::applyBtn()
             if (currentFilter) {
                 WorkControl control(1);
                 CIImage baked;
-                workInBackground(&m_window, tr("Applying the filter…"), control, [&] {
-                    baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering);
-                    makeReducedCopies(baked);
-                });
+                workInBackground(&m_window, tr("Applying the filter…"), control,
+                    [&] { baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering); });
                 if (control.isCancelled())
                     return;
                 // Pixels from here on; only where there is no memory for them the recipe itself.
