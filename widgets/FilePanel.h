@@ -3,6 +3,6 @@
 
 class QFileDialog;
 
-/// Names the parts that the toolkit leaves nameless, and spares the user the long list of patterns. The desktop's own
-/// panel keeps its looks.
+/// Gives the toolkit's panel the window's icons, names for the parts that it leaves nameless, and a list without what
+/// names say already. The desktop's own panel keeps its looks.
 void dressFilePanel(QFileDialog& panel);
