@@ -172,7 +172,10 @@ void Controller::runSavePanel()
     }
     connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
         m_lastFolder = panel->directory().absolutePath();
-        savePanelDidEnd(code, panel->selectedFiles().value(0));
+        // When the panel has gone: its end would not be told to the window while that waits for the file.
+        QMetaObject::invokeMethod(
+            this, [this, code, path = panel->selectedFiles().value(0)] { savePanelDidEnd(code, path); },
+            Qt::QueuedConnection);
     });
     panel->open();
 }

@@ -44,7 +44,10 @@ void Controller::openImg()
         panel->setDirectory(m_lastFolder);
     connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
         m_lastFolder = panel->directory().absolutePath();
-        openImgPanelDidEnd(code, panel->selectedFiles());
+        // When the panel has gone: its end would not be told to the window while that waits for the picture.
+        QMetaObject::invokeMethod(
+            this, [this, code, files = panel->selectedFiles()] { openImgPanelDidEnd(code, files); },
+            Qt::QueuedConnection);
     });
     panel->open();
 }

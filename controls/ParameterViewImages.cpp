@@ -82,10 +82,11 @@ void ParameterView::chooseFile(std::function<void(const QString&)> chosen)
     dressFilePanel(*panel);
     if (!imageView->filePath().isEmpty())
         panel->setDirectory(QFileInfo(imageView->filePath()).absolutePath());
-    connect(panel, &QDialog::accepted, this, [panel, chosen = std::move(chosen)] {
+    connect(panel, &QDialog::accepted, this, [this, panel, chosen = std::move(chosen)] {
         const QStringList files = panel->selectedFiles();
-        if (!files.isEmpty())
-            chosen(files.first());
+        if (!files.isEmpty()) // when the panel has gone, for reading may take long
+            QMetaObject::invokeMethod(
+                this, [chosen, file = files.first()] { chosen(file); }, Qt::QueuedConnection);
     });
     panel->open();
 }

@@ -243,6 +243,7 @@ TEST_F(ExportTest, ThePanelOffersTheLastFormatAndGivesItsMenusBack)
         panel->findChild<QLineEdit*>("fileNameEdit")->setText(path(QString("n%1").arg(i)));
         static_cast<QDialog*>(panel)->accept();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents(); // it is saved when the panel has gone
         EXPECT_EQ(identify(path(QString("n%1.tiff").arg(i))), "TIFF 64 48");
     }
 }
