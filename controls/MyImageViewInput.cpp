@@ -1,6 +1,7 @@
 // Mouse, wheel, pinch and keys on the picture view.
 #include "controls/MyImageView.h"
 #include "controls/MyImageViewPrivate.h"
+#include "widgets/PictureMenu.h"
 
 #include <cmath>
 
@@ -216,19 +217,9 @@ void MyImageView::keyPressEvent(QKeyEvent* event)
 
 // --- menu ---
 
-void MyImageView::contextMenuEvent(QContextMenuEvent* event)
-{
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    mouseContentMenu(byKey ? mapToGlobal(rect().center()) : event->globalPos());
-}
+void MyImageView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
 
 void MyImageView::mouseContentMenu(const QPoint& globalPosition)
 {
-    QMenu* menu = controller ? controller->contextMenu() : nullptr;
-    if (!menu)
-        return;
-    QFont font = menu->font();
-    font.setPixelSize(11);
-    menu->setFont(font);
-    menu->popup(globalPosition);
+    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
 }

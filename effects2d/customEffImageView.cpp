@@ -6,6 +6,7 @@
 #include "platform/imageio/PictureReader.h"
 #include "widgets/DropFileTypes.h"
 #include "widgets/PictureLayout.h"
+#include "widgets/PictureMenu.h"
 
 #include <cmath>
 
@@ -251,19 +252,12 @@ void customEffImageView::keyPressEvent(QKeyEvent* event)
 
 void customEffImageView::contextMenuEvent(QContextMenuEvent* event)
 {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    mouseContentMenu(byKey ? mapToGlobal(rect().center()) : event->globalPos());
+    mouseContentMenu(pictureMenuPlace(*this, *event));
 }
 
 void customEffImageView::mouseContentMenu(const QPoint& globalPosition)
 {
-    QMenu* menu = controller ? controller->contextMenu() : nullptr;
-    if (!menu)
-        return;
-    QFont font = menu->font();
-    font.setPixelSize(11);
-    menu->setFont(font);
-    menu->popup(globalPosition);
+    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
 }
 
 // --- drops ---

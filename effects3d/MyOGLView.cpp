@@ -7,6 +7,7 @@
 #include "effects3d/PictureTexture.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/NotificationCenter.h"
+#include "widgets/PictureMenu.h"
 
 #include <algorithm>
 
@@ -346,19 +347,9 @@ void MyOGLView::mouseExited()
     update();
 }
 
-void MyOGLView::contextMenuEvent(QContextMenuEvent* event)
-{
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    mouseContentMenu(byKey ? mapToGlobal(rect().center()) : event->globalPos());
-}
+void MyOGLView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
 
 void MyOGLView::mouseContentMenu(const QPoint& globalPosition)
 {
-    QMenu* menu = controller ? controller->contextMenu() : nullptr;
-    if (!menu)
-        return;
-    QFont font = menu->font();
-    font.setPixelSize(11);
-    menu->setFont(font);
-    menu->popup(globalPosition);
+    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
 }
