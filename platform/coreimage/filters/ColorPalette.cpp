@@ -103,17 +103,25 @@ std::vector<float> centroids(const Values& ready, const InterleavedView& pixels,
         double x = 0, y = 0, weight = 0;
     };
     std::vector<Sum> sums(count);
-    const Palette<float> palette(ready);
-    for (int y = pixels.area.y0; y < pixels.area.y1; ++y)
-        for (int x = pixels.area.x0; x < pixels.area.x1; ++x) {
-            const float* const p = pixels.at(x, y);
-            const auto nearest = std::size_t(palette.nearest(unpremultiplied(Pixel<float>{p[0], p[1], p[2], p[3]})));
-            Sum& sum = sums[nearest];
-            const auto weight = double(p[3]);
-            sum.x += weight * double(grid.xAt(x));
+    const Palette<Batch> palette(ready);
+    const int width = pixels.area.width(), padded = width + kRowPadding;
+    std::vector<float> rows(std::size_t(5 * padded));
+    float* const nearest = rows.data() + 4 * padded;
+    const MutableRow row{rows.data(), rows.data() + padded, rows.data() + 2 * padded, rows.data() + 3 * padded};
+    for (int y = pixels.area.y0; y < pixels.area.y1; ++y) {
+        deinterleave(pixels.at(pixels.area.x0, y), width, row);
+        for (int x = 0; x < width; x += kLanes<Batch>)
+            storeRow(nearest + x,
+                palette.nearest(unpremultiplied(Pixel<Batch>{loadRow<Batch>(row.r + x), loadRow<Batch>(row.g + x),
+                    loadRow<Batch>(row.b + x), loadRow<Batch>(row.a + x)})));
+        for (int x = 0; x < width; ++x) {
+            Sum& sum = sums[std::size_t(nearest[x])];
+            const auto weight = double(row.a[x]);
+            sum.x += weight * double(grid.xAt(pixels.area.x0 + x));
             sum.y += weight * double(grid.yAt(y));
             sum.weight += weight;
         }
+    }
     std::vector<float> places;
     for (const Sum& s : sums) {
         const double per = s.weight > 0 ? 1 / s.weight : 0;
