@@ -10,7 +10,7 @@
 
 /// A value, or a group of further ones.
 struct PictureProperty {
-    std::string key; // as the format's specification has it: "ExposureTime"; a group's is in braces: "{Exif}"
+    std::string key; // the name the file format gives it: "ExposureTime"; that of a group is in braces: "{Exif}"
     std::string value; // fit to read: "1/250 s"; empty for groups
     std::vector<PictureProperty> children; // sorted by key; empty for values
 };
