@@ -27,7 +27,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 300ms; // most pictures are there before
 constexpr auto kTick = 50ms;
-constexpr int kBarSteps = 1000;
 
 bool worksWhileOpening(const QAction& item, const Ui::MainWindow& ui)
 {
@@ -117,6 +116,7 @@ void Controller::takeDroppedFile(const QString& path)
     openInBackground(path, 0, [this, path](const CIImage& image) {
         setFilePath(path);
         undoPaste(image);
+        m_undoManager.setActionName(tr("Open"));
         customEffectsView->resizeViewBoundCenter(true, int(PictureCenter::Toward));
     });
 }
@@ -258,13 +258,7 @@ void Controller::showOpening()
     ui.openingCancelBtn->show();
 }
 
-/// The bar runs to and fro as long as nobody can tell how far it is.
-void Controller::showOpeningProgress()
-{
-    const double progress = m_opening->reader->progress();
-    ui.openingBar->setRange(0, progress > 0 ? kBarSteps : 0);
-    ui.openingBar->setValue(int(progress * kBarSteps));
-}
+void Controller::showOpeningProgress() { showProgressOn(*ui.openingBar, m_opening->reader->progress()); }
 
 void Controller::hideOpening(const Opening& opening)
 {

@@ -18,7 +18,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 500ms;
 constexpr auto kTick = 50ms;
-constexpr int kBarSteps = 1000;
 
 int runningWorks = 0;
 
@@ -35,7 +34,6 @@ public:
         setWindowModality(Qt::WindowModal);
         setMinimumWidth(400);
         setAccessibleName(title);
-        m_bar->setRange(0, kBarSteps);
         m_bar->setTextVisible(false);
         m_bar->setAccessibleName(title);
         m_cancel->setVisible(control.canBeCancelled);
@@ -65,13 +63,7 @@ public:
     }
 
 private:
-    /// The bar runs to and fro as long as nobody can tell how far it is.
-    void showProgress()
-    {
-        const double progress = m_control.progress();
-        m_bar->setRange(0, progress > 0 ? kBarSteps : 0);
-        m_bar->setValue(int(progress * kBarSteps));
-    }
+    void showProgress() { showProgressOn(*m_bar, m_control.progress()); }
 
     WorkControl& m_control;
     QProgressBar* m_bar;
@@ -82,6 +74,13 @@ private:
 } // namespace
 
 bool isWorkRunning() { return runningWorks > 0; }
+
+void showProgressOn(QProgressBar& bar, double progress)
+{
+    constexpr int kSteps = 1000;
+    bar.setRange(0, progress > 0 ? kSteps : 0);
+    bar.setValue(int(progress * kSteps));
+}
 
 bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work)
 {

@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QProgressBar;
 class QWidget;
 
 /// What the worker and the progress sheet share: first comes rendering, then perhaps writing.
@@ -42,3 +43,6 @@ private:
 bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work);
 
 bool isWorkRunning();
+
+/// Shows how far something is, 0 to 1; at 0, when nobody can tell, the bar runs to and fro.
+void showProgressOn(QProgressBar& bar, double progress);

@@ -185,6 +185,7 @@ TEST_F(CustomModeTest, ADroppedFileBecomesThePicture)
     QApplication::sendEvent(&view(), &drop);
     EXPECT_EQ(controller.backImage().extent(), (CIRect{0, 0, 80, 50}));
     EXPECT_TRUE(controller.getFilePath().endsWith("/dropped.png"));
+    EXPECT_EQ(undo.undoActionName(), "Open");
     EXPECT_EQ(effect()->getDrawImage().extent(), (CIRect{0, 0, 80, 50})) << "the effect has it, too";
     controller.undo();
     EXPECT_EQ(controller.backImage().extent().width, 300);
