@@ -14,11 +14,6 @@
 namespace {
 
 constexpr std::int64_t kMegabyte = 1 << 20;
-#ifdef __SANITIZE_ADDRESS__
-constexpr bool kIsSanitized = true;
-#else
-constexpr bool kIsSanitized = false;
-#endif
 
 std::int64_t residentMemory()
 {
@@ -92,8 +87,7 @@ TEST_F(HistoryTest, FiftyLargeEditsStayWithinTheBudgetAndAllUndo)
         EXPECT_LE(controller.pictureHistory().bytesInMemory(), budget);
     }
     // The picture itself, its reduced copies, one that is on its way to the disk, and the program.
-    // A sanitizer keeps for a while what was freed.
-    EXPECT_LT(most, budget + 5 * onePicture + (kIsSanitized ? 1000 : 300) * kMegabyte) << most / kMegabyte << " MB";
+    EXPECT_LT(most, budget + 5 * onePicture + 300 * kMegabyte) << most / kMegabyte << " MB";
     for (int edit = edits - 1; edit >= 0; --edit) {
         controller.undo();
         ASSERT_TRUE(areEqual(*bitmapOf(controller.backImage()), edited(width, height, edit))) << "edit " << edit;
