@@ -1,14 +1,14 @@
 // The main window's controller: the center of the program.
 #pragma once
 
-#include "app/DataSource.h"
-#include "app/DefaultImages.h"
-#include "app/EffectList.h"
-#include "app/FavouritesStore.h"
-#include "app/OutlineModel.h"
-#include "app/PictureHistory.h"
-#include "controls/ImageViewMaster.h"
-#include "controls/ParameterMaster.h"
+#include "app/catalogue/DataSource.h"
+#include "app/catalogue/OutlineModel.h"
+#include "app/document/PictureHistory.h"
+#include "app/modes/DefaultImages.h"
+#include "app/modes/EffectList.h"
+#include "app/modes/FavouritesStore.h"
+#include "controls/panel/ParameterMaster.h"
+#include "controls/picture/ImageViewMaster.h"
 #include "effects2d/CustomViewMaster.h"
 #include "effects2d/EffectMaster.h"
 #include "effects3d/OGLViewMaster.h"

@@ -1,9 +1,9 @@
 // From a click in the catalogue to a finished panel: panel [FILTER ...], as lines `filter<TAB>rows<TAB>median_ms`.
 // Without names the ten slowest of all filters.
 #include "app/Controller.h"
-#include "app/MainWindow.h"
+#include "app/window/MainWindow.h"
 #include "benchmarks/TestPicture.h"
-#include "controls/ParameterView.h"
+#include "controls/panel/ParameterView.h"
 #include "platform/foundation/Appearance.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include "app/CataloguePictures.h"
-#include "app/OutlineView.h"
+#include "app/catalogue/CataloguePictures.h"
+#include "app/catalogue/OutlineView.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 

@@ -1,6 +1,6 @@
-#include "app/CatalogueSearch.h"
-#include "app/DataSource.h"
-#include "app/OutlineModel.h"
+#include "app/catalogue/CatalogueSearch.h"
+#include "app/catalogue/DataSource.h"
+#include "app/catalogue/OutlineModel.h"
 
 #include <gtest/gtest.h>
 #include <QAbstractItemModelTester>

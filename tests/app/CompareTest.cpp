@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>

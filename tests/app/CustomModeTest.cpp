@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
+#include "app/catalogue/OutlineView.h"
 #include "effects2d/customEffImageView.h"
 #include "effects2d/GeneratedEffect.h"
 #include "platform/coreimage/CIContext.h"

@@ -1,11 +1,11 @@
 // Turning, resizing, copying and pasting the picture.
 #include "WindowFixture.h"
 
-#include "app/RecentFiles.h"
-#include "app/Turning.h"
-#include "controls/DropImageView.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "app/document/RecentFiles.h"
+#include "app/document/Turning.h"
+#include "controls/panel/DropImageView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "files/ResizePanel.h"
 #include "platform/chain/Baking.h"
 #include "platform/foundation/Pasteboard.h"

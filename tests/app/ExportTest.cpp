@@ -1,7 +1,7 @@
 // Saving, and quitting with unsaved changes.
 #include "WindowFixture.h"
 
-#include "app/SessionFolder.h"
+#include "app/document/SessionFolder.h"
 #include "files/SavePanel.h"
 #include "platform/chain/Baking.h"
 #include "platform/imageio/ImageLog.h"

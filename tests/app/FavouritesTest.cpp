@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
-#include "app/Thumbnail.h"
+#include "app/catalogue/OutlineView.h"
+#include "app/catalogue/Thumbnail.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/imageio/PictureReader.h"

@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include "app/HelpPage.h"
-#include "app/HelpWindow.h"
+#include "app/window/HelpPage.h"
+#include "app/window/HelpWindow.h"
 #include "platform/foundation/Appearance.h"
 #include "ui_MainWindow.h"
 

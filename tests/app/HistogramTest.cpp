@@ -1,9 +1,9 @@
-#include "controls/HistogramView.h"
+#include "controls/picture/HistogramView.h"
 
 #include "WindowFixture.h"
 
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 

@@ -1,4 +1,4 @@
-#include "app/InputValues.h"
+#include "app/modes/InputValues.h"
 
 #include <gtest/gtest.h>
 

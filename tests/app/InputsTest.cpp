@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
 
-#include "controls/ParameterView.h"
+#include "controls/panel/ParameterView.h"
 #include "ui_MainWindow.h"
 #include "widgets/ValueSlider.h"
 

@@ -1,9 +1,9 @@
 // What keys and mouse do wherever the keyboard is.
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "app/catalogue/OutlineView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "ui_MainWindow.h"
 #include "widgets/ValueSlider.h"
 

@@ -1,8 +1,8 @@
 #include "WindowFixture.h"
 
-#include "app/HelpPage.h"
-#include "app/HelpWindow.h"
-#include "app/OutlineView.h"
+#include "app/catalogue/OutlineView.h"
+#include "app/window/HelpPage.h"
+#include "app/window/HelpWindow.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
 #include "translations/Translations.h"

@@ -1,9 +1,9 @@
 // The window while a picture is being read or transformed.
 #include "WindowFixture.h"
 
-#include "app/SessionFolder.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "app/document/SessionFolder.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "effects2d/GeneratedEffect.h"
 #include "files/ResizePanel.h"
 #include "tests/support/NestedDocument.h"

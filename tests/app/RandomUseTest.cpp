@@ -1,9 +1,9 @@
 // What holds in every state of the window, looked at while it is used at random.
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "app/catalogue/OutlineView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
 #include "platform/foundation/UserDefaults.h"

@@ -1,7 +1,7 @@
 // Sessions that end unexpectedly, with the real program.
 #include "ProgramFixture.h"
 
-#include "app/SessionFolder.h"
+#include "app/document/SessionFolder.h"
 #include "platform/chain/Baking.h"
 
 #include <QDateTime>

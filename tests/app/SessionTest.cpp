@@ -1,7 +1,7 @@
 // What is kept of a session, and how it comes back.
 #include "WindowFixture.h"
 
-#include "app/SessionJournal.h"
+#include "app/document/SessionJournal.h"
 #include "platform/chain/Baking.h"
 #include "ui_MainWindow.h"
 #include "widgets/GradientButton.h"

@@ -1,8 +1,8 @@
 #include "WindowFixture.h"
 
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
-#include "controls/SplitDivider.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
+#include "controls/picture/SplitDivider.h"
 #include "ui_MainWindow.h"
 
 #include <QAccessible>

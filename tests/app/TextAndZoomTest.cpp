@@ -1,7 +1,7 @@
 #include "app/CommandLine.h"
+#include "app/document/UndoNames.h"
 #include "app/TextRenderer.h"
-#include "app/UndoNames.h"
-#include "app/ZoomScale.h"
+#include "app/window/ZoomScale.h"
 #include "platform/coreimage/CIFilter.h"
 
 #include <gtest/gtest.h>

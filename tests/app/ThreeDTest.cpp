@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
-#include "app/Thumbnail.h"
+#include "app/catalogue/OutlineView.h"
+#include "app/catalogue/Thumbnail.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ObjectEffect.h"
 #include "effects3d/ThreeDStage.h"

@@ -1,4 +1,4 @@
-#include "app/Thumbnail.h"
+#include "app/catalogue/Thumbnail.h"
 #include "platform/coreimage/CIBitmap.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"

@@ -1,4 +1,4 @@
-#include "app/UndoHistory.h"
+#include "app/document/UndoHistory.h"
 
 #include "WindowFixture.h"
 

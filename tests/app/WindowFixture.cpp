@@ -1,6 +1,6 @@
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
+#include "app/catalogue/OutlineView.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"

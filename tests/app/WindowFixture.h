@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Controller.h"
-#include "app/MainWindow.h"
+#include "app/window/MainWindow.h"
 
 #include <gtest/gtest.h>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
 #include "WindowFixture.h"
 
-#include "app/OutlineView.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "app/catalogue/OutlineView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"

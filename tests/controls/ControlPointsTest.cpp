@@ -1,4 +1,4 @@
-#include "controls/ControlPoints.h"
+#include "controls/picture/ControlPoints.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // Files dropped on the picture view and on the image well.
 #include "tests/controls/ImageViewFixture.h"
 
+#include "controls/panel/DropImageView.h"
 #include "widgets/DropFileTypes.h"
-#include "controls/DropImageView.h"
 
 #include <QDropEvent>
 #include <QMimeData>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
 
 #include <gtest/gtest.h>
 

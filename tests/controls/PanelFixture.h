@@ -1,7 +1,7 @@
 #pragma once
 
-#include "controls/FilterView.h"
-#include "controls/ParameterView.h"
+#include "controls/panel/FilterView.h"
+#include "controls/panel/ParameterView.h"
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
 

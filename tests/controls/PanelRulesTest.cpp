@@ -1,7 +1,7 @@
 // Numbers, captions, transforms and places of the panel, without a window.
-#include "controls/PanelLayout.h"
-#include "controls/ParameterText.h"
-#include "controls/TransformParts.h"
+#include "controls/panel/PanelLayout.h"
+#include "controls/panel/ParameterText.h"
+#include "controls/panel/TransformParts.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 #include "PanelFixture.h"
 
-#include "controls/CaptionLabel.h"
-#include "widgets/ColorWell.h"
-#include "controls/DropImageView.h"
-#include "widgets/PanelCheckBox.h"
-#include "controls/PictureConversion.h"
-#include "controls/TextDescription.h"
+#include "controls/panel/CaptionLabel.h"
+#include "controls/panel/DropImageView.h"
+#include "controls/panel/TextDescription.h"
+#include "controls/picture/PictureConversion.h"
 #include "platform/coreimage/CIContext.h"
+#include "widgets/ColorWell.h"
+#include "widgets/PanelCheckBox.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #include "tests/fuzz/Targets.h"
 
-#include "app/SessionFolder.h"
+#include "app/document/SessionFolder.h"
 #include "platform/chain/FilterSettings.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/Log.h"

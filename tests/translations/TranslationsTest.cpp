@@ -1,6 +1,6 @@
 #include "translations/Translations.h"
 
-#include "controls/FilterNames.h"
+#include "controls/panel/FilterNames.h"
 
 #include <gmock/gmock.h>
 #include <QCoreApplication>

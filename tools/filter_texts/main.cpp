@@ -1,6 +1,6 @@
 // filter_texts: the names of all filters and inputs, as source text that lupdate reads.
-#include "controls/FilterNames.h"
-#include "controls/ParameterText.h"
+#include "controls/panel/FilterNames.h"
+#include "controls/panel/ParameterText.h"
 #include "platform/coreimage/CIFilter.h"
 
 #include <iostream>

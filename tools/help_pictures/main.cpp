@@ -1,11 +1,11 @@
 // help_pictures FOLDER: drives the window as a user would and writes the pictures of the help book, light and dark.
 // It fills the whole screen: scripts/in-display build/dev/bin/help_pictures resources/help
+#include "app/catalogue/OutlineView.h"
 #include "app/Controller.h"
-#include "app/MainWindow.h"
-#include "app/OutlineView.h"
-#include "controls/MyImageView.h"
-#include "controls/PictureScrollView.h"
-#include "controls/SplitDivider.h"
+#include "app/window/MainWindow.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
+#include "controls/picture/SplitDivider.h"
 #include "effects2d/customEffImageView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"

@@ -1,0 +1,59 @@
+// The program's list with groups.
+#pragma once
+
+#include "app/catalogue/OutlineDataSource.h"
+
+#include <QElapsedTimer>
+#include <QTreeView>
+
+#include <functional>
+
+/// A tree view of an OutlineModel, straight or through a proxy, in the program's own look. Groups can be walked over
+/// and opened with the keyboard (Left, Right, Return) but not selected.
+class OutlineView : public QTreeView {
+    Q_OBJECT
+
+public:
+    explicit OutlineView(QWidget* parent = nullptr);
+
+    /// Null when no row is selected.
+    const OutlineItem* selectedItem() const;
+    /// Gives the list the keyboard, at its selected row or else at the first that can be chosen, which it isn't yet.
+    void enter();
+    /// Selects and shows the row, if the list has it just now.
+    void selectItem(const OutlineItem* item);
+    /// Selects the row; for groups and invalid indexes nothing.
+    void selectRow(const QModelIndex& index);
+    void deselectAll() { selectionModel()->clearSelection(); }
+
+    bool isItemExpanded(const OutlineItem* item) const { return isExpanded(indexOfItem(item)); }
+    void setItemExpanded(const OutlineItem* item, bool expanded) { setExpanded(indexOfItem(item), expanded); }
+
+    /// Little pictures of `kFavouriteThumbnail` points before the rows' titles, asked for as rows are drawn; null
+    /// images leave their place free. Without a function there are none.
+    using Pictures = std::function<QImage(const OutlineItem*)>;
+    void setPictures(Pictures pictures);
+
+    void setModel(QAbstractItemModel* model) override;
+
+signals:
+    void selectionDidChange();
+    /// A click, or Return, on a row that can't be selected.
+    void groupClicked(const OutlineItem* item);
+
+protected:
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
+    void keyPressEvent(QKeyEvent* event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    QModelIndex indexOfItem(const OutlineItem* item, const QModelIndex& parent = {}) const;
+    void paintCell(QPainter& painter, const QModelIndex& cell, bool selected) const;
+    QRect paintPicture(QPainter& painter, const QModelIndex& cell, const QRect& place) const;
+
+    QElapsedTimer m_typed; // since the last letter that looks for a row
+    Pictures m_pictures;
+};

@@ -1,0 +1,280 @@
+#include "app/Controller.h"
+#include "app/document/PictureOpening.h"
+#include "app/document/Turning.h"
+#include "app/window/MainWindow.h"
+#include "app/window/ZoomScale.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
+#include "effects2d/GeneratedEffect.h"
+#include "files/PictureLimits.h"
+#include "files/PlainPicture.h"
+#include "platform/chain/Baking.h"
+#include "platform/coreimage/passes/Resample.h"
+#include "platform/foundation/Pasteboard.h"
+#include "platform/imageio/PictureWriter.h"
+#include "ui_MainWindow.h"
+#include "widgets/AlertPanel.h"
+#include "widgets/BackgroundWork.h"
+#include "widgets/ZoomSteps.h"
+
+#include <QSignalBlocker>
+#include <QStyle>
+
+namespace {
+
+// The slider counts whole steps.
+constexpr float kSliderSteps = 10000; // per unit of its position
+constexpr double kNoZoom = -50; // a sentinel of the views
+
+} // namespace
+
+void Controller::connectZoom()
+{
+    zoomSlider->setRange(0, int(kZoomSliderEnd * kSliderSteps));
+    zoomSlider->setSingleStep(int(0.1f * kSliderSteps));
+    zoomSlider->setPageStep(int(kSliderSteps));
+    connect(zoomSlider, &QSlider::valueChanged, this, &Controller::zoomChanged);
+    for (ZoomedCanvas* view : {static_cast<ZoomedCanvas*>(ciView), static_cast<ZoomedCanvas*>(customEffectsView)})
+        connect(view, &ZoomedCanvas::layoutChanged, this, &Controller::showZoom);
+}
+
+/// The one of the current mode, which isn't 3D.
+ZoomedCanvas* Controller::zoomedView() const
+{
+    if (filerMode() == Custom)
+        return customEffectsView;
+    return ciView;
+}
+
+void Controller::showZoom()
+{
+    if (filerMode() != ThreeD)
+        ui.zoomField->setText(tr("%1 %").arg(std::lround(zoomedView()->getZoom() * 100)));
+}
+
+/// Beside the living window; null when there is no memory for it, which the user is told. Soon done, so not to be
+/// stopped.
+CIImage Controller::turned(const QString& title, const std::function<CIImage()>& turn)
+{
+    CIImage picture;
+    WorkControl control(1);
+    control.canBeCancelled = false;
+    const bool isDrawnHere = filerMode() == Custom; // the picture's own view has a thread for that
+    if (!workInBackground(&m_window, title, control, [&] {
+            picture = turn();
+            if (isDrawnHere)
+                makeReducedCopies(picture);
+        })) {
+        showMessage(tr("There was not enough memory to turn the picture"));
+        return {};
+    }
+    return picture;
+}
+
+void Controller::rotateImage(bool left)
+{
+    if (!backgroundImage || isOpening())
+        return;
+    const CIImage rotated = turned(tr("Rotating the picture…"), [&] { return rotatedPicture(backgroundImage, left); });
+    if (!rotated)
+        return;
+    m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
+    if (!m_undoManager.isUndoing()) // the redo is called what it does, not what the undo does
+        m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
+    setBackgroundImage(rotated);
+    customEffectsView->setZoom(customEffectsView->getZoom()); // lays itself out for the new size
+}
+
+void Controller::flipImage(bool vertical)
+{
+    if (!backgroundImage || isOpening())
+        return;
+    const CIImage flipped =
+        turned(tr("Flipping the picture…"), [&] { return flippedPicture(backgroundImage, vertical); });
+    if (!flipped)
+        return;
+    m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
+    if (!m_undoManager.isUndoing())
+        m_undoManager.setActionName(vertical ? tr("Flip Vertical") : tr("Flip Horizontal"));
+    setBackgroundImage(flipped);
+}
+
+void Controller::resizeImageHeight(float width, float height)
+{
+    if (!backgroundImage || isOpening())
+        return;
+    if (!(width > 0 && height > 0)) {
+        AlertPanel::Alert_OKMsgText(
+            &m_window, tr("The picture can't have that size."), tr("Its width and its height are numbers above zero."));
+        return;
+    }
+    const std::optional<QSize> size = pixelSize(width, height);
+    if (!size || !fitsIntoMemory(*size, m_pictureFormat)) {
+        AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't be made that large."),
+            tr("Up to %1 million pixels fit into this computer's memory.")
+                .arg(largestPixelCount(m_pictureFormat) / 1'000'000));
+        return;
+    }
+    CIImage resized;
+    WorkControl control(1);
+    const CIImage recipe = ci::resampled(backgroundImage, size->width(), size->height());
+    workInBackground(&m_window, tr("Resizing the picture…"), control,
+        [&] { resized = bakedImage(*m_context, recipe, m_pictureFormat, &control.rendering); });
+    if (resized) {
+        replacePicture(resized, tr("Resize"));
+        setWasChanged(true);
+    } else if (!control.isCancelled()) {
+        showMessage(tr("There was not enough memory to resize the picture"));
+    }
+}
+
+/// As an undo step.
+void Controller::replacePicture(const CIImage& image, const QString& actionName)
+{
+    registerUndoPaste();
+    m_undoManager.setActionName(actionName);
+    setBackgroundImage(image);
+}
+
+void Controller::copy()
+{
+    if (isOpening())
+        return;
+    const BaseEffect::LaterImage image = laterEffectedImage();
+    if (!image)
+        return;
+    CIBitmap bitmap;
+    std::vector<std::byte> tiff;
+    QImage shown;
+    WorkControl control(0.5);
+    workInBackground(&m_window, tr("Copying the picture…"), control, [&] {
+        bitmap = renderedBitmap(*m_context, image(&control.rendering), m_pictureFormat, &control.rendering);
+        Result<std::vector<std::byte>> encoded =
+            encodePicture(bitmap, {.format = PictureFormat::Tiff, .control = &control.writing});
+        if (encoded)
+            tiff = std::move(encoded.value());
+        shown = screenPicture(bitmap);
+    });
+    if (tiff.empty()) {
+        if (!control.isCancelled())
+            showMessage(tr("There was not enough memory to copy the picture"));
+        return;
+    }
+    Pasteboard::generalPasteboard().setPicture(
+        QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())), shown);
+    updateMainBtnState();
+}
+
+void Controller::registerUndoPaste()
+{
+    dropImagesOfPastFilters();
+    m_undoManager.registerUndoWithTarget(this, [this, kept = m_history.keep(backgroundImage), metadata = m_metadata] {
+        undoPaste(restored(*kept));
+        m_metadata = metadata;
+    });
+}
+
+CIImage Controller::restored(KeptPicture& kept)
+{
+    const CIImage image = kept.image();
+    if (const CIBitmap* bitmap = bitmapOf(image))
+        m_formats.remember(image, m_formats.formatOf(image, bitmap->format()));
+    return image;
+}
+
+/// Filters that are only kept by undo steps will never draw again, and must not hold on to pictures.
+void Controller::dropImagesOfPastFilters()
+{
+    for (const std::weak_ptr<CIFilter>& made : m_madeFilters)
+        if (const std::shared_ptr<CIFilter> filter = made.lock(); filter && filter != currentFilter)
+            for (const std::string& key : filter->inputKeys())
+                if (filter->valueForKey(key).isImage())
+                    filter->setValueForKey({}, key);
+}
+
+void Controller::paste()
+{
+    const QByteArray data = isOpening() ? QByteArray() : Pasteboard::generalPasteboard().pictureData();
+    if (data.isEmpty())
+        return;
+    PictureRead read;
+    WorkControl control(1);
+    workInBackground(&m_window, tr("Pasting the picture…"), control, [&] {
+        read = readUnlessCancelled(
+            [data](const ReadOptions& options) { return readPictureData(data, options); }, control.rendering);
+    });
+    if (control.isCancelled())
+        return;
+    registerUndoPaste();
+    m_undoManager.setActionName(tr("Paste"));
+    const CIImage image = takeRead(read);
+    setBackgroundImage(image);
+    takeMetadataOf(image);
+    if (filerMode() != ThreeD)
+        setZoom(zoomedView()->getZoom());
+}
+
+void Controller::undoPaste(const CIImage& image)
+{
+    registerUndoPaste();
+    setBackgroundImage(image);
+    takeMetadataOf(image);
+    if (filerMode() != ThreeD)
+        setZoom(zoomedView()->getZoom());
+}
+
+void Controller::fitZoom()
+{
+    const CIRect extent = backgroundImage.extent();
+    const int scroller = m_window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, ui.pictureScrollView);
+    const QSize area = ui.pictureScrollView->size() - QSize(scroller, scroller);
+    const float zoom = zoomThatFits(extent.width, extent.height, area.width(), area.height());
+    // Effects are drawn without a picture, too.
+    const QSizeF canvas = GeneratedEffect::kCanvasWithoutPicture;
+    const float customZoom =
+        extent.isEmpty() ? zoomThatFits(canvas.width(), canvas.height(), area.width(), area.height()) : zoom;
+    setZoom(filerMode() == Custom ? customZoom : zoom);
+    ciView->setZoom(zoom);
+    customEffectsView->setZoom(customZoom);
+}
+
+void Controller::zoomChanged()
+{
+    if (filerMode() != ThreeD)
+        zoomedView()->setZoom(zoomOfSliderPosition(float(zoomSlider->value()) / kSliderSteps));
+    updateView();
+}
+
+void Controller::setZoom(float zoom)
+{
+    const QSignalBlocker quiet(zoomSlider);
+    const float position = std::min(std::max(sliderPositionOfZoom(zoom), 0.0f), kZoomSliderEnd);
+    zoomSlider->setValue(int(std::lround(position * kSliderSteps)));
+}
+
+void Controller::updateZoommWithDelta(double delta)
+{
+    if (filerMode() == ThreeD)
+        return;
+    const double zoom = double(zoomedView()->getZoom()) + delta;
+    if (zoom == kNoZoom)
+        return;
+    zoomTo(float(zoom));
+}
+
+void Controller::zoomTo(float zoom)
+{
+    setZoom(zoom);
+    zoomChanged();
+}
+
+void Controller::zoomIn() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), 1)); }
+
+void Controller::zoomOut() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), -1)); }
+
+void Controller::zoomToFit()
+{
+    fitZoom();
+    updateView();
+}

@@ -1,0 +1,138 @@
+#include "app/Controller.h"
+#include "app/document/PictureFiles.h"
+#include "app/document/RecentFiles.h"
+#include "app/window/MainWindow.h"
+#include "ui_MainWindow.h"
+#include "widgets/FilePanel.h"
+
+#include <QAccessible>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kMessageTime = 8s;
+
+QString depthText(CIFormat format)
+{
+    switch (format) {
+    case CIFormat::RGBA16:
+        return Controller::tr("sRGB 16-bit");
+    case CIFormat::RGBAf:
+        return Controller::tr("sRGB 32-bit float");
+    default:
+        return Controller::tr("sRGB 8-bit");
+    }
+}
+
+} // namespace
+
+void Controller::openImg()
+{
+    auto* panel = new QFileDialog(&m_window, tr("Open Picture"));
+    panel->setAttribute(Qt::WA_DeleteOnClose);
+    panel->setFileMode(QFileDialog::ExistingFile);
+    panel->setWindowModality(Qt::WindowModal);
+    panel->setNameFilters(pictureNameFilters());
+    dressFilePanel(*panel);
+    if (!m_lastFolder.isEmpty())
+        panel->setDirectory(m_lastFolder);
+    connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
+        m_lastFolder = panel->directory().absolutePath();
+        // When the panel has gone: its end would not be told to the window while that waits for the picture.
+        QMetaObject::invokeMethod(
+            this, [this, code, files = panel->selectedFiles()] { openImgPanelDidEnd(code, files); },
+            Qt::QueuedConnection);
+    });
+    panel->open();
+}
+
+void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
+{
+    if (returnCode == QDialog::Accepted && !files.isEmpty())
+        openFile(files.first());
+}
+
+void Controller::setFilePath(const QString& path)
+{
+    _filePath = path;
+    ImageInfo::setMyURL(path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path));
+    if (!path.isEmpty())
+        m_lastFolder = QFileInfo(path).absolutePath();
+    updateWinTitle();
+}
+
+void Controller::showInfoPanel() { showPanel(*infoPanel); }
+
+void Controller::updateWinTitle()
+{
+    QString title = QStringLiteral("Lumivex");
+    if (!_filePath.isEmpty())
+        title += QStringLiteral("::%1").arg(QFileInfo(_filePath).fileName());
+    if (m_wasChanged)
+        title += QStringLiteral("[*]"); // where the platform puts its mark
+    m_window.setWindowTitle(title);
+    m_window.setWindowModified(m_wasChanged);
+}
+
+QStringList Controller::pictureNameFilters()
+{
+    return {tr("Pictures (%1)").arg(pictureFilePatterns()), tr("All files (*)")};
+}
+
+void Controller::showReadFailure(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    showMessage(m_readFailure.isEmpty() ? tr("%1 can't be read").arg(name)
+                                        : tr("%1: %2", "file name, what is wrong").arg(name, m_readFailure));
+}
+
+/// For a while, in the status bar.
+void Controller::showMessage(const QString& text)
+{
+    ui.pictureInfoField->setText(text);
+    m_messageEnd.start(kMessageTime);
+    QAccessibleEvent alert(ui.pictureInfoField, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void Controller::updatePictureInfo()
+{
+    if (isOpeningShown()) {
+        ui.pictureInfoField->setText(openingText(openingPath()));
+        return;
+    }
+    const CIRect extent = backgroundImage.extent();
+    QString text = m_readFailure.isEmpty() ? tr("No picture") : m_readFailure;
+    if (backgroundImage)
+        text = tr("%1 × %2 px · %3", "width, height, color space and depth")
+                   .arg(std::lround(extent.width))
+                   .arg(std::lround(extent.height))
+                   .arg(depthText(m_pictureFormat));
+    ui.pictureInfoField->setText(text);
+}
+
+void Controller::rememberRecentFile(const QString& path) { RecentFiles::remember(path); }
+
+void Controller::fillRecentMenu()
+{
+    ui.menuRecent->clear();
+    const QStringList paths = RecentFiles::list(), titles = RecentFiles::titles(paths);
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        QString title = titles[i];
+        QAction* item = ui.menuRecent->addAction(title.replace(QLatin1Char('&'), QLatin1String("&&")));
+        item->setStatusTip(paths[i]);
+        connect(item, &QAction::triggered, this, [this, path = paths[i]] { openFile(path); });
+    }
+    if (paths.isEmpty())
+        ui.menuRecent->addAction(tr("No Pictures Yet"))->setEnabled(false);
+    ui.menuRecent->addSeparator();
+    QAction* clear = ui.menuRecent->addAction(tr("&Clear Menu"));
+    clear->setEnabled(!paths.isEmpty());
+    connect(clear, &QAction::triggered, this, [] { RecentFiles::clear(); });
+}

@@ -1,0 +1,156 @@
+#include "app/document/PictureOpening.h"
+
+#include "platform/chain/Baking.h"
+#include "platform/imageio/LooseThread.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMetaObject>
+
+#include <algorithm>
+#include <chrono>
+#include <future>
+#include <mutex>
+#include <new>
+#include <optional>
+#include <span>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr double kLarge = 8e6; // px; smaller pictures are there at once
+
+std::string fileOf(const QString& path) { return QFile::encodeName(path).toStdString(); }
+
+PictureRead pictureOf(const Result<CIBitmap>& read)
+{
+    if (!read)
+        return {.failure = read.message()};
+    PictureRead picture{.image = CIImage::fromBitmap(read.value()), .format = read.value().format()};
+    makeReducedCopies(picture.image);
+    return picture;
+}
+
+/// Large JPEG files are decoded in about half the time when they are decoded no larger than that.
+std::optional<CIImage> reducedPicture(const std::string& file, const ReadOptions& options)
+{
+    const Result<PictureInfo> info = readPictureInfo(file);
+    if (!info || info.value().formatName != "JPEG" || double(info.value().width) * info.value().height < kLarge)
+        return {};
+    const Result<CIBitmap> reduced = readPicture(file, options);
+    if (!reduced)
+        return {};
+    const CIBitmap& bitmap = reduced.value();
+    const double width = info.value().width, height = info.value().height;
+    return CIImage::fromBitmap(bitmap)
+        .clampedToExtent()
+        .transformed(CIAffineTransform::scaling(width / bitmap.width(), height / bitmap.height()))
+        .cropped({0, 0, width, height});
+}
+
+} // namespace
+
+PictureRead readPictureFile(const QString& path, const ReadOptions& options)
+{
+    const std::string file = fileOf(path);
+    try {
+        PictureRead read = pictureOf(readPicture(file, options));
+        if (read.image)
+            read.metadata = PictureMetadata::ofFile(file);
+        return read;
+    } catch (const std::bad_alloc&) {
+        return {.failure = "There is not enough memory to open “" + fileOf(QFileInfo(path).fileName()) + "”."};
+    }
+}
+
+PictureRead readPictureData(const QByteArray& data, const ReadOptions& options)
+{
+    try {
+        return pictureOf(readPicture(std::as_bytes(std::span(data.data(), std::size_t(data.size()))), options));
+    } catch (const std::bad_alloc&) {
+        return {.failure = "There is not enough memory to open the picture."};
+    }
+}
+
+// --- in the background ---
+
+/// Shared with the threads, which may outlive the object that waits for them.
+struct PictureOpening::Job {
+    std::atomic<bool> isGivenUp = false;
+    std::atomic<float> progress = 0;
+    std::mutex mutex; // guards what follows
+    PictureOpening* opening = nullptr; // null when it is gone
+
+    /// On the main thread, unless the opening is given up.
+    void tell(std::function<void(PictureOpening&)> news)
+    {
+        const std::lock_guard lock(mutex);
+        if (opening)
+            QMetaObject::invokeMethod(
+                opening, [to = opening, news = std::move(news)] { news(*to); }, Qt::QueuedConnection);
+    }
+};
+
+PictureOpening::PictureOpening(const QString& path, int reducedSide, QObject* parent)
+    : QObject(parent)
+    , m_path(path)
+    , m_job(std::make_shared<Job>())
+{
+    m_job->opening = this;
+    if (reducedSide > 0)
+        readReduced(reducedSide);
+    readWhole();
+}
+
+PictureOpening::~PictureOpening() { giveUp(); }
+
+void PictureOpening::giveUp()
+{
+    m_job->isGivenUp = true;
+    imageio::giveUpLooseThread();
+    const std::lock_guard lock(m_job->mutex);
+    m_job->opening = nullptr;
+}
+
+double PictureOpening::progress() const { return double(m_job->progress.load(std::memory_order_relaxed)); }
+
+void PictureOpening::readReduced(int side)
+{
+    imageio::runOnLooseThread([job = m_job, file = fileOf(m_path), side] {
+        const auto reduced = reducedPicture(file, {.maxSide = side, .cancelled = &job->isGivenUp});
+        if (reduced)
+            job->tell([reduced](PictureOpening& opening) { emit opening.reducedRead(*reduced); });
+    });
+}
+
+void PictureOpening::readWhole()
+{
+    imageio::runOnLooseThread([job = m_job, path = m_path] {
+        const PictureRead read = readPictureFile(path, {.cancelled = &job->isGivenUp, .progress = &job->progress});
+        job->tell([read](PictureOpening& opening) { emit opening.finished(read); });
+    });
+}
+
+PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> read, CIRenderControl& control)
+{
+    struct Shared {
+        std::atomic<bool> isGivenUp = false;
+        std::atomic<float> progress = 0;
+        std::promise<PictureRead> result;
+    };
+    const auto shared = std::make_shared<Shared>();
+    std::future<PictureRead> result = shared->result.get_future();
+    imageio::runOnLooseThread([shared, read = std::move(read)] {
+        shared->result.set_value(read({.cancelled = &shared->isGivenUp, .progress = &shared->progress}));
+    });
+    while (result.wait_for(10ms) != std::future_status::ready) {
+        control.setProgress(double(shared->progress));
+        if (control.isCancelled()) {
+            shared->isGivenUp = true;
+            imageio::giveUpLooseThread();
+            return {};
+        }
+    }
+    return result.get();
+}

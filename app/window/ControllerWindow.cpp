@@ -1,0 +1,87 @@
+#include "app/Controller.h"
+#include "app/window/MainWindow.h"
+#include "controls/picture/MyImageView.h"
+#include "effects2d/customEffImageView.h"
+#include "platform/foundation/Pasteboard.h"
+#include "widgets/AlertPanel.h"
+#include "widgets/BackgroundWork.h"
+#include "widgets/DocPageControl.h"
+
+#include <QApplication>
+
+void Controller::windowWillClose()
+{
+    saveFavorites();
+    applicationWillTerminate(); // the program ends with its window
+}
+
+void Controller::windowDidResize()
+{
+    for (DocPageControl* strip : {m_pageController, m_page3DController, m_pageCustomController})
+        strip->liveResizeDone();
+    ciView->resizeViewBoundCenter(true, 3);
+    customEffectsView->resizeViewBoundCenter(true, 3);
+}
+
+void Controller::windowDidUpdate()
+{
+    if (!needsUpdate)
+        return;
+    needsUpdate = false;
+    rebuildPanel();
+}
+
+void Controller::windowDidBecomeVisible()
+{
+    fitZoom(); // only now the picture's area has its size
+}
+
+void Controller::keyUp(int key)
+{
+    if (key == Qt::Key_Escape)
+        escapeEffect();
+}
+
+void Controller::applicationDidFinishLaunching()
+{
+    connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive)
+            applicationDidBecomeActive();
+    });
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &Controller::commitData);
+}
+
+void Controller::applicationDidBecomeActive() { updateMainBtnState(); }
+
+Controller::TerminateReply Controller::applicationShouldTerminate()
+{
+    if (isWorkRunning())
+        return TerminateReply::Cancel; // its thread works for the window
+    cancelOpening(); // what there is to save is the former picture
+    if (quitAfterSave || !m_wasChanged)
+        return TerminateReply::Now;
+    const int answer = AlertPanel::Alert_DONTSAVECANCELMsgText(&m_window, tr("Do you want to save changes?"),
+        tr("Your changes will be lost if you choose don't save option."));
+    if (answer == 1) {
+        quitAfterSave = true;
+        saveImg(); // asks to terminate again when it is done
+    }
+    return answer == 1 || answer == 2 ? TerminateReply::Cancel : TerminateReply::Now;
+}
+
+bool Controller::windowShouldClose() const { return !m_wasChanged && !isWorkRunning(); }
+
+void Controller::setWasChanged(bool changed)
+{
+    m_wasChanged = changed;
+    updateWinTitle();
+}
+
+void Controller::terminate()
+{
+    if (applicationShouldTerminate() == TerminateReply::Cancel)
+        return;
+    saveFavorites(); // the window closes with the program, though nobody tells it
+    applicationWillTerminate();
+    QCoreApplication::exit(); // quit() would ask the window once more, and it refuses while there are changes
+}

@@ -1,0 +1,60 @@
+#include "app/window/WindowGestures.h"
+
+#include "app/window/MainWindow.h"
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
+#include "ui_MainWindow.h"
+
+#include <QKeyEvent>
+
+WindowGestures::WindowGestures(MainWindow& window, Ui::MainWindow& interface)
+    : m_window(window)
+    , ui(interface)
+{
+    window.installEventFilter(this); // gets what nobody in the window took
+    ui.zoomField->installEventFilter(this);
+}
+
+/// None in 3D mode.
+ZoomedCanvas* WindowGestures::shownCanvas() const
+{
+    for (QAbstractScrollArea* area : {static_cast<QAbstractScrollArea*>(ui.pictureScrollView),
+             static_cast<QAbstractScrollArea*>(ui.customEffectsScrollView)})
+        if (area->isVisible())
+            return qobject_cast<ZoomedCanvas*>(area->viewport());
+    return nullptr;
+}
+
+void WindowGestures::holdSpace(bool held)
+{
+    if (ZoomedCanvas* canvas = shownCanvas())
+        canvas->setSpaceHeld(held);
+}
+
+void WindowGestures::toggleZoom()
+{
+    if (const ZoomedCanvas* canvas = shownCanvas())
+        (canvas->getZoom() == 1 ? ui.actionFit : ui.actionActualSize)->trigger();
+}
+
+bool WindowGestures::eventFilter(QObject* watched, QEvent* event)
+{
+    const QEvent::Type type = event->type();
+    if (watched == ui.zoomField && type == QEvent::MouseButtonDblClick) {
+        toggleZoom();
+        return true;
+    }
+    if (watched != &m_window)
+        return false;
+    if (type == QEvent::WindowDeactivate)
+        holdSpace(false); // another window will get its release
+    if (type != QEvent::KeyPress && type != QEvent::KeyRelease)
+        return false;
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() != Qt::Key_Space || key->modifiers() != Qt::NoModifier)
+        return false;
+    if (!key->isAutoRepeat())
+        holdSpace(type == QEvent::KeyPress);
+    return true;
+}

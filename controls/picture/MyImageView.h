@@ -1,0 +1,104 @@
+// The zoomable picture with its control points.
+#pragma once
+
+#include "controls/picture/ControlPoints.h"
+#include "controls/picture/FrameRenderer.h"
+#include "controls/picture/ImageViewMaster.h"
+#include "widgets/ZoomedCanvas.h"
+
+#include <QPointer>
+
+class PictureScrollView;
+
+/// Shows the controller's picture, lets points be dragged on it, and takes a dropped picture file.
+///
+/// Points of parameters are view coordinates: picture pixels, y up.
+class MyImageView : public ZoomedCanvas {
+    Q_OBJECT
+public:
+    explicit MyImageView(PictureScrollView* scrollView);
+    ~MyImageView() override;
+
+    void setController(ImageViewMaster* master);
+    /// Renders with a context shared with others; before the first frame.
+    void setContext(std::shared_ptr<CIContext> context);
+
+    /// The picture has changed: asks the controller for it again when next drawn. (`update` only repaints.)
+    void setNeedsDisplay();
+
+    /// Shows the source picture in place of the filter's result, without the filter's points.
+    void setShowsOriginal(bool shows);
+    bool showsOriginal() const;
+
+    /// Shows the source picture left of a divider that can be moved, and the filter's result right of it.
+    void setSplit(bool split);
+    bool isSplit() const;
+
+    /// What is on the screen: the rendered part of the result, or of the source picture while that is shown. ARGB32_
+    /// Premultiplied; null when there is none.
+    QImage shownFrame() const;
+
+    /// Waits until the picture is rendered in full and shown; for tests and screenshots.
+    bool waitForFrame(int milliseconds = 10000);
+
+    std::uint32_t grabMode() const { return parmMode; }
+    const std::string& grabKey() const { return parmKey; }
+    bool isDisplayingPoints() const { return displayingPoints; }
+    QList<CanvasPoint> canvasPoints() const override;
+
+signals:
+    /// There is another `shownFrame`, or none any more.
+    void frameShown();
+
+protected:
+    CIPoint pictureSize() const override;
+    void zoomedByWheel(float newZoom) override;
+    void pinched(double delta) override;
+    void boundsResized() override;
+    void pressed(CIPoint point) override;
+    void dragged(CIPoint point) override;
+    void released(CIPoint point) override;
+    void hovered(const QPointF& position) override { hover(position); }
+    Qt::CursorShape pointer() const override { return displayingPoints ? Qt::PointingHandCursor : Qt::ArrowCursor; }
+
+    bool event(QEvent*) override;
+    void paintEvent(QPaintEvent*) override;
+    void enterEvent(QEnterEvent*) override;
+    void leaveEvent(QEvent*) override;
+    void keyPressEvent(QKeyEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
+    bool focusNextPrevChild(bool next) override; // Tab goes from point to point
+    void contextMenuEvent(QContextMenuEvent*) override;
+    void dragEnterEvent(QDragEnterEvent*) override;
+    void dragLeaveEvent(QDragLeaveEvent*) override;
+    void dropEvent(QDropEvent*) override;
+
+private:
+    struct Private;
+    struct Layer;
+
+    void refreshFrames();
+    void refresh(Layer& layer);
+    std::optional<FrameRequest> frameRequest(const CIImage& picture) const;
+    void drawFrames(QPainter&) const;
+    void drawFrame(QPainter&, const Layer& layer) const;
+    void drawPoints(QPainter&) const;
+    void mouseContentMenu(const QPoint& globalPosition);
+    void mouseEntered();
+    void mouseExited();
+    void hover(const QPointF& position);
+    void dragGrabbedPoint(CIPoint to);
+    void selectPoint(std::optional<std::size_t> index);
+    bool moveSelectedPoint(int key, bool far);
+    void showDropHighlight(bool shown);
+
+    ImageViewMaster* controller = nullptr;
+    bool movingNow = false;
+    bool displayingPoints = false;
+    std::int32_t parmIndex = -1; // 0 while a point is grabbed
+    std::string parmKey;
+    std::uint32_t parmMode = ParmMode::kNothing;
+    bool dragEnter = false;
+
+    std::unique_ptr<Private> d;
+};

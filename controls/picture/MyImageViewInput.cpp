@@ -1,0 +1,225 @@
+// Mouse, wheel, pinch and keys on the picture view.
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/MyImageViewPrivate.h"
+#include "widgets/PictureMenu.h"
+
+#include <cmath>
+
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QEnterEvent>
+#include <QKeyEvent>
+#include <QMenu>
+
+namespace {
+
+std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
+{
+    const std::shared_ptr<CIFilter> filter = master ? master->getCurrentFilter() : nullptr;
+    return filter ? controlPoints(*filter) : std::vector<ControlPoint>();
+}
+
+} // namespace
+
+// --- zoom ---
+
+void MyImageView::zoomedByWheel(float newZoom)
+{
+    if (controller)
+        controller->setZoom(newZoom);
+}
+
+void MyImageView::pinched(double delta)
+{
+    if (controller)
+        controller->updateZoommWithDelta(delta);
+}
+
+bool MyImageView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        // Arrow keys belong to the selected point, even where a menu uses them.
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (d->selected && (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down)) {
+            event->accept();
+            return true;
+        }
+    }
+    return ZoomedCanvas::event(event);
+}
+
+// --- hover ---
+
+void MyImageView::enterEvent(QEnterEvent* event)
+{
+    mouseEntered();
+    hover(event->position());
+}
+
+void MyImageView::leaveEvent(QEvent*) { mouseExited(); }
+
+void MyImageView::mouseEntered()
+{
+    if (!controller || !controller->isControlsPresent())
+        return;
+    displayingPoints = true;
+    updateCursor();
+    update();
+}
+
+void MyImageView::mouseExited()
+{
+    displayingPoints = false;
+    d->hovered.reset();
+    updateCursor();
+    update();
+}
+
+void MyImageView::hover(const QPointF& position)
+{
+    // Another filter may have been chosen by key while the mouse rested here.
+    const bool present = controller && controller->isControlsPresent();
+    if (present != displayingPoints)
+        present ? mouseEntered() : mouseExited();
+    const std::vector<ControlPoint> points = pointsOf(present ? controller : nullptr);
+    const auto nearest = nearestControlPoint(points, toPicture(position));
+    if (nearest != std::exchange(d->hovered, nearest))
+        update();
+}
+
+// --- dragging ---
+
+void MyImageView::pressed(CIPoint point)
+{
+    movingNow = true;
+    parmIndex = -1;
+    parmKey.clear();
+    parmMode = ParmMode::kNothing;
+    const std::vector<ControlPoint> points = pointsOf(d->showsOriginal ? nullptr : controller); // none is seen on it
+    // However far away it is: small marks need no aim.
+    if (const auto nearest = nearestControlPoint(points, point)) {
+        parmIndex = 0;
+        parmKey = points[*nearest].key;
+        parmMode = points[*nearest].mode;
+        if (d->selected)
+            d->selected = nearest;
+    }
+    update();
+}
+
+void MyImageView::dragged(CIPoint point) { dragGrabbedPoint(point); }
+
+void MyImageView::released(CIPoint point)
+{
+    movingNow = false;
+    hover(toWidget(point));
+    update();
+}
+
+void MyImageView::dragGrabbedPoint(CIPoint to)
+{
+    const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
+    if (!filter || parmMode == ParmMode::kNothing || parmIndex == -1)
+        return;
+    const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(parmKey), parmMode, to);
+    if (!dragged)
+        return;
+    parmMode = dragged->mode;
+    controller->setFilterValueForKey(*filter, dragged->value, parmKey);
+    controller->setActionNameForFilterKey(*filter, parmKey);
+    setNeedsDisplay();
+}
+
+// --- keys ---
+
+bool MyImageView::focusNextPrevChild(bool next)
+{
+    const std::size_t count = pointsOf(controller).size();
+    // Entering by Tab selects nothing yet, so that nobody is caught here who only passes by.
+    std::optional<std::size_t> wanted;
+    if (count > 0 && !d->selected)
+        wanted = next ? 0 : count - 1;
+    else if (count > 0 && (next ? *d->selected + 1 < count : *d->selected > 0))
+        wanted = *d->selected + (next ? 1 : -1);
+    selectPoint(wanted);
+    return wanted.has_value() || QWidget::focusNextPrevChild(next);
+}
+
+void MyImageView::selectPoint(std::optional<std::size_t> index)
+{
+    d->selected = index;
+    update();
+    if (index)
+        notifyPoint(this, qsizetype(*index), QAccessible::Focus);
+}
+
+void MyImageView::focusOutEvent(QFocusEvent* event)
+{
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        selectPoint({});
+    ZoomedCanvas::focusOutEvent(event);
+}
+
+bool MyImageView::moveSelectedPoint(int key, bool far)
+{
+    const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
+    const std::vector<ControlPoint> points = pointsOf(controller);
+    if (!filter || !d->selected || *d->selected >= points.size())
+        return false;
+    const ControlPoint& point = points[*d->selected];
+    const double step = far ? 10 : 1; // picture pixels
+    CIPoint to = point.position;
+    switch (key) {
+    case Qt::Key_Left:
+        to.x -= step;
+        break;
+    case Qt::Key_Right:
+        to.x += step;
+        break;
+    case Qt::Key_Down:
+        to.y -= step;
+        break;
+    case Qt::Key_Up:
+        to.y += step;
+        break;
+    default:
+        return false;
+    }
+    const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(point.key), point.mode, to);
+    controller->setFilterValueForKey(*filter, dragged->value, point.key);
+    controller->setActionNameForFilterKey(*filter, point.key);
+    setNeedsDisplay();
+    notifyPoint(this, qsizetype(*d->selected), QAccessible::DescriptionChanged);
+    return true;
+}
+
+QList<CanvasPoint> MyImageView::canvasPoints() const
+{
+    QList<CanvasPoint> result;
+    for (const ControlPoint& point : pointsOf(d->showsOriginal ? nullptr : controller)) {
+        const QString position = tr("%1, %2").arg(std::lround(point.position.x)).arg(std::lround(point.position.y));
+        const bool selected = d->selected == std::size_t(result.size());
+        result.append({QString::fromStdString(point.label), position, toWidget(point.position), selected});
+    }
+    return result;
+}
+
+void MyImageView::keyPressEvent(QKeyEvent* event)
+{
+    const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    if (sideways && event->modifiers() & Qt::ControlModifier && d->isSplit())
+        QCoreApplication::sendEvent(d->divider, event);
+    else if (event->key() == Qt::Key_Escape && d->selected)
+        selectPoint({});
+    else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
+        ZoomedCanvas::keyPressEvent(event);
+}
+
+// --- menu ---
+
+void MyImageView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
+
+void MyImageView::mouseContentMenu(const QPoint& globalPosition)
+{
+    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
+}

@@ -1,0 +1,30 @@
+// What the files of MyImageView share.
+#pragma once
+
+#include "controls/picture/MyImageView.h"
+#include "controls/picture/SplitDivider.h"
+
+#include <QElapsedTimer>
+#include <QWidget>
+
+/// A picture and how far it is rendered.
+struct MyImageView::Layer {
+    bool changed = true; // ask the controller when next drawn
+    CIImage picture;
+    std::optional<Frame> frame; // what is shown until a newer one is ready
+    std::unique_ptr<FrameRenderer> renderer;
+};
+
+struct MyImageView::Private {
+    std::shared_ptr<CIContext> context;
+    // Apart, so that the result is there at once when the original has been looked at.
+    Layer result, original;
+    bool showsOriginal = false;
+    Layer& shown() { return showsOriginal ? original : result; }
+    SplitDivider* divider = nullptr; // seen while the view is split
+    bool isSplit() const { return !divider->isHidden() && !showsOriginal; }
+
+    std::optional<std::size_t> hovered; // index of the point that a click would grab
+    std::optional<std::size_t> selected; // index of the point that the keys move
+    QPointer<QWidget> dropHighlight;
+};
