@@ -1,4 +1,4 @@
-# `cpack -G DEB` in the build folder makes a Debian package. Build the release preset for it.
+# `cpack -G DEB` in the build folder makes a Debian package. Build the package preset for it.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lumivex)
 set(CPACK_PACKAGE_VENDOR Lumivex)
