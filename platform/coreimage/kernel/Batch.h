@@ -100,12 +100,15 @@ inline Batch mulAdd(const Batch& a, const Batch& b, const Batch& c) { return xsi
 /// Mixed arguments: numbers beside vectors.
 template <class V>
 concept Lanes = std::is_same_v<V, Batch>;
+// A table is read in rows.
+// clang-format off
 template <Lanes V> V min(const V& a, float b) { return min(a, V(b)); }
 template <Lanes V> V min(float a, const V& b) { return min(V(a), b); }
 template <Lanes V> V max(const V& a, float b) { return max(a, V(b)); }
 template <Lanes V> V max(float a, const V& b) { return max(V(a), b); }
 template <Lanes V> V pow(const V& a, float b) { return pow(a, V(b)); }
 template <Lanes V> V atan2(float y, const V& x) { return atan2(V(y), x); }
+// clang-format on
 inline Batch select(const Batch::batch_bool_type& which, const Batch& yes, float no)
 {
     return select(which, yes, Batch(no));
