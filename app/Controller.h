@@ -3,7 +3,7 @@
 
 #include "app/catalogue/DataSource.h"
 #include "app/catalogue/OutlineModel.h"
-#include "app/document/PictureHistory.h"
+#include "app/document/Document.h"
 #include "app/modes/DefaultImages.h"
 #include "app/modes/EffectList.h"
 #include "app/modes/FavouritesStore.h"
@@ -14,9 +14,6 @@
 #include "effects3d/OGLViewMaster.h"
 #include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
-#include "platform/chain/PictureFormats.h"
-#include "platform/coreimage/CIContext.h"
-#include "platform/foundation/UndoManager.h"
 #include "platform/imageio/Result.h"
 #include "widgets/FavouritesMaster.h"
 
@@ -39,7 +36,6 @@ class MainWindow;
 class MyImageView;
 class MyOGLView;
 class OutlineView;
-class PictureMetadata;
 class QAbstractButton;
 class QAction;
 class QLabel;
@@ -106,10 +102,10 @@ public:
 
     // The picture and what the filter makes of it: ControllerFilterChain.cpp
     /// Makes it the picture (null for none) and fits the views to it.
-    void setBackgroundImage(const CIImage& image);
-    CIImage backImage() override { return backgroundImage; }
+    void setBackgroundImage(const CIImage& image) { m_document.setPicture(image); }
+    CIImage backImage() override { return m_document.picture(); }
     CIImage filteredImage() const { return {}; } // results are never kept
-    CIRect getBgImageExtent() const override { return backgroundImage.extent(); }
+    CIRect getBgImageExtent() const override { return m_document.picture().extent(); }
     std::shared_ptr<CIFilter> getCurrentFilter() override { return currentFilter; }
     void addFilterIndex(const QString& name, int index);
     void _setupAllImageInputsToNotNil(CIFilter& filter);
@@ -139,8 +135,6 @@ public:
     void beginChange() override { m_undoManager.beginUndoGrouping(); }
     void endChange() override { m_undoManager.endUndoGrouping(); }
     CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override;
-    /// Pictures that undo steps go back to; beyond a quarter of the computer's memory they wait on the disk.
-    PictureHistory& pictureHistory() { return m_history; }
     UndoManager* undoManager() override { return &m_undoManager; }
     void undo();
     void redo();
@@ -169,7 +163,7 @@ public:
     void resizeImageHeight(float width, float height) override;
     void copy();
     void paste();
-    void undoPaste(const CIImage& image);
+    void undoPaste(const CIImage& image) { m_document.replaceByForeignPicture(image); }
     void zoomChanged();
     void setZoom(float zoom) override; // moves the slider only
     void updateZoommWithDelta(double delta) override;
@@ -211,14 +205,12 @@ public:
     // Files: ControllerFiles.cpp
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files);
-    void setFilePath(const QString& path); // empty for none
+    void setFilePath(const QString& path) { m_document.setFilePath(path); } // empty for none
     void showInfoPanel(); // or hides it
-    QString getFilePath() const { return _filePath; }
+    QString getFilePath() const { return m_document.filePath(); }
     void updateWinTitle();
     void showReadFailure(const QString& path) override;
     QStringList pictureNameFilters() override;
-    /// How the picture's pixels are stored; results that replace the picture are stored alike.
-    CIFormat pictureFormat() const { return m_pictureFormat; }
 
     // Opening: ControllerOpening.cpp
     /// Opens a picture file as the open panel does. The picture may come later: the file is read in the background, and
@@ -253,7 +245,7 @@ public:
     CIBitmap createObjectImage();
     CIBitmap createObjectImage(double) { return createObjectImage(); } // the resolution means nothing to pixels
     /// The source picture. Images here have no rows to be upside down, so `flipped` changes nothing.
-    CIImage getImage(bool) const { return backgroundImage; }
+    CIImage getImage(bool) const { return m_document.picture(); }
     /// The pixels of the source picture, top row first; null without one.
     CIBitmap getCGImage();
     struct BitmapDescription {
@@ -312,7 +304,8 @@ public:
     void applicationWillTerminate();
     void terminate();
 
-    bool wasChanged() const { return m_wasChanged; }
+    Document& document() { return m_document; }
+    bool wasChanged() const { return m_document.wasChanged(); }
 
     // Unexpected ends: ControllerSession.cpp
     /// From now on, what is being edited is kept in the folder `home`, at most a minute old.
@@ -349,7 +342,6 @@ private:
     void hideOpening(const Opening& opening);
     void setEditable(bool on);
     bool isFree(const QAction& item) const;
-    CIImage takeRead(const PictureRead& read);
     void commitData(QSessionManager& session);
     bool asksToRestore(const SessionState& state);
     void restoreFilter(const SessionState& state);
@@ -367,9 +359,7 @@ private:
     void setAllInputs(
         const QString& actionName, const std::function<std::optional<CIValue>(const CIInputAttributes&)>& valueFor);
     bool hasInputsToSet(bool randomly) const;
-    void registerUndoPaste();
     CIImage turned(const QString& title, const std::function<CIImage()>& turn);
-    CIImage restored(KeptPicture& kept);
     void dropImagesOfPastFilters();
     void fitZoom();
     std::shared_ptr<CIFilter> newFilter(const std::string& name);
@@ -392,7 +382,6 @@ private:
     bool applyCustom();
     ZoomedCanvas* zoomedView() const;
     void showZoom();
-    void takeMetadataOf(const CIImage& image);
     void updatePictureInfo();
     void showMessage(const QString& text);
     double chosenResolution() const;
@@ -403,8 +392,9 @@ private:
     void rememberRecentFile(const QString& path);
     void fillRecentMenu();
     void fillUndoHistoryMenu();
-    void setWasChanged(bool changed);
-    void replacePicture(const CIImage& image, const QString& actionName);
+    void connectDocument();
+    void showPicture();
+    void pathChanged();
     void showPanel(QWidget& panel);
     void switchOff(QPointer<onlyTextClosedButton>& button);
     void removeFavourite(
@@ -417,12 +407,11 @@ private:
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
-    PictureHistory m_history;
+    Document m_document;
     std::unique_ptr<SessionJournal> m_journal;
-    UndoManager m_undoManager;
+    UndoManager& m_undoManager; // the document's
     DataSource m_dataSource;
     OutlineModel m_catalogue;
-    std::shared_ptr<CIContext> m_context;
 
     // The interface, by the names under which it is known.
     OutlineView *listView, *filter3DOutlineView, *filterCustomOutlineView;
@@ -441,7 +430,6 @@ private:
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;
 
-    CIImage backgroundImage;
     std::shared_ptr<CIFilter> currentFilter;
     std::shared_ptr<BaseEffect> current3DEffect; // always a copy of one of the prototypes
     std::shared_ptr<BaseEffect> eval3DEffect, object3DEffect;
@@ -456,8 +444,6 @@ private:
     FavouritesStore m_favorites, m_favorites3D, m_favoritesCustom;
     // The buttons that are shown as selected
     QPointer<onlyTextClosedButton> m_selectes_FavBtn, m_selectes_FavBtn3D, m_selectes_FavBtnCustom;
-    QString _filePath;
-    bool m_wasChanged = false;
     bool needsUpdate = false;
     int format_type = 0; // of the last save
     /// A finished save ends the program: the user wanted to quit.
@@ -467,15 +453,7 @@ private:
     bool m_saveWasStopped = false; // by the user, so nothing was written
     QString m_lastFolder; // of the open and save panels
     std::vector<std::weak_ptr<CIFilter>> m_madeFilters; // all that undo steps may still need
-    PictureFormats m_formats;
-    CIFormat m_pictureFormat = CIFormat::RGBA8;
-    std::shared_ptr<const PictureMetadata> m_metadata; // of the file that the picture came from
-    struct {
-        std::weak_ptr<const ci::Node> picture;
-        std::shared_ptr<const PictureMetadata> metadata;
-    } m_lastRead;
     std::shared_ptr<Opening> m_opening; // null when nothing is being opened
-    QString m_readFailure; // why the last file could not be read; empty when it could
     QTimer m_messageEnd;
     CatalogueSearch* m_search;
     CataloguePictures* m_cataloguePictures = nullptr;

@@ -9,7 +9,6 @@
 #include "effects2d/customEffImageView.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
-#include "files/PictureLimits.h"
 #include "platform/coreimage/CIPlugIn.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/ResourcePaths.h"
@@ -17,8 +16,6 @@
 #include "ui_MainWindow.h"
 #include "widgets/DocPageControl.h"
 #include "widgets/GradientButton.h"
-
-#include <QStandardPaths>
 
 namespace {
 
@@ -31,9 +28,9 @@ const QString kWindowFrameName = QStringLiteral("Velmora");
 Controller::Controller(MainWindow& window)
     : m_window(window)
     , ui(window.interface())
-    , m_history(QStandardPaths::writableLocation(QStandardPaths::CacheLocation), physicalMemory() / 4)
+    , m_document(&window)
+    , m_undoManager(m_document.undoManager())
     , m_catalogue(m_dataSource, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
-    , m_context(std::make_shared<CIContext>())
     , listView(ui.listView)
     , filter3DOutlineView(ui.filter3DOutlineView)
     , filterCustomOutlineView(ui.filterCustomOutlineView)
@@ -72,7 +69,7 @@ Controller::Controller(MainWindow& window)
     standardBtn->setState(true);
     m_messageEnd.setSingleShot(true);
     connect(&m_messageEnd, &QTimer::timeout, this, &Controller::updatePictureInfo);
-    ciView->setContext(m_context);
+    ciView->setContext(m_document.context());
     ciView->setController(this);
     connectInterface();
     window.setController(this);
@@ -99,7 +96,8 @@ void Controller::awakeFromNib()
     m_resizePanel = new ResizePanel(&m_window, *this);
     for (const QDialog* panel : {static_cast<QDialog*>(infoPanel), static_cast<QDialog*>(m_resizePanel)})
         connect(panel, &QDialog::finished, this, &Controller::validateMenuItems); // their buttons are on no more
-    setBackgroundImage(takeRead(readPictureFile(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg")))));
+    setBackgroundImage(
+        m_document.take(readPictureFile(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg")))));
     setDefaultImagePaths();
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();

@@ -1,5 +1,7 @@
 #include "widgets/BackgroundWork.h"
 
+#include "widgets/HeldInput.h"
+
 #include <QDialog>
 #include <QEventLoop>
 #include <QLabel>
@@ -80,6 +82,52 @@ void showProgressOn(QProgressBar& bar, double progress)
     constexpr int kSteps = 1000;
     bar.setRange(0, progress > 0 ? kSteps : 0);
     bar.setValue(int(progress * kSteps));
+}
+
+BackgroundWork::BackgroundWork(
+    QWidget* window, const WorkOptions& options, Work work, std::function<void(bool isCancelled)> then)
+    : m_control(options.renderingShare)
+    , m_then(std::move(then))
+    , m_input(std::make_unique<HeldInput>())
+{
+    m_control.canBeCancelled = options.canBeCancelled;
+    m_patience.setSingleShot(true);
+    m_patience.callOnTimeout(this, [this, window, title = options.title] { showSheet(window, title); });
+    m_patience.start(kPatience);
+    m_thread = std::thread([this, work = std::move(work)] {
+        try {
+            work(m_control);
+        } catch (const std::bad_alloc&) {
+            // Whoever wants the result sees that there is none.
+        }
+        QMetaObject::invokeMethod(
+            this, [this] { end(); }, Qt::QueuedConnection);
+    });
+}
+
+BackgroundWork::~BackgroundWork()
+{
+    m_control.cancel();
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void BackgroundWork::showSheet(QWidget* window, const QString& title)
+{
+    m_input->forget();
+    m_input.reset();
+    m_sheet = std::make_unique<ProgressSheet>(window, title, m_control);
+    m_sheet->show();
+}
+
+void BackgroundWork::end()
+{
+    m_thread.join();
+    m_sheet.reset();
+    m_patience.stop();
+    m_input.reset();
+    const std::function<void(bool)> then = std::move(m_then);
+    then(m_control.isCancelled());
 }
 
 bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work)

@@ -42,7 +42,7 @@ void Controller::thumbnailsToggled()
 
 void Controller::updateThumbnails()
 {
-    m_cataloguePictures->setPicture(ui.actionThumbnails->isChecked() ? backgroundImage : CIImage());
+    m_cataloguePictures->setPicture(ui.actionThumbnails->isChecked() ? m_document.picture() : CIImage());
 }
 
 /// As the menu item says.

@@ -13,6 +13,7 @@
 
 void Controller::connectInterface()
 {
+    connectDocument();
     connectActions();
     connectLists();
     connectZoom();
@@ -23,6 +24,15 @@ void Controller::connectInterface()
     connect(&m_window, &MainWindow::compareHeld, this, &Controller::compare);
     connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
+}
+
+void Controller::connectDocument()
+{
+    connect(&m_document, &Document::pictureChanged, this, &Controller::showPicture);
+    connect(&m_document, &Document::pathChanged, this, &Controller::pathChanged);
+    connect(&m_document, &Document::changedMarkChanged, this, &Controller::updateWinTitle);
+    connect(&m_document, &Document::aboutToKeepPicture, this, &Controller::dropImagesOfPastFilters);
+    connect(&m_document, &Document::message, this, &Controller::showMessage);
 }
 
 void Controller::connectActions()
@@ -120,7 +130,7 @@ bool Controller::validateMenuItem(QAction& item)
         ui.menuUndoHistory->setEnabled(isFree(item) && (enabled || m_undoManager.canUndo()));
         item.setText(m_undoManager.redoMenuItemTitle());
     } else if (&item == ui.actionCopy) {
-        enabled = bool(backgroundImage);
+        enabled = bool(m_document.picture());
     } else if (&item == ui.actionInfo) {
         item.setChecked(infoPanel && infoPanel->isVisible());
     } else if (&item == ui.actionResize) {

@@ -74,9 +74,10 @@ CIImage Controller::turned(const QString& title, const std::function<CIImage()>&
 
 void Controller::rotateImage(bool left)
 {
-    if (!backgroundImage || isOpening())
+    if (!m_document.picture() || isOpening())
         return;
-    const CIImage rotated = turned(tr("Rotating the picture…"), [&] { return rotatedPicture(backgroundImage, left); });
+    const CIImage rotated =
+        turned(tr("Rotating the picture…"), [&] { return rotatedPicture(m_document.picture(), left); });
     if (!rotated)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
@@ -88,10 +89,10 @@ void Controller::rotateImage(bool left)
 
 void Controller::flipImage(bool vertical)
 {
-    if (!backgroundImage || isOpening())
+    if (!m_document.picture() || isOpening())
         return;
     const CIImage flipped =
-        turned(tr("Flipping the picture…"), [&] { return flippedPicture(backgroundImage, vertical); });
+        turned(tr("Flipping the picture…"), [&] { return flippedPicture(m_document.picture(), vertical); });
     if (!flipped)
         return;
     m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
@@ -102,7 +103,7 @@ void Controller::flipImage(bool vertical)
 
 void Controller::resizeImageHeight(float width, float height)
 {
-    if (!backgroundImage || isOpening())
+    if (!m_document.picture() || isOpening())
         return;
     if (!(width > 0 && height > 0)) {
         AlertPanel::Alert_OKMsgText(
@@ -110,31 +111,23 @@ void Controller::resizeImageHeight(float width, float height)
         return;
     }
     const std::optional<QSize> size = pixelSize(width, height);
-    if (!size || !fitsIntoMemory(*size, m_pictureFormat)) {
+    if (!size || !fitsIntoMemory(*size, m_document.format())) {
         AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't be made that large."),
             tr("Up to %1 million pixels fit into this computer's memory.")
-                .arg(largestPixelCount(m_pictureFormat) / 1'000'000));
+                .arg(largestPixelCount(m_document.format()) / 1'000'000));
         return;
     }
     CIImage resized;
     WorkControl control(1);
-    const CIImage recipe = ci::resampled(backgroundImage, size->width(), size->height());
+    const CIImage recipe = ci::resampled(m_document.picture(), size->width(), size->height());
     workInBackground(&m_window, tr("Resizing the picture…"), control,
-        [&] { resized = bakedImage(*m_context, recipe, m_pictureFormat, &control.rendering); });
+        [&] { resized = bakedImage(*m_document.context(), recipe, m_document.format(), &control.rendering); });
     if (resized) {
-        replacePicture(resized, tr("Resize"));
-        setWasChanged(true);
+        m_document.replacePicture(resized, tr("Resize"));
+        m_document.setWasChanged(true);
     } else if (!control.isCancelled()) {
         showMessage(tr("There was not enough memory to resize the picture"));
     }
-}
-
-/// As an undo step.
-void Controller::replacePicture(const CIImage& image, const QString& actionName)
-{
-    registerUndoPaste();
-    m_undoManager.setActionName(actionName);
-    setBackgroundImage(image);
 }
 
 void Controller::copy()
@@ -149,7 +142,8 @@ void Controller::copy()
     QImage shown;
     WorkControl control(0.5);
     workInBackground(&m_window, tr("Copying the picture…"), control, [&] {
-        bitmap = renderedBitmap(*m_context, image(&control.rendering), m_pictureFormat, &control.rendering);
+        bitmap =
+            renderedBitmap(*m_document.context(), image(&control.rendering), m_document.format(), &control.rendering);
         Result<std::vector<std::byte>> encoded =
             encodePicture(bitmap, {.format = PictureFormat::Tiff, .control = &control.writing});
         if (encoded)
@@ -164,23 +158,6 @@ void Controller::copy()
     Pasteboard::generalPasteboard().setPicture(
         QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())), shown);
     updateMainBtnState();
-}
-
-void Controller::registerUndoPaste()
-{
-    dropImagesOfPastFilters();
-    m_undoManager.registerUndoWithTarget(this, [this, kept = m_history.keep(backgroundImage), metadata = m_metadata] {
-        undoPaste(restored(*kept));
-        m_metadata = metadata;
-    });
-}
-
-CIImage Controller::restored(KeptPicture& kept)
-{
-    const CIImage image = kept.image();
-    if (const CIBitmap* bitmap = bitmapOf(image))
-        m_formats.remember(image, m_formats.formatOf(image, bitmap->format()));
-    return image;
 }
 
 /// Filters that are only kept by undo steps will never draw again, and must not hold on to pictures.
@@ -206,27 +183,13 @@ void Controller::paste()
     });
     if (control.isCancelled())
         return;
-    registerUndoPaste();
+    m_document.replaceByForeignPicture(m_document.take(read));
     m_undoManager.setActionName(tr("Paste"));
-    const CIImage image = takeRead(read);
-    setBackgroundImage(image);
-    takeMetadataOf(image);
-    if (filerMode() != ThreeD)
-        setZoom(zoomedView()->getZoom());
-}
-
-void Controller::undoPaste(const CIImage& image)
-{
-    registerUndoPaste();
-    setBackgroundImage(image);
-    takeMetadataOf(image);
-    if (filerMode() != ThreeD)
-        setZoom(zoomedView()->getZoom());
 }
 
 void Controller::fitZoom()
 {
-    const CIRect extent = backgroundImage.extent();
+    const CIRect extent = m_document.picture().extent();
     const int scroller = m_window.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, ui.pictureScrollView);
     const QSize area = ui.pictureScrollView->size() - QSize(scroller, scroller);
     const float zoom = zoomThatFits(extent.width, extent.height, area.width(), area.height());

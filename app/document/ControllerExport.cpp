@@ -92,12 +92,14 @@ CIBitmap Controller::createObjectImage()
     if (!image)
         return bitmap;
     WorkControl control(1);
-    workInBackground(&m_window, tr("Rendering the picture…"), control,
-        [&] { bitmap = renderedBitmap(*m_context, image(&control.rendering), m_pictureFormat, &control.rendering); });
+    workInBackground(&m_window, tr("Rendering the picture…"), control, [&] {
+        bitmap =
+            renderedBitmap(*m_document.context(), image(&control.rendering), m_document.format(), &control.rendering);
+    });
     return bitmap;
 }
 
-CIBitmap Controller::getCGImage() { return renderedBitmap(*m_context, getImage(true), CIFormat::RGBA8); }
+CIBitmap Controller::getCGImage() { return renderedBitmap(*m_document.context(), getImage(true), CIFormat::RGBA8); }
 
 void Controller::getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& description)
 {
@@ -117,7 +119,7 @@ void Controller::saveImg()
 {
     if (isOpening())
         return;
-    if (_filePath.isEmpty()) {
+    if (m_document.filePath().isEmpty()) {
         runSavePanel();
         return;
     }
@@ -144,16 +146,16 @@ bool Controller::saveExistFile()
     if (!asksToReplace())
         return true; // a declined save counts as done
     const double resolution = chosenResolution();
-    const int index = exportIndexForExtension(QFileInfo(_filePath).suffix());
+    const int index = exportIndexForExtension(QFileInfo(m_document.filePath()).suffix());
     if (index < 0)
         return false;
-    const bool wasChanged = m_wasChanged;
-    setWasChanged(false);
-    const bool saved = simplySaveResolutionPath(index, resolution, _filePath);
+    const bool wasChanged = m_document.wasChanged();
+    m_document.setWasChanged(false);
+    const bool saved = simplySaveResolutionPath(index, resolution, m_document.filePath());
     if (m_saveWasStopped)
-        setWasChanged(wasChanged);
+        m_document.setWasChanged(wasChanged);
     else
-        rememberRecentFile(_filePath);
+        rememberRecentFile(m_document.filePath());
     return saved && !m_saveWasStopped;
 }
 
@@ -201,17 +203,17 @@ void Controller::saveAs(const QString& path)
     // the old one away before could lose both.
     if (QFile::exists(target))
         static_cast<void>(asksToReplace());
-    const QString oldPath = _filePath;
-    const bool wasChanged = m_wasChanged;
+    const QString oldPath = m_document.filePath();
+    const bool wasChanged = m_document.wasChanged();
     setFilePath(target);
-    setWasChanged(false);
+    m_document.setWasChanged(false);
     if (name == QLatin1String("PDF"))
         createPDFFileResolution(target, resolution);
     else
         simplySaveResolutionPath(format_type, resolution, target);
     if (m_saveWasStopped) {
         setFilePath(oldPath);
-        setWasChanged(wasChanged);
+        m_document.setWasChanged(wasChanged);
     } else {
         rememberRecentFile(target);
     }
@@ -222,7 +224,7 @@ bool Controller::simplySaveResolutionPath(int index, double, const QString& path
     const PictureFormat format = bitmapFormatForType(QLatin1String(kExportFormats[std::size_t(index)].typeIdentifier));
     const bool isWritten = writeInBackground(path, [&](const CIBitmap& bitmap, CIRenderControl& control) {
         return writePicture(bitmap, QFile::encodeName(path).toStdString(),
-            {.format = format, .metadata = m_metadata, .control = &control});
+            {.format = format, .metadata = m_document.metadata(), .control = &control});
     });
     qCInfo(lumivexLog) << (isWritten ? "YES" : "NO");
     return true;
@@ -243,7 +245,8 @@ bool Controller::writeInBackground(
     WorkControl control(kRenderingShare);
     workInBackground(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), control, [&] {
         const CIImage finished = image ? image(&control.rendering) : CIImage();
-        const CIBitmap bitmap = renderedBitmap(*m_context, finished, m_pictureFormat, &control.rendering);
+        const CIBitmap bitmap =
+            renderedBitmap(*m_document.context(), finished, m_document.format(), &control.rendering);
         control.rendering.setProgress(1);
         if (!control.isCancelled())
             result = write(bitmap, control.writing);

@@ -58,9 +58,9 @@ void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
         openFile(files.first());
 }
 
-void Controller::setFilePath(const QString& path)
+void Controller::pathChanged()
 {
-    _filePath = path;
+    const QString& path = m_document.filePath();
     ImageInfo::setMyURL(path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path));
     if (!path.isEmpty())
         m_lastFolder = QFileInfo(path).absolutePath();
@@ -72,12 +72,12 @@ void Controller::showInfoPanel() { showPanel(*infoPanel); }
 void Controller::updateWinTitle()
 {
     QString title = QStringLiteral("Lumivex");
-    if (!_filePath.isEmpty())
-        title += QStringLiteral("::%1").arg(QFileInfo(_filePath).fileName());
-    if (m_wasChanged)
+    if (!m_document.filePath().isEmpty())
+        title += QStringLiteral("::%1").arg(QFileInfo(m_document.filePath()).fileName());
+    if (m_document.wasChanged())
         title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
-    m_window.setWindowModified(m_wasChanged);
+    m_window.setWindowModified(m_document.wasChanged());
 }
 
 QStringList Controller::pictureNameFilters()
@@ -88,8 +88,9 @@ QStringList Controller::pictureNameFilters()
 void Controller::showReadFailure(const QString& path)
 {
     const QString name = QFileInfo(path).fileName();
-    showMessage(m_readFailure.isEmpty() ? tr("%1 can't be read").arg(name)
-                                        : tr("%1: %2", "file name, what is wrong").arg(name, m_readFailure));
+    showMessage(m_document.readFailure().isEmpty()
+            ? tr("%1 can't be read").arg(name)
+            : tr("%1: %2", "file name, what is wrong").arg(name, m_document.readFailure()));
 }
 
 /// For a while, in the status bar.
@@ -107,13 +108,13 @@ void Controller::updatePictureInfo()
         ui.pictureInfoField->setText(openingText(openingPath()));
         return;
     }
-    const CIRect extent = backgroundImage.extent();
-    QString text = m_readFailure.isEmpty() ? tr("No picture") : m_readFailure;
-    if (backgroundImage)
+    const CIRect extent = m_document.picture().extent();
+    QString text = m_document.readFailure().isEmpty() ? tr("No picture") : m_document.readFailure();
+    if (m_document.picture())
         text = tr("%1 × %2 px · %3", "width, height, color space and depth")
                    .arg(std::lround(extent.width))
                    .arg(std::lround(extent.height))
-                   .arg(depthText(m_pictureFormat));
+                   .arg(depthText(m_document.format()));
     ui.pictureInfoField->setText(text);
 }
 

@@ -5,7 +5,6 @@
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
-#include "files/PictureMessages.h"
 #include "files/ResizePanel.h"
 #include "ui_MainWindow.h"
 #include "widgets/BackgroundWork.h"
@@ -84,8 +83,7 @@ void Controller::openFile(const QString& path)
 {
     openInBackground(path, reducedSide(), [this, path](const CIImage& image) {
         setFilePath(path);
-        setBackgroundImage(image);
-        takeMetadataOf(image);
+        m_document.setForeignPicture(image);
         if (image) {
             rememberRecentFile(path);
             markSessionClean();
@@ -124,30 +122,14 @@ void Controller::takeDroppedFile(const QString& path)
 std::optional<CIImage> Controller::readImage(const QString& path)
 {
     if (path.isEmpty())
-        return takeRead({});
+        return m_document.take({});
     PictureRead read;
     WorkControl control(1);
     workInBackground(&m_window, openingText(path), control, [&] {
         read = readUnlessCancelled(
             [path](const ReadOptions& options) { return readPictureFile(path, options); }, control.rendering);
     });
-    return control.isCancelled() ? std::nullopt : std::optional(takeRead(read));
-}
-
-/// Remembers what else was read with it.
-CIImage Controller::takeRead(const PictureRead& read)
-{
-    m_readFailure = read.failure.empty() ? QString() : shownPictureMessage(read.failure);
-    if (read.image)
-        m_formats.remember(read.image, read.format);
-    m_lastRead = {read.image.node(), read.metadata};
-    return read.image;
-}
-
-/// What comes from no file, as by a paste, has none.
-void Controller::takeMetadataOf(const CIImage& image)
-{
-    m_metadata = image && image.node() == m_lastRead.picture.lock() ? m_lastRead.metadata : nullptr;
+    return control.isCancelled() ? std::nullopt : std::optional(m_document.take(read));
 }
 
 // --- how ---
@@ -160,6 +142,7 @@ void Controller::openInBackground(const QString& path, int reducedSide, std::fun
     opening->reader = new PictureOpening(path, reducedSide, this);
     opening->take = std::move(take);
     m_opening = opening;
+    m_document.setState(Document::State::Opening);
     connect(opening->reader, &PictureOpening::reducedRead, this, &Controller::showReduced);
     connect(opening->reader, &PictureOpening::finished, this, &Controller::openingFinished);
     QEventLoop loop;
@@ -180,7 +163,7 @@ int Controller::reducedSide() const
 /// The whole picture takes the place before anybody can act on it.
 void Controller::showReduced(const CIImage& picture)
 {
-    m_opening->former = backgroundImage;
+    m_opening->former = m_document.picture();
     if (m_window.isVisible())
         m_opening->sights = {{*ciView, *ui.pictureScrollView}, {*customEffectsView, *ui.customEffectsScrollView}};
     setBackgroundImage(picture);
@@ -189,7 +172,7 @@ void Controller::showReduced(const CIImage& picture)
 void Controller::openingFinished(const PictureRead& read)
 {
     const std::shared_ptr<Opening> ended = endOpening();
-    ended->take(takeRead(read));
+    ended->take(m_document.take(read));
     updateMainBtnState();
 }
 
@@ -211,6 +194,7 @@ void Controller::cancelOpening()
 std::shared_ptr<Controller::Opening> Controller::endOpening()
 {
     std::shared_ptr<Opening> ended = std::exchange(m_opening, nullptr);
+    m_document.setState(Document::State::Idle);
     ended->reader->disconnect(this); // what it has still to say comes too late
     ended->reader->giveUp();
     if (ended->isShown)
@@ -224,7 +208,7 @@ QString Controller::openingPath() const { return m_opening ? m_opening->reader->
 /// The picture that stays if the opening is cancelled.
 CIImage Controller::lastingPicture() const
 {
-    return m_opening && m_opening->former ? *m_opening->former : backgroundImage;
+    return m_opening && m_opening->former ? *m_opening->former : m_document.picture();
 }
 
 // --- what is seen of it ---

@@ -44,10 +44,10 @@ CIDictionary dictionaryOf(const SessionState& state, const char* key)
 SessionState Controller::sessionState()
 {
     SessionState state;
-    state.values = {{"path", _filePath.toStdString()}, {"mode", double(filerMode())}, {"wasChanged", m_wasChanged},
-        {"format", double(m_pictureFormat)}};
-    if (m_metadata)
-        state.values["metadataOf"] = m_metadata->file().string();
+    state.values = {{"path", m_document.filePath().toStdString()}, {"mode", double(filerMode())},
+        {"wasChanged", m_document.wasChanged()}, {"format", double(m_document.format())}};
+    if (m_document.metadata())
+        state.values["metadataOf"] = m_document.metadata()->file().string();
     const CIImage picture = lastingPicture();
     if (picture && !picture.extent().isInfinite())
         state.pictures[kPicture] = picture;
@@ -104,12 +104,12 @@ void Controller::restoreSession(const SessionState& state)
     const CIImage image = picture == state.pictures.end() ? CIImage() : picture->second;
     const int format = int(valueOf(state, "format").toDouble());
     if (image && format >= 0 && format <= int(CIFormat::RGBAf))
-        m_formats.remember(image, CIFormat(format));
-    m_readFailure.clear();
+        m_document.rememberFormat(image, CIFormat(format));
+    m_document.clearReadFailure();
     setFilePath(QString::fromStdString(valueOf(state, "path").toString()));
     setBackgroundImage(image);
     const std::string described = valueOf(state, "metadataOf").toString();
-    m_metadata = described.empty() ? nullptr : PictureMetadata::ofFile(described);
+    m_document.setMetadata(described.empty() ? nullptr : PictureMetadata::ofFile(described));
     const std::array<GradientButton*, 3> buttons{standardBtn, threeDBtn, customBtn};
     const auto mode = std::size_t(std::clamp(valueOf(state, "mode").toDouble(), 0.0, 2.0));
     changeFilterMode(buttons[mode]);
@@ -118,7 +118,7 @@ void Controller::restoreSession(const SessionState& state)
     setCurrentCustomEffect(
         customEffectFromDictionary(m_effectsCustom.prototypes(), dictionaryOf(state, "effectCustom")));
     m_undoManager.removeAllActions();
-    setWasChanged(valueOf(state, "wasChanged").toBool());
+    m_document.setWasChanged(valueOf(state, "wasChanged").toBool());
     adjustViewsAndTabs();
     updateView();
     updateMainBtnState();
@@ -180,7 +180,7 @@ void Controller::offerRestore(const QString& home)
             showMessage(tr("The picture can't be restored; its journal is damaged."));
             continue;
         }
-        const QString opened = isOpening() ? openingPath() : _filePath;
+        const QString opened = isOpening() ? openingPath() : m_document.filePath();
         cancelOpening();
         restoreSession(*state);
         if (m_journal)
@@ -195,7 +195,7 @@ void Controller::offerRestore(const QString& home)
 /// The desktop's session ends: the same question as when the window closes.
 void Controller::commitData(QSessionManager& session)
 {
-    if (!m_wasChanged)
+    if (!m_document.wasChanged())
         return;
     if (!session.allowsInteraction()) {
         if (m_journal)
@@ -217,7 +217,7 @@ void Controller::openFilesFromOutside(const QStringList& paths)
         return;
     if (isWorkRunning() || QApplication::activeModalWidget())
         openInNewWindow(paths.first());
-    else if (!m_wasChanged
+    else if (!m_document.wasChanged()
         || AlertPanel::Alert_OKCancelMsgText(&m_window,
                tr("Do you want to open “%1” here?").arg(QFileInfo(paths.first()).fileName()),
                tr("Your changes will be lost if you did not save them."))

@@ -63,12 +63,12 @@ void Controller::outlineViewSelectionDidChange_3D(const OutlineItem* item)
     setCurrent3DEffect(row ? row->effect->mycopy() : nullptr);
     switchOff(m_selectes_FavBtn3D);
     if (row)
-        m_wasChanged = true;
+        m_document.setWasChanged(true);
 }
 
 void Controller::updateView3D()
 {
-    const CIRect extent = backgroundImage.extent();
+    const CIRect extent = m_document.picture().extent();
     ui.openGLStage->setProportions({extent.width, extent.height}, current3DEffect != nullptr);
     openGLView->redraw();
 }
@@ -95,8 +95,8 @@ void Controller::apply3D()
     const CIImage shot = openGLView->ogl_shot_CI();
     if (!shot)
         return;
-    replacePicture(shot, tr("Apply"));
-    m_wasChanged = true;
+    m_document.replacePicture(shot, tr("Apply"));
+    m_document.setWasChanged(true);
     if (current3DEffect)
         current3DEffect->reloadImage();
 }

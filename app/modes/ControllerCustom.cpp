@@ -55,7 +55,7 @@ void Controller::outlineViewSelectionDidChange_Custom(const OutlineItem* item)
     setCurrentCustomEffect(row ? row->effect->mycopy() : nullptr);
     switchOff(m_selectes_FavBtnCustom);
     if (row)
-        setWasChanged(true);
+        m_document.setWasChanged(true);
 }
 
 /// The name above the controls, and what can be done without them.
@@ -86,14 +86,14 @@ bool Controller::applyCustom()
     const BaseEffect::LaterImage draw = currentCustomEffect->laterDrawImage();
     workInBackground(&m_window, tr("Applying the effect…"), control, [&] {
         drawn = draw(&control.rendering);
-        baked = bakedImage(*m_context, drawn, m_pictureFormat, &control.rendering);
+        baked = bakedImage(*m_document.context(), drawn, m_document.format(), &control.rendering);
         makeReducedCopies(baked);
     });
     if (control.isCancelled())
         return false;
     if (drawn) {
-        replacePicture(baked ? baked : drawn, tr("Apply"));
-        setWasChanged(true);
+        m_document.replacePicture(baked ? baked : drawn, tr("Apply"));
+        m_document.setWasChanged(true);
     }
     return true;
 }

@@ -109,7 +109,7 @@ void Controller::chooseEffectFavourite(
         selected = sender;
         store.makeVisible(sender);
         sender->setChecked(true);
-        setWasChanged(true);
+        m_document.setWasChanged(true);
     }
     updateView();
     updateMainBtnState();
@@ -166,7 +166,7 @@ void Controller::filterChanged(onlyTextClosedButton* sender)
         updateLayout(); // the rows were made for the filter's own values
         m_favorites.makeVisible(sender);
         sender->setChecked(true);
-        setWasChanged(true);
+        m_document.setWasChanged(true);
     }
     updateView();
     updateMainBtnState();

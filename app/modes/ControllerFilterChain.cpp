@@ -29,11 +29,9 @@ CIImage movedToOrigin(const CIImage& image)
 
 } // namespace
 
-void Controller::setBackgroundImage(const CIImage& image)
+void Controller::showPicture()
 {
-    backgroundImage = image;
-    m_pictureFormat = m_formats.formatOf(image, m_pictureFormat); // an edited picture is as deep as it was
-    m_formats.remember(image, m_pictureFormat);
+    const CIImage& image = m_document.picture();
     fitZoom();
     for (const std::shared_ptr<BaseEffect>& effect : {currentCustomEffect, current3DEffect})
         if (effect)
@@ -70,7 +68,7 @@ std::shared_ptr<CIFilter> Controller::newFilter(const std::string& name)
 
 void Controller::_setupAllImageInputsToNotNil(CIFilter& filter)
 {
-    setupAllImageInputsToNotNil(filter, backgroundImage);
+    setupAllImageInputsToNotNil(filter, m_document.picture());
 }
 
 void Controller::setAutomaticDefaults(CIFilter& filter)
@@ -109,8 +107,8 @@ bool Controller::hasMissingImage() const { return currentFilter && filterHasMiss
 
 CIImage Controller::coreImageResultForRect(const CIRect& rect)
 {
-    return currentFilter ? filteredPicture(*currentFilter, backgroundImage, {rect.width, rect.height})
-                         : backgroundImage;
+    return currentFilter ? filteredPicture(*currentFilter, m_document.picture(), {rect.width, rect.height})
+                         : m_document.picture();
 }
 
 CIImage Controller::coreImageResult(bool overBlack)
@@ -130,16 +128,17 @@ void Controller::applyBtn()
             if (currentFilter) {
                 WorkControl control(1);
                 CIImage baked;
-                workInBackground(&m_window, tr("Applying the filter…"), control,
-                    [&] { baked = bakedImage(*m_context, applied, m_pictureFormat, &control.rendering); });
+                workInBackground(&m_window, tr("Applying the filter…"), control, [&] {
+                    baked = bakedImage(*m_document.context(), applied, m_document.format(), &control.rendering);
+                });
                 if (control.isCancelled())
                     return;
                 // Pixels from here on; only where there is no memory for them the recipe itself.
                 if (baked)
                     applied = baked;
             }
-            replacePicture(applied, tr("Apply"));
-            m_wasChanged = true;
+            m_document.replacePicture(applied, tr("Apply"));
+            m_document.setWasChanged(true);
         }
     } else if (filerMode() == ThreeD) {
         apply3D();

@@ -28,7 +28,8 @@ void Controller::changeFilterMode(QAbstractButton* sender)
         previous = customBtn;
     for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
         button->setState(button == sender);
-    m_undoManager.removeAllActionsWithTarget(this);
+    for (const void* target : {static_cast<const void*>(this), static_cast<const void*>(&m_document)})
+        m_undoManager.removeAllActionsWithTarget(target);
     for (const std::shared_ptr<BaseEffect>& effect : {current3DEffect, currentCustomEffect})
         if (effect)
             m_undoManager.removeAllActionsWithTarget(effect.get());

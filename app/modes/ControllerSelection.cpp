@@ -47,7 +47,7 @@ void Controller::outlineViewSelectionDidChange_CIF(OutlineView& outlineView, con
         m_chosenRow = row;
         updateView();
         switchOff(m_selectes_FavBtn);
-        m_wasChanged = true;
+        m_document.setWasChanged(true);
     } else {
         if (m_dataSource.outlineViewIsItemExpandable(item))
             outlineView.setItemExpanded(item, !outlineView.isItemExpanded(item));

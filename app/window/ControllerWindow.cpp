@@ -58,7 +58,7 @@ Controller::TerminateReply Controller::applicationShouldTerminate()
     if (isWorkRunning())
         return TerminateReply::Cancel; // its thread works for the window
     cancelOpening(); // what there is to save is the former picture
-    if (quitAfterSave || !m_wasChanged)
+    if (quitAfterSave || !m_document.wasChanged())
         return TerminateReply::Now;
     const int answer = AlertPanel::Alert_DONTSAVECANCELMsgText(&m_window, tr("Do you want to save changes?"),
         tr("Your changes will be lost if you choose don't save option."));
@@ -69,13 +69,7 @@ Controller::TerminateReply Controller::applicationShouldTerminate()
     return answer == 1 || answer == 2 ? TerminateReply::Cancel : TerminateReply::Now;
 }
 
-bool Controller::windowShouldClose() const { return !m_wasChanged && !isWorkRunning(); }
-
-void Controller::setWasChanged(bool changed)
-{
-    m_wasChanged = changed;
-    updateWinTitle();
-}
+bool Controller::windowShouldClose() const { return !m_document.wasChanged() && !isWorkRunning(); }
 
 void Controller::terminate()
 {

@@ -94,16 +94,16 @@ void UndoManager::undo()
         return;
     while (m_groupingLevel > 0)
         endUndoGrouping();
-    run(m_undo, m_redo, State::Undoing);
+    run(m_undo, State::Undoing);
 }
 
 void UndoManager::redo()
 {
     if (m_state == State::Collecting && m_groupingLevel == 0)
-        run(m_redo, m_undo, State::Redoing);
+        run(m_redo, State::Redoing);
 }
 
-void UndoManager::run(Stack& from, Stack& to, State state)
+void UndoManager::run(Stack& from, State state)
 {
     if (from.empty())
         return;
@@ -114,13 +114,26 @@ void UndoManager::run(Stack& from, Stack& to, State state)
     m_state = state;
     for (auto action = step.actions.rbegin(); action != step.actions.rend(); ++action)
         action->invocation();
-    m_state = State::Collecting;
+    m_ranName = step.name;
+    if (!m_isKeptOpen)
+        finishStep();
+}
 
+void UndoManager::closeStep()
+{
+    if (std::exchange(m_isKeptOpen, false))
+        finishStep();
+}
+
+void UndoManager::finishStep()
+{
+    Stack& to = m_state == State::Undoing ? m_redo : m_undo;
+    m_state = State::Collecting;
     Step recorded = std::exchange(m_open, {});
     m_groupingLevel = 0;
     if (!recorded.actions.empty()) {
         if (recorded.name.isEmpty())
-            recorded.name = step.name;
+            recorded.name = m_ranName;
         to.push_back(std::move(recorded));
     }
     emit stateChanged();

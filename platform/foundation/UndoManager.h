@@ -45,6 +45,10 @@ public:
     /// undo or redo is running.
     void undo();
     void redo();
+    /// The running undo or redo goes on recording until `closeStep`: its change takes time. Nothing when none is
+    /// running.
+    void keepStepOpen() { m_isKeptOpen = m_state != State::Collecting; }
+    void closeStep();
 
     /// Groups nest; the outermost pair makes one step. An empty group makes none.
     void beginUndoGrouping();
@@ -79,7 +83,8 @@ private:
     enum class State { Collecting, Undoing, Redoing };
 
     static QStringList namesOf(const Stack& steps);
-    void run(Stack& from, Stack& to, State state);
+    void run(Stack& from, State state);
+    void finishStep();
     void pushUndo(Step step);
 
     Stack m_undo, m_redo;
@@ -87,5 +92,7 @@ private:
     int m_groupingLevel = 0;
     int m_disabled = 0;
     State m_state = State::Collecting;
+    bool m_isKeptOpen = false;
+    QString m_ranName; // of the step that is being undone or redone
     std::size_t m_levels = 0;
 };

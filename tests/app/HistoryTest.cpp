@@ -78,13 +78,13 @@ TEST_F(HistoryTest, FiftyLargeEditsStayWithinTheBudgetAndAllUndo)
 {
     constexpr int edits = 50, width = 6000, height = 4000;
     constexpr std::int64_t budget = 300 * kMegabyte, onePicture = std::int64_t(width) * height * 4;
-    controller.pictureHistory().setBudget(budget);
+    controller.document().history().setBudget(budget);
     controller.undoPaste(CIImage::fromBitmap(edited(width, height, 0)));
     std::int64_t most = 0;
     for (int edit = 1; edit <= edits; ++edit) {
         controller.undoPaste(CIImage::fromBitmap(edited(width, height, edit)));
         most = std::max(most, residentMemory());
-        EXPECT_LE(controller.pictureHistory().bytesInMemory(), budget);
+        EXPECT_LE(controller.document().history().bytesInMemory(), budget);
     }
     // The picture itself, its reduced copies, one that is on its way to the disk, and the program.
     EXPECT_LT(most, budget + 5 * onePicture + 300 * kMegabyte) << most / kMegabyte << " MB";

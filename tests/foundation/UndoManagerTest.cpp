@@ -145,6 +145,31 @@ TEST(UndoManager, AnActionMayEmptyTheHistoryAndRegisterItsRedoWhileItRuns)
     EXPECT_EQ(knob.value, 5);
 }
 
+TEST(UndoManager, AStepThatTakesTimeRecordsUntilItIsClosed)
+{
+    UndoManager undo;
+    Knob knob{undo};
+    undo.keepStepOpen(); // no undo is running: nothing
+    undo.registerUndoWithTarget(&knob, [&] { undo.keepStepOpen(); });
+    undo.setActionName("Turn");
+    knob.set(1);
+    undo.undo();
+    EXPECT_EQ(undo.undoActionName(), "Turn") << "the step before was closed at once";
+    undo.undo();
+    EXPECT_FALSE(undo.canUndo());
+    undo.redo(); // waits for nothing: the undo still runs
+    EXPECT_EQ(knob.value, 0);
+    EXPECT_TRUE(undo.isUndoing());
+    undo.registerUndoWithTarget(&knob, [&] { knob.value = 5; });
+    undo.closeStep();
+    EXPECT_FALSE(undo.isUndoing());
+    EXPECT_EQ(undo.redoActionNames(), QStringList({"Turn", ""}));
+    undo.redo();
+    EXPECT_EQ(knob.value, 5);
+    undo.closeStep(); // nothing is open
+    EXPECT_TRUE(undo.canRedo());
+}
+
 TEST(UndoManager, GroupsAreOneStepAndRunBackwards)
 {
     UndoManager undo;

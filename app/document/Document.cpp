@@ -1,0 +1,122 @@
+#include "app/document/Document.h"
+
+#include "app/document/PictureOpening.h"
+#include "files/PictureLimits.h"
+#include "files/PictureMessages.h"
+#include "platform/chain/Baking.h"
+
+#include <QStandardPaths>
+
+#include <utility>
+
+Document::Document(QWidget* window)
+    : m_window(window)
+    , m_history(QStandardPaths::writableLocation(QStandardPaths::CacheLocation), physicalMemory() / 4)
+    , m_context(std::make_shared<CIContext>())
+{
+}
+
+Document::~Document() = default;
+
+void Document::setState(State state)
+{
+    if (std::exchange(m_state, state) != state)
+        emit stateChanged();
+}
+
+void Document::setPicture(const CIImage& picture)
+{
+    m_picture = picture;
+    m_format = m_formats.formatOf(picture, m_format); // an edited picture is as deep as it was
+    m_formats.remember(picture, m_format);
+    emit pictureChanged();
+}
+
+void Document::setForeignPicture(const CIImage& picture)
+{
+    m_metadata = picture && picture.node() == m_lastRead.picture.lock() ? m_lastRead.metadata : nullptr;
+    setPicture(picture);
+}
+
+void Document::replacePicture(const CIImage& picture, const QString& actionName)
+{
+    keepForUndo();
+    m_undoManager.setActionName(actionName);
+    setPicture(picture);
+}
+
+void Document::replaceByForeignPicture(const CIImage& picture)
+{
+    keepForUndo();
+    setForeignPicture(picture);
+}
+
+void Document::keepForUndo()
+{
+    emit aboutToKeepPicture();
+    m_undoManager.registerUndoWithTarget(this, [this, kept = m_history.keep(m_picture), metadata = m_metadata] {
+        replaceByForeignPicture(restored(*kept));
+        m_metadata = metadata;
+    });
+}
+
+CIImage Document::restored(KeptPicture& kept)
+{
+    const CIImage image = kept.image();
+    if (const CIBitmap* bitmap = bitmapOf(image))
+        m_formats.remember(image, m_formats.formatOf(image, bitmap->format()));
+    return image;
+}
+
+CIImage Document::take(const PictureRead& read)
+{
+    m_readFailure = read.failure.empty() ? QString() : shownPictureMessage(read.failure);
+    if (read.image)
+        m_formats.remember(read.image, read.format);
+    m_lastRead = {read.image.node(), read.metadata};
+    return read.image;
+}
+
+void Document::setFilePath(const QString& path)
+{
+    m_filePath = path;
+    emit pathChanged();
+}
+
+void Document::setWasChanged(bool changed)
+{
+    m_wasChanged = changed;
+    emit changedMarkChanged();
+}
+
+void Document::startWork(
+    const WorkOptions& options, BackgroundWork::Work work, std::function<void(bool isCancelled)> then)
+{
+    if (!isIdle())
+        return;
+    setState(State::Working);
+    m_undoManager.keepStepOpen();
+    m_work = std::make_unique<BackgroundWork>(
+        m_window, options, std::move(work), [this, then = std::move(then)](bool isCancelled) {
+            m_work.reset();
+            setState(State::Idle);
+            then(isCancelled);
+            m_undoManager.closeStep();
+            doWhatWaits();
+        });
+}
+
+void Document::whenIdle(std::function<void()> action)
+{
+    m_waiting.push_back(std::move(action));
+    doWhatWaits();
+}
+
+void Document::doWhatWaits()
+{
+    while (isIdle() && !m_waiting.empty()) {
+        const std::function<void()> action = std::move(m_waiting.front());
+        m_waiting.erase(m_waiting.begin());
+        action();
+    }
+}
