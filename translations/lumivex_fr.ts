@@ -3334,7 +3334,7 @@
     </message>
 </context>
 <context>
-    <name>ParameterText</name>
+    <name>NumberText</name>
     <message>
         <source> px</source>
         <translation> px</translation>

@@ -1,6 +1,6 @@
 #include "app/modes/InputValues.h"
 
-#include "controls/panel/TransformParts.h"
+#include "widgets/rows/TransformParts.h"
 #include "platform/chain/FilterChain.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 
 #include "controls/panel/ParameterMaster.h"
 #include "controls/panel/ParameterText.h"
-#include "controls/panel/TransformParts.h"
+#include "widgets/rows/TransformParts.h"
 
 #include <array>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Numbers, captions, transforms and places of the panel, without a window.
 #include "controls/panel/PanelLayout.h"
 #include "controls/panel/ParameterText.h"
-#include "controls/panel/TransformParts.h"
+#include "widgets/rows/TransformParts.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(Readout, ShowsEachUnitInItsFormat)
     EXPECT_EQ(shown(0.126, kCIAttributeTypeScalar), "0.13");
     EXPECT_EQ(shown(3, kCIAttributeTypeCount), "3.00");
     EXPECT_EQ(formattedNumber(7, {4, 1}), " 7.0") << "filled up to its width";
-    EXPECT_EQ(formattedNumber(1e30, kFactorFormat).size(), 31) << "no longer than its buffer";
+    EXPECT_EQ(formattedNumber(1e30, {4, 2}).size(), 31) << "no longer than its buffer";
     for (std::int32_t unit : {UnitClass::kScalar, UnitClass::kAngle, UnitClass::kTime, UnitClass::kDistance})
         EXPECT_DOUBLE_EQ(storedNumber(displayedNumber(0.7, unit), unit), 0.7);
     EXPECT_FLOAT_EQ(float(storedNumber(45, UnitClass::kAngle)), 0.785398f);

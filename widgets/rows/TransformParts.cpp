@@ -1,4 +1,4 @@
-#include "controls/panel/TransformParts.h"
+#include "widgets/rows/TransformParts.h"
 
 #include <algorithm>
 #include <cmath>

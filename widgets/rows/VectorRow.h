@@ -1,0 +1,29 @@
+// Fields for the numbers of a vector.
+#pragma once
+
+#include "widgets/rows/ValueRow.h"
+
+#include <vector>
+
+class ReadoutField;
+
+/// The first `count` numbers of a vector. It follows every key; all keys until Return are one step of undo, and Escape
+/// takes them back. A vector that was edited has four numbers, whatever it had.
+class VectorRow : public ValueRow {
+    Q_OBJECT
+public:
+    VectorRow(QWidget* panel, int count, ValueBinding value);
+
+    void show() override;
+    /// Takes what has been typed so far into one of the fields.
+    void typed(std::size_t component);
+    /// The same at the end of typing.
+    void committed(std::size_t component);
+
+    const std::vector<ReadoutField*> readouts;
+
+private:
+    void giveUp();
+
+    CIValue m_before; // typing began
+};
