@@ -45,6 +45,7 @@ struct Watch {
 
 void setDeveloping(LibRaw& raw, bool halfSize)
 {
+    constexpr unsigned kMostMegabytes = 4096;
     auto& parameters = raw.imgdata.params;
     parameters.use_camera_wb = 1;
     parameters.output_color = 1; // sRGB
@@ -52,7 +53,11 @@ void setDeveloping(LibRaw& raw, bool halfSize)
     parameters.gamm[0] = 1 / 2.4; // with a toe slope of 12.92: the sRGB curve
     parameters.gamm[1] = 12.92;
     parameters.half_size = halfSize;
-    parameters.max_raw_memory_mb = 4096;
+#if LIBRAW_COMPILE_CHECK_VERSION_NOTLESS(0, 21)
+    raw.imgdata.rawparams.max_raw_memory_mb = kMostMegabytes;
+#else
+    parameters.max_raw_memory_mb = kMostMegabytes;
+#endif
 }
 
 /// Turns rows that hold packed RGB at their start into RGBA, from the end, in place.

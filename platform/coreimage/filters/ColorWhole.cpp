@@ -5,6 +5,7 @@
 #include "platform/coreimage/passes/Blur.h"
 
 #include <array>
+#include <bit>
 
 namespace ci {
 namespace {
@@ -119,12 +120,12 @@ const RecipeFilter documentEnhancer{
 using Words = xsimd::batch<std::uint32_t>;
 
 inline std::uint32_t toWords(float v) { return std::uint32_t(std::int32_t(v)); }
-inline Words toWords(const Batch& v) { return xsimd::bitwise_cast<Words>(xsimd::to_int(v)); }
+inline Words toWords(const Batch& v) { return std::bit_cast<Words>(xsimd::to_int(v)); }
 /// The upper 24 bits as a number from 0 to 1.
 inline float fraction(std::uint32_t w) { return float(std::int32_t(w >> 8)) * 0x1p-24f; }
 inline Batch fraction(const Words& w)
 {
-    return xsimd::to_float(xsimd::bitwise_cast<xsimd::batch<std::int32_t>>(w >> 8)) * 0x1p-24f;
+    return xsimd::to_float(std::bit_cast<xsimd::batch<std::int32_t>>(w >> 8)) * 0x1p-24f;
 }
 
 /// Noise of the intensity's height in display values, the same for all components and for all pictures.
