@@ -1,12 +1,16 @@
 // The main window's controller: the center of the program.
 #pragma once
 
-#include "app/catalogue/DataSource.h"
-#include "app/catalogue/OutlineModel.h"
+#include "app/catalogue/FilterCatalogue.h"
+#include "app/catalogue/FilterMaker.h"
 #include "app/document/Document.h"
-#include "app/modes/DefaultImages.h"
-#include "app/modes/EffectList.h"
-#include "app/modes/FavouritesStore.h"
+#include "app/modes/CustomMode.h"
+#include "app/modes/FilterPanel.h"
+#include "app/modes/ModeSwitch.h"
+#include "app/modes/ParameterChanges.h"
+#include "app/modes/StandardMode.h"
+#include "app/modes/ThreeDMode.h"
+#include "controls/panel/BezelStyle.h"
 #include "controls/panel/ParameterMaster.h"
 #include "controls/picture/ImageViewMaster.h"
 #include "effects2d/CustomViewMaster.h"
@@ -14,36 +18,27 @@
 #include "effects3d/OGLViewMaster.h"
 #include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
+#include "platform/chain/FilterChain.h"
 #include "platform/imageio/Result.h"
-#include "widgets/FavouritesMaster.h"
 
+#include <QAction>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
 
-#include <array>
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
-class CataloguePictures;
-class CatalogueSearch;
-class DocPageControl;
-class FilterView;
-class GradientButton;
 class MainWindow;
 class MyImageView;
 class MyOGLView;
 class OutlineView;
 class QAbstractButton;
-class QAction;
 class QLabel;
 class QSessionManager;
 class QSlider;
-class QStackedWidget;
 class SessionJournal;
-class ZoomedCanvas;
 class customEffImageView;
 struct PictureRead;
 struct SessionState;
@@ -62,13 +57,11 @@ class Controller : public QObject,
                    public EffectMaster,
                    public OGLViewMaster,
                    public CustomViewMaster,
-                   public ResizeMaster,
-                   public FavouritesMaster {
+                   public ResizeMaster {
     Q_OBJECT
 
 public:
-    /// What the user edits with. Never stored: the mode buttons tell.
-    enum FilterMode { Standard = 0, ThreeD = 1, Custom = 2 };
+    using enum ModeSwitch::FilterMode;
     enum class TerminateReply { Now, Cancel };
 
     explicit Controller(MainWindow& window);
@@ -80,76 +73,89 @@ public:
     /// Start-up, once the window's interface is there.
     void awakeFromNib();
 
-    // Modes: ControllerModes.cpp
-    unsigned filerMode() const override;
-    /// The pressed button may be on already; the others are switched off here.
-    void changeFilterMode(QAbstractButton* sender);
-    void selectMenuMode(const QAction* sender); // by the item's tag: 1, 2, 3
-    void adjustViewsAndTabs();
+    // Modes
+    unsigned filerMode() const { return m_modes.filerMode(); }
+    void changeFilterMode(QAbstractButton* sender) { m_modes.changeFilterMode(sender); }
+    void selectMenuMode(const QAction* sender) { m_modes.selectMenuMode(sender->data().toInt()); }
+    void adjustViewsAndTabs() { m_modes.showCurrent(); }
     void escapeEffect();
-    void clearAll();
-    void clearAllAndUpdate();
+    void clearAll() { m_modes.current().clear(); }
+    void clearAllAndUpdate() { m_modes.clearAllAndUpdate(); }
     void onAppearanceChanged();
+    bool hasCurrentItem() const { return m_modes.current().hasItem(); }
 
-    // Lists: ControllerSelection.cpp
+    // Lists
     /// `clicked` is the row that was clicked if it can't be selected (a group), else null.
     void outlineViewSelectionDidChange(OutlineView& outlineView, const OutlineItem* clicked = nullptr);
-    void outlineViewSelectionDidChange_CIF(OutlineView& outlineView, const OutlineItem* item);
-    /// Shows only the filters that match; the current filter stays, seen or not.
-    void searchFilters(const QString& text);
-    /// Picks the first filter that is shown.
-    void takeFirstMatch();
+    void outlineViewSelectionDidChange_CIF(const OutlineItem* item) { m_standard.choose(item); }
+    void outlineViewSelectionDidChange_3D(const OutlineItem* item) { m_threeD.choose(item); }
+    void outlineViewSelectionDidChange_Custom(const OutlineItem* item) { m_custom.choose(item); }
+    void thumbnailsToggled() { m_catalogue.thumbnailsToggled(); }
 
-    // The picture and what the filter makes of it: ControllerFilterChain.cpp
+    // The picture and what is made of it
     /// Makes it the picture (null for none) and fits the views to it.
     void setBackgroundImage(const CIImage& image) { m_document.setPicture(image); }
     CIImage backImage() override { return m_document.picture(); }
     CIImage filteredImage() const { return {}; } // results are never kept
     CIRect getBgImageExtent() const override { return m_document.picture().extent(); }
-    std::shared_ptr<CIFilter> getCurrentFilter() override { return currentFilter; }
-    void addFilterIndex(const QString& name, int index);
-    void _setupAllImageInputsToNotNil(CIFilter& filter);
+    std::shared_ptr<CIFilter> getCurrentFilter() override { return m_standard.filter(); }
+    BaseEffect* getCurrent3DEffect() override { return m_threeD.effect(); }
+    BaseEffect* getCurrentCustomEffect() override { return m_custom.effect(); }
+    void addFilterIndex(const QString& name, int index) { m_standard.addFilterIndex(name, index); }
+    void _setupAllImageInputsToNotNil(CIFilter& filter) { setupAllImageInputsToNotNil(filter, backImage()); }
     void setAutomaticDefaults(CIFilter& filter);
-    bool filterHasMissingImage(const CIFilter& filter) const;
-    bool hasMissingImage() const;
-    CIImage coreImageResultForRect(const CIRect& rect);
+    bool filterHasMissingImage(const CIFilter& filter) const { return ::filterHasMissingImage(filter); }
+    bool hasMissingImage() const { return m_standard.hasMissingImage(); }
+    CIImage coreImageResultForRect(const CIRect& rect) { return m_standard.coreImageResultForRect(rect); }
     CIImage coreImageResult(bool overBlack) override;
     void applyBtn();
-    CIImage defaultTexture() { return texture.image(); }
-    CIImage defaultShadingEMap() { return shadingemap.image(); }
-    CIImage defaultAlphaEMap() { return alphaemap.image(); }
-    CIImage defaultRamp() { return ramp.image(); }
-    CIImage defaultMask() { return mask.image(); }
-    QString defaultTexturePath() const { return texture.path(); }
-    QString defaultShadingEMapPath() const { return shadingemap.path(); }
-    QString defaultAlphaEMapPath() const { return alphaemap.path(); }
-    QString defaultRampPath() const { return ramp.path(); }
-    QString defaultMaskPath() const { return mask.path(); }
+    CIImage defaultTexture() { return m_filters.texture.image(); }
+    CIImage defaultShadingEMap() { return m_filters.shadingemap.image(); }
+    CIImage defaultAlphaEMap() { return m_filters.alphaemap.image(); }
+    CIImage defaultRamp() { return m_filters.ramp.image(); }
+    CIImage defaultMask() { return m_filters.mask.image(); }
+    QString defaultTexturePath() const { return m_filters.texture.path(); }
+    QString defaultShadingEMapPath() const { return m_filters.shadingemap.path(); }
+    QString defaultAlphaEMapPath() const { return m_filters.alphaemap.path(); }
+    QString defaultRampPath() const { return m_filters.ramp.path(); }
+    QString defaultMaskPath() const { return m_filters.mask.path(); }
 
-    // Parameters and undo: ControllerParameters.cpp
-    /// For filters made by `addFilterIndex`; the undo step keeps the filter alive.
-    void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) override;
+    // Parameters and undo
+    void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) override
+    {
+        m_changes.setFilterValueForKey(filter, value, key);
+    }
     void setDictValueForKey(
-        const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key) override;
-    void setActionNameForFilterKey(const CIFilter& filter, const std::string& key) override;
+        const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key) override
+    {
+        m_changes.setDictValueForKey(dictionary, value, key);
+    }
+    void setActionNameForFilterKey(const CIFilter& filter, const std::string& key) override
+    {
+        m_changes.setActionNameForFilterKey(filter, key);
+    }
     void beginChange() override { m_undoManager.beginUndoGrouping(); }
     void endChange() override { m_undoManager.endUndoGrouping(); }
-    CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override;
+    CIValue standardValueForKey(const CIFilter& filter, const std::string& key) override
+    {
+        return m_standard.standardValueForKey(filter, key);
+    }
+    void resetAllInputs() { m_standard.resetAllInputs(); }
+    void randomizeInputs() { m_standard.randomizeInputs(); }
+    bool hasInputsToSet(bool randomly) const { return m_standard.hasInputsToSet(randomly); }
     UndoManager* undoManager() override { return &m_undoManager; }
-    void undo();
-    void redo();
+    void undo() { goInUndoHistory(-1); }
+    void redo() { goInUndoHistory(1); }
 
     // All steps in a menu: ControllerUndoHistory.cpp
     /// So many redos, or undos when negative; fewer when there are no more.
     void goInUndoHistory(int moves);
 
-    // The panel: ControllerPanel.cpp
-    /// Builds the rows of the current filter; nothing without one.
-    void updateFilterControls(int tag);
-    void clearControls();
-    bool isControlsPresent() override;
-    /// Makes rounded buttons square, in the view and all that is in it.
-    void changeControlsStyle(QWidget* view);
+    // The panel
+    void updateFilterControls(int tag) { m_standard.updateFilterControls(tag); }
+    void clearControls() { m_standard.clearControls(); }
+    bool isControlsPresent() override { return m_standard.isControlsPresent(); }
+    void changeControlsStyle(QWidget* view) { squareButtons(*view); }
 
     // Edits and zoom: ControllerEdits.cpp
     void rotateLeft() { rotateImage(true); }
@@ -168,39 +174,15 @@ public:
     void setZoom(float zoom) override; // moves the slider only
     void updateZoommWithDelta(double delta) override;
     void zoomTo(float zoom); // slider and view
+    bool canZoom() const { return m_modes.current().canvas(); }
     void zoomIn();
     void zoomOut();
     void zoomToFit();
 
-    // 3D mode: Controller3D.cpp
-    BaseEffect* getCurrent3DEffect() override { return current3DEffect.get(); }
-    void outlineViewSelectionDidChange_3D(const OutlineItem* item);
-    /// What the 3D view shows of the current effect, in the screen's pixels; null without one.
-    CIImage result3D();
-
-    // Custom mode: ControllerCustom.cpp
-    BaseEffect* getCurrentCustomEffect() override { return currentCustomEffect.get(); }
-    void outlineViewSelectionDidChange_Custom(const OutlineItem* item);
-    /// The current effect's finished picture at full size; null without one.
-    CIImage resultCustom();
-    void addFavoritesCustom();
-    /// Its undo asks `filterChanged3D` for the previous one, which in this mode finds nothing or clears the effect.
-    void filterChangedCustom(onlyTextClosedButton* sender);
-
-    // All inputs at once: ControllerInputs.cpp
-    /// To what they hold when such a filter is newly chosen.
-    void resetAllInputs();
-    /// To values that sliders and picture have room for; pictures stay.
-    void randomizeInputs();
-
-    // Before and after: ControllerCompare.cpp
-    /// Shows the picture without the filter, as long as `held`, in standard mode.
-    void compare(bool held);
-    /// Splits the view as the menu item says, in standard mode with a filter.
-    void splitView();
-
-    // Thumbnails in the list of filters: ControllerCatalogue.cpp
-    void thumbnailsToggled();
+    // Before and after
+    bool canCompare() const { return m_standard.isEdited(); }
+    void compare(bool held) { m_standard.compare(held); }
+    void splitView(); // as the menu item says
 
     // Files: ControllerFiles.cpp
     void openImg();
@@ -236,11 +218,8 @@ public:
     /// `index` is that of the format. Always true; failures are logged. The resolution isn't stored.
     bool simplySaveResolutionPath(int index, double resolution, const QString& path);
     void createPDFFileResolution(const QString& path, double resolution);
-    /// The finished picture of the current mode: what the user sees. The source picture when nothing is being edited.
-    CIImage getEffectedImage();
-    BaseEffect::LaterImage laterEffectedImage();
-    /// Tells what another mode shows: upright, with pixels for points; null when it has no current effect.
-    void setModeResult(FilterMode mode, std::function<CIImage()> result);
+    CIImage getEffectedImage() { return m_modes.current().finishedImage(); }
+    BaseEffect::LaterImage laterEffectedImage() { return m_modes.current().laterFinishedImage(); }
     /// The pixels of the finished picture. Null when there is no picture or the user stopped the rendering.
     CIBitmap createObjectImage();
     CIBitmap createObjectImage(double) { return createObjectImage(); } // the resolution means nothing to pixels
@@ -258,31 +237,33 @@ public:
     /// Leaves the description as it is for a null bitmap.
     static void getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& description);
 
-    // Favourites: ControllerFavourites.cpp
-    /// Adds the current item of the current mode.
+    // Favourites
+    /// Of the current mode.
     void addFavourite();
-    /// Removes the one that is switched on in the current mode.
+    /// The one that is switched on in the current mode.
     void removeSelectedFavourite();
-    void addFavorites();
-    void addFavorites3D();
-    /// A favourite was pressed, or nothing is to be shown (null).
-    void filterChanged(onlyTextClosedButton* sender);
-    void filterChanged3D(onlyTextClosedButton* sender);
-    void removeFavorites(onlyTextClosedButton* sender) override;
-    void removeFavorites3D(onlyTextClosedButton* sender) override;
-    void removeFavoritesCustom(onlyTextClosedButton* sender) override;
+    bool hasSelectedFavourite() const { return m_modes.current().selectedFavourite(); }
+    void addFavorites() { m_standard.addFavourite(); }
+    void addFavorites3D() { m_threeD.addFavourite(); }
+    void addFavoritesCustom() { m_custom.addFavourite(); }
+    void filterChanged(onlyTextClosedButton* sender) { m_standard.chooseFavourite(sender); }
+    void filterChanged3D(onlyTextClosedButton* sender) { m_threeD.chooseFavourite(sender); }
+    void filterChangedCustom(onlyTextClosedButton* sender) { m_custom.chooseFavourite(sender); }
+    void removeFavorites(onlyTextClosedButton* sender) { m_standard.removeFavourite(sender); }
+    void removeFavorites3D(onlyTextClosedButton* sender) { m_threeD.removeFavourite(sender); }
+    void removeFavoritesCustom(onlyTextClosedButton* sender) { m_custom.removeFavourite(sender); }
     void saveFavorites();
     void readFavorites();
-    void saveFavoritesCI() { m_favorites.save(); }
-    void readFavoritesCI() { m_favorites.read(); }
-    void saveFavorites3D() { m_favorites3D.save(); }
-    void readFavorites3D() { m_favorites3D.read(); }
-    void saveFavoritesCustom() { m_favoritesCustom.save(); }
-    void readFavoritesCustom() { m_favoritesCustom.read(); }
+    void saveFavoritesCI() { m_standard.favourites().save(); }
+    void readFavoritesCI() { m_standard.favourites().read(); }
+    void saveFavorites3D() { m_threeD.favourites().save(); }
+    void readFavorites3D() { m_threeD.favourites().read(); }
+    void saveFavoritesCustom() { m_custom.favourites().save(); }
+    void readFavoritesCustom() { m_custom.favourites().read(); }
 
     // Buttons, menus and views: ControllerMenus.cpp
-    void updateView() override;
-    void updateLayout();
+    void updateView() override { m_modes.current().updateView(); }
+    void updateLayout() { m_standard.updateLayout(); }
     void updateMainBtnState();
     /// Enables, names and ticks the item; answers whether it is enabled.
     bool validateMenuItem(QAction& item);
@@ -295,7 +276,7 @@ public:
     bool windowShouldClose() const;
     void windowWillClose();
     void windowDidResize();
-    void windowDidUpdate();
+    void windowDidUpdate() { m_standard.rebuildPanelIfNeeded(); }
     void windowDidBecomeVisible();
     void keyUp(int key);
     void applicationDidFinishLaunching();
@@ -344,44 +325,15 @@ private:
     bool isFree(const QAction& item) const;
     void commitData(QSessionManager& session);
     bool asksToRestore(const SessionState& state);
-    void restoreFilter(const SessionState& state);
     void markSessionClean();
     void connectInterface();
     void connectActions();
-    void connectLists();
     void connectZoom();
-    void setDefaultImagePaths();
     void restoreWindowFrame();
-    bool hasCurrentItem() const;
-    std::shared_ptr<CIFilter> sharedFilter(const CIFilter& filter);
-    void setSharedFilterValueForKey(
-        const std::shared_ptr<CIFilter>& filter, const CIValue& value, const std::string& key);
-    void setAllInputs(
-        const QString& actionName, const std::function<std::optional<CIValue>(const CIInputAttributes&)>& valueFor);
-    bool hasInputsToSet(bool randomly) const;
     CIImage turned(const QString& title, const std::function<CIImage()>& turn);
-    void dropImagesOfPastFilters();
     void fitZoom();
-    std::shared_ptr<CIFilter> newFilter(const std::string& name);
-    void buildPanel(int tag);
-    void rebuildPanel();
-    void showFilterName(bool shown);
-    std::vector<std::shared_ptr<BaseEffect>> effects3D();
-    void connectThumbnails();
-    void showThumbnails();
-    void updateThumbnails();
-    void connect3D();
-    void setCurrent3DEffect(const std::shared_ptr<BaseEffect>& effect);
-    void updateView3D();
-    void show3DEffectName();
-    void apply3D();
-    std::vector<std::shared_ptr<BaseEffect>> effectsCustom();
-    void connectCustom();
-    void setCurrentCustomEffect(const std::shared_ptr<BaseEffect>& effect);
-    void showCustomEffectName();
-    bool applyCustom();
-    ZoomedCanvas* zoomedView() const;
     void showZoom();
+    void showZoomOfMode();
     void updatePictureInfo();
     void showMessage(const QString& text);
     double chosenResolution() const;
@@ -394,70 +346,43 @@ private:
     void fillUndoHistoryMenu();
     void connectDocument();
     void showPicture();
+    void showItem();
     void pathChanged();
     void showPanel(QWidget& panel);
-    void switchOff(QPointer<onlyTextClosedButton>& button);
-    void removeFavourite(
-        FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, onlyTextClosedButton* sender);
-    QPointer<onlyTextClosedButton>& selectedFavourite();
-    void chooseEffectFavourite(FavouritesStore& store, QPointer<onlyTextClosedButton>& selected, OutlineView& list,
-        onlyTextClosedButton* sender);
-    void setCurrentEffect(const std::shared_ptr<BaseEffect>& effect);
-    void deselectLists();
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
     Document m_document;
     std::unique_ptr<SessionJournal> m_journal;
     UndoManager& m_undoManager; // the document's
-    DataSource m_dataSource;
-    OutlineModel m_catalogue;
 
     // The interface, by the names under which it is known.
-    OutlineView *listView, *filter3DOutlineView, *filterCustomOutlineView;
-    GradientButton *standardBtn, *threeDBtn, *customBtn;
-    QStackedWidget *filterTabView, *favoritesTabView, *mainTabView; // the page's index is the filter mode
-    DocPageControl *m_pageController, *m_page3DController, *m_pageCustomController;
     QSlider* zoomSlider;
     QWidget* zoomSuperView;
     MyImageView* ciView;
     MyOGLView* openGLView;
     customEffImageView* customEffectsView;
-    QWidget* placeCntrlView;
     QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
     QPointer<QWidget> saveObjectOutlet; // the menus of the save panel
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;
 
-    std::shared_ptr<CIFilter> currentFilter;
-    std::shared_ptr<BaseEffect> current3DEffect; // always a copy of one of the prototypes
-    std::shared_ptr<BaseEffect> eval3DEffect, object3DEffect;
-    EffectList m_effects3D;
-    OutlineModel m_list3D;
-    DefaultImage texture, shadingemap, alphaemap, ramp, mask;
-    std::shared_ptr<BaseEffect> currentCustomEffect; // always a copy of one of the prototypes
-    std::shared_ptr<BaseEffect> m_simpleEffect, m_lineEffect, m_hilbertEffect, m_patchWorkEffect, m_flareEffect,
-        m_plasmaEffect, m_pMorphingEffect, m_sketchEffect;
-    EffectList m_effectsCustom;
-    OutlineModel m_listCustom;
-    FavouritesStore m_favorites, m_favorites3D, m_favoritesCustom;
-    // The buttons that are shown as selected
-    QPointer<onlyTextClosedButton> m_selectes_FavBtn, m_selectes_FavBtn3D, m_selectes_FavBtnCustom;
-    bool needsUpdate = false;
+    FilterMaker m_filters;
+    ParameterChanges m_changes;
+    FilterCatalogue m_catalogue;
+    FilterPanel m_panel;
+    StandardMode m_standard;
+    ThreeDMode m_threeD;
+    CustomMode m_custom;
+    ModeSwitch m_modes;
+
     int format_type = 0; // of the last save
     /// A finished save ends the program: the user wanted to quit.
     inline static bool quitAfterSave = false;
 
-    std::array<std::function<CIImage()>, 3> m_modeResults; // by mode
     bool m_saveWasStopped = false; // by the user, so nothing was written
     QString m_lastFolder; // of the open and save panels
-    std::vector<std::weak_ptr<CIFilter>> m_madeFilters; // all that undo steps may still need
     std::shared_ptr<Opening> m_opening; // null when nothing is being opened
     QTimer m_messageEnd;
-    CatalogueSearch* m_search;
-    CataloguePictures* m_cataloguePictures = nullptr;
-    QPointer<FilterView> m_panel;
-    const OutlineItem* m_chosenRow = nullptr; // whose filter is the current one; it may be hidden by the search
-    bool m_selectionIsOurs = false; // the selection changes on our own account: no choice of the user
 };

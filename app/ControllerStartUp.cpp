@@ -1,4 +1,3 @@
-#include "app/catalogue/CatalogueSearch.h"
 #include "app/catalogue/OutlineView.h"
 #include "app/Controller.h"
 #include "app/document/PictureOpening.h"
@@ -23,6 +22,12 @@ Controller* theController = nullptr;
 
 const QString kWindowFrameName = QStringLiteral("Velmora");
 
+ModeParts modeParts(
+    const Ui::MainWindow& ui, GradientButton* button, OutlineView* list, DocPageControl* strip, QWidget* controls)
+{
+    return {*button, *list, *strip, *controls, *ui.filterNameField, *ui.filterNameLine, *ui.filterHintField};
+}
+
 } // namespace
 
 Controller::Controller(MainWindow& window)
@@ -30,47 +35,32 @@ Controller::Controller(MainWindow& window)
     , ui(window.interface())
     , m_document(&window)
     , m_undoManager(m_document.undoManager())
-    , m_catalogue(m_dataSource, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
-    , listView(ui.listView)
-    , filter3DOutlineView(ui.filter3DOutlineView)
-    , filterCustomOutlineView(ui.filterCustomOutlineView)
-    , standardBtn(ui.standardBtn)
-    , threeDBtn(ui.threeDBtn)
-    , customBtn(ui.customBtn)
-    , filterTabView(ui.filterTabView)
-    , favoritesTabView(ui.favoritesTabView)
-    , mainTabView(ui.mainTabView)
-    , m_pageController(ui.m_pageController)
-    , m_page3DController(ui.m_page3DController)
-    , m_pageCustomController(ui.m_pageCustomController)
     , zoomSlider(ui.zoomSlider)
     , zoomSuperView(ui.zoomSuperView)
     , ciView(ui.pictureScrollView->imageView())
     , openGLView(ui.openGLStage->openGLView())
     , customEffectsView(ui.customEffectsScrollView->imageView())
-    , placeCntrlView(ui.placeCntrlView)
     , pasteBtn(ui.pasteBtn)
     , contentMenuOutlet(window.contextMenu())
-    , m_effects3D(effects3D(), EffectList::Marks::All)
-    , m_list3D(m_effects3D, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
-    , m_effectsCustom(effectsCustom(), EffectList::Marks::Mousing)
-    , m_listCustom(m_effectsCustom, {EffectList::kTitleColumn, EffectList::kMarkerColumn})
-    , m_favorites(
-          {kFilterFavouritesKey, nullptr, [this](auto* button) { filterChanged(button); }}, *m_pageController, *this)
-    , m_favorites3D({QStringLiteral("3DEffectsFavorites"), &m_effects3D.prototypes(),
-                        [this](auto* button) { filterChanged3D(button); },
-                        &QWidget::y}, // all of them lie at the top: a step towards the first
-          *m_page3DController, *this)
-    , m_favoritesCustom({QStringLiteral("CustomEffectsFavorites"), &m_effectsCustom.prototypes(),
-                            [this](auto* button) { filterChangedCustom(button); }},
-          *m_pageCustomController, *this)
-    , m_search(new CatalogueSearch(this))
+    , m_changes(m_undoManager)
+    , m_catalogue(*ui.listView, *ui.actionThumbnails, m_filters)
+    , m_panel(*ui.placeCntrlView, *ui.controlScrollArea, *ciView, *this)
+    , m_standard(modeParts(ui, ui.standardBtn, ui.listView, ui.m_pageController, ui.placeCntrlView),
+          {m_document, m_filters, m_changes, m_catalogue, m_panel, *ciView, window})
+    , m_threeD(modeParts(ui, ui.threeDBtn, ui.filter3DOutlineView, ui.m_page3DController, ui.place3DCntrlView),
+          *ui.openGLStage, m_document)
+    , m_custom(
+          modeParts(ui, ui.customBtn, ui.filterCustomOutlineView, ui.m_pageCustomController, ui.placeCustomCntrlView),
+          *customEffectsView, m_threeD, m_document, window)
+    , m_modes(
+          {&m_standard, &m_threeD, &m_custom}, {ui.filterTabView, ui.favoritesTabView, ui.mainTabView}, m_undoManager)
 {
-    standardBtn->setState(true);
     m_messageEnd.setSingleShot(true);
     connect(&m_messageEnd, &QTimer::timeout, this, &Controller::updatePictureInfo);
     ciView->setContext(m_document.context());
     ciView->setController(this);
+    openGLView->setController(this);
+    customEffectsView->setController(this);
     connectInterface();
     window.setController(this);
 }
@@ -98,14 +88,10 @@ void Controller::awakeFromNib()
         connect(panel, &QDialog::finished, this, &Controller::validateMenuItems); // their buttons are on no more
     setBackgroundImage(
         m_document.take(readPictureFile(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg")))));
-    setDefaultImagePaths();
     CIPlugIn::loadAllPlugIns();
     restoreWindowFrame();
     initExportFormats();
     readFavorites();
-    listView->deselectAll();
-    filter3DOutlineView->deselectAll();
-    filterCustomOutlineView->deselectAll();
     theController = this;
     EffectMaster::setMainController(this);
     setFilePath({});
@@ -113,16 +99,6 @@ void Controller::awakeFromNib()
     clearControls();
     updateMainBtnState();
     connect(&Appearance::shared(), &Appearance::changed, this, &Controller::onAppearanceChanged);
-}
-
-void Controller::setDefaultImagePaths()
-{
-    const auto path = [](const char* name) { return pathForResource(QLatin1String(name), QStringLiteral("tiff")); };
-    texture.setPath(path("smoothtexture"));
-    shadingemap.setPath(path("lightball"));
-    alphaemap.setPath(path("restrictedshine"));
-    ramp.setPath(path("colormap"));
-    mask.setPath(path("mask"));
 }
 
 void Controller::restoreWindowFrame()

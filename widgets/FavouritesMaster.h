@@ -1,4 +1,4 @@
-// What the buttons of the favourites strips need from the controller.
+// What the buttons of a favourites strip need from the mode that they belong to.
 #pragma once
 
 class onlyTextClosedButton;
@@ -7,10 +7,8 @@ class FavouritesMaster {
 public:
     virtual ~FavouritesMaster() = default;
 
-    /// 0 standard, 1 3D, 2 custom.
-    virtual unsigned filerMode() const = 0;
-    // Remove the favourite of that button, and the button.
-    virtual void removeFavorites(onlyTextClosedButton* sender) = 0;
-    virtual void removeFavorites3D(onlyTextClosedButton* sender) = 0;
-    virtual void removeFavoritesCustom(onlyTextClosedButton* sender) = 0;
+    /// The button was pressed.
+    virtual void chooseFavourite(onlyTextClosedButton* button) = 0;
+    /// Removes the favourite of that button, and the button.
+    virtual void removeFavourite(onlyTextClosedButton* button) = 0;
 };

@@ -81,21 +81,8 @@ void onlyTextClosedButton::setName(const QString& name)
 
 void onlyTextClosedButton::removeMySelf()
 {
-    if (!m_controller)
-        return;
-    switch (m_controller->filerMode()) {
-    case 0:
-        m_controller->removeFavorites(this);
-        break;
-    case 1:
-        m_controller->removeFavorites3D(this);
-        break;
-    case 2:
-        m_controller->removeFavoritesCustom(this);
-        break;
-    default:
-        break;
-    }
+    if (m_controller)
+        m_controller->removeFavourite(this);
 }
 
 void onlyTextClosedButton::paintEvent(QPaintEvent* event)

@@ -28,7 +28,7 @@ public:
     void setOnColor(const QColor& color);
     /// Held down, or switched on.
     bool isSelected() const;
-    /// Asks the controller to remove the favourite from the list of the present mode.
+    /// Asks the controller to remove the favourite.
     void removeMySelf();
 
     /// A favourite is called by its tool tip.

@@ -104,7 +104,17 @@ QModelIndex OutlineView::indexOfItem(const OutlineItem* item, const QModelIndex&
     return {};
 }
 
-void OutlineView::selectItem(const OutlineItem* item) { selectRow(indexOfItem(item)); }
+void OutlineView::selectItem(const OutlineItem* item)
+{
+    const QSignalBlocker quiet(this);
+    selectRow(indexOfItem(item));
+}
+
+void OutlineView::deselectAll()
+{
+    const QSignalBlocker quiet(this);
+    selectionModel()->clearSelection();
+}
 
 void OutlineView::selectRow(const QModelIndex& index)
 {

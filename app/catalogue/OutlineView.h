@@ -20,11 +20,12 @@ public:
     const OutlineItem* selectedItem() const;
     /// Gives the list the keyboard, at its selected row or else at the first that can be chosen, which it isn't yet.
     void enter();
-    /// Selects and shows the row, if the list has it just now.
+    /// Selects and shows the row, if the list has it just now. It is no choice of the user: nobody is told.
     void selectItem(const OutlineItem* item);
     /// Selects the row; for groups and invalid indexes nothing.
     void selectRow(const QModelIndex& index);
-    void deselectAll() { selectionModel()->clearSelection(); }
+    /// Nobody is told of this, either.
+    void deselectAll();
 
     bool isItemExpanded(const OutlineItem* item) const { return isExpanded(indexOfItem(item)); }
     void setItemExpanded(const OutlineItem* item, bool expanded) { setExpanded(indexOfItem(item), expanded); }
@@ -37,6 +38,7 @@ public:
     void setModel(QAbstractItemModel* model) override;
 
 signals:
+    /// By the user, or by `selectRow`.
     void selectionDidChange();
     /// A click, or Return, on a row that can't be selected.
     void groupClicked(const OutlineItem* item);

@@ -1,24 +1,22 @@
-#include "app/catalogue/OutlineView.h"
 #include "app/Controller.h"
 #include "app/window/AboutWindow.h"
 #include "app/window/HelpWindow.h"
 #include "app/window/MainWindow.h"
-#include "controls/picture/MyImageView.h"
-#include "effects2d/customEffImageView.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "ui_MainWindow.h"
-#include "widgets/GradientButton.h"
 
 void Controller::connectInterface()
 {
     connectDocument();
     connectActions();
-    connectLists();
     connectZoom();
-    for (GradientButton* button : {standardBtn, threeDBtn, customBtn})
-        connect(button, &QAbstractButton::clicked, this, [this, button] { changeFilterMode(button); });
+    connect(&m_modes, &ModeSwitch::shown, this, &Controller::showZoomOfMode);
+    connect(&m_modes, &ModeSwitch::shown, this, &Controller::updateMainBtnState);
+    connect(&m_modes, &ModeSwitch::itemChanged, this, &Controller::showItem);
+    connect(ui.searchField, &QLineEdit::textChanged, &m_catalogue, &FilterCatalogue::searchFilters);
+    connect(ui.searchField, &QLineEdit::returnPressed, &m_catalogue, &FilterCatalogue::takeFirstMatch);
     connect(ui.applyBtn, &QAbstractButton::clicked, this, &Controller::applyBtn);
     connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
     connect(&m_window, &MainWindow::compareHeld, this, &Controller::compare);
@@ -31,7 +29,6 @@ void Controller::connectDocument()
     connect(&m_document, &Document::pictureChanged, this, &Controller::showPicture);
     connect(&m_document, &Document::pathChanged, this, &Controller::pathChanged);
     connect(&m_document, &Document::changedMarkChanged, this, &Controller::updateWinTitle);
-    connect(&m_document, &Document::aboutToKeepPicture, this, &Controller::dropImagesOfPastFilters);
     connect(&m_document, &Document::message, this, &Controller::showMessage);
 }
 
@@ -91,29 +88,12 @@ void Controller::connectActions()
     connect(contentMenuOutlet, &QMenu::aboutToShow, this, &Controller::validateMenuItems);
 }
 
-void Controller::updateView()
-{
-    if (filerMode() == Standard)
-        ciView->setNeedsDisplay();
-    else if (filerMode() == ThreeD)
-        updateView3D();
-    else
-        customEffectsView->redraw();
-}
-
-void Controller::updateLayout()
-{
-    if (!needsUpdate)
-        QMetaObject::invokeMethod(this, &Controller::windowDidUpdate, Qt::QueuedConnection);
-    needsUpdate = true;
-}
-
 void Controller::updateMainBtnState()
 {
     const bool isFree = !isOpeningShown();
     pasteBtn->setEnabled(isFree && Pasteboard::generalPasteboard().offersTIFF());
     ui.applyBtn->setEnabled(isFree && hasCurrentItem());
-    ui.compareBtn->setEnabled(isFree && filerMode() == Standard && currentFilter);
+    ui.compareBtn->setEnabled(isFree && canCompare());
     splitView();
     updateWinTitle();
     validateMenuItems();
@@ -143,7 +123,7 @@ bool Controller::validateMenuItem(QAction& item)
     } else if (&item == ui.actionResetInputs || &item == ui.actionRandomizeInputs) {
         enabled = hasInputsToSet(&item == ui.actionRandomizeInputs);
     } else if (&item == ui.actionRemoveFavourite) {
-        enabled = selectedFavourite() && selectedFavourite()->isChecked();
+        enabled = hasSelectedFavourite();
     } else if (&item == ui.actionStandard || &item == ui.action3D || &item == ui.actionCustom) {
         item.setChecked(item.data().toUInt() - 1 == filerMode());
     } else if (&item == ui.actionFollowDesktop || &item == ui.actionLight || &item == ui.actionDark) {
@@ -151,9 +131,9 @@ bool Controller::validateMenuItem(QAction& item)
         item.setChecked(&item == choices[int(Appearance::shared().choice())]);
     } else if (&item == ui.actionZoomIn || &item == ui.actionZoomOut || &item == ui.actionFit
         || &item == ui.actionActualSize) {
-        enabled = filerMode() != ThreeD;
+        enabled = canZoom();
     } else if (&item == ui.actionSplitView) {
-        enabled = filerMode() == Standard && currentFilter;
+        enabled = canCompare();
     } else if (&item == ui.actionFullScreen) {
         item.setChecked(m_window.isFullScreen());
     } else if (&item == ui.actionHelp) {

@@ -39,18 +39,23 @@ void Controller::connectZoom()
         connect(view, &ZoomedCanvas::layoutChanged, this, &Controller::showZoom);
 }
 
-/// The one of the current mode, which isn't 3D.
-ZoomedCanvas* Controller::zoomedView() const
-{
-    if (filerMode() == Custom)
-        return customEffectsView;
-    return ciView;
-}
-
 void Controller::showZoom()
 {
-    if (filerMode() != ThreeD)
-        ui.zoomField->setText(tr("%1 %").arg(std::lround(zoomedView()->getZoom() * 100)));
+    if (const ZoomedCanvas* canvas = m_modes.current().canvas())
+        ui.zoomField->setText(tr("%1 %").arg(std::lround(canvas->getZoom() * 100)));
+}
+
+/// Slider and field, which belong to the modes with a canvas.
+void Controller::showZoomOfMode()
+{
+    ZoomedCanvas* canvas = m_modes.current().canvas();
+    zoomSlider->setEnabled(canvas);
+    zoomSuperView->setVisible(canvas);
+    if (!canvas)
+        return updateView();
+    canvas->setZoom(canvas->getZoom());
+    setZoom(canvas->getZoom());
+    showZoom();
 }
 
 /// Beside the living window; null when there is no memory for it, which the user is told. Soon done, so not to be
@@ -60,10 +65,10 @@ CIImage Controller::turned(const QString& title, const std::function<CIImage()>&
     CIImage picture;
     WorkControl control(1);
     control.canBeCancelled = false;
-    const bool isDrawnHere = filerMode() == Custom; // the picture's own view has a thread for that
+    const bool needsCopies = m_modes.current().needsReducedCopies();
     if (!workInBackground(&m_window, title, control, [&] {
             picture = turn();
-            if (isDrawnHere)
+            if (needsCopies)
                 makeReducedCopies(picture);
         })) {
         showMessage(tr("There was not enough memory to turn the picture"));
@@ -160,16 +165,6 @@ void Controller::copy()
     updateMainBtnState();
 }
 
-/// Filters that are only kept by undo steps will never draw again, and must not hold on to pictures.
-void Controller::dropImagesOfPastFilters()
-{
-    for (const std::weak_ptr<CIFilter>& made : m_madeFilters)
-        if (const std::shared_ptr<CIFilter> filter = made.lock(); filter && filter != currentFilter)
-            for (const std::string& key : filter->inputKeys())
-                if (filter->valueForKey(key).isImage())
-                    filter->setValueForKey({}, key);
-}
-
 void Controller::paste()
 {
     const QByteArray data = isOpening() ? QByteArray() : Pasteboard::generalPasteboard().pictureData();
@@ -197,15 +192,16 @@ void Controller::fitZoom()
     const QSizeF canvas = GeneratedEffect::kCanvasWithoutPicture;
     const float customZoom =
         extent.isEmpty() ? zoomThatFits(canvas.width(), canvas.height(), area.width(), area.height()) : zoom;
-    setZoom(filerMode() == Custom ? customZoom : zoom);
     ciView->setZoom(zoom);
     customEffectsView->setZoom(customZoom);
+    if (const ZoomedCanvas* canvas = m_modes.current().canvas())
+        setZoom(canvas->getZoom());
 }
 
 void Controller::zoomChanged()
 {
-    if (filerMode() != ThreeD)
-        zoomedView()->setZoom(zoomOfSliderPosition(float(zoomSlider->value()) / kSliderSteps));
+    if (ZoomedCanvas* canvas = m_modes.current().canvas())
+        canvas->setZoom(zoomOfSliderPosition(float(zoomSlider->value()) / kSliderSteps));
     updateView();
 }
 
@@ -218,12 +214,10 @@ void Controller::setZoom(float zoom)
 
 void Controller::updateZoommWithDelta(double delta)
 {
-    if (filerMode() == ThreeD)
-        return;
-    const double zoom = double(zoomedView()->getZoom()) + delta;
-    if (zoom == kNoZoom)
-        return;
-    zoomTo(float(zoom));
+    const ZoomedCanvas* canvas = m_modes.current().canvas();
+    const double zoom = canvas ? double(canvas->getZoom()) + delta : kNoZoom;
+    if (zoom != kNoZoom)
+        zoomTo(float(zoom));
 }
 
 void Controller::zoomTo(float zoom)
@@ -232,9 +226,9 @@ void Controller::zoomTo(float zoom)
     zoomChanged();
 }
 
-void Controller::zoomIn() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), 1)); }
+void Controller::zoomIn() { zoomTo(zoomAfterWheelStep(m_modes.current().canvas()->getZoom(), 1)); }
 
-void Controller::zoomOut() { zoomTo(zoomAfterWheelStep(zoomedView()->getZoom(), -1)); }
+void Controller::zoomOut() { zoomTo(zoomAfterWheelStep(m_modes.current().canvas()->getZoom(), -1)); }
 
 void Controller::zoomToFit()
 {

@@ -52,39 +52,6 @@ double Controller::chosenResolution() const
     return menu ? menu->currentData().toDouble() : kDefaultResolution;
 }
 
-void Controller::setModeResult(FilterMode mode, std::function<CIImage()> result)
-{
-    m_modeResults[mode] = std::move(result);
-}
-
-CIImage Controller::getEffectedImage()
-{
-    const CIImage source = getImage(false);
-    CIImage result;
-    const unsigned mode = filerMode();
-    if (mode != Standard)
-        result = m_modeResults[mode] ? m_modeResults[mode]() : CIImage();
-    else if (currentFilter)
-        result = coreImageResult(false);
-    if (result && result.extent().isInfinite())
-        result = result.cropped(source.extent());
-    return result ? result : source;
-}
-
-/// The same, to be made on another thread: generated effects take long at full size. Null when there is nothing.
-BaseEffect::LaterImage Controller::laterEffectedImage()
-{
-    if (filerMode() == Custom && currentCustomEffect)
-        return [draw = currentCustomEffect->laterDrawImage(), source = getImage(false)](CIRenderControl* control) {
-            const CIImage drawn = draw(control);
-            return drawn || (control && control->isCancelled()) ? drawn : source;
-        };
-    const CIImage image = getEffectedImage();
-    if (image.extent().isEmpty())
-        return {};
-    return [image](CIRenderControl*) { return image; };
-}
-
 CIBitmap Controller::createObjectImage()
 {
     CIBitmap bitmap;

@@ -185,8 +185,8 @@ void Controller::cancelOpening()
         setBackgroundImage(*ended->former);
     for (const Sight& sight : ended->sights)
         sight.restore();
-    if (filerMode() != ThreeD)
-        setZoom(zoomedView()->getZoom());
+    if (const ZoomedCanvas* canvas = m_modes.current().canvas())
+        setZoom(canvas->getZoom());
     updatePictureInfo();
     updateMainBtnState();
 }
@@ -257,9 +257,9 @@ void Controller::hideOpening(const Opening& opening)
 
 void Controller::setEditable(bool on)
 {
-    for (QWidget* part :
-        {static_cast<QWidget*>(ui.sideBar), static_cast<QWidget*>(mainTabView), static_cast<QWidget*>(ui.controlPanel),
-            static_cast<QWidget*>(ui.modeGroup), zoomSuperView, static_cast<QWidget*>(m_resizePanel)})
+    for (QWidget* part : {static_cast<QWidget*>(ui.sideBar), static_cast<QWidget*>(ui.mainTabView),
+             static_cast<QWidget*>(ui.controlPanel), static_cast<QWidget*>(ui.modeGroup), zoomSuperView,
+             static_cast<QWidget*>(m_resizePanel)})
         if (part)
             part->setEnabled(on);
     updateMainBtnState();

@@ -1,41 +1,23 @@
 // What survives an unexpected end, and what other processes ask for.
-#include "app/catalogue/OutlineView.h"
 #include "app/Controller.h"
 #include "app/document/SessionJournal.h"
-#include "app/modes/InputValues.h"
 #include "app/window/MainWindow.h"
-#include "effects2d/CustomEffects.h"
 #include "platform/foundation/Log.h"
 #include "platform/imageio/PictureMetadata.h"
 #include "ui_MainWindow.h"
 #include "widgets/AlertPanel.h"
 #include "widgets/BackgroundWork.h"
-#include "widgets/GradientButton.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QSessionManager>
 
 namespace {
 
-const std::string kPicture = "picture", kInput = "input:"; // followed by the input's key
-constexpr int kPanelTag = 111;
-
-CIValue valueOf(const SessionState& state, const char* key)
-{
-    const auto found = state.values.find(key);
-    return found == state.values.end() ? CIValue() : found->second;
-}
-
-CIDictionary dictionaryOf(const SessionState& state, const char* key)
-{
-    const CIValue value = valueOf(state, key);
-    return value.isDictionary() ? value.toDictionary() : CIDictionary();
-}
+const std::string kPicture = "picture";
 
 } // namespace
 
@@ -51,74 +33,28 @@ SessionState Controller::sessionState()
     const CIImage picture = lastingPicture();
     if (picture && !picture.extent().isInfinite())
         state.pictures[kPicture] = picture;
-    if (currentFilter) {
-        CIDictionary inputs;
-        for (const std::string& key : currentFilter->inputKeys()) {
-            const CIInputAttributes* input = currentFilter->attributesForKey(key);
-            if (!input || !isUsersInput(*currentFilter, *input))
-                continue;
-            const CIValue value = currentFilter->valueForKey(key);
-            if (const CIImage image = value.toImage(); image) {
-                if (image.node() != picture.node() && !image.extent().isInfinite())
-                    state.pictures[kInput + key] = image;
-            } else if (!value.isNothing() && !value.isImage()) {
-                inputs[key] = value;
-            }
-        }
-        state.values["filter"] = currentFilter->name();
-        state.values["inputs"] = inputs;
-    }
-    if (current3DEffect)
-        state.values["effect3D"] = current3DEffect->save();
-    if (currentCustomEffect)
-        state.values["effectCustom"] = currentCustomEffect->save();
+    for (const Mode* mode : m_modes.modes())
+        mode->save(state, picture);
     return state;
-}
-
-void Controller::restoreFilter(const SessionState& state)
-{
-    const QString name = QString::fromStdString(valueOf(state, "filter").toString());
-    clearControls();
-    currentFilter.reset();
-    if (name.isEmpty())
-        return;
-    addFilterIndex(name, kPanelTag);
-    if (!currentFilter)
-        return;
-    const CIDictionary inputs = dictionaryOf(state, "inputs");
-    for (const std::string& key : currentFilter->inputKeys()) {
-        if (const auto stored = inputs.find(key); stored != inputs.end())
-            currentFilter->setValueForKey(stored->second, key);
-        if (const auto stored = state.pictures.find(kInput + key); stored != state.pictures.end())
-            currentFilter->setValueForKey(stored->second, key);
-    }
-    const QScopedValueRollback ours(m_selectionIsOurs, true);
-    m_chosenRow = m_dataSource.rowForClass(name);
-    listView->selectItem(m_chosenRow);
-    updateLayout(); // the rows were made for the filter's own values
 }
 
 void Controller::restoreSession(const SessionState& state)
 {
     const auto picture = state.pictures.find(kPicture);
     const CIImage image = picture == state.pictures.end() ? CIImage() : picture->second;
-    const int format = int(valueOf(state, "format").toDouble());
+    const int format = int(state.value("format").toDouble());
     if (image && format >= 0 && format <= int(CIFormat::RGBAf))
         m_document.rememberFormat(image, CIFormat(format));
     m_document.clearReadFailure();
-    setFilePath(QString::fromStdString(valueOf(state, "path").toString()));
+    setFilePath(QString::fromStdString(state.value("path").toString()));
     setBackgroundImage(image);
-    const std::string described = valueOf(state, "metadataOf").toString();
+    const std::string described = state.value("metadataOf").toString();
     m_document.setMetadata(described.empty() ? nullptr : PictureMetadata::ofFile(described));
-    const std::array<GradientButton*, 3> buttons{standardBtn, threeDBtn, customBtn};
-    const auto mode = std::size_t(std::clamp(valueOf(state, "mode").toDouble(), 0.0, 2.0));
-    changeFilterMode(buttons[mode]);
-    restoreFilter(state);
-    setCurrent3DEffect(customEffectFromDictionary(m_effects3D.prototypes(), dictionaryOf(state, "effect3D")));
-    setCurrentCustomEffect(
-        customEffectFromDictionary(m_effectsCustom.prototypes(), dictionaryOf(state, "effectCustom")));
+    m_modes.selectMenuMode(1 + int(std::clamp(state.value("mode").toDouble(), 0.0, 2.0)));
+    for (Mode* mode : m_modes.modes())
+        mode->restore(state);
     m_undoManager.removeAllActions();
-    m_document.setWasChanged(valueOf(state, "wasChanged").toBool());
+    m_document.setWasChanged(state.value("wasChanged").toBool());
     adjustViewsAndTabs();
     updateView();
     updateMainBtnState();
@@ -141,7 +77,7 @@ void Controller::markSessionClean()
 /// A box of its own: alerts of the program keep the titles of their buttons.
 bool Controller::asksToRestore(const SessionState& state)
 {
-    const QString name = QFileInfo(QString::fromStdString(valueOf(state, "path").toString())).fileName();
+    const QString name = QFileInfo(QString::fromStdString(state.value("path").toString())).fileName();
     QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Lumivex"),
         name.isEmpty() ? tr("Lumivex ended unexpectedly. Restore the picture?")
                        : tr("Lumivex ended unexpectedly. Restore “%1”?").arg(name),

@@ -84,6 +84,14 @@ std::optional<CIDictionary> storedState(const QString& folder)
 
 } // namespace
 
+CIValue SessionState::value(const std::string& key) const
+{
+    const auto found = values.find(key);
+    return found == values.end() ? CIValue() : found->second;
+}
+
+CIDictionary SessionState::dictionary(const std::string& key) const { return value(key).toDictionary(); }
+
 QString SessionFolder::stateHome()
 {
     const QString set = qEnvironmentVariable("XDG_STATE_HOME");

@@ -18,6 +18,10 @@
 struct SessionState {
     CIDictionary values;
     std::map<std::string, CIImage> pictures;
+
+    /// Nothing, or an empty dictionary, where there is none.
+    CIValue value(const std::string& key) const;
+    CIDictionary dictionary(const std::string& key) const;
 };
 
 /// A folder with the state of one session, locked for as long as the object lives. The lock goes away with the process,

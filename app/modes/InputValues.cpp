@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <vector>
 
 namespace {
 
@@ -89,9 +88,14 @@ std::optional<CIValue> randomVector(
 
 } // namespace
 
-bool isUsersInput(const CIFilter& filter, const CIInputAttributes& input)
+std::vector<const CIInputAttributes*> usersInputs(const CIFilter& filter)
 {
-    return input.key != pictureKey(filter) && input.key != "inputExtent";
+    std::vector<const CIInputAttributes*> inputs;
+    for (const std::string& key : filter.inputKeys())
+        if (const CIInputAttributes* input = filter.attributesForKey(key);
+            input && key != pictureKey(filter) && key != "inputExtent")
+            inputs.push_back(input);
+    return inputs;
 }
 
 bool canBeRandom(const CIInputAttributes& input)

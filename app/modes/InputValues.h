@@ -5,10 +5,10 @@
 
 #include <optional>
 #include <random>
+#include <vector>
 
-/// True for an input that the user sets; false for the one that receives the picture and for those that every
-/// rendering sets.
-bool isUsersInput(const CIFilter& filter, const CIInputAttributes& input);
+/// The inputs that the user sets: not the one that receives the picture, nor those that every rendering sets.
+std::vector<const CIInputAttributes*> usersInputs(const CIFilter& filter);
 
 /// True for an input that has values to choose from at random: pictures and texts have none, nor have numbers without a
 /// slider's range.

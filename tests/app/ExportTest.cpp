@@ -337,8 +337,7 @@ TEST_F(ExportTest, TheFinishedPictureIsThatOfTheMode)
         mode->click();
         EXPECT_TRUE(controller.getEffectedImage().isSameAs(controller.backImage())) << "no effect is chosen";
     }
-    controller.setModeResult(Controller::Custom, [] { return CIImage::fromBitmap(CIBitmap(7, 5)); });
-    EXPECT_EQ(controller.createObjectImage(72).width(), 7);
+    EXPECT_EQ(controller.createObjectImage(72).width(), controller.getBgImageExtent().width);
 }
 
 TEST_F(ExportTest, DescribesBitmaps)

@@ -126,11 +126,11 @@ TEST_F(ThreeDTest, ApplyMakesTheViewThePictureAndUndoBringsTheOldOneBack)
     EXPECT_TRUE(controller.backImage().isSameAs(before));
 }
 
-TEST_F(ThreeDTest, TheResultIsTheShotAndNothingWithoutAnEffect)
+TEST_F(ThreeDTest, TheResultIsTheShotOrThePictureWithoutAnEffect)
 {
-    EXPECT_TRUE(controller.result3D().isNull());
+    EXPECT_TRUE(controller.getEffectedImage().isSameAs(controller.backImage()));
     choose(0);
-    const CIRect extent = controller.result3D().extent();
+    const CIRect extent = controller.getEffectedImage().extent();
     EXPECT_EQ(extent, (CIRect{0, 0, double(view.ogl_shot().width()), double(view.ogl_shot().height())}));
 }
 

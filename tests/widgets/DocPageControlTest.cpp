@@ -125,16 +125,13 @@ TEST_F(StripTest, KeysWalkOverTheItemsAndBringThemIntoView)
 }
 
 struct FakeMaster : FavouritesMaster {
-    unsigned mode = 0;
-    QList<QPair<int, onlyTextClosedButton*>> removed;
+    QList<onlyTextClosedButton*> removed;
 
-    unsigned filerMode() const override { return mode; }
-    void removeFavorites(onlyTextClosedButton* sender) override { removed.append({0, sender}); }
-    void removeFavorites3D(onlyTextClosedButton* sender) override { removed.append({1, sender}); }
-    void removeFavoritesCustom(onlyTextClosedButton* sender) override { removed.append({2, sender}); }
+    void chooseFavourite(onlyTextClosedButton*) override { }
+    void removeFavourite(onlyTextClosedButton* button) override { removed.append(button); }
 };
 
-TEST_F(StripTest, CloseBoxAndDeleteRemoveFromTheListOfTheMode)
+TEST_F(StripTest, CloseBoxAndDeleteAskToRemove)
 {
     FakeMaster master;
     onlyTextClosedButton* item = add();
@@ -147,18 +144,13 @@ TEST_F(StripTest, CloseBoxAndDeleteRemoveFromTheListOfTheMode)
     QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
     QApplication::sendEvent(item, &enter);
     EXPECT_TRUE(item->closeButton()->isVisible());
-    for (unsigned mode = 0; mode < 4; ++mode) {
-        master.mode = mode;
-        QTest::mouseClick(item->closeButton(), Qt::LeftButton);
-    }
-    EXPECT_EQ(master.removed, (QList<QPair<int, onlyTextClosedButton*>>{{0, item}, {1, item}, {2, item}}));
+    QTest::mouseClick(item->closeButton(), Qt::LeftButton);
+    EXPECT_EQ(master.removed, QList{item});
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(item, &leave);
     EXPECT_FALSE(item->closeButton()->isVisible());
-    master.mode = 1;
     QTest::keyClick(item, Qt::Key_Delete);
-    EXPECT_EQ(master.removed.last().first, 1);
-    EXPECT_EQ(master.removed.size(), 4);
+    EXPECT_EQ(master.removed.size(), 2);
 }
 
 } // namespace

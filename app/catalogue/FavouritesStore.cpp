@@ -1,12 +1,12 @@
-#include "app/modes/FavouritesStore.h"
+#include "app/catalogue/FavouritesStore.h"
 
 #include "app/catalogue/Thumbnail.h"
 #include "controls/panel/FilterNames.h"
-#include "effects2d/CustomEffects.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/UserDefaults.h"
 #include "widgets/DocPageControl.h"
+#include "widgets/FavouritesMaster.h"
 
 #include <algorithm>
 
@@ -83,10 +83,10 @@ onlyTextClosedButton* FavouritesStore::addButton(const QImage& thumbnail, const 
     button->setImages(QStringLiteral("off_button_50"), QStringLiteral("on_button_50"));
     const std::string text = toolTip.toStdString(); // stored in English
     button->setName(
-        m_family.prototypes ? QCoreApplication::translate("BaseEffect", text.c_str()) : shownFilterName(text));
+        m_family.effectFrom ? QCoreApplication::translate("BaseEffect", text.c_str()) : shownFilterName(text));
     button->addBackImage(thumbnail);
     button->setController(&m_master);
-    QObject::connect(button, &QAbstractButton::clicked, button, [this, button] { m_family.pressed(button); });
+    QObject::connect(button, &QAbstractButton::clicked, button, [this, button] { m_master.chooseFavourite(button); });
     m_strip.addItem(button, nullptr);
     button->addCloseBtn();
     return button;
@@ -180,10 +180,10 @@ Favourite FavouritesStore::favouriteFrom(const StoredRecord& record)
     QImage thumbnail;
     if (const auto found = record.find(kThumbnailKey); found != record.end())
         thumbnail = thumbnailOfTiff(bytesOf(unarchivedValue(found->second.bytes()).toData()));
-    if (m_family.prototypes) {
+    if (m_family.effectFrom) {
         const auto stored = favourite.values.find(kEffectKey.toStdString());
         if (stored != favourite.values.end())
-            favourite.effect = customEffectFromDictionary(*m_family.prototypes, stored->second.toDictionary());
+            favourite.effect = m_family.effectFrom(stored->second.toDictionary());
         if (favourite.effect)
             favourite.values.erase(stored); // of an unknown class, it stays for the program that knows it
     }

@@ -5,11 +5,13 @@
 
 #include <QString>
 
-/// A picture that is read from its file when it is first asked for.
+/// A picture of the program's that is read from its file when it is first asked for.
 class DefaultImage {
 public:
-    void setPath(const QString& path) { m_path = path; }
-    const QString& path() const { return m_path; }
+    /// `name` is that of a TIFF file among the resources.
+    explicit DefaultImage(const char* name);
+
+    const QString& path() const { return m_path; } // empty when there is no such file
     /// Null when the file can't be read; the next call tries again.
     CIImage image();
 

@@ -28,10 +28,8 @@ struct Favourite : FilterSettings {
 
 struct FavouritesFamily {
     QString defaultsKey; // "EffectsFavorites", "3DEffectsFavorites", "CustomEffectsFavorites"
-    /// 3D and custom: the prototypes that stored effects are made from, by their class names; they may change until
-    /// `read`. Null for filters.
-    const std::vector<std::shared_ptr<BaseEffect>>* prototypes = nullptr;
-    std::function<void(onlyTextClosedButton*)> pressed; // the buttons' action
+    /// 3D and custom: makes an effect of what its `save` told; null of an unknown class. Not set for filters.
+    std::function<std::shared_ptr<BaseEffect>(const CIDictionary&)> effectFrom;
     /// The place that `makeVisible` goes by.
     int (QWidget::*place)() const = &QWidget::x;
 };
@@ -39,7 +37,7 @@ struct FavouritesFamily {
 /// Newest last. Additions and removals are in memory until `save`.
 class FavouritesStore {
 public:
-    /// `strip` and `master` must outlive the store; the strip owns the buttons.
+    /// `strip` and `master`, which takes the buttons' presses, must outlive the store; the strip owns the buttons.
     FavouritesStore(FavouritesFamily family, DocPageControl& strip, FavouritesMaster& master);
 
     bool isEmpty() const { return m_favourites.empty(); }

@@ -1,8 +1,14 @@
-#include "app/modes/DefaultImages.h"
+#include "app/catalogue/DefaultImages.h"
 
+#include "platform/foundation/ResourcePaths.h"
 #include "platform/imageio/PictureReader.h"
 
 #include <QFile>
+
+DefaultImage::DefaultImage(const char* name)
+    : m_path(pathForResource(QLatin1String(name), QStringLiteral("tiff")))
+{
+}
 
 CIImage DefaultImage::image()
 {

@@ -1,0 +1,48 @@
+// The list of filters in the window.
+#pragma once
+
+#include "app/catalogue/CataloguePictures.h"
+#include "app/catalogue/CatalogueSearch.h"
+#include "app/catalogue/DataSource.h"
+#include "app/catalogue/OutlineModel.h"
+
+class FilterMaker;
+class OutlineView;
+class QAction;
+
+/// Fills the list, searches in it, and shows in it what each filter makes of the picture if `thumbnails` is checked,
+/// which is remembered.
+class FilterCatalogue : public QObject {
+    Q_OBJECT
+
+public:
+    FilterCatalogue(OutlineView& list, QAction& thumbnails, FilterMaker& filters);
+
+    void setPicture(const CIImage& picture);
+    /// The row whose filter is the current one, which the search may hide; null for none. Selects nothing by itself.
+    void setChosenRow(const OutlineItem* row) { m_chosenRow = row; }
+    /// Chooses and selects the first row of that class. Nobody is told.
+    void selectClass(const QString& className);
+    /// Folds the group, or unfolds it.
+    void toggle(const OutlineItem* group);
+
+    /// Shows only the filters that match; the current filter stays, seen or not.
+    void searchFilters(const QString& text);
+    /// Picks the first filter that is shown.
+    void takeFirstMatch();
+    void thumbnailsToggled();
+
+private:
+    CIImage pictureOf(const QString& filterName, const CIImage& picture);
+    void showThumbnails();
+
+    OutlineView& m_list;
+    QAction& m_thumbnails;
+    FilterMaker& m_filters;
+    DataSource m_dataSource;
+    OutlineModel m_rows;
+    CatalogueSearch m_search;
+    CataloguePictures m_pictures;
+    CIImage m_picture;
+    const OutlineItem* m_chosenRow = nullptr;
+};

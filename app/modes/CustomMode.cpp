@@ -1,0 +1,85 @@
+#include "app/modes/CustomMode.h"
+
+#include "app/catalogue/Thumbnail.h"
+#include "app/document/Document.h"
+#include "effects2d/CustomEffects.h"
+#include "effects2d/customEffImageView.h"
+#include "platform/chain/Baking.h"
+#include "widgets/BackgroundWork.h"
+
+CustomMode::CustomMode(
+    const ModeParts& parts, customEffImageView& view, Mode& family, Document& document, QWidget& window)
+    : EffectMode(parts, EffectList(customEffectPrototypes(), EffectList::Marks::Mousing), "effectCustom",
+        {QStringLiteral("CustomEffectsFavorites"), {}}, document)
+    , m_view(view)
+    , m_family(family)
+    , m_window(window)
+{
+    m_view.awakeFromNib();
+}
+
+void CustomMode::updateView() { m_view.redraw(); }
+
+ZoomedCanvas* CustomMode::canvas() const { return &m_view; }
+
+Mode::Title CustomMode::title() const
+{
+    if (!hasItem())
+        return {{}, tr("Choose an effect from the list to draw it over the picture or over a color.")};
+    return {effectName(),
+        effect()->isMousing() ? tr("Drag on the picture to move the effect. The arrow keys move it as well.")
+                              : QString()};
+}
+
+CIImage CustomMode::shownImage() { return hasItem() ? effect()->getDrawImage() : CIImage(); }
+
+/// Generated pictures take long at full size.
+BaseEffect::LaterImage CustomMode::laterFinishedImage()
+{
+    if (!hasItem())
+        return EffectMode::laterFinishedImage();
+    return [draw = effect()->laterDrawImage(), source = m_document.picture()](CIRenderControl* control) {
+        const CIImage drawn = draw(control);
+        return drawn || (control && control->isCancelled()) ? drawn : source;
+    };
+}
+
+void CustomMode::apply(const std::function<void()>& done)
+{
+    if (!hasItem())
+        return done();
+    CIImage drawn, baked;
+    WorkControl control(1);
+    const BaseEffect::LaterImage draw = effect()->laterDrawImage();
+    workInBackground(&m_window, tr("Applying the effect…"), control, [&] {
+        drawn = draw(&control.rendering);
+        baked = bakedImage(*m_document.context(), drawn, m_document.format(), &control.rendering);
+        makeReducedCopies(baked);
+    });
+    if (control.isCancelled())
+        return;
+    if (drawn)
+        replacePicture(baked ? baked : drawn);
+    done();
+}
+
+void CustomMode::addFavourite()
+{
+    if (!hasItem())
+        return;
+    QImage thumbnail;
+    WorkControl control(1);
+    const BaseEffect::LaterImage draw = effect()->laterDrawImage();
+    workInBackground(&m_window, tr("Drawing the favourite…"), control,
+        [&] { thumbnail = favouriteThumbnail(draw(&control.rendering)); });
+    if (!thumbnail.isNull())
+        m_favorites.add(thumbnail, *effect());
+}
+
+void CustomMode::chooseFavourite(onlyTextClosedButton* button)
+{
+    m_document.undoManager().registerUndoWithTarget(
+        this, [this, previous = m_selectes_FavBtn] { m_family.chooseFavourite(previous); });
+    m_document.undoManager().setActionName(tr("Choose Favourite"));
+    EffectMode::chooseFavourite(button);
+}

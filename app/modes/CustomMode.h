@@ -1,0 +1,33 @@
+// Custom mode.
+#pragma once
+
+#include "app/modes/EffectMode.h"
+
+class customEffImageView;
+
+/// Shows pictures that the program generates.
+class CustomMode : public EffectMode {
+    Q_OBJECT
+
+public:
+    /// `window` is where progress is shown. The undo of a chosen favourite asks the mode `family` for the previous one,
+    /// which there finds nothing or clears the effect.
+    CustomMode(const ModeParts& parts, customEffImageView& view, Mode& family, Document& document, QWidget& window);
+
+    void updateView() override;
+    ZoomedCanvas* canvas() const override;
+    bool needsReducedCopies() const override { return true; }
+    BaseEffect::LaterImage laterFinishedImage() override;
+    void apply(const std::function<void()>& done) override;
+    void addFavourite() override;
+    void chooseFavourite(onlyTextClosedButton* button) override;
+
+protected:
+    Title title() const override;
+    CIImage shownImage() override;
+
+private:
+    customEffImageView& m_view;
+    Mode& m_family;
+    QWidget& m_window;
+};

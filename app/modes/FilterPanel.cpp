@@ -1,0 +1,72 @@
+#include "app/modes/FilterPanel.h"
+
+#include "platform/foundation/Appearance.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+FilterPanel::FilterPanel(QWidget& place, QScrollArea& scroller, QWidget& before, ParameterMaster& master)
+    : m_place(place)
+    , m_scroller(scroller)
+    , m_before(before)
+    , m_master(master)
+{
+    (new QVBoxLayout(&m_place))->setContentsMargins({});
+}
+
+void FilterPanel::build(const std::shared_ptr<CIFilter>& filter, int tag)
+{
+    m_view = new FilterView(&m_place);
+    m_view->setFilter(filter);
+    m_view->setMaster(m_master);
+    m_view->setTag(tag);
+    dress();
+    m_view->tryFilterHeader(filter);
+    m_view->tryRows();
+    m_view->trimBox();
+    m_view->addFilterHeaderTagEnabled(filter, tag, true);
+    m_view->addRows();
+
+    // The container grows with the rows, and its scroll area then scrolls.
+    m_view->setMinimumHeight(isEmpty() ? 0 : m_view->contentHeight());
+    m_place.layout()->addWidget(m_view);
+    m_view->show();
+
+    QWidget* before = &m_before;
+    for (QWidget* control : controls())
+        QWidget::setTabOrder(std::exchange(before, control), control);
+}
+
+void FilterPanel::clear()
+{
+    while (QWidget* row = m_place.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly))
+        delete row;
+}
+
+void FilterPanel::rebuild(const std::shared_ptr<CIFilter>& filter, int tag)
+{
+    const std::vector<QWidget*> former = controls();
+    const auto focused =
+        std::size_t(std::find(former.begin(), former.end(), m_place.window()->focusWidget()) - former.begin());
+    const bool hadFocus = focused < former.size();
+    const int scrolled = m_scroller.verticalScrollBar()->value();
+
+    clear();
+    if (filter)
+        build(filter, tag);
+
+    const std::vector<QWidget*> now = controls();
+    if (hadFocus && focused < now.size())
+        now[focused]->setFocus(Qt::OtherFocusReason);
+    m_scroller.verticalScrollBar()->setValue(scrolled);
+}
+
+void FilterPanel::dress()
+{
+    if (m_view)
+        m_view->setBorderColor(Appearance::shared().look().separator);
+}

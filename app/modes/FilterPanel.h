@@ -1,0 +1,33 @@
+// The rows of the current filter in the window.
+#pragma once
+
+#include "controls/panel/FilterView.h"
+
+#include <QPointer>
+
+class QScrollArea;
+
+/// Fills a place that is scrolled with one row for each input.
+class FilterPanel {
+public:
+    /// The Tab key comes to the rows from `before`. `master` is what they tell their changes.
+    FilterPanel(QWidget& place, QScrollArea& scroller, QWidget& before, ParameterMaster& master);
+
+    /// Below rows that are there already.
+    void build(const std::shared_ptr<CIFilter>& filter, int tag);
+    void clear();
+    /// The same rows with the filter's present values; keyboard and scroller stay where they are. No rows without one.
+    void rebuild(const std::shared_ptr<CIFilter>& filter, int tag);
+    bool isEmpty() const { return !m_view || m_view->rowCount() == 0; }
+    /// As the look is now.
+    void dress();
+
+private:
+    std::vector<QWidget*> controls() const { return m_view ? m_view->controls() : std::vector<QWidget*>(); }
+
+    QWidget& m_place;
+    QScrollArea& m_scroller;
+    QWidget& m_before;
+    ParameterMaster& m_master;
+    QPointer<FilterView> m_view;
+};

@@ -1,0 +1,305 @@
+#include "app/modes/StandardMode.h"
+
+#include "app/catalogue/FilterCatalogue.h"
+#include "app/catalogue/FilterMaker.h"
+#include "app/catalogue/OutlineView.h"
+#include "app/catalogue/Thumbnail.h"
+#include "app/document/Document.h"
+#include "app/document/SessionFolder.h"
+#include "app/modes/FilterPanel.h"
+#include "app/modes/InputValues.h"
+#include "controls/panel/FilterNames.h"
+#include "controls/picture/ControlPoints.h"
+#include "controls/picture/MyImageView.h"
+#include "platform/chain/Baking.h"
+#include "platform/chain/FilterChain.h"
+#include "widgets/BackgroundWork.h"
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+const std::string kInput = "input:"; // followed by the input's key
+constexpr int kPanelTag = 111;
+
+CIImage movedToOrigin(const CIImage& image)
+{
+    const CIRect extent = image.extent();
+    return extent.isInfinite() ? CIImage() : image.transformed(CIAffineTransform::translation(-extent.x, -extent.y));
+}
+
+} // namespace
+
+StandardMode::StandardMode(const ModeParts& parts, const Tools& tools)
+    : Mode(parts, {kFilterFavouritesKey, {}}, tools.document)
+    , m_tools(tools)
+{
+    connect(&m_document, &Document::aboutToKeepPicture, this,
+        [this] { m_tools.changes.dropImagesOfPastFilters(currentFilter.get()); });
+}
+
+// --- the filter ---
+
+std::shared_ptr<CIFilter> StandardMode::newFilter(const std::string& name)
+{
+    return m_tools.filters.newFilter(name, m_document.picture(), m_tools.view.bounds());
+}
+
+void StandardMode::addFilterIndex(const QString& name, int tag)
+{
+    currentFilter = newFilter(name.toStdString());
+    if (currentFilter)
+        m_tools.changes.add(currentFilter);
+    updateFilterControls(tag);
+}
+
+void StandardMode::choose(const OutlineItem* row)
+{
+    if (const auto* chosen = dynamic_cast<const FilterRow*>(row)) {
+        clearControls();
+        addFilterIndex(chosen->className, kPanelTag);
+        m_tools.catalogue.setChosenRow(row);
+        deselectFavourite();
+        m_document.setWasChanged(true);
+        return;
+    }
+    if (row)
+        m_tools.catalogue.toggle(row);
+    clear();
+}
+
+void StandardMode::dropItem()
+{
+    currentFilter.reset();
+    clearControls();
+}
+
+void StandardMode::deselectRows()
+{
+    Mode::deselectRows();
+    m_tools.catalogue.setChosenRow(nullptr);
+}
+
+CIValue StandardMode::standardValueForKey(const CIFilter& filter, const std::string& key)
+{
+    const std::shared_ptr<CIFilter> fresh = newFilter(filter.name());
+    return fresh ? fresh->valueForKey(key) : CIValue();
+}
+
+// --- what it makes of the picture ---
+
+bool StandardMode::hasMissingImage() const { return currentFilter && filterHasMissingImage(*currentFilter); }
+
+CIImage StandardMode::coreImageResultForRect(const CIRect& view) const
+{
+    return currentFilter ? filteredPicture(*currentFilter, m_document.picture(), {view.width, view.height})
+                         : m_document.picture();
+}
+
+CIImage StandardMode::coreImageResult() const
+{
+    return hasMissingImage() ? CIImage() : coreImageResultForRect(m_tools.view.bounds());
+}
+
+void StandardMode::updateView() { m_tools.view.setNeedsDisplay(); }
+
+ZoomedCanvas* StandardMode::canvas() const { return &m_tools.view; }
+
+void StandardMode::pictureChanged()
+{
+    m_tools.catalogue.setPicture(m_document.picture());
+    updateView(); // also while another mode is on: the picture may have the same size
+}
+
+void StandardMode::apply(const std::function<void()>& done)
+{
+    CIImage applied = movedToOrigin(coreImageResult());
+    if (applied && currentFilter) {
+        WorkControl control(1);
+        CIImage baked;
+        workInBackground(&m_tools.window, tr("Applying the filter…"), control,
+            [&] { baked = bakedImage(*m_document.context(), applied, m_document.format(), &control.rendering); });
+        if (control.isCancelled())
+            return;
+        // Pixels from here on; only where there is no memory for them the recipe itself.
+        if (baked)
+            applied = baked;
+    }
+    if (applied)
+        replacePicture(applied);
+    done();
+}
+
+void StandardMode::compare(bool held) { m_tools.view.setShowsOriginal(held && isEdited()); }
+
+void StandardMode::split(bool wanted) { m_tools.view.setSplit(wanted && isEdited()); }
+
+// --- all inputs at once ---
+
+bool StandardMode::hasInputsToSet(bool randomly) const
+{
+    if (!isEdited())
+        return false;
+    const std::vector<const CIInputAttributes*> inputs = usersInputs(*currentFilter);
+    return std::any_of(inputs.begin(), inputs.end(),
+        [randomly](const CIInputAttributes* input) { return !randomly || canBeRandom(*input); });
+}
+
+void StandardMode::resetAllInputs()
+{
+    if (const std::shared_ptr<CIFilter> fresh = isEdited() ? newFilter(currentFilter->name()) : nullptr)
+        setAllInputs(
+            tr("Reset All Inputs"), [&](const CIInputAttributes& input) { return fresh->valueForKey(input.key); });
+}
+
+void StandardMode::randomizeInputs()
+{
+    if (!isEdited())
+        return;
+    std::mt19937 random(QRandomGenerator::global()->generate());
+    setAllInputs(tr("Randomize Inputs"), [&](const CIInputAttributes& input) {
+        return randomValue(input, currentFilter->valueForKey(input.key), m_document.picture().extent(), random);
+    });
+}
+
+void StandardMode::setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor)
+{
+    m_tools.changes.setAllInputs(*currentFilter, actionName, valueFor);
+    updateView();
+    updateLayout();
+}
+
+// --- favourites and sessions ---
+
+void StandardMode::addFavourite()
+{
+    const QImage thumbnail = currentFilter ? favouriteThumbnail(coreImageResult()) : QImage();
+    if (thumbnail.isNull())
+        return;
+    CIDictionary values{{"class", currentFilter->name()}};
+    for (const std::string& key : currentFilter->inputKeys())
+        if (CIValue value = currentFilter->valueForKey(key); !value.isNothing())
+            values[key] = std::move(value);
+    m_favorites.add(thumbnail, QString::fromStdString(currentFilter->displayName()), std::move(values));
+}
+
+/// One that brings nothing counts as the selected one, too: pressed again, it takes the filter away.
+void StandardMode::chooseFavourite(onlyTextClosedButton* button)
+{
+    const bool isSelected = button == m_selectes_FavBtn;
+    Mode::chooseFavourite(button);
+    if (!isSelected)
+        m_selectes_FavBtn = button;
+}
+
+bool StandardMode::bringBack(const Favourite* favourite)
+{
+    if (!favourite)
+        return false;
+    clearControls();
+    addFilterIndex(QString::fromStdString(favourite->valueForKey("class").toString()), 0);
+    if (currentFilter)
+        for (const std::string& key : currentFilter->inputKeys())
+            if (const CIValue value = favourite->valueForKey(key); !value.isNothing()) {
+                m_tools.changes.setFilterValueForKey(*currentFilter, value, key);
+                m_tools.changes.setActionNameForFilterKey(*currentFilter, key);
+            }
+    updateLayout(); // the rows were made for the filter's own values
+    return true;
+}
+
+void StandardMode::save(SessionState& state, const CIImage& picture) const
+{
+    if (!currentFilter)
+        return;
+    CIDictionary inputs;
+    for (const CIInputAttributes* input : usersInputs(*currentFilter)) {
+        const CIValue value = currentFilter->valueForKey(input->key);
+        if (const CIImage image = value.toImage(); image) {
+            if (image.node() != picture.node() && !image.extent().isInfinite())
+                state.pictures[kInput + input->key] = image;
+        } else if (!value.isNothing() && !value.isImage()) {
+            inputs[input->key] = value;
+        }
+    }
+    state.values["filter"] = currentFilter->name();
+    state.values["inputs"] = inputs;
+}
+
+void StandardMode::restore(const SessionState& state)
+{
+    dropItem();
+    const QString name = QString::fromStdString(state.value("filter").toString());
+    if (!name.isEmpty())
+        addFilterIndex(name, kPanelTag);
+    if (!currentFilter)
+        return;
+    const CIDictionary inputs = state.dictionary("inputs");
+    for (const std::string& key : currentFilter->inputKeys()) {
+        if (const auto stored = inputs.find(key); stored != inputs.end())
+            currentFilter->setValueForKey(stored->second, key);
+        if (const auto stored = state.pictures.find(kInput + key); stored != state.pictures.end())
+            currentFilter->setValueForKey(stored->second, key);
+    }
+    m_tools.catalogue.selectClass(name);
+    updateLayout(); // the rows were made for the filter's own values
+}
+
+// --- the panel ---
+
+void StandardMode::updateFilterControls(int tag)
+{
+    if (currentFilter)
+        m_tools.panel.build(currentFilter, tag);
+    showTitle();
+}
+
+void StandardMode::clearControls()
+{
+    m_tools.panel.clear();
+    showTitle();
+}
+
+void StandardMode::updateLayout()
+{
+    if (!std::exchange(needsUpdate, true))
+        QMetaObject::invokeMethod(this, &StandardMode::rebuildPanelIfNeeded, Qt::QueuedConnection);
+}
+
+void StandardMode::rebuildPanelIfNeeded()
+{
+    if (!std::exchange(needsUpdate, false))
+        return;
+    m_tools.panel.rebuild(currentFilter, kPanelTag);
+    showTitle();
+}
+
+Mode::Title StandardMode::title() const
+{
+    if (!currentFilter)
+        return {{}, tr("Choose a filter from the list to see what it makes of the picture.")};
+    Title title{shownFilterName(currentFilter->displayName()), {}};
+    if (m_tools.panel.isEmpty())
+        title.hint = isControlsPresent() ? tr("Drag the points on the picture.") : tr("There is nothing to set here.");
+    return title;
+}
+
+bool StandardMode::isControlsPresent() const
+{
+    if (!currentFilter)
+        return false;
+    const std::vector<std::string> keys = currentFilter->inputKeys();
+    return std::any_of(keys.begin(), keys.end(), [this](const std::string& key) {
+        const CIInputAttributes* input = currentFilter->attributesForKey(key);
+        return input && hasControlPoint(*input);
+    });
+}
+
+void StandardMode::appearanceChanged()
+{
+    Mode::appearanceChanged();
+    m_tools.panel.dress();
+}

@@ -1,0 +1,94 @@
+// Standard mode.
+#pragma once
+
+#include "app/modes/Mode.h"
+#include "app/modes/ParameterChanges.h"
+#include "platform/coreimage/CIFilter.h"
+
+class FilterCatalogue;
+class FilterMaker;
+class FilterPanel;
+class MyImageView;
+
+/// Shows the picture through one filter of the catalogue.
+class StandardMode : public Mode {
+    Q_OBJECT
+
+public:
+    /// What the mode works with; all of it outlives the mode.
+    struct Tools {
+        Document& document;
+        FilterMaker& filters;
+        ParameterChanges& changes;
+        FilterCatalogue& catalogue;
+        FilterPanel& panel;
+        MyImageView& view;
+        QWidget& window; // where progress is shown
+    };
+    StandardMode(const ModeParts& parts, const Tools& tools);
+
+    const std::shared_ptr<CIFilter>& filter() const { return currentFilter; }
+    /// False while another mode is on.
+    bool isEdited() const { return isOn() && currentFilter; }
+    /// Makes the filter of that class the current one, with a panel that has the tag.
+    void addFilterIndex(const QString& name, int tag);
+    /// What a new one like the current filter holds.
+    CIValue standardValueForKey(const CIFilter& filter, const std::string& key);
+    bool hasMissingImage() const;
+    /// The recipe of the picture through the filter. Null when the filter lacks an image.
+    CIImage coreImageResult() const;
+    CIImage coreImageResultForRect(const CIRect& view) const;
+
+    // --- all inputs at once, if the filter is edited ---
+
+    /// Whether there are inputs that the operations below would set.
+    bool hasInputsToSet(bool randomly) const;
+    /// To what they hold when such a filter is newly chosen.
+    void resetAllInputs();
+    /// To values that sliders and picture have room for; pictures stay.
+    void randomizeInputs();
+
+    // --- the panel ---
+
+    /// Builds the rows of the current filter; nothing without one.
+    void updateFilterControls(int tag);
+    void clearControls();
+    /// True when the filter has inputs that are edited on the picture.
+    bool isControlsPresent() const;
+    /// The panel is to show the present values, soon.
+    void updateLayout();
+    void rebuildPanelIfNeeded();
+
+    // --- before and after, if the filter is edited ---
+
+    /// Shows the picture without the filter.
+    void compare(bool held);
+    void split(bool wanted);
+
+    bool hasItem() const override { return currentFilter != nullptr; }
+    void choose(const OutlineItem* row) override;
+    void save(SessionState& state, const CIImage& picture) const override;
+    void restore(const SessionState& state) override;
+    void updateView() override;
+    ZoomedCanvas* canvas() const override;
+    void pictureChanged() override;
+    void apply(const std::function<void()>& done) override;
+    void addFavourite() override;
+    void chooseFavourite(onlyTextClosedButton* button) override;
+    void appearanceChanged() override;
+
+protected:
+    Title title() const override;
+    CIImage shownImage() override { return hasItem() ? coreImageResult() : CIImage(); }
+    void dropItem() override;
+    bool bringBack(const Favourite* favourite) override;
+    void deselectRows() override;
+
+private:
+    std::shared_ptr<CIFilter> newFilter(const std::string& name);
+    void setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor);
+
+    Tools m_tools;
+    std::shared_ptr<CIFilter> currentFilter;
+    bool needsUpdate = false;
+};

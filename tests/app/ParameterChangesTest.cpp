@@ -1,0 +1,138 @@
+#include "app/modes/ParameterChanges.h"
+#include "app/catalogue/FilterMaker.h"
+#include "platform/foundation/UndoManager.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class ParameterChangesTest : public testing::Test {
+protected:
+    std::shared_ptr<CIFilter> added(const char* name)
+    {
+        const std::shared_ptr<CIFilter> filter = maker.newFilter(name, picture, picture.extent());
+        changes.add(filter);
+        return filter;
+    }
+    static double radius(const CIFilter& filter) { return filter.valueForKey("inputRadius").toDouble(); }
+
+    const CIImage picture = CIImage::fromBitmap(CIBitmap(40, 30));
+    UndoManager undo;
+    ParameterChanges changes{undo};
+    FilterMaker maker;
+};
+
+TEST_F(ParameterChangesTest, EachIsANamedStepThatKeepsItsFilterAlive)
+{
+    std::shared_ptr<CIFilter> blur = added("CIGaussianBlur");
+    const std::weak_ptr<CIFilter> former = blur;
+    const double first = radius(*blur);
+    for (double radius : {20.0, 30.0}) {
+        changes.setFilterValueForKey(*blur, radius, "inputRadius");
+        changes.setActionNameForFilterKey(*blur, "inputRadius");
+    }
+    EXPECT_EQ(undo.undoActionName(), "Change to Gaussian Blur Radius");
+    blur.reset();
+    added("CIColorInvert");
+    ASSERT_FALSE(former.expired());
+    undo.undo();
+    EXPECT_EQ(radius(*former.lock()), 20);
+    EXPECT_EQ(undo.redoActionName(), "Change to Gaussian Blur Radius");
+    undo.undo();
+    EXPECT_EQ(radius(*former.lock()), first);
+    undo.redo();
+    undo.redo();
+    EXPECT_EQ(radius(*former.lock()), 30);
+
+    const auto stranger = CIFilter::filterWithName("CIGaussianBlur");
+    stranger->setDefaults();
+    const double before = radius(*stranger);
+    changes.setFilterValueForKey(*stranger, before + 1, "inputRadius");
+    EXPECT_EQ(radius(*stranger), before) << "a step could not keep it alive";
+}
+
+TEST_F(ParameterChangesTest, OfSettingsCanBeUndoneToo)
+{
+    const auto settings = std::make_shared<CIDictionary>();
+    changes.setDictValueForKey(settings, 5, "Size");
+    changes.setDictValueForKey(settings, 7, "Size");
+    undo.undo();
+    EXPECT_EQ(settings->at("Size").toDouble(), 5);
+    undo.redo();
+    EXPECT_EQ(settings->at("Size").toDouble(), 7);
+}
+
+TEST_F(ParameterChangesTest, OfAllInputsAreOneStepAndLeaveThePictureAlone)
+{
+    const std::shared_ptr<CIFilter> bump = added("CIBumpDistortion");
+    const auto doubled = [&](const CIInputAttributes& input) -> std::optional<CIValue> {
+        EXPECT_NE(input.key, "inputImage");
+        if (input.className != "NSNumber")
+            return {};
+        return 2 * bump->valueForKey(input.key).toDouble() + 1;
+    };
+    const double first = radius(*bump);
+    changes.setAllInputs(*bump, "Double", doubled);
+    EXPECT_EQ(radius(*bump), 2 * first + 1);
+    EXPECT_EQ(undo.undoActionNames(), QStringList{"Double"});
+    undo.undo();
+    EXPECT_EQ(radius(*bump), first);
+    undo.removeAllActions();
+    changes.setAllInputs(
+        *bump, "Nothing", [&](const CIInputAttributes& input) { return bump->valueForKey(input.key); });
+    EXPECT_FALSE(undo.canUndo()) << "no value is another";
+}
+
+TEST_F(ParameterChangesTest, OnlyTheCurrentFilterHoldsOnToPictures)
+{
+    const std::shared_ptr<CIFilter> past = added("CIGaussianBlur"), current = added("CIBoxBlur");
+    changes.dropImagesOfPastFilters(current.get());
+    EXPECT_FALSE(past->valueForKey("inputImage").isImage());
+    EXPECT_GT(radius(*past), 0) << "its other inputs stay for undo";
+    EXPECT_TRUE(current->valueForKey("inputImage").toImage().isSameAs(picture));
+}
+
+// --- what a filter starts with ---
+
+TEST_F(ParameterChangesTest, NewFiltersHaveThePictureOrAnImageOfTheProgram)
+{
+    struct {
+        const char *filter, *key;
+        DefaultImage& image;
+    } const cases[] = {{"CIGlassDistortion", "inputTexture", maker.texture},
+        {"CIRippleTransition", "inputShadingImage", maker.alphaemap},
+        {"CIPageCurlTransition", "inputShadingImage", maker.alphaemap},
+        {"CIShadedMaterial", "inputShadingImage", maker.shadingemap}, {"CIColorMap", "inputGradientImage", maker.ramp},
+        {"CIDisintegrateWithMaskTransition", "inputMaskImage", maker.mask}};
+    for (const auto& [name, key, image] : cases) {
+        SCOPED_TRACE(name);
+        const auto filter = maker.newFilter(name, picture, picture.extent());
+        ASSERT_TRUE(filter);
+        EXPECT_FALSE(image.path().isEmpty());
+        EXPECT_TRUE(image.image());
+        EXPECT_TRUE(filter->valueForKey(key).toImage().isSameAs(image.image()));
+        for (const char* other : {"inputImage", "inputTargetImage"})
+            if (filter->attributesForKey(other)) {
+                EXPECT_TRUE(filter->valueForKey(other).toImage().isSameAs(picture)) << other;
+            }
+    }
+    EXPECT_FALSE(maker.newFilter("CINoSuchFilter", picture, {}));
+}
+
+TEST_F(ParameterChangesTest, NewFiltersHaveColorsAndPlacesThatShowSomething)
+{
+    for (const char* name : {"CIGaussianGradient", "CILinearGradient", "CIRadialGradient", "CIStripesGenerator",
+             "CICheckerboardGenerator"}) {
+        const auto filter = maker.newFilter(name, picture, {});
+        ASSERT_TRUE(filter) << name;
+        EXPECT_EQ(filter->valueForKey("inputColor0").toColor(), CIColor(1, 1, 1, 0.5)) << name;
+        EXPECT_EQ(filter->valueForKey("inputColor1").toColor(), CIColor(0, 0, 0, 0.5)) << name;
+    }
+    EXPECT_EQ(maker.newFilter("CIConstantColorGenerator", picture, {})->valueForKey("inputColor").toColor(),
+        CIColor(1, 0.5, 0, 0.5));
+    EXPECT_EQ(maker.newFilter("CIPageCurlTransition", picture, {})->valueForKey("inputAngle").toFloat(), -0.7853982f);
+    EXPECT_EQ(maker.newFilter("CICircularWrap", picture, {10, 20, 100, 50})->valueForKey("inputCenter").toVector(),
+        (CIVector{60, 45}));
+}
+
+} // namespace
