@@ -200,26 +200,6 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>Drag the picture to turn it. The arrow keys turn it as well.</source>
-        <translation>Ziehen Sie das Bild, um es zu drehen. Auch die Pfeiltasten drehen es.</translation>
-    </message>
-    <message>
-        <source>Choose an effect from the list to see the picture in space.</source>
-        <translation>Wählen Sie einen Effekt aus der Liste, um das Bild im Raum zu sehen.</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>Anwenden</translation>
-    </message>
-    <message>
-        <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
-        <translation>Ziehen Sie auf dem Bild, um den Effekt zu verschieben. Auch die Pfeiltasten verschieben ihn.</translation>
-    </message>
-    <message>
-        <source>Choose an effect from the list to draw it over the picture or over a color.</source>
-        <translation>Wählen Sie einen Effekt aus der Liste, um ihn über das Bild oder eine Farbe zu zeichnen.</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
     </message>
@@ -358,30 +338,6 @@
         <translation>&amp;Menü leeren</translation>
     </message>
     <message>
-        <source>Applying the filter…</source>
-        <translation>Filter wird angewendet …</translation>
-    </message>
-    <message>
-        <source>Reset All Inputs</source>
-        <translation>Alle Werte zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Randomize Inputs</source>
-        <translation>Zufällige Werte</translation>
-    </message>
-    <message>
-        <source>Choose a filter from the list to see what it makes of the picture.</source>
-        <translation>Wählen Sie einen Filter aus der Liste, um zu sehen, was er aus dem Bild macht.</translation>
-    </message>
-    <message>
-        <source>Drag the points on the picture.</source>
-        <translation>Ziehen Sie die Punkte auf dem Bild.</translation>
-    </message>
-    <message>
-        <source>There is nothing to set here.</source>
-        <translation>Hier gibt es nichts einzustellen.</translation>
-    </message>
-    <message>
         <source>Do you want to save changes?</source>
         <translation>Möchten Sie die Änderungen speichern?</translation>
     </message>
@@ -458,28 +414,12 @@
         <translation>Der jetzige Stand</translation>
     </message>
     <message>
-        <source>Choose Favourite</source>
-        <translation>Favorit wählen</translation>
-    </message>
-    <message>
-        <source>Change Mode</source>
-        <translation>Modus wechseln</translation>
-    </message>
-    <message>
         <source>The picture can&apos;t have that size.</source>
         <translation>Diese Größe kann das Bild nicht haben.</translation>
     </message>
     <message>
         <source>Its width and its height are numbers above zero.</source>
         <translation>Breite und Höhe sind Zahlen über null.</translation>
-    </message>
-    <message>
-        <source>Applying the effect…</source>
-        <translation>Effekt wird angewendet …</translation>
-    </message>
-    <message>
-        <source>Drawing the favourite…</source>
-        <translation>Favorit wird gezeichnet …</translation>
     </message>
     <message>
         <source>There was not enough memory to turn the picture</source>
@@ -500,6 +440,29 @@
     <message>
         <source>Opening “%1”…</source>
         <translation>„%1“ wird geöffnet …</translation>
+    </message>
+</context>
+<context>
+    <name>CustomMode</name>
+    <message>
+        <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
+        <translation>Ziehen Sie auf dem Bild, um den Effekt zu verschieben. Auch die Pfeiltasten verschieben ihn.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to draw it over the picture or over a color.</source>
+        <translation>Wählen Sie einen Effekt aus der Liste, um ihn über das Bild oder eine Farbe zu zeichnen.</translation>
+    </message>
+    <message>
+        <source>Applying the effect…</source>
+        <translation>Effekt wird angewendet …</translation>
+    </message>
+    <message>
+        <source>Drawing the favourite…</source>
+        <translation>Favorit wird gezeichnet …</translation>
+    </message>
+    <message>
+        <source>Choose Favourite</source>
+        <translation>Favorit wählen</translation>
     </message>
 </context>
 <context>
@@ -3257,6 +3220,20 @@
     </message>
 </context>
 <context>
+    <name>Mode</name>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+</context>
+<context>
+    <name>ModeSwitch</name>
+    <message>
+        <source>Change Mode</source>
+        <translation>Modus wechseln</translation>
+    </message>
+</context>
+<context>
     <name>MyImageView</name>
     <message>
         <source>Picture</source>
@@ -3793,6 +3770,44 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>StandardMode</name>
+    <message>
+        <source>Choose a filter from the list to see what it makes of the picture.</source>
+        <translation>Wählen Sie einen Filter aus der Liste, um zu sehen, was er aus dem Bild macht.</translation>
+    </message>
+    <message>
+        <source>Drag the points on the picture.</source>
+        <translation>Ziehen Sie die Punkte auf dem Bild.</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here.</source>
+        <translation>Hier gibt es nichts einzustellen.</translation>
+    </message>
+    <message>
+        <source>Applying the filter…</source>
+        <translation>Filter wird angewendet …</translation>
+    </message>
+    <message>
+        <source>Reset All Inputs</source>
+        <translation>Alle Werte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Randomize Inputs</source>
+        <translation>Zufällige Werte</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDMode</name>
+    <message>
+        <source>Drag the picture to turn it. The arrow keys turn it as well.</source>
+        <translation>Ziehen Sie das Bild, um es zu drehen. Auch die Pfeiltasten drehen es.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to see the picture in space.</source>
+        <translation>Wählen Sie einen Effekt aus der Liste, um das Bild im Raum zu sehen.</translation>
     </message>
 </context>
 <context>

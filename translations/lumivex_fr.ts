@@ -200,26 +200,6 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>Drag the picture to turn it. The arrow keys turn it as well.</source>
-        <translation>Faites glisser l’image pour la tourner. Les touches fléchées la tournent aussi.</translation>
-    </message>
-    <message>
-        <source>Choose an effect from the list to see the picture in space.</source>
-        <translation>Choisissez un effet dans la liste pour voir l’image dans l’espace.</translation>
-    </message>
-    <message>
-        <source>Apply</source>
-        <translation>Appliquer</translation>
-    </message>
-    <message>
-        <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
-        <translation>Faites glisser sur l’image pour déplacer l’effet. Les touches fléchées le déplacent aussi.</translation>
-    </message>
-    <message>
-        <source>Choose an effect from the list to draw it over the picture or over a color.</source>
-        <translation>Choisissez un effet dans la liste pour le dessiner sur l’image ou sur une couleur.</translation>
-    </message>
-    <message>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
     </message>
@@ -358,30 +338,6 @@
         <translation>&amp;Vider le menu</translation>
     </message>
     <message>
-        <source>Applying the filter…</source>
-        <translation>Application du filtre…</translation>
-    </message>
-    <message>
-        <source>Reset All Inputs</source>
-        <translation>Réinitialiser tous les réglages</translation>
-    </message>
-    <message>
-        <source>Randomize Inputs</source>
-        <translation>Réglages au hasard</translation>
-    </message>
-    <message>
-        <source>Choose a filter from the list to see what it makes of the picture.</source>
-        <translation>Choisissez un filtre dans la liste pour voir ce qu’il fait de l’image.</translation>
-    </message>
-    <message>
-        <source>Drag the points on the picture.</source>
-        <translation>Faites glisser les points sur l’image.</translation>
-    </message>
-    <message>
-        <source>There is nothing to set here.</source>
-        <translation>Il n’y a rien à régler ici.</translation>
-    </message>
-    <message>
         <source>Do you want to save changes?</source>
         <translation>Voulez-vous enregistrer les modifications&#xa0;?</translation>
     </message>
@@ -458,28 +414,12 @@
         <translation>L’état actuel</translation>
     </message>
     <message>
-        <source>Choose Favourite</source>
-        <translation>Choisir un favori</translation>
-    </message>
-    <message>
-        <source>Change Mode</source>
-        <translation>Changer de mode</translation>
-    </message>
-    <message>
         <source>The picture can&apos;t have that size.</source>
         <translation>L’image ne peut pas avoir cette taille.</translation>
     </message>
     <message>
         <source>Its width and its height are numbers above zero.</source>
         <translation>Sa largeur et sa hauteur sont des nombres supérieurs à zéro.</translation>
-    </message>
-    <message>
-        <source>Applying the effect…</source>
-        <translation>Application de l’effet…</translation>
-    </message>
-    <message>
-        <source>Drawing the favourite…</source>
-        <translation>Dessin du favori…</translation>
     </message>
     <message>
         <source>There was not enough memory to turn the picture</source>
@@ -500,6 +440,29 @@
     <message>
         <source>Opening “%1”…</source>
         <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+</context>
+<context>
+    <name>CustomMode</name>
+    <message>
+        <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
+        <translation>Faites glisser sur l’image pour déplacer l’effet. Les touches fléchées le déplacent aussi.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to draw it over the picture or over a color.</source>
+        <translation>Choisissez un effet dans la liste pour le dessiner sur l’image ou sur une couleur.</translation>
+    </message>
+    <message>
+        <source>Applying the effect…</source>
+        <translation>Application de l’effet…</translation>
+    </message>
+    <message>
+        <source>Drawing the favourite…</source>
+        <translation>Dessin du favori…</translation>
+    </message>
+    <message>
+        <source>Choose Favourite</source>
+        <translation>Choisir un favori</translation>
     </message>
 </context>
 <context>
@@ -3257,6 +3220,20 @@
     </message>
 </context>
 <context>
+    <name>Mode</name>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+</context>
+<context>
+    <name>ModeSwitch</name>
+    <message>
+        <source>Change Mode</source>
+        <translation>Changer de mode</translation>
+    </message>
+</context>
+<context>
     <name>MyImageView</name>
     <message>
         <source>Picture</source>
@@ -3793,6 +3770,44 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
+    </message>
+</context>
+<context>
+    <name>StandardMode</name>
+    <message>
+        <source>Choose a filter from the list to see what it makes of the picture.</source>
+        <translation>Choisissez un filtre dans la liste pour voir ce qu’il fait de l’image.</translation>
+    </message>
+    <message>
+        <source>Drag the points on the picture.</source>
+        <translation>Faites glisser les points sur l’image.</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here.</source>
+        <translation>Il n’y a rien à régler ici.</translation>
+    </message>
+    <message>
+        <source>Applying the filter…</source>
+        <translation>Application du filtre…</translation>
+    </message>
+    <message>
+        <source>Reset All Inputs</source>
+        <translation>Réinitialiser tous les réglages</translation>
+    </message>
+    <message>
+        <source>Randomize Inputs</source>
+        <translation>Réglages au hasard</translation>
+    </message>
+</context>
+<context>
+    <name>ThreeDMode</name>
+    <message>
+        <source>Drag the picture to turn it. The arrow keys turn it as well.</source>
+        <translation>Faites glisser l’image pour la tourner. Les touches fléchées la tournent aussi.</translation>
+    </message>
+    <message>
+        <source>Choose an effect from the list to see the picture in space.</source>
+        <translation>Choisissez un effet dans la liste pour voir l’image dans l’espace.</translation>
     </message>
 </context>
 <context>
