@@ -46,9 +46,6 @@ public:
     bool renderInto(
         CIBitmap& target, int left, int top, const CIImage&, double scale = 1, CIRenderControl* = nullptr) const;
 
-    /// The whole image at a reduced size as a bitmap, say for a list of previews; at most `maxSide` pixels a side.
-    CIBitmap renderThumbnail(const CIImage&, int maxSide) const;
-
 private:
     Arithmetic m_arithmetic;
 };

@@ -102,9 +102,11 @@ public:
         , m_color(color)
     {
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        return std::make_unique<MeshReader>(m_segments, m_width, m_color, render, area, scratch);
+        if (accepts != Form::Rows)
+            return {};
+        return {.rows = std::make_unique<MeshReader>(m_segments, m_width, m_color, render, area, scratch)};
     }
 
 private:

@@ -73,9 +73,11 @@ public:
         : Node(CIRect::infinite(), false)
     {
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        return std::make_unique<NoiseReader>(render, area, scratch);
+        if (accepts != Form::Rows)
+            return {};
+        return {.rows = std::make_unique<NoiseReader>(render, area, scratch)};
     }
 };
 

@@ -14,11 +14,15 @@ NodePtr shiftNode(NodePtr, double dx, double dy);
 /// The edge pixels repeated without end.
 NodePtr clampNode(NodePtr);
 
-/// What a node's base needs when it works on another.
+/// A node that works on another. It hands everything on; what differs is overridden.
 class WrapperNode : public Node {
 public:
-    void prepare(const Render& render) const override { m_source->prepare(render); }
-    int reach(const Grid& grid) const override { return m_source->reach(grid); }
+    void prepare(const Render& render) const override { m_source->prepare(onSource(render)); }
+    int reach(const Grid& grid) const override { return m_source->reach(sourceGrid(grid)); }
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
+    {
+        return m_source->open(onSource(render), area, accepts, scratch);
+    }
 
 protected:
     WrapperNode(NodePtr source, const CIRect& extent, bool opaque)
@@ -26,6 +30,9 @@ protected:
         , m_source(std::move(source))
     {
     }
+    /// The cells that the source is read in.
+    virtual Grid sourceGrid(const Grid& grid) const { return grid; }
+    Render onSource(const Render& render) const { return render.withGrid(sourceGrid(render.grid)); }
     NodePtr m_source;
 };
 

@@ -1,148 +1,21 @@
 #include "platform/coreimage/graph/BitmapNode.h"
 
-#include "platform/coreimage/graph/Codes.h"
-
-#include "platform/coreimage/kernel/Batch.h"
+#include "platform/coreimage/graph/Frame.h"
 
 #include <algorithm>
-#include <cstring>
-#include <tbb/parallel_for.h>
 #include <tbb/task_arena.h>
 
 namespace ci {
 
-void Level::allocate(int w, int h, bool wide)
-{
-    width = w;
-    height = h;
-    const std::size_t count = std::size_t(w) * std::size_t(h) * 4;
-    if (wide)
-        floats.resize(count);
-    else
-        words.resize(count);
-}
-
-void Level::readRow(int y, int from, int count, const MutableRow& row) const
-{
-    const std::size_t start = (std::size_t(y) * std::size_t(width) + std::size_t(from)) * 4;
-    const auto spread = [&](const auto* p, float scale) {
-        for (int i = 0; i < count; ++i) {
-            row.r[i] = float(p[4 * i]) * scale;
-            row.g[i] = float(p[4 * i + 1]) * scale;
-            row.b[i] = float(p[4 * i + 2]) * scale;
-            row.a[i] = float(p[4 * i + 3]) * scale;
-        }
-    };
-    if (isWide())
-        spread(floats.data() + start, 1.0f);
-    else
-        spread(words.data() + start, 1 / 65535.0f);
-}
-
-void Level::addRow(int y, int from, int count, float weight, float* sums) const
-{
-    const std::size_t start = (std::size_t(y) * std::size_t(width) + std::size_t(from)) * 4;
-    const auto add = [&](const auto* p, float share) {
-        for (int i = 0; i < 4 * count; ++i)
-            sums[i] += share * float(p[i]);
-    };
-    if (isWide())
-        add(floats.data() + start, weight);
-    else
-        add(words.data() + start, weight / 65535.0f);
-}
-
-void Level::writeRow(int y, int from, int count, const Row& row)
-{
-    const std::size_t start = (std::size_t(y) * std::size_t(width) + std::size_t(from)) * 4;
-    const float* planes[4] = {row.r, row.g, row.b, row.a};
-    if (isWide()) {
-        for (int i = 0; i < count; ++i)
-            for (std::size_t c = 0; c < 4; ++c)
-                floats[start + std::size_t(4 * i) + c] = planes[c][i];
-        return;
-    }
-    std::uint16_t* p = words.data() + start;
-    for (int i = 0; i < count; ++i)
-        for (int c = 0; c < 4; ++c)
-            p[4 * i + c] = std::uint16_t(std::clamp(planes[c][i], 0.0f, 1.0f) * 65535.0f + 0.5f);
-}
-
 namespace {
-
-/// Rows of one level of a bitmap, counted from the top; level 0 is the bitmap itself.
-class LevelRows {
-public:
-    LevelRows(const CIBitmap& bitmap, const std::vector<Level>& levels, int level, bool floats)
-        : m_bitmap(bitmap)
-        , m_level(level > 0 ? &levels[std::size_t(level - 1)] : nullptr)
-        , m_decoder(bitmap.format(), bitmap.alpha(), bitmap.colorSpace(), floats)
-    {
-    }
-    int width() const { return m_level ? m_level->width : m_bitmap.width(); }
-    int height() const { return m_level ? m_level->height : m_bitmap.height(); }
-    void read(int y, int from, int count, const MutableRow& row) const
-    {
-        if (m_level)
-            m_level->readRow(y, from, count, row);
-        else
-            m_decoder.decode(m_bitmap.row(y) + std::size_t(from) * bytesPerPixel(m_bitmap.format()), count, row);
-    }
-    /// Adds a row times `weight` to `sums`, four floats a texel. `spare` has room for the row.
-    void add(int y, int from, int count, float weight, float* sums, const MutableRow& spare, float* pixels) const
-    {
-        if (m_level) {
-            m_level->addRow(y, from, count, weight, sums);
-            return;
-        }
-        read(y, from, count, spare);
-        interleave(spare, count, pixels);
-        for (int i = 0; i < 4 * count; ++i)
-            sums[i] += weight * pixels[i];
-    }
-
-private:
-    const CIBitmap& m_bitmap;
-    const Level* m_level;
-    RowDecoder m_decoder;
-};
-
-Level halved(const LevelRows& source, bool wide)
-{
-    Level half;
-    half.allocate((source.width() + 1) / 2, (source.height() + 1) / 2, wide);
-    tbb::parallel_for(tbb::blocked_range<int>(0, half.height, 16), [&](const tbb::blocked_range<int>& rows) {
-        Scratch& scratch = Scratch::ofThread();
-        const ScratchScope scope(scratch);
-        const MutableRow upper = allocateRow(scratch, source.width() + 1),
-                         lower = allocateRow(scratch, source.width() + 1);
-        for (int y = rows.begin(); y < rows.end(); ++y) {
-            const int count = source.width();
-            source.read(2 * y, 0, count, upper);
-            source.read(std::min(2 * y + 1, source.height() - 1), 0, count, lower);
-            float* const above[4] = {upper.r, upper.g, upper.b, upper.a};
-            const float* const below[4] = {lower.r, lower.g, lower.b, lower.a};
-            for (int c = 0; c < 4; ++c) {
-                float* p = above[c];
-                for (int x = 0; x < count; ++x)
-                    p[x] += below[c][x];
-                p[count] = p[count - 1]; // an odd last column stands for two
-                for (int x = 0; x < half.width; ++x)
-                    p[x] = 0.25f * (p[2 * x] + p[2 * x + 1]);
-            }
-            half.writeRow(y, 0, half.width, upper);
-        }
-    });
-    return half;
-}
 
 /// For each cell of an axis: the first texel it covers and the shares of the texels from there on.
 class AreaWeights {
 public:
     static constexpr int kMost = 6;
 
-    /// Cells from `first` on, `count` of them; `size` cells per texel length; `texels` in all. `edge(cell)` is the
-    /// texel coordinate of a cell's lower side.
+    /// For `count` cells from `first` on, over `texels` texels. `edge(cell)` is the texel coordinate of a cell's lower
+    /// side.
     template <class Edge>
     AreaWeights(Scratch& scratch, int first, int count, int texels, Edge edge)
         : m_starts(static_cast<int*>(scratch.bytes(std::size_t(count) * sizeof(int))))
@@ -246,49 +119,50 @@ private:
     MutableRow m_out;
 };
 
-/// Rows as they are stored, shifted by whole cells.
+std::shared_ptr<const std::vector<Level>> none()
+{
+    static const auto levels = std::make_shared<const std::vector<Level>>();
+    return levels;
+}
+
+/// The cells of the bitmap, on a grid at full size with whole phases.
+GridRect wholeCells(const CIBitmap& bitmap, const Grid& grid)
+{
+    const int left = -int(std::lround(grid.phaseX)), bottom = -int(std::lround(grid.phaseY));
+    return {left, bottom, left + bitmap.width(), bottom + bitmap.height()};
+}
+
+/// Rows as they are stored. `cells` are those of the bitmap; the area lies inside them.
 class DirectReader : public RowReader {
 public:
-    /// Cell (x, y) is column x - left of the source and row top - 1 - y, counted from its top.
-    DirectReader(const LevelRows& source, int left, int top, const CIRect& extent, const Render& render,
-        const GridRect& area, Scratch& scratch)
-        : m_source(source)
-        , m_clip(extent, render, area)
-        , m_left(left)
-        , m_top(top)
-        , m_before(m_clip.inside().x0 - area.x0)
-        , m_zeros(zeroRow(scratch, area.width()))
+    DirectReader(const CIBitmap& bitmap, const GridRect& cells, bool floats, const GridRect& area, Scratch& scratch)
+        : m_source(bitmap, *none(), 0, floats)
+        , m_cells(cells)
+        , m_area(area)
         , m_out(allocateRow(scratch, area.width()))
     {
     }
     Row row(int y) override
     {
-        if (!m_clip.hasRow(y))
-            return m_zeros;
-        const GridRect& inside = m_clip.inside();
-        m_source.read(m_top - 1 - y, inside.x0 - m_left, inside.width(),
-            {m_out.r + m_before, m_out.g + m_before, m_out.b + m_before, m_out.a + m_before});
-        m_clip.clearOutside(m_out);
+        m_source.read(m_cells.y1 - 1 - y, m_area.x0 - m_cells.x0, m_area.width(), m_out);
         return m_out;
     }
 
 private:
     LevelRows m_source;
-    ExtentClip m_clip;
-    int m_left, m_top, m_before;
-    Row m_zeros;
+    GridRect m_cells, m_area;
     MutableRow m_out;
 };
 
-/// The bitmap's own bytes, with alpha set: opaque bitmaps may hold anything there.
+/// The bitmap's own bytes, with alpha set: opaque bitmaps may hold anything there. `cells` are those of the bitmap.
 class BitmapCodes : public CodeReader {
 public:
-    BitmapCodes(const CIBitmap& bitmap, int left, int top, const GridRect& area, Scratch& scratch)
-        : m_bitmap(bitmap)
+    BitmapCodes(const CIBitmap& bitmap, const GridRect& cells, const GridRect& area, Scratch& scratch)
+        : CodeReader({bitmap.format(), bitmap.colorSpace()})
+        , m_bitmap(bitmap)
+        , m_cells(cells)
         , m_area(area)
-        , m_inside(area.intersected({left, top - bitmap.height(), left + bitmap.width(), top}))
-        , m_left(left)
-        , m_top(top)
+        , m_inside(area.intersected(cells))
         , m_row(static_cast<std::uint32_t*>(scratch.bytes(std::size_t(area.width()) * sizeof(std::uint32_t))))
     {
     }
@@ -297,7 +171,8 @@ public:
         if (y < m_inside.y0 || y >= m_inside.y1 || m_inside.isEmpty()) {
             std::fill_n(m_row, m_area.width(), 0);
         } else {
-            const auto pixels = m_bitmap.row<std::uint32_t>(m_top - 1 - y).subspan(std::size_t(m_inside.x0 - m_left));
+            const auto pixels =
+                m_bitmap.row<std::uint32_t>(m_cells.y1 - 1 - y).subspan(std::size_t(m_inside.x0 - m_cells.x0));
             std::uint32_t* const to = m_row + (m_inside.x0 - m_area.x0);
             std::fill(m_row, to, 0);
             for (int x = 0; x < m_inside.width(); ++x)
@@ -309,8 +184,7 @@ public:
 
 private:
     CIBitmap m_bitmap;
-    GridRect m_area, m_inside;
-    int m_left, m_top;
+    GridRect m_cells, m_area, m_inside;
     std::uint32_t* m_row;
 };
 
@@ -334,18 +208,9 @@ std::shared_ptr<const std::vector<Level>> BitmapNode::levels() const
         if (m_levels)
             return m_levels;
     }
-    auto levels = std::make_shared<std::vector<Level>>();
-    const bool wide = m_bitmap.format() == CIFormat::RGBAf;
+    std::shared_ptr<const std::vector<Level>> levels;
     // Isolated, so that a thread that waits here takes up no tile that would want the same levels.
-    tbb::this_task_arena::isolate([&] {
-        int width = m_bitmap.width(), height = m_bitmap.height();
-        for (int level = 0; std::max(width, height) > 32; ++level) {
-            Level half = halved(LevelRows(m_bitmap, *levels, level, false), wide);
-            width = half.width;
-            height = half.height;
-            levels->push_back(std::move(half));
-        }
-    });
+    tbb::this_task_arena::isolate([&] { levels = std::make_shared<const std::vector<Level>>(halvedCopies(m_bitmap)); });
     const std::lock_guard lock(m_mutex);
     if (!m_levels)
         m_levels = std::move(levels);
@@ -392,52 +257,47 @@ bool BitmapNode::isAskedAgain(const Grid& grid) const
     return again;
 }
 
-bool BitmapNode::hasCodes(const Render& render, CodeForm& form) const
+/// The codes as they are. `cells` are those of the bitmap.
+std::unique_ptr<CodeTable> BitmapNode::tableOf(const GridRect& cells) const
 {
-    const Grid& grid = render.grid;
-    form = {m_bitmap.format(), m_bitmap.colorSpace()};
-    return grid.scale == 1 && isWhole(grid.phaseX) && isWhole(grid.phaseY) && bytesPerPixel(m_bitmap.format()) == 4
-        && m_bitmap.alpha() == CIAlpha::Opaque;
-}
-
-std::unique_ptr<CodeReader> BitmapNode::openCodes(const Render& render, const GridRect& area, Scratch& scratch) const
-{
-    return std::make_unique<BitmapCodes>(m_bitmap, -int(std::lround(render.grid.phaseX)),
-        m_bitmap.height() - int(std::lround(render.grid.phaseY)), area, scratch);
-}
-
-bool BitmapNode::codeTables(const Render& render, CodeTables& tables) const
-{
-    const Grid& grid = render.grid;
-    CodeForm form;
-    if (!hasCodes(render, form))
-        return false;
     CIBitmap codes(256, 1, m_bitmap.format(), CIAlpha::Opaque, m_bitmap.colorSpace());
     const auto row = codes.mutableRow<std::uint8_t>(0);
     for (std::size_t i = 0; i < row.size(); ++i)
         row[i] = std::uint8_t(i / 4);
-    RowDecoder(codes.format(), codes.alpha(), codes.colorSpace(), render.floats)
-        .decode(codes.row(0), 256, tables.row());
-    tables.bitmap = &m_bitmap;
-    tables.left = -int(std::lround(grid.phaseX));
-    tables.top = m_bitmap.height() - int(std::lround(grid.phaseY));
-    return true;
+    auto table = std::make_unique<CodeTable>();
+    RowDecoder(codes.format(), codes.alpha(), codes.colorSpace(), false).decode(codes.row(0), 256, table->row());
+    table->bitmap = &m_bitmap;
+    table->left = cells.x0;
+    table->top = cells.y1;
+    return table;
 }
 
-std::unique_ptr<RowReader> BitmapNode::open(const Render& render, const GridRect& area, Scratch& scratch) const
+Opened BitmapNode::open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const
 {
-    static const auto none = std::make_shared<const std::vector<Level>>();
     const Grid& grid = render.grid;
-    if (grid.scale == 1 && isWhole(grid.phaseX) && isWhole(grid.phaseY))
-        return std::make_unique<DirectReader>(LevelRows(m_bitmap, *none, 0, render.floats),
-            -int(std::lround(grid.phaseX)), m_bitmap.height() - int(std::lround(grid.phaseY)), extent(), render, area,
-            scratch);
+    const bool isDirect = grid.scale == 1 && isWhole(grid.phaseX) && isWhole(grid.phaseY);
+    const GridRect cells = wholeCells(m_bitmap, grid);
+    const bool hasCodes = isDirect && bytesPerPixel(m_bitmap.format()) == 4 && m_bitmap.alpha() == CIAlpha::Opaque;
+    switch (accepts) {
+    case Form::Copy:
+        return {.copy = copyFor(grid)};
+    case Form::Codes:
+        return {.codes = hasCodes ? std::make_unique<BitmapCodes>(m_bitmap, cells, area, scratch) : nullptr};
+    case Form::Table:
+        return {.table = hasCodes && area.intersected(cells) == area ? tableOf(cells) : nullptr};
+    case Form::Rows:
+        break;
+    }
+    if (isDirect)
+        return {.rows = framedRows(Frame(cells, area, false), area, scratch, [&](const GridRect& inside) {
+            return std::make_unique<DirectReader>(m_bitmap, cells, render.floats, inside, scratch);
+        })};
     if (auto copy = copyFor(grid))
-        return readCopy(std::move(copy), extent(), render, area, scratch);
-    // Two texels a cell at least, unless the bitmap itself has fewer.
-    auto all = grid.scale < 0.5 ? levels() : none;
+        return {.rows = readCopy(std::move(copy), extent(), render, area, scratch)};
+    // A cell is the mean of two texels a side at least, unless the bitmap itself has fewer.
+    auto all = grid.scale < 0.5 ? levels() : none();
     const int level = std::min(int(all->size()), std::max(0, int(std::floor(std::log2(1 / grid.scale))) - 1));
-    return std::make_unique<AreaReader>(m_bitmap, all, level, extent(), render, area, scratch);
+    return {.rows = std::make_unique<AreaReader>(m_bitmap, all, level, extent(), render, area, scratch)};
 }
 
 } // namespace ci

@@ -22,7 +22,7 @@ public:
         const int left = column(area.x0);
         for (int x = 0; x < m_width; ++x)
             m_columns[x] = column(area.x0 + x) - left;
-        m_source = source.open(render.withGrid(squares),
+        m_source = source.rows(render.withGrid(squares),
             {left, line(area.y0), left + m_columns[m_width - 1] + 1, line(area.y1 - 1) + 1}, scratch);
         m_line = line(area.y0) - 1;
     }
@@ -64,11 +64,16 @@ public:
         m_squares.phaseX = origin.x / size;
         m_squares.phaseY = origin.y / size;
     }
-    void prepare(const Render& render) const override { m_source->prepare(render.withGrid(m_squares)); }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    int reach(const Grid& grid) const override { return m_source->reach(grid); }
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        return std::make_unique<CellsReader>(*m_source, render, m_squares, area, scratch);
+        if (accepts != Form::Rows)
+            return {};
+        return {.rows = std::make_unique<CellsReader>(*m_source, render, m_squares, area, scratch)};
     }
+
+protected:
+    Grid sourceGrid(const Grid&) const override { return m_squares; }
 
 private:
     Grid m_squares;

@@ -31,8 +31,9 @@ void clearOutside(const CodeSheet& sheet, const CIRect& extent, const Render& re
 
 class SheetReader : public CodeReader {
 public:
-    explicit SheetReader(const CodeSheet& sheet)
-        : m_sheet(sheet)
+    SheetReader(const CodeSheet& sheet, CodeForm form)
+        : CodeReader(form)
+        , m_sheet(sheet)
     {
     }
     const std::uint8_t* row(int y) override { return m_sheet.line(y); }
@@ -63,8 +64,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<CodeReader> Node::openCodes(const Render&, const GridRect&, Scratch&) const { return nullptr; }
-
 CodeSheet allocateCodes(const GridRect& area, Scratch& scratch)
 {
     // An odd number of lines and room beyond, as planes have.
@@ -79,10 +78,10 @@ void fillCodes(const CodeSheet& sheet, CodeReader& reader)
         std::memcpy(sheet.line(y), reader.row(y), std::size_t(sheet.length()));
 }
 
-std::unique_ptr<CodeReader> readCodes(const CodeSheet& sheet, const CIRect& extent, const Render& render)
+std::unique_ptr<CodeReader> readCodes(const CodeSheet& sheet, CodeForm form, const CIRect& extent, const Render& render)
 {
     clearOutside(sheet, extent, render);
-    return std::make_unique<SheetReader>(sheet);
+    return std::make_unique<SheetReader>(sheet, form);
 }
 
 std::unique_ptr<RowReader> decodeCodes(

@@ -2,24 +2,9 @@
 // work on these: nothing is converted, and a register holds four times as many.
 #pragma once
 
-#include "platform/coreimage/CIBitmap.h"
 #include "platform/coreimage/graph/Node.h"
 
 namespace ci {
-
-/// What four bytes of a pixel mean.
-struct CodeForm {
-    CIFormat format = CIFormat::RGBA8;
-    CIColorSpace space = CIColorSpace::SRGB;
-    bool operator==(const CodeForm&) const = default;
-};
-
-/// As `RowReader`, for rows of four bytes a pixel.
-class CodeReader {
-public:
-    virtual ~CodeReader() = default;
-    virtual const std::uint8_t* row(int y) = 0;
-};
 
 /// A block of values: the codes of an area, four a cell, or one plane of floats. Whole batches past the end of a line
 /// may be read and written.
@@ -44,7 +29,7 @@ CodeSheet allocateCodes(const GridRect& area, Scratch&);
 /// Fills the sheet from a reader that was opened for its area.
 void fillCodes(const CodeSheet&, CodeReader&);
 /// The rows of a finished sheet; transparent outside the extent.
-std::unique_ptr<CodeReader> readCodes(const CodeSheet&, const CIRect& extent, const Render&);
+std::unique_ptr<CodeReader> readCodes(const CodeSheet&, CodeForm, const CIRect& extent, const Render&);
 /// The same as planes.
 std::unique_ptr<RowReader> decodeCodes(const CodeSheet&, CodeForm, const CIRect& extent, const Render&, Scratch&);
 

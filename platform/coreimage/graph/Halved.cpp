@@ -1,5 +1,7 @@
 #include "platform/coreimage/graph/Halved.h"
 
+#include "platform/coreimage/graph/Frame.h"
+
 #include <algorithm>
 #include <tbb/parallel_for.h>
 
@@ -54,40 +56,6 @@ Row HalvingReader::row(int y)
 
 namespace {
 
-/// What lies beyond the copy repeats its rim: the edge of a clamped image, or transparency.
-class HalvedCopyReader : public RowReader {
-public:
-    HalvedCopyReader(const Planes& means, const GridRect& area, Scratch& scratch)
-        : m_means(means)
-        , m_area(area)
-        , m_before(std::clamp(means.area.x0 - area.x0, 0, area.width()))
-        , m_after(std::clamp(area.x1 - means.area.x1, 0, area.width()))
-        , m_out(allocateRow(scratch, area.width()))
-    {
-    }
-    Row row(int y) override
-    {
-        const GridRect& all = m_means.area;
-        const int line = std::clamp(y, all.y0, all.y1 - 1), width = m_area.width();
-        float* const to[4] = {m_out.r, m_out.g, m_out.b, m_out.a};
-        for (int c = 0; c < 4; ++c) {
-            const float* const from = m_means.line(c, line);
-            std::fill_n(to[c], m_before, from[0]);
-            const int count = width - m_before - m_after;
-            if (count > 0)
-                std::copy_n(from + (m_area.x0 + m_before - all.x0), count, to[c] + m_before);
-            std::fill_n(to[c] + width - m_after, m_after, from[all.width() - 1]);
-        }
-        return m_out;
-    }
-
-private:
-    const Planes& m_means;
-    GridRect m_area;
-    int m_before, m_after;
-    MutableRow m_out;
-};
-
 constexpr int kBlock = 512; // fine cells
 
 } // namespace
@@ -97,7 +65,7 @@ std::shared_ptr<const HalvedCopy> HalvedCopy::make(const Node& source, const Ren
     auto copy = std::make_shared<HalvedCopy>();
     copy->m_grid = render.grid;
     copy->m_times = times;
-    // With a cell more on each side, that lies outside as a whole.
+    // The cell more on each side lies outside the image as a whole.
     const GridRect area = halvedArea(render.grid.cellsIn(source.repeats()), times).grown(1, 1);
     Planes& means = copy->m_means;
     means.area = area;
@@ -117,7 +85,7 @@ std::shared_ptr<const HalvedCopy> HalvedCopy::make(const Node& source, const Ren
         const ScratchScope scope(scratch);
         const int x = area.x0 + index % columns * width, y = area.y0 + index / columns * height;
         const GridRect block{x, y, std::min(x + width, area.x1), std::min(y + height, area.y1)};
-        const auto fine = source.open(render, fineArea(block, times), scratch);
+        const auto fine = source.rows(render, fineArea(block, times), scratch);
         HalvingReader reader(*fine, block, times, scratch);
         for (int line = block.y0; line < block.y1; ++line) {
             const Row row = reader.row(line);
@@ -133,9 +101,11 @@ std::shared_ptr<const HalvedCopy> HalvedCopy::make(const Node& source, const Ren
 
 bool HalvedCopy::fits(const Grid& grid, int times) const { return m_grid == grid && m_times == times; }
 
-std::unique_ptr<RowReader> HalvedCopy::open(const GridRect& area, Scratch& scratch) const
+std::unique_ptr<RowReader> HalvedCopy::open(const Render& render, const GridRect& area, Scratch& scratch) const
 {
-    return std::make_unique<HalvedCopyReader>(m_means, area, scratch);
+    return framedRows(Frame(m_means.area, area, true), area, scratch, [&](const GridRect& inside) {
+        return std::make_unique<PlanesReader>(m_means, CIRect::infinite(), render, inside);
+    });
 }
 
 } // namespace ci

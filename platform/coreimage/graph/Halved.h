@@ -33,8 +33,9 @@ public:
     /// In parallel. Null when that was cancelled.
     static std::shared_ptr<const HalvedCopy> make(const Node& source, const Render&, int times);
     bool fits(const Grid&, int times) const;
-    /// Rows of any coarse area.
-    std::unique_ptr<RowReader> open(const GridRect& area, Scratch&) const;
+    /// Rows of any coarse area. What lies beyond the copy repeats its rim: the edge of a clamped image, or
+    /// transparency.
+    std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch&) const;
 
 private:
     Grid m_grid; // of the image

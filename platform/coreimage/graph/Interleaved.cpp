@@ -1,6 +1,7 @@
 #include "platform/coreimage/graph/Interleaved.h"
 
 #include "platform/coreimage/graph/Basics.h"
+#include "platform/coreimage/graph/Frame.h"
 #include "platform/coreimage/graph/Once.h"
 
 #include <algorithm>
@@ -141,7 +142,7 @@ std::shared_ptr<const GridCopy> GridCopy::make(const Node& node, const Render& r
         GridRect rows = area;
         rows.y0 += index * band;
         rows.y1 = std::min(rows.y0 + band, area.y1);
-        const auto reader = node.open(render, rows, scratch);
+        const auto reader = node.rows(render, rows, scratch);
         for (int y = rows.y0; y < rows.y1; ++y)
             writeViewRow(copy->m_pixels.get(), area, y, reader->row(y));
     });
@@ -164,32 +165,23 @@ namespace {
 
 class CopyReader : public RowReader {
 public:
-    CopyReader(std::shared_ptr<const GridCopy> copy, const CIRect& extent, const Render& render, const GridRect& area,
-        Scratch& scratch)
+    CopyReader(std::shared_ptr<const GridCopy> copy, const Grid& grid, const GridRect& area, Scratch& scratch)
         : m_copy(std::move(copy))
-        , m_view(m_copy->viewOn(render.grid))
-        , m_clip(extent, render, area)
-        , m_before(m_clip.inside().x0 - area.x0)
-        , m_zeros(zeroRow(scratch, area.width()))
+        , m_view(m_copy->viewOn(grid))
+        , m_area(area)
         , m_out(allocateRow(scratch, area.width()))
     {
     }
     Row row(int y) override
     {
-        if (!m_clip.hasRow(y))
-            return m_zeros;
-        deinterleave(m_view.at(m_clip.inside().x0, y), m_clip.inside().width(),
-            {m_out.r + m_before, m_out.g + m_before, m_out.b + m_before, m_out.a + m_before});
-        m_clip.clearOutside(m_out);
+        deinterleave(m_view.at(m_area.x0, y), m_area.width(), m_out);
         return m_out;
     }
 
 private:
     std::shared_ptr<const GridCopy> m_copy;
     InterleavedView m_view;
-    ExtentClip m_clip;
-    int m_before;
-    Row m_zeros;
+    GridRect m_area;
     MutableRow m_out;
 };
 
@@ -210,20 +202,24 @@ public:
             return;
         m_copy.store(GridCopy::make(*m_source, whole, m_mostCells));
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        auto copy = copyFor(render.grid);
-        return copy ? readCopy(std::move(copy), extent(), render, area, scratch)
-                    : m_source->open(render, area, scratch);
+        if (accepts == Form::Copy)
+            return {.copy = copyOn(render)};
+        if (accepts != Form::Rows)
+            return {};
+        auto copy = copyOn(render);
+        return {.rows = copy ? readCopy(std::move(copy), extent(), render, area, scratch)
+                             : m_source->rows(render, area, scratch)};
     }
-    std::shared_ptr<const GridCopy> copyFor(const Grid& grid) const override
-    {
-        auto copy = m_copy.load();
-        return copy && copy->fits(grid) ? copy : m_source->copyFor(grid);
-    }
-    int reach(const Grid& grid) const override { return copyFor(grid) ? 0 : m_source->reach(grid); }
+    int reach(const Grid& grid) const override { return copyOn({grid}) ? 0 : m_source->reach(grid); }
 
 private:
+    std::shared_ptr<const GridCopy> copyOn(const Render& render) const
+    {
+        auto copy = m_copy.load();
+        return copy && copy->fits(render.grid) ? copy : m_source->copy(render);
+    }
     double m_mostCells;
     mutable std::atomic<std::shared_ptr<const GridCopy>> m_copy; // of the last render's grid
 };
@@ -233,7 +229,9 @@ private:
 std::unique_ptr<RowReader> readCopy(std::shared_ptr<const GridCopy> copy, const CIRect& extent, const Render& render,
     const GridRect& area, Scratch& scratch)
 {
-    return std::make_unique<CopyReader>(std::move(copy), extent, render, area, scratch);
+    return framedRows(Frame(render.grid.cellsIn(extent), area, false), area, scratch, [&](const GridRect& inside) {
+        return std::make_unique<CopyReader>(std::move(copy), render.grid, inside, scratch);
+    });
 }
 
 NodePtr sharedNode(NodePtr source, double mostCells)

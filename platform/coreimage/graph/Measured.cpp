@@ -30,10 +30,12 @@ public:
         }
         made->prepare(render);
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
+        if (accepts != Form::Rows)
+            return {};
         const NodePtr made = m_made.load();
-        return (made ? made : constantNode({0, 0, 0, 0}))->open(render, area, scratch);
+        return (made ? made : constantNode({0, 0, 0, 0}))->open(render, area, accepts, scratch);
     }
     int reach(const Grid& grid) const override
     {

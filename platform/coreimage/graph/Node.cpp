@@ -36,6 +36,14 @@ GridRect Grid::cellsTouching(const CIRect& r) const
         cell(std::ceil(r.right() * scale - phaseX - 1e-6)), cell(std::ceil(r.top() * scale - phaseY - 1e-6))};
 }
 
+std::optional<CodeForm> Node::codeForm(const Render& render) const
+{
+    Scratch& scratch = Scratch::ofThread();
+    const ScratchScope scope(scratch);
+    const Opened opened = open(render, {}, Form::Codes, scratch);
+    return opened.codes ? std::optional(opened.codes->form()) : std::nullopt;
+}
+
 MutableRow allocateRow(Scratch& scratch, int width)
 {
     const std::size_t stride = std::size_t(paddedWidth(width)) + kRowPadding; // apart, so that planes don't collide

@@ -7,13 +7,11 @@
 
 #include <cmath>
 #include <memory>
+#include <optional>
 
 namespace ci {
 
 class GridCopy;
-struct CodeTables;
-class CodeReader;
-struct CodeForm;
 
 /// Whole grid cells: columns x0 to x1 - 1, rows y0 to y1 - 1, y up.
 struct GridRect {
@@ -23,6 +21,7 @@ struct GridRect {
     bool isEmpty() const { return x1 <= x0 || y1 <= y0; }
     GridRect grown(int dx, int dy) const { return {x0 - dx, y0 - dy, x1 + dx, y1 + dy}; }
     GridRect intersected(const GridRect&) const;
+    bool operator==(const GridRect&) const = default;
 };
 
 /// Division that rounds down, also for cells left of zero.
@@ -82,6 +81,52 @@ public:
     virtual Row row(int y) = 0; // rows may be asked for in any order, upwards is quickest
 };
 
+/// What four bytes of a pixel mean.
+struct CodeForm {
+    CIFormat format = CIFormat::RGBA8;
+    CIColorSpace space = CIColorSpace::SRGB;
+    bool operator==(const CodeForm&) const = default;
+};
+
+/// As `RowReader`, for rows of four bytes a pixel; each pixel is opaque or 0.
+class CodeReader {
+public:
+    explicit CodeReader(CodeForm form)
+        : m_form(form)
+    {
+    }
+    virtual ~CodeReader() = default;
+    CodeForm form() const { return m_form; }
+    virtual const std::uint8_t* row(int y) = 0;
+
+private:
+    CodeForm m_form;
+};
+
+/// An opaque 8-bit bitmap, and what becomes of its codes, each component on its own.
+struct CodeTable {
+    const CIBitmap* bitmap = nullptr; // the node's
+    int left = 0, top = 0; // the cell of its left column, and the one above its top row
+    alignas(64) float planes[4][256] = {}; // linear components for each code
+    MutableRow row() { return {planes[0], planes[1], planes[2], planes[3]}; }
+};
+
+/// What a node can be opened as.
+enum class Form {
+    Rows, // floats: every node has these
+    Codes, // 8-bit codes
+    Table, // a bitmap that covers the area, seen through a table
+    Copy, // the whole image on this grid, where it lies in memory; the area does not matter
+};
+
+/// The one that was asked for, or nothing.
+struct Opened {
+    std::unique_ptr<RowReader> rows = {};
+    std::unique_ptr<CodeReader> codes = {};
+    std::unique_ptr<CodeTable> table = {};
+    std::shared_ptr<const GridCopy> copy = {};
+};
+
 class Node {
 public:
     virtual ~Node() = default;
@@ -93,16 +138,20 @@ public:
     virtual CIRect repeats() const { return m_extent; }
     /// Called once before the tiles of a render, on one thread: the place to build what all tiles share.
     virtual void prepare(const Render&) const { }
-    /// Rows of `area` on the render's grid. Buffers come from `scratch` and live until it is rewound.
-    virtual std::unique_ptr<RowReader> open(const Render&, const GridRect& area, Scratch& scratch) const = 0;
-    /// The whole image on this grid, if it lies in memory.
-    virtual std::shared_ptr<const GridCopy> copyFor(const Grid&) const { return nullptr; }
-    /// What the codes of an opaque 8-bit bitmap become, when the image is that bitmap with each component on its own
-    /// changed; false when it is more than that.
-    virtual bool codeTables(const Render&, CodeTables&) const { return false; }
-    /// True when the image on this grid consists of 8-bit codes, each pixel opaque or 0, so that `openCodes` works.
-    virtual bool hasCodes(const Render&, CodeForm&) const { return false; }
-    virtual std::unique_ptr<CodeReader> openCodes(const Render&, const GridRect&, Scratch&) const;
+    /// The cells of `area` in the form that the caller accepts, or nothing where the image can't be had in it. Buffers
+    /// come from `scratch` and live until it is rewound. Whether there are codes does not depend on the area, and an
+    /// empty one costs no work.
+    virtual Opened open(const Render&, const GridRect& area, Form accepts, Scratch& scratch) const = 0;
+    std::unique_ptr<RowReader> rows(const Render& render, const GridRect& area, Scratch& scratch) const
+    {
+        return open(render, area, Form::Rows, scratch).rows;
+    }
+    std::shared_ptr<const GridCopy> copy(const Render& render) const
+    {
+        return open(render, {}, Form::Copy, Scratch::ofThread()).copy;
+    }
+    /// Nothing where the node can't be opened as codes.
+    std::optional<CodeForm> codeForm(const Render&) const;
     /// How far, in cells, the graph below reads beyond what is asked of it: decides the size of tiles. 0 for nodes
     /// that work row by row, at least 1 for those that buffer their whole area.
     virtual int reach(const Grid&) const { return 0; }
@@ -120,14 +169,6 @@ private:
 };
 
 using NodePtr = std::shared_ptr<const Node>;
-
-/// See `Node::codeTables`.
-struct CodeTables {
-    const CIBitmap* bitmap = nullptr;
-    int left = 0, top = 0; // the cell of its left column, and the one above its top row
-    alignas(64) float planes[4][256] = {}; // linear components for each code
-    MutableRow row() { return {planes[0], planes[1], planes[2], planes[3]}; }
-};
 
 MutableRow allocateRow(Scratch&, int width);
 /// A row of zeros.

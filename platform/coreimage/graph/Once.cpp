@@ -19,20 +19,6 @@ bool covers(const GridRect& all, const GridRect& part)
     return all.x0 <= part.x0 && all.y0 <= part.y0 && all.x1 >= part.x1 && all.y1 >= part.y1;
 }
 
-class WorkedOutReader : public RowReader {
-public:
-    WorkedOutReader(const Planes& planes, int x)
-        : m_planes(planes)
-        , m_x(x)
-    {
-    }
-    Row row(int y) override { return m_planes.row(y, m_x); }
-
-private:
-    Planes m_planes;
-    int m_x;
-};
-
 class OnceNode : public WrapperNode {
 public:
     explicit OnceNode(const NodePtr& source)
@@ -40,12 +26,15 @@ public:
     {
     }
     CIRect repeats() const override { return m_source->repeats(); }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
+        if (accepts != Form::Rows)
+            return {};
         TileMemory* const memory = TileMemory::ofThread();
         if (!memory)
-            return m_source->open(render, area, scratch);
-        return std::make_unique<WorkedOutReader>(memory->planes(*this, *m_source, render, area), area.x0);
+            return m_source->open(render, area, accepts, scratch);
+        return {.rows = std::make_unique<PlanesReader>(
+                    memory->planes(*this, *m_source, render, area), CIRect::infinite(), render, area)};
     }
     int reach(const Grid& grid) const override { return std::max(1, m_source->reach(grid)); }
 };
@@ -73,7 +62,7 @@ Planes TileMemory::planes(const Node& node, const Node& source, const Render& re
     {
         Scratch& scratch = Scratch::ofThread();
         const ScratchScope scope(scratch);
-        planes.fill(*source.open(render, area, scratch));
+        planes.fill(*source.rows(render, area, scratch));
     }
     m_entries.push_back({&node, render.grid, planes});
     return planes;

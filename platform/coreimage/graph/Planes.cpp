@@ -2,7 +2,6 @@
 
 #include "platform/coreimage/graph/Basics.h"
 #include "platform/coreimage/graph/Halved.h"
-#include "platform/coreimage/kernel/Batch.h"
 
 #include <algorithm>
 #include <atomic>
@@ -95,49 +94,52 @@ public:
         const auto [x, y] = m_kernel->margin(grid);
         return std::max({1, x, y}) + m_source->reach(grid);
     }
-    bool hasCodes(const Render& render, CodeForm& form) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        return m_kernel->onlyChooses() && !render.floats && m_source->hasCodes(render, form);
-    }
-    std::unique_ptr<CodeReader> openCodes(const Render& render, const GridRect& area, Scratch& scratch) const override
-    {
-        return readCodes(chosenCodes(render, area, scratch), extent(), render);
-    }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
-    {
-        CodeForm form;
-        if (hasCodes(render, form))
-            return decodeCodes(chosenCodes(render, area, scratch), form, extent(), render, scratch);
-        const Planes out = Planes::allocate(area, scratch);
-        {
-            const ScratchScope scope(scratch);
-            const auto [x, y] = m_kernel->margin(render.grid);
-            const int times = m_kernel->halvings(render.grid);
-            const GridRect read = halvedArea(area.grown(x, y), times);
-            const auto copy = m_halved.load();
-            if (copy && copy->fits(render.grid, times)) {
-                m_kernel->run(render, *copy->open(read, scratch), read, out, scratch);
-            } else if (!render.isCancelled()) {
-                const auto in = m_source->open(render, fineArea(read, times), scratch);
-                if (times == 0)
-                    m_kernel->run(render, *in, read, out, scratch);
-                else {
-                    HalvingReader halved(*in, read, times, scratch);
-                    m_kernel->run(render, halved, read, out, scratch);
-                }
-            }
-        }
-        return std::make_unique<PlanesReader>(out, extent(), render, area);
+        const bool asRows = accepts == Form::Rows;
+        if (!asRows && accepts != Form::Codes)
+            return {};
+        const auto codes = m_kernel->onlyChooses() && !render.floats ? m_source->codeForm(render) : std::nullopt;
+        if (codes && asRows)
+            return {.rows = decodeCodes(chosenCodes(render, area, scratch), *codes, extent(), render, scratch)};
+        if (codes)
+            return {.codes = readCodes(chosenCodes(render, area, scratch), *codes, extent(), render)};
+        if (asRows)
+            return {.rows = std::make_unique<PlanesReader>(worked(render, area, scratch), extent(), render, area)};
+        return {};
     }
 
 private:
+    Planes worked(const Render& render, const GridRect& area, Scratch& scratch) const
+    {
+        const Planes out = Planes::allocate(area, scratch);
+        const ScratchScope scope(scratch);
+        const auto [x, y] = m_kernel->margin(render.grid);
+        const int times = m_kernel->halvings(render.grid);
+        const GridRect read = halvedArea(area.grown(x, y), times);
+        const auto copy = m_halved.load();
+        if (copy && copy->fits(render.grid, times)) {
+            m_kernel->run(render, *copy->open(render, read, scratch), read, out, scratch);
+        } else if (!render.isCancelled()) {
+            const auto in = m_source->rows(render, fineArea(read, times), scratch);
+            if (times == 0)
+                m_kernel->run(render, *in, read, out, scratch);
+            else {
+                HalvingReader halved(*in, read, times, scratch);
+                m_kernel->run(render, halved, read, out, scratch);
+            }
+        }
+        return out;
+    }
     CodeSheet chosenCodes(const Render& render, const GridRect& area, Scratch& scratch) const
     {
         const CodeSheet out = allocateCodes(area, scratch);
+        if (area.isEmpty())
+            return out;
         const ScratchScope scope(scratch);
         const auto [x, y] = m_kernel->margin(render.grid);
         const GridRect read = area.grown(x, y);
-        m_kernel->runOnCodes(*m_source->openCodes(render, read, scratch), read, out, scratch);
+        m_kernel->runOnCodes(*m_source->open(render, read, Form::Codes, scratch).codes, read, out, scratch);
         return out;
     }
     /// True when halving the whole image once reads less than halving around each tile, and needs little memory.

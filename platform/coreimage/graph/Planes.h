@@ -3,6 +3,7 @@
 
 #include "platform/coreimage/graph/Codes.h"
 #include "platform/coreimage/graph/Node.h"
+#include "platform/coreimage/kernel/Batch.h"
 
 #include <algorithm>
 
@@ -79,6 +80,20 @@ public:
     virtual bool onlyChooses() const { return false; }
     /// As `run`, at full size.
     virtual void runOnCodes(CodeReader&, const GridRect&, const Sheet<std::uint8_t>&, Scratch&) const { }
+};
+
+/// A pass that reads its block as a whole. It has `work<V>(grid, in, out, scratch)`.
+template <class Pass>
+class BlockPass : public PassKernel {
+public:
+    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
+        Scratch& scratch) const override
+    {
+        const Planes in = Planes::allocate(area, scratch);
+        in.fill(reader);
+        withLanes(render.floats,
+            [&]<class V>() { static_cast<const Pass&>(*this).template work<V>(render.grid, in, out, scratch); });
+    }
 };
 
 /// `keepsOpaque`: where all that is read is opaque, so is the result.

@@ -74,26 +74,29 @@ public:
             most = std::max(most, image->reach(grid));
         return most;
     }
-    bool codeTables(const Render& render, CodeTables& tables) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        if (!m_kernel.perComponent || !m_kernel.keepsAlpha || m_images.size() != 1
-            || !m_images[0]->codeTables(render, tables))
-            return false;
-        const Row in = tables.row();
-        m_kernel.batches(*m_values, render.grid, true)->run(&in, tables.row(), render.grid, 0, 0, 256);
-        return true;
-    }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
-    {
+        if (accepts == Form::Table && m_kernel.perComponent && m_kernel.keepsAlpha && m_images.size() == 1)
+            return changedTable(m_images[0]->open(render, area, accepts, scratch), render);
+        if (accepts != Form::Rows)
+            return {};
         std::vector<std::unique_ptr<RowReader>> sources;
         for (const NodePtr& image : m_images)
-            sources.push_back(image->open(render, area, scratch));
-        auto kernel = (render.floats ? m_kernel.floats : m_kernel.batches)(*m_values, render.grid, m_opaqueImages);
-        return std::make_unique<PointwiseReader>(
-            std::move(kernel), std::move(sources), extent(), render, area, scratch);
+            sources.push_back(image->rows(render, area, scratch));
+        auto kernel = m_kernel.make(*m_values, render, m_opaqueImages);
+        return {.rows = std::make_unique<PointwiseReader>(
+                    std::move(kernel), std::move(sources), extent(), render, area, scratch)};
     }
 
 private:
+    Opened changedTable(Opened source, const Render& render) const
+    {
+        if (source.table) {
+            const Row in = source.table->row();
+            m_kernel.make(*m_values, render, true)->run(&in, source.table->row(), render.grid, 0, 0, 256);
+        }
+        return source;
+    }
     PointwiseKernel m_kernel;
     std::shared_ptr<const Values> m_values;
     std::vector<NodePtr> m_images;

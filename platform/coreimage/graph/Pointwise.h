@@ -14,10 +14,10 @@ public:
     virtual void run(const Row* in, const MutableRow& out, const Grid& grid, int x, int y, int count) const = 0;
 };
 
-/// What a kernel is for the graph: the two builds of it, and what it promises.
+/// What a kernel is for the graph: how it is made, and what it promises.
 struct PointwiseKernel {
-    using Make = std::unique_ptr<RowKernel> (*)(const Values&, const Grid&, bool opaque);
-    Make batches, floats;
+    /// `opaque`: wherever it runs, all images have alpha 1.
+    std::unique_ptr<RowKernel> (*make)(const Values&, const Render&, bool opaque);
     bool keepsAlpha = false; // alpha leaves as it came in with the first image
     bool opaque = false; // alpha is 1 whatever comes in
     bool perComponent = false; // each component depends on itself alone, wherever the pixel lies

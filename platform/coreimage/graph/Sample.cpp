@@ -19,7 +19,7 @@ void SampledArea::use(const InterleavedView& view, const Grid& grid)
 }
 
 SampledArea::SampledArea(const Node& node, const Render& render, const GridRect& wanted, Scratch& scratch)
-    : m_copy(node.copyFor(render.grid))
+    : m_copy(node.copy(render))
 {
     if (m_copy) {
         use(m_copy->viewOn(render.grid), render.grid);
@@ -37,7 +37,7 @@ SampledArea::SampledArea(const Node& node, const Render& render, const GridRect&
 
     float* pixels = scratch.floats(InterleavedView::floatsFor(area));
     const ScratchScope scope(scratch);
-    const auto reader = node.open(render, area, scratch);
+    const auto reader = node.rows(render, area, scratch);
     for (int y = area.y0; y < area.y1; ++y)
         writeViewRow(pixels, area, y, reader->row(y));
     use({area, InterleavedView::strideFor(area), pixels}, render.grid);
@@ -50,10 +50,10 @@ constexpr int kSmallestBlock = 16; // cells a side; below it a far-flung region 
 
 class SampleNode : public Node {
 public:
-    SampleNode(const SampleKernels& kernels, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
+    SampleNode(MakeSampleKernel make, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
         const CIRect& extent, bool opaque, double magnification)
         : Node(extent, opaque)
-        , m_kernels(kernels)
+        , m_make(make)
         , m_values(std::move(values))
         , m_images(std::move(images))
         , m_magnification(stepped(magnification))
@@ -73,19 +73,19 @@ public:
         }
         return int(most) + 1;
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
+        if (accepts != Form::Rows)
+            return {};
         const Planes out = Planes::allocate(area, scratch);
         const GridRect needed = area.intersected(render.grid.cellsIn(extent()));
-        if (!needed.isEmpty()) {
-            const auto kernel = (render.floats ? m_kernels.floats : m_kernels.batches)(*m_values, render.grid);
-            fill(*kernel, render, out, needed, scratch, kUnsplit);
-        }
-        return std::make_unique<PlanesReader>(out, extent(), render, area);
+        if (!needed.isEmpty())
+            fill(*m_make(*m_values, render), render, out, needed, scratch, kUnsplit);
+        return {.rows = std::make_unique<PlanesReader>(out, extent(), render, area)};
     }
 
 private:
-    /// In steps, so that a slider's move does not need a newly reduced image each time.
+    /// Rounds to steps, so that a slider's move does not need a newly reduced image each time.
     double stepped(double magnification) const
     {
         const CIRect extent = m_images.empty() ? CIRect() : m_images.back()->extent();
@@ -119,7 +119,7 @@ private:
             regions.push_back(kernel.region(i, render.grid, on.grid, block, areas.data(), scratch));
             if (i < kernel.guideCount())
                 areas.emplace_back(*m_images[i], on, regions[i], scratch);
-            else if (!m_images[i]->copyFor(on.grid)) { // reading a copy anywhere costs nothing
+            else if (!m_images[i]->copy(on)) { // reading a copy anywhere costs nothing
                 const GridRect inside = regions[i].intersected(on.grid.cellsIn(m_images[i]->extent()));
                 read += double(inside.width()) * inside.height();
             }
@@ -144,7 +144,7 @@ private:
         kernel.run(areas.data(), render.grid, out, block);
     }
 
-    SampleKernels m_kernels;
+    MakeSampleKernel m_make;
     std::shared_ptr<const Values> m_values;
     std::vector<NodePtr> m_images;
     double m_magnification; // of the last image
@@ -152,10 +152,10 @@ private:
 
 } // namespace
 
-NodePtr sampleNode(const SampleKernels& kernels, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
+NodePtr sampleNode(MakeSampleKernel make, std::shared_ptr<const Values> values, std::vector<NodePtr> images,
     const CIRect& extent, bool opaque, double magnification)
 {
-    return std::make_shared<SampleNode>(kernels, std::move(values), std::move(images), extent, opaque, magnification);
+    return std::make_shared<SampleNode>(make, std::move(values), std::move(images), extent, opaque, magnification);
 }
 
 } // namespace ci

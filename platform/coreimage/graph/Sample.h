@@ -20,15 +20,12 @@ public:
     virtual void run(const SampledArea* images, const Grid&, const Planes& out, const GridRect& block) = 0;
 };
 
-using MakeSampleKernel = std::unique_ptr<SampleKernel> (*)(const Values&, const Grid&);
-struct SampleKernels {
-    MakeSampleKernel batches, floats;
-};
+using MakeSampleKernel = std::unique_ptr<SampleKernel> (*)(const Values&, const Render&);
 
 /// `magnification`: how many cells of the result one pixel of the last image fills along each axis, roughly. That image
 /// is read on a coarser or finer grid accordingly: what shrinks does not alias, what grows stays sharp on reduced
 /// grids.
-NodePtr sampleNode(const SampleKernels&, std::shared_ptr<const Values>, std::vector<NodePtr> images,
-    const CIRect& extent, bool opaque = false, double magnification = 1);
+NodePtr sampleNode(MakeSampleKernel, std::shared_ptr<const Values>, std::vector<NodePtr> images, const CIRect& extent,
+    bool opaque = false, double magnification = 1);
 
 } // namespace ci

@@ -94,7 +94,7 @@ Pixel<V> loadCoded(const std::byte* p)
         return load8<V, F>(p);
 }
 
-// Half the range of a half: what hostile files call infinite stays a number, also when squared.
+// Keeps to the range of half precision: what hostile files call infinite stays a number, also when squared.
 template <class V>
 V finite(const V& v)
 {
@@ -254,31 +254,33 @@ auto withSpace(CIColorSpace space, F f)
 {
     return space == CIColorSpace::SRGB ? f(Constant<CIColorSpace::SRGB>()) : f(Constant<CIColorSpace::LinearSRGB>());
 }
+/// Calls `f<format, alpha, space>()`.
+template <class F>
+auto withCoding(CIFormat format, CIAlpha alpha, CIColorSpace space, F f)
+{
+    return withFormat(format, [&](auto a) {
+        return withAlpha(alpha, [&](auto b) {
+            return withSpace(space, [&](auto c) {
+                return f.template operator()<decltype(a)::value, decltype(b)::value, decltype(c)::value>();
+            });
+        });
+    });
+}
 
 } // namespace
 
 RowDecoder::RowDecoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool floats)
 {
-    m_decode = withFormat(format, [&](auto f) {
-        return withAlpha(alpha, [&](auto a) {
-            return withSpace(space,
-                [&](auto s) { return floats ? &decodeRow<float, f(), a(), s()> : &decodeRow<Batch, f(), a(), s()>; });
-        });
+    m_decode = withCoding(format, alpha, space, [&]<CIFormat F, CIAlpha A, CIColorSpace S>() {
+        return withLanes(floats, []<class V>() { return &decodeRow<V, F, A, S>; });
     });
 }
 
 RowEncoder::RowEncoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool opaque, bool floats)
 {
-    m_encode = withFormat(format, [&](auto f) {
-        return withAlpha(alpha, [&](auto a) {
-            return withSpace(space, [&](auto s) {
-                constexpr auto F = f();
-                constexpr auto A = a();
-                constexpr auto S = s();
-                if (opaque || A == CIAlpha::Opaque)
-                    return floats ? &encodeRow<float, F, A, S, true> : &encodeRow<Batch, F, A, S, true>;
-                return floats ? &encodeRow<float, F, A, S, false> : &encodeRow<Batch, F, A, S, false>;
-            });
+    m_encode = withCoding(format, alpha, space, [&]<CIFormat F, CIAlpha A, CIColorSpace S>() {
+        return withLanes(floats, [opaque]<class V>() {
+            return opaque || A == CIAlpha::Opaque ? &encodeRow<V, F, A, S, true> : &encodeRow<V, F, A, S, false>;
         });
     });
 }

@@ -21,6 +21,13 @@ inline constexpr int kLanes<Batch> = int(Batch::size);
 template <>
 inline constexpr int kLanes<CodeBatch> = int(CodeBatch::size);
 
+/// Calls `f<V>()` with one of the two: the only place that chooses.
+template <class F>
+auto withLanes(bool floats, const F& f)
+{
+    return floats ? f.template operator()<float>() : f.template operator()<Batch>();
+}
+
 /// Rows are padded to this many floats, enough for every instruction set.
 inline constexpr int kRowPadding = 16;
 inline constexpr float kPi = 3.14159265358979f;

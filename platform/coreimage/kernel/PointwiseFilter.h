@@ -145,10 +145,12 @@ private:
     bool m_opaque;
 };
 
-template <template <class> class K, class V>
-std::unique_ptr<RowKernel> makeRowKernel(const Values& values, const Grid& grid, bool opaque)
+template <template <class> class K>
+std::unique_ptr<RowKernel> makeRowKernel(const Values& values, const Render& render, bool opaque)
 {
-    return std::make_unique<RowKernelOf<K, V>>(values, grid, opaque);
+    return withLanes(render.floats, [&]<class V>() -> std::unique_ptr<RowKernel> {
+        return std::make_unique<RowKernelOf<K, V>>(values, render.grid, opaque);
+    });
 }
 
 } // namespace detail
@@ -157,8 +159,7 @@ template <template <class> class K>
 PointwiseKernel pointwiseKernel()
 {
     using F = K<float>;
-    return {&detail::makeRowKernel<K, Batch>, &detail::makeRowKernel<K, float>, detail::keepsAlpha<F>,
-        detail::isOpaque<F>, detail::isPerComponent<F>};
+    return {&detail::makeRowKernel<K>, detail::keepsAlpha<F>, detail::isOpaque<F>, detail::isPerComponent<F>};
 }
 
 /// The image a pointwise kernel makes of others; a null one counts as transparent.

@@ -191,10 +191,12 @@ private:
     K<V> m_kernel;
 };
 
-template <class Kernel>
-std::unique_ptr<SampleKernel> makeSampleKernel(const Values& values, const Grid& grid)
+template <template <template <class> class, class> class Runner, template <class> class K>
+std::unique_ptr<SampleKernel> makeSampleKernel(const Values& values, const Render& render)
 {
-    return std::make_unique<Kernel>(values, grid);
+    return withLanes(render.floats, [&]<class V>() -> std::unique_ptr<SampleKernel> {
+        return std::make_unique<Runner<K, V>>(values, render.grid);
+    });
 }
 
 template <template <class> class K>
@@ -220,29 +222,25 @@ inline std::vector<NodePtr> nodesOf(const std::vector<CIImage>& images)
 template <template <class> class K>
 CIImage warp(const Values& values, const CIImage& source, const CIRect& extent, double magnification = 1)
 {
-    const SampleKernels kernels{&detail::makeSampleKernel<detail::WarpKernelOf<K, Batch>>,
-        &detail::makeSampleKernel<detail::WarpKernelOf<K, float>>};
     const bool opaque = source.extent().isInfinite() && source.node()->isOpaque();
-    return CIImage(
-        sampleNode(kernels, std::make_shared<Values>(values), {source.node()}, extent, opaque, magnification));
+    return CIImage(sampleNode(&detail::makeSampleKernel<detail::WarpKernelOf, K>, std::make_shared<Values>(values),
+        {source.node()}, extent, opaque, magnification));
 }
 
 /// The image that a guided warp makes of `source`.
 template <template <class> class K>
 CIImage guidedWarp(const Values& values, const CIImage& guide, const CIImage& source, const CIRect& extent)
 {
-    const SampleKernels kernels{&detail::makeSampleKernel<detail::WarpKernelOf<K, Batch>>,
-        &detail::makeSampleKernel<detail::WarpKernelOf<K, float>>};
-    return CIImage(sampleNode(kernels, std::make_shared<Values>(values), detail::nodesOf({guide, source}), extent));
+    return CIImage(sampleNode(&detail::makeSampleKernel<detail::WarpKernelOf, K>, std::make_shared<Values>(values),
+        detail::nodesOf({guide, source}), extent));
 }
 
 /// The image that a general kernel makes of others.
 template <template <class> class K>
 CIImage general(const Values& values, const std::vector<CIImage>& images, const CIRect& extent)
 {
-    const SampleKernels kernels{&detail::makeSampleKernel<detail::GeneralKernelOf<K, Batch>>,
-        &detail::makeSampleKernel<detail::GeneralKernelOf<K, float>>};
-    return CIImage(sampleNode(kernels, std::make_shared<Values>(values), detail::nodesOf(images), extent));
+    return CIImage(sampleNode(&detail::makeSampleKernel<detail::GeneralKernelOf, K>, std::make_shared<Values>(values),
+        detail::nodesOf(images), extent));
 }
 
 template <template <class> class K>

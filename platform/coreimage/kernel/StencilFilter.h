@@ -76,37 +76,30 @@ private:
 namespace detail {
 
 template <template <class> class K>
-class StencilPass : public PassKernel {
+class StencilPass : public BlockPass<StencilPass<K>> {
 public:
     explicit StencilPass(const Values& values)
         : m_values(values)
     {
     }
-    Margin margin(const Grid& grid) const override
+    PassKernel::Margin margin(const Grid& grid) const override
     {
         const int cells = NeighborOffsets::margin(K<float>::reach, grid);
         return {cells, cells};
     }
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
+    template <class V>
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch&) const
     {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        const NeighborOffsets offsets(render.grid);
-        if (render.floats)
-            offsets.isExact() ? rows<float, true>(render, in, out, offsets)
-                              : rows<float, false>(render, in, out, offsets);
-        else
-            offsets.isExact() ? rows<Batch, true>(render, in, out, offsets)
-                              : rows<Batch, false>(render, in, out, offsets);
+        const NeighborOffsets offsets(grid);
+        offsets.isExact() ? rows<V, true>(grid, in, out, offsets) : rows<V, false>(grid, in, out, offsets);
     }
 
 private:
     template <class V, bool exact>
-    void rows(const Render& render, const Planes& in, const Planes& out, const NeighborOffsets& offsets) const
+    void rows(const Grid& grid, const Planes& in, const Planes& out, const NeighborOffsets& offsets) const
     {
         static_assert(K<V>::reach <= NeighborOffsets::kFarthest);
-        const K<V> kernel(Inputs<V>(m_values, render.grid.step()));
+        const K<V> kernel(Inputs<V>(m_values, grid.step()));
         for (int y = out.area.y0; y < out.area.y1; ++y) {
             const MutableRow to = out.row(y);
             for (int i = 0; i < out.area.width(); i += kLanes<V>)

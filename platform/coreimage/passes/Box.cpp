@@ -23,7 +23,7 @@ struct Window {
     int reach() const { return whole + 1; }
 };
 
-class BoxPass : public PassKernel {
+class BoxPass : public BlockPass<BoxPass> {
 public:
     BoxPass(double width, double height)
         : m_width(width)
@@ -36,20 +36,8 @@ public:
         return {Window(m_width * grid.scale).reach(), Window(m_height * grid.scale).reach()};
     }
 
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
-    {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        if (render.floats)
-            blur<float>(render.grid, in, out, scratch);
-        else
-            blur<Batch>(render.grid, in, out, scratch);
-    }
-
-private:
     template <class V>
-    void blur(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
     {
         const Window across(m_width * grid.scale), along(m_height * grid.scale);
         const int width = in.area.width(), before = out.area.x0 - in.area.x0;
@@ -68,6 +56,7 @@ private:
         });
     }
 
+private:
     /// `sums` holds the window's rows but the last, and is left that way for the row above.
     template <class V>
     static void meansOfColumns(const Planes& in, int c, int y, const Window& window, float* sums, float* means)

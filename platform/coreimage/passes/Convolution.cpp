@@ -17,7 +17,7 @@ struct Tap {
     float weight;
 };
 
-class ConvolutionPass : public PassKernel {
+class ConvolutionPass : public BlockPass<ConvolutionPass> {
 public:
     explicit ConvolutionPass(const Weights& w)
         : m_values(w.values.begin(), w.values.end())
@@ -32,16 +32,28 @@ public:
     {
         return {int(std::ceil(m_columns / 2 * scaleOf(grid))), int(std::ceil(m_rows / 2 * scaleOf(grid)))};
     }
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
+    template <class V>
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch&) const
     {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        const std::vector<Tap> taps = tapsOn(render.grid);
-        if (render.floats)
-            sums<float>(in, out, taps);
-        else
-            sums<Batch>(in, out, taps);
+        constexpr int kBatches = 4, kStride = kBatches * kLanes<V>;
+        const std::vector<Tap> taps = tapsOn(grid);
+        for (int y = out.area.y0; y < out.area.y1; ++y)
+            for (int c = 0; c < 4; ++c) {
+                const float* const middle = in.at(c, out.area.x0, y);
+                float* const to = out.line(c, y);
+                if (c == 3 && m_keepsAlpha) {
+                    std::copy_n(middle, out.area.width(), to);
+                    continue;
+                }
+                const int width = out.area.width();
+                int x = 0;
+                for (; x + kStride <= width; x += kStride)
+                    sumsOf<V, kBatches>(middle + x, std::ptrdiff_t(in.stride), taps, to + x);
+                for (; x < width; x += kLanes<V>)
+                    sumsOf<V, 1>(middle + x, std::ptrdiff_t(in.stride), taps, to + x);
+                if (m_bias != 0)
+                    addBias<V>(m_keepsAlpha ? in.at(3, out.area.x0, y) : nullptr, to, width);
+            }
     }
 
 private:
@@ -67,29 +79,6 @@ private:
         for (const auto& [at, weight] : cells)
             taps.push_back({at.second, at.first, float(weight)});
         return taps;
-    }
-
-    template <class V>
-    void sums(const Planes& in, const Planes& out, const std::vector<Tap>& taps) const
-    {
-        constexpr int kBatches = 4, kStride = kBatches * kLanes<V>;
-        for (int y = out.area.y0; y < out.area.y1; ++y)
-            for (int c = 0; c < 4; ++c) {
-                const float* const middle = in.at(c, out.area.x0, y);
-                float* const to = out.line(c, y);
-                if (c == 3 && m_keepsAlpha) {
-                    std::copy_n(middle, out.area.width(), to);
-                    continue;
-                }
-                const int width = out.area.width();
-                int x = 0;
-                for (; x + kStride <= width; x += kStride)
-                    sumsOf<V, kBatches>(middle + x, std::ptrdiff_t(in.stride), taps, to + x);
-                for (; x < width; x += kLanes<V>)
-                    sumsOf<V, 1>(middle + x, std::ptrdiff_t(in.stride), taps, to + x);
-                if (m_bias != 0)
-                    addBias<V>(m_keepsAlpha ? in.at(3, out.area.x0, y) : nullptr, to, width);
-            }
     }
 
     template <class V, int batches>

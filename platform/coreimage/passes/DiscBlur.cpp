@@ -37,7 +37,7 @@ void addDisc(std::vector<Chord>& chords, double radius, double weight)
     }
 }
 
-class DiscPass : public PassKernel {
+class DiscPass : public BlockPass<DiscPass> {
 public:
     explicit DiscPass(const Disc& disc)
         : m_disc(disc)
@@ -52,15 +52,23 @@ public:
         const int cell = 1 << halvings(grid), reach = (int(std::ceil(radiusOn(grid) / cell)) + 4) * cell;
         return {reach, reach};
     }
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
+    template <class V>
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
     {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        if (render.floats)
-            blur<float>(render.grid, in, out, scratch);
-        else
-            blur<Batch>(render.grid, in, out, scratch);
+        const int times = halvings(grid), cell = 1 << times;
+        const std::vector<Chord> chords = chordsOn(grid, cell);
+        const GridRect& to = out.area;
+        const Planes coarse = times == 0
+            ? out
+            : Planes::allocate({floorDiv(to.x0, cell) - 1, floorDiv(to.y0, cell) - 1, floorDiv(to.x1 - 1, cell) + 2,
+                                   floorDiv(to.y1 - 1, cell) + 2},
+                scratch);
+        forEachPlane(in, out, [&](int c) {
+            const ScratchScope scope(scratch);
+            means<V>(in, coarse, c, chords, scratch);
+            if (times > 0)
+                enlarge<V>(coarse, out, c, cell, scratch);
+        });
     }
 
 private:
@@ -84,25 +92,6 @@ private:
         for (Chord& chord : chords)
             chord.weight = float(double(chord.weight) / total);
         return chords;
-    }
-
-    template <class V>
-    void blur(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
-    {
-        const int times = halvings(grid), cell = 1 << times;
-        const std::vector<Chord> chords = chordsOn(grid, cell);
-        const GridRect& to = out.area;
-        const Planes coarse = times == 0
-            ? out
-            : Planes::allocate({floorDiv(to.x0, cell) - 1, floorDiv(to.y0, cell) - 1, floorDiv(to.x1 - 1, cell) + 2,
-                                   floorDiv(to.y1 - 1, cell) + 2},
-                scratch);
-        forEachPlane(in, out, [&](int c) {
-            const ScratchScope scope(scratch);
-            means<V>(in, coarse, c, chords, scratch);
-            if (times > 0)
-                enlarge<V>(coarse, out, c, cell, scratch);
-        });
     }
 
     /// What lies left of each column, for `rows` lines at once: no sum waits for another.

@@ -140,7 +140,7 @@ void doubled(const Planes& half, const Planes& out, int c, Scratch& scratch)
     }
 }
 
-class GaussianPass : public PassKernel {
+class GaussianPass : public BlockPass<GaussianPass> {
 public:
     explicit GaussianPass(double sigma)
         : m_sigma(sigma)
@@ -156,35 +156,25 @@ public:
         return {reach, reach};
     }
 
-    void run(
-        const Render& render, RowReader& in, const GridRect& area, const Planes& out, Scratch& scratch) const override
-    {
-        if (render.floats)
-            blur<float>(render, in, area, out, scratch);
-        else
-            blur<Batch>(render, in, area, out, scratch);
-    }
-
-private:
     template <class V>
-    void blur(const Render& render, RowReader& in, const GridRect& area, const Planes& out, Scratch& scratch) const
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
     {
-        const double sigma = m_sigma * render.grid.scale;
+        const double sigma = m_sigma * grid.scale;
         const int times = halvingsFor(sigma), cell = 1 << times;
         // What halving and doubling add to the variance: (n² - 1) / 12 and (n² - 1) / 4 cells².
         const double rest = sigma * sigma - (double(cell) * cell - 1) / 3;
         const std::vector<float> weights = gaussianWeights(std::sqrt(std::max(rest, 1e-4)) / cell);
-        const Planes coarse = Planes::allocate(area, scratch);
-        coarse.fill(in);
         std::vector<Planes> sizes{out};
         for (int i = 0; i < times; ++i)
             sizes.push_back(Planes::allocate(halfNeeded(sizes.back().area), scratch));
-        forEachPlane(coarse, out, [&](int c) {
-            convolve<V>(coarse, sizes.back(), c, weights, scratch);
+        forEachPlane(in, out, [&](int c) {
+            convolve<V>(in, sizes.back(), c, weights, scratch);
             for (auto i = std::size_t(times); i > 0; --i)
                 doubled<V>(sizes[i], sizes[i - 1], c, scratch);
         });
     }
+
+private:
     double m_sigma;
 };
 

@@ -6,132 +6,17 @@
 #include "platform/coreimage/graph/Basics.h"
 #include "platform/coreimage/graph/Interleaved.h"
 #include "platform/coreimage/graph/Planes.h"
-#include "platform/coreimage/kernel/Batch.h"
+#include "platform/coreimage/passes/Lines.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <functional>
 
 namespace ci {
 
 namespace {
 
-// Everything is measured in cells: `u` along the main axis, `v` across it, both from an origin.
-
-/// A part of a window and the height of its weights.
-struct Box {
-    double from, to, weight;
-};
-constexpr int kMostBoxes = 5;
-struct Window {
-    std::array<Box, kMostBoxes> boxes;
-    int count = 0;
-};
-
-struct Span {
-    double low, high;
-    Span united(const Span& s) const { return {std::min(low, s.low), std::max(high, s.high)}; }
-};
-
-/// A bundle of lines. Line j lies at v = start(u) + j spread(u).
-class Lines {
-public:
-    virtual ~Lines() = default;
-    virtual double start(double u) const = 0;
-    virtual double spread(double u) const = 0;
-    virtual Window windowAt(double u) const = 0;
-    /// The places across, at `u`, whose pixels belong to this bundle.
-    virtual Span covered(double u) const = 0;
-    int count = 0;
-};
-
-class ParallelLines : public Lines {
-public:
-    /// Enough lines for a block.
-    ParallelLines(double slope, double reach, Span u, Span v)
-        : m_slope(slope)
-        , m_reach(reach)
-    {
-        const double a = slope * u.low, b = slope * u.high;
-        // At u = 0 they run through the centers of cells: level lines lose nothing.
-        m_first = v.low + 0.5 + std::floor(-std::max(a, b)) - 1;
-        count = int(std::ceil(v.high - std::min(a, b)) - m_first) + 2;
-    }
-    double start(double u) const override { return m_first + m_slope * u; }
-    double spread(double) const override { return 1; }
-    Window windowAt(double u) const override
-    {
-        const double half = m_reach + 0.5; // cells reach half a step beyond their centers
-        return {{Box{u - half, u + half, 0.5 / half}}, 1};
-    }
-    Span covered(double) const override { return {-1e9, 1e9}; }
-
-private:
-    double m_slope, m_reach, m_first;
-};
-
-class Rays : public Lines {
-public:
-    Rays(double farthest, Span u, Span v, bool withDiagonal)
-        : m_farthest(farthest)
-        , m_withDiagonal(withDiagonal)
-    {
-        double low = 1, high = -1; // slopes
-        for (const double across : {v.low, v.high})
-            for (const double along : {u.low, u.high}) {
-                const double slope = std::clamp(across / (std::abs(along) < 1e-6 ? 1e-6 : along), -1.0, 1.0);
-                low = std::min(low, slope), high = std::max(high, slope);
-            }
-        if (u.low < 1 && u.high > -1)
-            low = -1, high = 1;
-        // A cell apart or less where they are farthest apart. In steps, so that most tiles share their rays.
-        constexpr double kSteps = 4; // to the double
-        m_step = std::exp2(-std::ceil(kSteps * std::log2(std::max({1.0, std::abs(u.low), std::abs(u.high)}))) / kSteps);
-        m_first = (std::floor(low / m_step) - 1) * m_step;
-        count = int(std::ceil((high - m_first) / m_step)) + 2;
-    }
-    double start(double u) const override { return m_first * u; }
-    double spread(double u) const override { return m_step * u; }
-    Window windowAt(double u) const override
-    {
-        // The bell as a stack of boxes: what each adds to the ones around it.
-        static constexpr std::array<double, kMostBoxes + 1> kSides{1, 0.86, 0.7, 0.52, 0.3, 0};
-        static const std::array<double, kMostBoxes> heights = bellHeights(kSides);
-        const double middle = u * (1 + m_farthest) / 2;
-        const double half = std::max(std::abs(u * (1 - m_farthest)) / 2, 0.25);
-        Window window;
-        double total = 0;
-        for (const double side : kSides)
-            if (window.count < kMostBoxes) {
-                const auto i = std::size_t(window.count++);
-                window.boxes[i] = {middle - side * half, middle + side * half, heights[i]};
-                total += heights[i] * 2 * side * half;
-            }
-        for (Box& box : window.boxes)
-            box.weight /= total;
-        return window;
-    }
-    Span covered(double u) const override
-    {
-        const double side = m_withDiagonal ? std::abs(u) + 1e-6 : std::abs(u) - 1e-6;
-        return {-side, side};
-    }
-
-private:
-    static std::array<double, kMostBoxes> bellHeights(const std::array<double, kMostBoxes + 1>& sides)
-    {
-        std::array<double, kMostBoxes> heights{};
-        double below = 0;
-        for (std::size_t i = 0; i < kMostBoxes; ++i) {
-            const double t = (sides[i] + sides[i + 1]) / 2, level = std::exp(-0.55 * t * t);
-            heights[i] = level - below;
-            below = level;
-        }
-        return heights;
-    }
-    double m_farthest, m_step, m_first;
-    bool m_withDiagonal;
-};
+using namespace lines;
 
 /// Which way the main axis runs, and where the origin lies in cells.
 struct Frame {
@@ -224,7 +109,7 @@ private:
 
     InterleavedView viewOf(const GridRect& wanted)
     {
-        m_copy = m_source.copyFor(m_render.grid);
+        m_copy = m_source.copy(m_render);
         if (m_copy)
             return m_copy->viewOn(m_render.grid);
         const GridRect known = m_render.grid.cellsIn(m_source.extent()).grown(1, 1);
@@ -233,7 +118,7 @@ private:
             area = {known.x0, known.y0, known.x0 + 1, known.y0 + 1};
         float* const pixels = m_scratch.floats(InterleavedView::floatsFor(area));
         const ScratchScope scope(m_scratch);
-        const auto reader = m_source.open(m_render, area, m_scratch);
+        const auto reader = m_source.rows(m_render, area, m_scratch);
         for (int y = area.y0; y < area.y1; ++y)
             writeViewRow(pixels, area, y, reader->row(y));
         return {area, InterleavedView::strideFor(area), pixels};
@@ -341,109 +226,78 @@ private:
     std::shared_ptr<const GridCopy> m_copy;
 };
 
-constexpr int kLeastReach = 64; // cells: makes tiles of 256
+/// Calls `use` with each bundle of lines that a block is blurred along.
+using UseLines = std::function<void(const Frame&, const Lines&)>;
+using Bundles = std::function<void(const Grid&, const GridRect& block, const UseLines& use)>;
 
-/// What both blurs share: a block of interleaved pixels that `fill` writes.
 class LineBlurNode : public WrapperNode {
 public:
-    using WrapperNode::WrapperNode;
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    LineBlurNode(const NodePtr& source, const CIRect& extent, double reach, Bundles bundles)
+        : WrapperNode(source, extent, source->isOpaque() && source->extent().isInfinite())
+        , m_reach(reach)
+        , m_bundles(std::move(bundles))
     {
+    }
+    int reach(const Grid& grid) const override
+    {
+        constexpr int kLeast = 64; // cells: makes tiles of 256
+        // Blocks must be large against the corners that slanting lines waste.
+        return std::max(kLeast, int(std::ceil(m_reach * grid.scale)) + 1) + m_source->reach(grid);
+    }
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
+    {
+        if (accepts != Form::Rows)
+            return {};
         const Planes out = Planes::allocate(area, scratch);
         const GridRect block = area.intersected(render.grid.cellsIn(extent()));
         if (!block.isEmpty() && !render.isCancelled()) {
             const ScratchScope scope(scratch);
             const std::ptrdiff_t stride = 4 * block.width();
             float* const pixels = scratch.floats(std::size_t(stride) * std::size_t(block.height()));
-            fill(render, block, pixels, stride, scratch);
+            m_bundles(render.grid, block, [&](const Frame& frame, const Lines& lines) {
+                withLanes(render.floats, [&]<class V>() {
+                    LineBlurrer<V>(*m_source, render, frame, lines, scratch).blur(block, pixels, stride);
+                });
+            });
             for (int y = block.y0; y < block.y1; ++y)
                 deinterleave(pixels + (y - block.y0) * stride, block.width(), out.row(y, block.x0));
         }
-        return std::make_unique<PlanesReader>(out, extent(), render, area);
-    }
-
-protected:
-    virtual void fill(const Render&, const GridRect& block, float* pixels, std::ptrdiff_t stride, Scratch&) const = 0;
-
-    void blur(const Render& render, const Frame& frame, const Lines& lines, const GridRect& block, float* pixels,
-        std::ptrdiff_t stride, Scratch& scratch) const
-    {
-        if (render.floats)
-            LineBlurrer<float>(*m_source, render, frame, lines, scratch).blur(block, pixels, stride);
-        else
-            LineBlurrer<Batch>(*m_source, render, frame, lines, scratch).blur(block, pixels, stride);
-    }
-};
-
-class ParallelBlurNode : public LineBlurNode {
-public:
-    ParallelBlurNode(NodePtr source, const CIRect& extent, double angle, double reach)
-        : LineBlurNode(source, extent, source->isOpaque() && source->extent().isInfinite())
-        , m_dx(std::cos(angle))
-        , m_dy(std::sin(angle))
-        , m_reach(reach)
-    {
-    }
-    int reach(const Grid& grid) const override
-    {
-        // Blocks must be large against the corners that slanting lines waste.
-        return std::max(kLeastReach, int(std::ceil(m_reach * grid.scale)) + 1) + m_source->reach(grid);
-    }
-
-protected:
-    void fill(const Render& render, const GridRect& block, float* pixels, std::ptrdiff_t stride,
-        Scratch& scratch) const override
-    {
-        const bool upright = std::abs(m_dy) > std::abs(m_dx);
-        const double slope = upright ? m_dx / m_dy : m_dy / m_dx;
-        const double reach = m_reach * render.grid.scale * std::max(std::abs(m_dx), std::abs(m_dy));
-        // The lines pass through the picture's origin: tiles must agree on where they run.
-        const Frame frame{upright, upright ? -render.grid.phaseY : -render.grid.phaseX,
-            upright ? -render.grid.phaseX : -render.grid.phaseY};
-        const Span x{block.x0 + render.grid.phaseX, block.x1 + render.grid.phaseX};
-        const Span y{block.y0 + render.grid.phaseY, block.y1 + render.grid.phaseY};
-        const ParallelLines lines(slope, reach, upright ? y : x, upright ? x : y);
-        blur(render, frame, lines, block, pixels, stride, scratch);
+        return {.rows = std::make_unique<PlanesReader>(out, extent(), render, area)};
     }
 
 private:
-    double m_dx, m_dy, m_reach;
+    double m_reach; // px
+    Bundles m_bundles;
 };
 
-class RayBlurNode : public LineBlurNode {
-public:
-    RayBlurNode(NodePtr source, const CIRect& extent, CIPoint center, double farthest)
-        : LineBlurNode(source, extent, source->isOpaque() && source->extent().isInfinite())
-        , m_center(center)
-        , m_farthest(farthest)
-    {
-    }
-    int reach(const Grid& grid) const override { return kLeastReach + m_source->reach(grid); }
+Bundles parallels(double dx, double dy, double reach)
+{
+    return [=](const Grid& grid, const GridRect& block, const UseLines& use) {
+        const bool upright = std::abs(dy) > std::abs(dx);
+        const double slope = upright ? dx / dy : dy / dx;
+        const double cells = reach * grid.scale * std::max(std::abs(dx), std::abs(dy));
+        // The lines pass through the picture's origin: tiles must agree on where they run.
+        const Frame frame{upright, upright ? -grid.phaseY : -grid.phaseX, upright ? -grid.phaseX : -grid.phaseY};
+        const Span x{block.x0 + grid.phaseX, block.x1 + grid.phaseX};
+        const Span y{block.y0 + grid.phaseY, block.y1 + grid.phaseY};
+        use(frame, ParallelLines(slope, cells, upright ? y : x, upright ? x : y));
+    };
+}
 
-protected:
-    void fill(const Render& render, const GridRect& block, float* pixels, std::ptrdiff_t stride,
-        Scratch& scratch) const override
-    {
-        const Grid& grid = render.grid;
-        const CIPoint origin{m_center.x * grid.scale - grid.phaseX, m_center.y * grid.scale - grid.phaseY};
+Bundles rays(CIPoint center, double farthestOut)
+{
+    return [=](const Grid& grid, const GridRect& block, const UseLines& use) {
+        const CIPoint origin{center.x * grid.scale - grid.phaseX, center.y * grid.scale - grid.phaseY};
         const Span x{block.x0 - origin.x, block.x1 - origin.x}, y{block.y0 - origin.y, block.y1 - origin.y};
         // Rays that rise less than the diagonals are followed along x, the others along y.
         const auto nearest = [](const Span& s) { return s.low > 0 ? s.low : s.high < 0 ? -s.high : 0.0; };
         const auto farthest = [](const Span& s) { return std::max(std::abs(s.low), std::abs(s.high)); };
-        if (nearest(y) <= farthest(x)) {
-            const Rays rays(m_farthest, x, y, true);
-            blur(render, {false, origin.x, origin.y}, rays, block, pixels, stride, scratch);
-        }
-        if (nearest(x) <= farthest(y)) {
-            const Rays rays(m_farthest, y, x, false);
-            blur(render, {true, origin.y, origin.x}, rays, block, pixels, stride, scratch);
-        }
-    }
-
-private:
-    CIPoint m_center;
-    double m_farthest;
-};
+        if (nearest(y) <= farthest(x))
+            use({false, origin.x, origin.y}, Rays(farthestOut, x, y, true));
+        if (nearest(x) <= farthest(y))
+            use({true, origin.y, origin.x}, Rays(farthestOut, y, x, false));
+    };
+}
 
 } // namespace
 
@@ -453,9 +307,9 @@ CIImage blurAlong(const CIImage& image, double angle, double reach)
     reach = std::min(reach, kFarthest);
     if (image.isNull() || reach < 0.05)
         return image;
-    const CIRect extent = image.extent().grown(
-        std::ceil(reach * std::abs(std::cos(angle))), std::ceil(reach * std::abs(std::sin(angle))));
-    return CIImage(std::make_shared<ParallelBlurNode>(image.node(), extent, angle, reach));
+    const double dx = std::cos(angle), dy = std::sin(angle);
+    const CIRect extent = image.extent().grown(std::ceil(reach * std::abs(dx)), std::ceil(reach * std::abs(dy)));
+    return CIImage(std::make_shared<LineBlurNode>(image.node(), extent, reach, parallels(dx, dy, reach)));
 }
 
 CIImage blurToward(const CIImage& image, CIPoint center, double farthest)
@@ -470,7 +324,7 @@ CIImage blurToward(const CIImage& image, CIPoint center, double farthest)
                               e.height * grow})
                      .roundedOut();
     }
-    return CIImage(std::make_shared<RayBlurNode>(image.node(), extent, center, farthest));
+    return CIImage(std::make_shared<LineBlurNode>(image.node(), extent, 0, rays(center, farthest)));
 }
 
 } // namespace ci

@@ -63,19 +63,12 @@ int doublings(int reach) { return std::bit_width(unsigned(2 * reach + 1)) - 1; }
 
 /// What chooses among the values around each: one `Pass::sheet<V>(in, out, grid, scratch)` for light and for codes.
 template <class Pass>
-class RankPass : public PassKernel {
+class RankPass : public BlockPass<RankPass<Pass>> {
 public:
-    void run(const Render& render, RowReader& reader, const GridRect& area, const Planes& out,
-        Scratch& scratch) const override
+    template <class V>
+    void work(const Grid& grid, const Planes& in, const Planes& out, Scratch& scratch) const
     {
-        const Planes in = Planes::allocate(area, scratch);
-        in.fill(reader);
-        forEachPlane(in, out, [&](int c) {
-            if (render.floats)
-                pass().template sheet<float>(in.sheet(c), out.sheet(c), render.grid, scratch);
-            else
-                pass().template sheet<Batch>(in.sheet(c), out.sheet(c), render.grid, scratch);
-        });
+        forEachPlane(in, out, [&](int c) { pass().template sheet<V>(in.sheet(c), out.sheet(c), grid, scratch); });
     }
     bool onlyChooses() const override { return true; }
     void runOnCodes(CodeReader& reader, const GridRect& area, const CodeSheet& out, Scratch& scratch) const override

@@ -81,7 +81,7 @@ private:
                                       {double(last.x) + slack, double(last.y) + slack}))
                                   .grown(1, 1);
         const Planes pixels = Planes::allocate(area, scratch);
-        pixels.fill(*source.open(render.withGrid(coarse), area, scratch));
+        pixels.fill(*source.rows(render.withGrid(coarse), area, scratch));
         for (Patch* p = m_patches; p != &last + 1; ++p) {
             const double x = double(p->x) * scale - 0.5, y = double(p->y) * scale - 0.5;
             const int column = int(std::floor(x)), line = int(std::floor(y));
@@ -137,15 +137,13 @@ public:
         , m_mosaic(m)
     {
     }
-    void prepare(const Render& render) const override
-    {
-        m_source->prepare(isTooFine(render.grid) ? render : render.withGrid(coarseGrid(m_mosaic, render.grid)));
-    }
     int reach(const Grid& grid) const override { return 1 + int(std::min(500.0, 2 * m_mosaic.across * grid.scale)); }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
+        if (accepts != Form::Rows)
+            return {};
         if (isTooFine(render.grid))
-            return m_source->open(render, area, scratch);
+            return m_source->open(render, area, accepts, scratch);
         const Planes out = Planes::allocate(area, scratch);
         const GridRect block = area.intersected(render.grid.cellsIn(extent()));
         if (!block.isEmpty()) {
@@ -154,12 +152,16 @@ public:
             const CIRect places{(block.x0 + render.grid.phaseX) * step, (block.y0 + render.grid.phaseY) * step,
                 block.width() * step, block.height() * step};
             const Patches patches(m_mosaic, *m_source, render, places, scratch);
-            for (int y = block.y0; y < block.y1 && !render.isCancelled(); ++y)
-                render.floats ? fillRow<float>(patches, render.grid, out, block, y)
-                              : fillRow<Batch>(patches, render.grid, out, block, y);
+            withLanes(render.floats, [&]<class V>() {
+                for (int y = block.y0; y < block.y1 && !render.isCancelled(); ++y)
+                    fillRow<V>(patches, render.grid, out, block, y);
+            });
         }
-        return std::make_unique<PlanesReader>(out, extent(), render, area);
+        return {.rows = std::make_unique<PlanesReader>(out, extent(), render, area)};
     }
+
+protected:
+    Grid sourceGrid(const Grid& grid) const override { return isTooFine(grid) ? grid : coarseGrid(m_mosaic, grid); }
 
 private:
     /// Patches of about a cell look like the image they are made of.
@@ -174,7 +176,7 @@ private:
         for (int x = block.x0; x < block.x1;) {
             const double place = (x + 0.5 + grid.phaseX) * step;
             const int i = patches.columnOf(place, j);
-            // As many as have their centers in this cell of the lattice; what a batch writes beyond is written again.
+            // The run ends with this cell of the lattice; what a batch writes beyond it is written again.
             const double left = (patches.left(i + 1, j) * grid.scale) - 0.5 - grid.phaseX;
             const int end = std::clamp(int(std::ceil(left)), x + 1, block.x1);
             const Nearest<V> nearest(patches, i, j, grid, float(m_mosaic.dot));

@@ -60,7 +60,7 @@ public:
     }
     void prepare(const Render& render) const override
     {
-        const Render own = render.withGrid({scaleFor(render.grid), 0, 0});
+        const Render own = onSource(render);
         if (find(own))
             return;
         const GridRect cells = own.grid.cellsIn(m_area);
@@ -78,10 +78,11 @@ public:
             m_made.erase(m_made.begin());
         m_made.push_back({own.grid.scale, own.floats, std::move(made)});
     }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
-        return std::make_unique<ReducedReader>(
-            find(render.withGrid({scaleFor(render.grid), 0, 0})), render, area, scratch);
+        if (accepts != Form::Rows)
+            return {};
+        return {.rows = std::make_unique<ReducedReader>(find(onSource(render)), render, area, scratch)};
     }
     int reach(const Grid&) const override { return 0; }
 
@@ -92,11 +93,11 @@ private:
         bool floats;
         std::shared_ptr<const Reduced> image;
     };
-    double scaleFor(const Grid& grid) const
+    Grid sourceGrid(const Grid& grid) const override
     {
         const double pixels = m_area.width * m_area.height;
         const double least = std::sqrt(m_limits.leastCells / pixels), most = std::sqrt(m_limits.mostCells / pixels);
-        return std::min({std::max(grid.scale, least), most, 1.0});
+        return {std::min({std::max(grid.scale, least), most, 1.0})};
     }
     std::shared_ptr<const Reduced> find(const Render& own) const
     {

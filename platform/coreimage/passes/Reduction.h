@@ -50,7 +50,7 @@ struct ReductionArea {
             GridRect rows = cells;
             rows.y0 += int(index) * band;
             rows.y1 = std::min(rows.y0 + band, cells.y1);
-            const auto reader = node.open(render, rows, scratch);
+            const auto reader = node.rows(render, rows, scratch);
             for (int y = rows.y0; y < rows.y1; ++y)
                 each(parts[index], reader->row(y), y);
         });

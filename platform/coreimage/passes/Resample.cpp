@@ -141,7 +141,7 @@ public:
         m_sums = static_cast<MutableRow*>(scratch.bytes(std::size_t(m_open) * sizeof(MutableRow)));
         for (int i = 0; i < m_open; ++i)
             m_sums[i] = allocateRow(scratch, m_width);
-        m_source = source.open(render.withGrid(sourceGrid),
+        m_source = source.rows(render.withGrid(sourceGrid),
             {axes.columns.low(), axes.lines.low(), axes.columns.high(), axes.lines.high()}, scratch);
     }
     Row row(int y) override
@@ -150,7 +150,7 @@ public:
         if (line != m_next) // the sums of other rows are of no use here
             m_read = m_axes.lines.start(line);
         for (; m_read < m_axes.lines.end(line); ++m_read)
-            m_floats ? take<float>(line) : take<Batch>(line);
+            withLanes(m_floats, [&]<class V>() { take<V>(line); });
         m_next = line + 1;
         m_maximum ? combine<true>(m_sums[line % m_open]) : combine<false>(m_sums[line % m_open]);
         return m_out;
@@ -230,16 +230,17 @@ public:
         , m_window(window)
     {
     }
-    void prepare(const Render& render) const override { m_source->prepare(render.withGrid(sourceGrid(render.grid))); }
-    int reach(const Grid& grid) const override { return 48 + m_source->reach(sourceGrid(grid)); }
-    std::unique_ptr<RowReader> open(const Render& render, const GridRect& area, Scratch& scratch) const override
+    int reach(const Grid& grid) const override { return 48 + WrapperNode::reach(grid); }
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
     {
+        if (accepts != Form::Rows)
+            return {};
         const Grid& grid = render.grid;
-        const Grid from = sourceGrid(grid);
         if (isDirect(grid))
-            return m_source->open(render.withGrid(from), area, scratch);
+            return WrapperNode::open(render, area, accepts, scratch);
+        const Grid from = sourceGrid(grid);
         const auto shares = [&](int first, int count, double scale, double phase, double sourcePhase) {
-            // Windows are those of whole result pixels also on a finer grid.
+            // A finer grid than that of the result's pixels keeps their windows.
             const double spread = std::max(1.0, from.scale / (std::min(grid.scale, 1.0) * scale));
             return Shares(
                 scratch, m_window, first, count, spread, [=, cells = from.scale / (grid.scale * scale)](int i) {
@@ -248,7 +249,7 @@ public:
         };
         const Axes axes{shares(area.x0, area.width(), m_sx, grid.phaseX, from.phaseX),
             shares(area.y0, area.height(), m_sy, grid.phaseY, from.phaseY)};
-        return std::make_unique<ResampleReader>(*m_source, render, from, m_window, axes, area, scratch);
+        return {.rows = std::make_unique<ResampleReader>(*m_source, render, from, m_window, axes, area, scratch)};
     }
 
 private:
@@ -257,7 +258,7 @@ private:
     {
         return !m_window.isMaximum() && grid.scale < 1 && m_sx == m_sy && grid.scale * m_sx <= 1;
     }
-    Grid sourceGrid(const Grid& grid) const
+    Grid sourceGrid(const Grid& grid) const override
     {
         if (isDirect(grid))
             return {grid.scale * m_sx, grid.phaseX, grid.phaseY};
@@ -296,7 +297,7 @@ CIImage resampled(const CIImage& image, int width, int height)
         return image;
     if (extent.isEmpty() || width < 1 || height < 1)
         return {};
-    // Cropped to the last digit, since the scaled extent may miss a whole number by rounding.
+    // The last crop makes the sides whole numbers, which the scaled extent may miss by rounding.
     const CIImage moved = image.transformed(CIAffineTransform::translation(-extent.x, -extent.y));
     return lanczosScaled(moved.clampedToExtent(), width / extent.width, height / extent.height)
         .cropped({0, 0, double(width), double(height)});
