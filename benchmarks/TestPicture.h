@@ -45,7 +45,7 @@ inline std::shared_ptr<CIFilter> filter(const std::string& name, const CIImage& 
         return made;
     made->setDefaults();
     for (const std::string& key : made->inputKeys())
-        if (made->attributesForKey(key)->className == "CIImage")
+        if (made->attributesForKey(key)->isImage())
             made->setValueForKey(image, key);
     return made;
 }

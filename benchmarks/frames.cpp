@@ -19,7 +19,7 @@ void nudge(CIFilter& filter, int frame, bool maxima)
     for (const std::string& key : filter.inputKeys()) {
         const CIInputAttributes& input = *filter.attributesForKey(key);
         const CIValue standard = input.defaultValue;
-        if (input.className == "NSNumber" && input.sliderMin && input.sliderMax) {
+        if (input.isNumber() && input.sliderMin && input.sliderMax) {
             const double middle = (*input.sliderMin + *input.sliderMax) / 2;
             const double value = maxima ? *input.sliderMax : standard.isNumber() ? standard.toDouble() : middle;
             filter.setValueForKey(value - (*input.sliderMax - *input.sliderMin) * 0.01 * wave, key);
@@ -36,7 +36,7 @@ void raise(CIFilter& filter)
 {
     for (const std::string& key : filter.inputKeys()) {
         const CIInputAttributes& input = *filter.attributesForKey(key);
-        if (input.className == "NSNumber" && input.sliderMax)
+        if (input.isNumber() && input.sliderMax)
             filter.setValueForKey(*input.sliderMax, key);
     }
 }

@@ -41,7 +41,7 @@ CIRect rectangleIn(const CIRect& picture, std::mt19937& random)
 double numberFor(const CIInputAttributes& input, std::mt19937& random)
 {
     const SliderRange range = sliderRange(input);
-    if (input.type != kCIAttributeTypeInteger && input.type != kCIAttributeTypeCount)
+    if (input.kind != InputKind::Integer && input.kind != InputKind::Count)
         return between(range.low, range.high, random);
     const int low = int(std::ceil(range.low)), high = int(std::floor(range.high));
     return std::uniform_int_distribution(low, std::max(low, high))(random);
@@ -72,16 +72,14 @@ CIVector aroundDefault(const CIVector& standard, std::mt19937& random)
 std::optional<CIValue> randomVector(
     const CIInputAttributes& input, const CIValue& old, const CIRect& picture, std::mt19937& random)
 {
-    const bool isOnPicture = input.type == kCIAttributeTypePosition || input.type == kCIAttributeTypeRectangle
-        || input.type == kCIAttributeTypePosition3;
-    if (isOnPicture && picture.isEmpty())
+    if (input.isPlace() && picture.isEmpty())
         return {};
-    if (input.type == kCIAttributeTypeRectangle)
+    if (input.kind == InputKind::Rectangle)
         return CIVector(rectangleIn(picture, random));
     const CIPoint point = pointIn(picture, random);
-    if (input.type == kCIAttributeTypePosition)
+    if (input.kind == InputKind::Position)
         return CIVector(point);
-    if (input.type == kCIAttributeTypePosition3)
+    if (input.kind == InputKind::Position3)
         return CIVector{point.x, point.y, old.toVector().Z()};
     return aroundDefault(input.defaultValue.toVector(), random);
 }
@@ -100,11 +98,11 @@ std::vector<const CIInputAttributes*> usersInputs(const CIFilter& filter)
 
 bool canBeRandom(const CIInputAttributes& input)
 {
-    if (input.className == "NSNumber") {
+    if (input.isNumber()) {
         const SliderRange range = sliderRange(input);
-        return input.type == kCIAttributeTypeBoolean || range.low < range.high;
+        return input.kind == InputKind::Boolean || range.low < range.high;
     }
-    return input.className == "CIColor" || input.className == "CIVector" || input.className == "NSAffineTransform";
+    return input.isColor() || input.isVector() || input.kind == InputKind::Transform;
 }
 
 std::optional<CIValue> randomValue(
@@ -112,13 +110,13 @@ std::optional<CIValue> randomValue(
 {
     if (!canBeRandom(input))
         return {};
-    if (input.type == kCIAttributeTypeBoolean)
+    if (input.kind == InputKind::Boolean)
         return std::bernoulli_distribution()(random);
-    if (input.className == "NSNumber")
+    if (input.isNumber())
         return numberFor(input, random);
-    if (input.className == "CIVector")
+    if (input.isVector())
         return randomVector(input, old, picture, random);
-    if (input.className == "NSAffineTransform") {
+    if (input.kind == InputKind::Transform) {
         if (picture.isEmpty())
             return {};
         return transformIn(picture, random);

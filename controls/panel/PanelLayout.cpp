@@ -29,27 +29,24 @@ Line lineOf(RowKind kind)
 
 RowKind rowKindOf(const CIInputAttributes& input, bool hasBackground)
 {
-    const std::string& className = input.className;
-    if (className == "NSNumber")
-        return input.type == kCIAttributeTypeBoolean ? RowKind::CheckBox : RowKind::Slider;
-    if (className == "CIImage")
+    if (input.isNumber())
+        return input.kind == InputKind::Boolean ? RowKind::CheckBox : RowKind::Slider;
+    if (input.isImage())
         return input.key == (hasBackground ? "inputBackgroundImage" : "inputImage") ? RowKind::None
                                                                                     : RowKind::ImageWell;
-    if (className == "CIColor")
+    if (input.isColor())
         return RowKind::ColorWell;
-    if (className == "NSAffineTransform")
+    if (input.kind == InputKind::Transform)
         return RowKind::Transform;
-    if (className != "CIVector")
-        return RowKind::None;
-    if (input.type.empty())
+    if (input.kind == InputKind::Vector)
         return RowKind::Vector;
-    return input.type == kCIAttributeTypeOffset ? RowKind::Offset : RowKind::None;
+    return input.kind == InputKind::Offset ? RowKind::Offset : RowKind::None;
 }
 
 bool hasBackgroundImage(const CIFilter& filter)
 {
     const CIInputAttributes* input = filter.attributesForKey("inputBackgroundImage");
-    return input && input->className == "CIImage";
+    return input && input->isImage();
 }
 
 QRect RowStack::place(RowKind kind, int panelWidth)

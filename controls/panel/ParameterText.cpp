@@ -12,13 +12,13 @@ constexpr float kCaptionMargin = 5;
 
 } // namespace
 
-std::int32_t unitClassOf(const std::string& attributeType)
+std::int32_t unitClassOf(InputKind kind)
 {
-    if (attributeType == kCIAttributeTypeAngle)
+    if (kind == InputKind::Angle)
         return UnitClass::kAngle;
-    if (attributeType == kCIAttributeTypeTime)
+    if (kind == InputKind::Time)
         return UnitClass::kTime;
-    return attributeType == kCIAttributeTypeDistance ? UnitClass::kDistance : UnitClass::kScalar;
+    return kind == InputKind::Distance ? UnitClass::kDistance : UnitClass::kScalar;
 }
 
 QString wordsOfKey(const QString& key)

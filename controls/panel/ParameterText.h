@@ -7,8 +7,8 @@
 #include <QFont>
 #include <QString>
 
-/// The class of an input by its kCIAttributeType; plain for types without a unit.
-std::int32_t unitClassOf(const std::string& attributeType);
+/// Plain for kinds without a unit.
+std::int32_t unitClassOf(InputKind);
 
 /// The words of a key: a blank before every capital and every digit but the first character, one by one
 /// ("ShadingImage" becomes "Shading Image", "Point12" becomes "Point 1 2"). Nothing is lower-cased.

@@ -215,10 +215,10 @@ void ParameterView::addSliderForFilterKeyMaster(
 {
     begin(newFilter, newKey, newMaster);
     const CIInputAttributes& input = attributes();
-    dataType = unitClassOf(input.type);
+    dataType = unitClassOf(input.kind);
     addNumberRow(
         keyCaption(), input.sliderMin.value_or(input.min.value_or(0)), input.sliderMax.value_or(input.max.value_or(0)));
-    slider->setWhole(input.type == kCIAttributeTypeInteger || input.type == kCIAttributeTypeCount);
+    slider->setWhole(input.kind == InputKind::Integer || input.kind == InputKind::Count);
     if (input.defaultValue.isNumber())
         slider->setStandardValue(input.defaultValue.toDouble());
     connect(slider, &ValueSlider::valueChanged, this, &ParameterView::sliderChanged);

@@ -6,28 +6,21 @@
 
 using namespace ParmMode;
 
-bool hasControlPoint(const CIInputAttributes& input)
-{
-    return input.className == "NSAffineTransform"
-        || (input.className == "CIVector"
-            && (input.type == kCIAttributeTypePosition || input.type == kCIAttributeTypeRectangle
-                || input.type == kCIAttributeTypePosition3));
-}
+bool hasControlPoint(const CIInputAttributes& input) { return input.kind == InputKind::Transform || input.isPlace(); }
 
 namespace {
 
 void appendPoints(
     std::vector<ControlPoint>& points, const CIInputAttributes& input, const CIValue& value, const std::string& label)
 {
-    if (input.className == "NSAffineTransform") {
+    if (input.kind == InputKind::Transform) {
         const CIAffineTransform t = value.isTransform() ? value.toTransform() : CIAffineTransform();
         points.push_back({input.key, kOrigin, {t.tx, t.ty}, label + " origin"});
         return;
     }
     const CIVector v = value.toVector();
-    if (input.type != kCIAttributeTypeRectangle) {
-        points.push_back(
-            {input.key, input.type == kCIAttributeTypePosition ? kPosition : kPosition3, v.point(), label});
+    if (input.kind != InputKind::Rectangle) {
+        points.push_back({input.key, input.kind == InputKind::Position ? kPosition : kPosition3, v.point(), label});
         return;
     }
     const double left = v.X(), bottom = v.Y(), right = v.X() + v.Z(), top = v.Y() + v.W();

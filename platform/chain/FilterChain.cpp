@@ -8,10 +8,10 @@ namespace {
 
 constexpr double kLargestExcess = 1.3;
 
-bool hasInput(const CIFilter& filter, std::string_view key, std::string_view className)
+bool hasImage(const CIFilter& filter, std::string_view key)
 {
     const CIInputAttributes* input = filter.attributesForKey(key);
-    return input && (className.empty() || input->className == className);
+    return input && input->isImage();
 }
 
 CIImage layOver(const CIImage& background, const CIImage& layer)
@@ -36,13 +36,13 @@ CIImage croppedTo(const CIImage& image, const CIRect& rect)
 
 const char* pictureKey(const CIFilter& filter)
 {
-    return hasInput(filter, "inputBackgroundImage", "CIImage") ? "inputBackgroundImage" : "inputImage";
+    return hasImage(filter, "inputBackgroundImage") ? "inputBackgroundImage" : "inputImage";
 }
 
 void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture)
 {
     for (const std::string& key : filter.inputKeys())
-        if (hasInput(filter, key, "CIImage"))
+        if (hasImage(filter, key))
             filter.setValueForKey(picture, key);
 }
 
@@ -51,7 +51,7 @@ bool filterHasMissingImage(const CIFilter& filter)
     const std::string fedWithPicture = pictureKey(filter);
     const std::vector<std::string> keys = filter.inputKeys();
     return std::any_of(keys.begin(), keys.end(), [&](const std::string& key) {
-        return key != fedWithPicture && hasInput(filter, key, "CIImage") && filter.valueForKey(key).isNothing();
+        return key != fedWithPicture && hasImage(filter, key) && filter.valueForKey(key).isNothing();
     });
 }
 
@@ -59,14 +59,14 @@ CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSi
 {
     std::vector<CIImage> layers;
     if (picture) {
-        if (!hasInput(filter, "inputImage", ""))
+        if (!filter.attributesForKey("inputImage"))
             layers.push_back(picture);
-        else if (hasInput(filter, "inputBackgroundImage", ""))
+        else if (filter.attributesForKey("inputBackgroundImage"))
             filter.setValueForKey(picture, "inputBackgroundImage");
         else
             filter.setValueForKey(picture, "inputImage");
     }
-    if (hasInput(filter, "inputExtent", "CIVector"))
+    if (const CIInputAttributes* extent = filter.attributesForKey("inputExtent"); extent && extent->isVector())
         filter.setValueForKey(CIVector{0, 0, viewSize.x, viewSize.y}, "inputExtent");
 
     CIImage output = filter.outputImage();

@@ -27,9 +27,27 @@ std::vector<std::string> categoriesOf(const ci::Declaration& d)
     return all;
 }
 
+/// What stands under kCIAttributeClass and kCIAttributeType; the latter may be empty.
+const std::pair<std::string, std::string>& namesOf(InputKind kind)
+{
+    static const std::pair<std::string, std::string> names[]{// in the order of InputKind
+        {"NSNumber", {}}, {"NSNumber", kCIAttributeTypeScalar}, {"NSNumber", kCIAttributeTypeDistance},
+        {"NSNumber", kCIAttributeTypeAngle}, {"NSNumber", kCIAttributeTypeTime}, {"NSNumber", kCIAttributeTypeInteger},
+        {"NSNumber", kCIAttributeTypeCount}, {"NSNumber", kCIAttributeTypeBoolean}, {"CIVector", {}},
+        {"CIVector", kCIAttributeTypePosition}, {"CIVector", kCIAttributeTypePosition3},
+        {"CIVector", kCIAttributeTypeOffset}, {"CIVector", kCIAttributeTypeRectangle},
+        {"CIColor", kCIAttributeTypeColor}, {"CIColor", kCIAttributeTypeOpaqueColor},
+        {"CIImage", kCIAttributeTypeImage}, {"CIImage", kCIAttributeTypeGradient},
+        {"NSAffineTransform", kCIAttributeTypeTransform}, {"NSString", {}}, {"NSAttributedString", {}}, {"NSData", {}},
+        {"NSArray", {}}, {"NSObject", {}}};
+    static_assert(std::size(names) == std::size_t(InputKind::Object) + 1);
+    return names[std::size_t(kind)];
+}
+
 CIDictionary dictionaryOf(const CIInputAttributes& input)
 {
-    CIDictionary entries{{kCIAttributeClass, input.className}, {kCIAttributeDisplayName, input.displayName}};
+    const auto& [className, type] = namesOf(input.kind);
+    CIDictionary entries{{kCIAttributeClass, className}, {kCIAttributeDisplayName, input.displayName}};
     const auto add = [&](const std::string& key, const CIValue& value) {
         if (!value.isNothing())
             entries[key] = value;
@@ -38,8 +56,8 @@ CIDictionary dictionaryOf(const CIInputAttributes& input)
         if (value)
             entries[key] = *value;
     };
-    if (!input.type.empty())
-        entries[kCIAttributeType] = input.type;
+    if (!type.empty())
+        entries[kCIAttributeType] = type;
     add(kCIAttributeDefault, input.defaultValue);
     add(kCIAttributeIdentity, input.identity);
     addNumber(kCIAttributeMin, input.min);
@@ -143,7 +161,7 @@ CIImage CIFilter::outputImage() const
 {
     const auto& optional = m_declaration->optional;
     for (const CIInputAttributes& input : m_declaration->inputs)
-        if (input.className == "CIImage" && !m_values.contains(input.key)
+        if (input.isImage() && !m_values.contains(input.key)
             && std::ranges::find(optional, input.key) == optional.end())
             return {};
     return m_declaration->output(ci::Values(*m_declaration, m_values));
@@ -159,13 +177,13 @@ CIValue inRange(const CIInputAttributes& input, const CIValue& given)
     const auto finite = [](double v, double otherwise) {
         return std::isfinite(v) ? std::clamp(v, -kLargest, kLargest) : otherwise;
     };
-    if (input.className == "NSNumber" && given.isNumber()) {
+    if (input.isNumber() && given.isNumber()) {
         const double v = finite(given.toDouble(), input.defaultValue.toDouble());
         return std::min(std::max(v, input.min.value_or(-kLargest)), input.max.value_or(kLargest));
     }
     if (given.isVector()) {
         std::vector<double> values = given.toVector().values();
-        if (input.type != kCIAttributeTypeRectangle) // these may be infinite
+        if (input.kind != InputKind::Rectangle) // these may be infinite
             for (double& v : values)
                 v = finite(v, 0);
         return CIVector(std::move(values));
@@ -220,7 +238,7 @@ std::vector<CIImage> Values::images() const
 {
     std::vector<CIImage> all;
     for (std::size_t i = 0; i < m_values.size(); ++i)
-        if (m_declaration->inputs[i].className == "CIImage")
+        if (m_declaration->inputs[i].isImage())
             all.push_back(m_values[i].toImage());
     return all;
 }

@@ -66,14 +66,50 @@ inline const std::string kCICategoryStillImage = "CICategoryStillImage";
 inline const std::string kCICategoryVideo = "CICategoryVideo";
 inline const std::string kCICategoryXMPSerializable = "CICategoryXMPSerializable";
 
+/// What an input holds: kCIAttributeClass and kCIAttributeType in one.
+enum class InputKind {
+    Number,
+    Scalar,
+    Distance,
+    Angle,
+    Time,
+    Integer,
+    Count,
+    Boolean,
+    Vector,
+    Position,
+    Position3,
+    Offset,
+    Rectangle,
+    Color,
+    OpaqueColor,
+    Image,
+    Gradient,
+    Transform,
+    String,
+    AttributedString,
+    Data,
+    Array,
+    Object
+};
+
 /// One input of a filter, in C++ types; the same facts as its dictionary in `CIFilter::attributes`.
 struct CIInputAttributes {
     std::string key; // "inputRadius"
     std::string displayName; // "Radius"
-    std::string className; // value of kCIAttributeClass; affine transforms have "NSAffineTransform"
-    std::string type; // value of kCIAttributeType, or empty
-    CIValue defaultValue, identity;
-    std::optional<double> min, max, sliderMin, sliderMax;
+    InputKind kind = InputKind::Object;
+    CIValue defaultValue = {}, identity = {};
+    std::optional<double> min = {}, max = {}, sliderMin = {}, sliderMax = {};
+
+    bool isNumber() const { return kind <= InputKind::Boolean; }
+    bool isVector() const { return kind >= InputKind::Vector && kind <= InputKind::Rectangle; }
+    bool isColor() const { return kind == InputKind::Color || kind == InputKind::OpaqueColor; }
+    bool isImage() const { return kind == InputKind::Image || kind == InputKind::Gradient; }
+    /// True for what lies somewhere on the picture.
+    bool isPlace() const
+    {
+        return kind == InputKind::Position || kind == InputKind::Position3 || kind == InputKind::Rectangle;
+    }
 };
 
 /// A named set of inputs with attributes that makes a recipe as `outputImage`. Not thread-safe; the images it

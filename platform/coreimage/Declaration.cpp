@@ -57,47 +57,40 @@ const Declaration* findDeclaration(std::string_view name)
 
 CIInputAttributes image(std::string key, std::string displayName)
 {
-    return {std::move(key), std::move(displayName), "CIImage", kCIAttributeTypeImage, {}, {}, {}, {}, {}, {}};
+    return {std::move(key), std::move(displayName), InputKind::Image};
 }
 
-CIInputAttributes number(std::string key, std::string displayName, const std::string& type, const Range& r)
+CIInputAttributes number(std::string key, std::string displayName, InputKind kind, const Range& r)
 {
     const auto value = [](std::optional<double> v) { return v ? CIValue(*v) : CIValue(); };
-    return {std::move(key), std::move(displayName), "NSNumber", type, value(r.standard), value(r.identity), r.min,
-        r.max, r.sliderMin, r.sliderMax};
+    return {std::move(key), std::move(displayName), kind, value(r.standard), value(r.identity), r.min, r.max,
+        r.sliderMin, r.sliderMax};
 }
 
-CIInputAttributes vector(
-    std::string key, std::string displayName, const std::string& type, CIValue standard, CIValue identity)
+CIInputAttributes vector(std::string key, std::string displayName, CIValue standard, CIValue identity, InputKind kind)
 {
-    return {std::move(key), std::move(displayName), "CIVector", type, std::move(standard), std::move(identity), {}, {},
-        {}, {}};
+    return {std::move(key), std::move(displayName), kind, std::move(standard), std::move(identity)};
 }
 
-CIInputAttributes color(
-    std::string key, std::string displayName, std::optional<CIColor> standard, const std::string& type)
+CIInputAttributes color(std::string key, std::string displayName, std::optional<CIColor> standard, InputKind kind)
 {
-    return {std::move(key), std::move(displayName), "CIColor", type, standard ? CIValue(*standard) : CIValue(), {}, {},
-        {}, {}, {}};
+    return {std::move(key), std::move(displayName), kind, standard ? CIValue(*standard) : CIValue()};
 }
 
 CIInputAttributes transform(std::string key, std::string displayName)
 {
     const CIAffineTransform identity;
-    return {std::move(key), std::move(displayName), "NSAffineTransform", kCIAttributeTypeTransform, identity, identity,
-        {}, {}, {}, {}};
+    return {std::move(key), std::move(displayName), InputKind::Transform, identity, identity};
 }
 
-CIInputAttributes object(
-    std::string key, std::string displayName, std::string className, CIValue standard, std::string type)
+CIInputAttributes object(std::string key, std::string displayName, InputKind kind, CIValue standard)
 {
-    return {std::move(key), std::move(displayName), std::move(className), std::move(type), std::move(standard), {}, {},
-        {}, {}, {}};
+    return {std::move(key), std::move(displayName), kind, std::move(standard)};
 }
 
 CIInputAttributes boolean(std::string key, std::string displayName, bool standard, std::optional<double> identity)
 {
-    return number(std::move(key), std::move(displayName), kCIAttributeTypeBoolean,
+    return number(std::move(key), std::move(displayName), InputKind::Boolean,
         {.standard = standard ? 1 : 0, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1, .identity = identity});
 }
 

@@ -59,57 +59,53 @@ struct Range {
 };
 
 CIInputAttributes image(std::string key = "inputImage", std::string displayName = "Image");
-CIInputAttributes number(std::string key, std::string displayName, const std::string& type, const Range&);
+CIInputAttributes number(std::string key, std::string displayName, InputKind, const Range&);
 CIInputAttributes vector(
-    std::string key, std::string displayName, const std::string& type, CIValue standard, CIValue identity = {});
-CIInputAttributes color(std::string key, std::string displayName, std::optional<CIColor> standard,
-    const std::string& type = kCIAttributeTypeColor);
+    std::string key, std::string displayName, CIValue standard, CIValue identity = {}, InputKind = InputKind::Vector);
+CIInputAttributes color(
+    std::string key, std::string displayName, std::optional<CIColor> standard, InputKind = InputKind::Color);
 CIInputAttributes transform(std::string key = "inputTransform", std::string displayName = "Transform");
-/// Text, data, arrays, …: any class name with an optional type.
-CIInputAttributes object(
-    std::string key, std::string displayName, std::string className, CIValue standard = {}, std::string type = {});
+/// Text, data, arrays, …
+CIInputAttributes object(std::string key, std::string displayName, InputKind, CIValue standard = {});
 
 inline CIInputAttributes scalar(std::string k, std::string n, const Range& r)
 {
-    return number(k, n, kCIAttributeTypeScalar, r);
+    return number(k, n, InputKind::Scalar, r);
 }
 inline CIInputAttributes distance(std::string k, std::string n, const Range& r)
 {
-    return number(k, n, kCIAttributeTypeDistance, r);
+    return number(k, n, InputKind::Distance, r);
 }
 inline CIInputAttributes angle(std::string k, std::string n, const Range& r)
 {
-    return number(k, n, kCIAttributeTypeAngle, r);
+    return number(k, n, InputKind::Angle, r);
 }
-inline CIInputAttributes time(std::string k, std::string n, const Range& r)
-{
-    return number(k, n, kCIAttributeTypeTime, r);
-}
+inline CIInputAttributes time(std::string k, std::string n, const Range& r) { return number(k, n, InputKind::Time, r); }
 inline CIInputAttributes integer(std::string k, std::string n, const Range& r)
 {
-    return number(k, n, kCIAttributeTypeInteger, r);
+    return number(k, n, InputKind::Integer, r);
 }
 inline CIInputAttributes count(std::string k, std::string n, const Range& r)
 {
-    return number(k, n, kCIAttributeTypeCount, r);
+    return number(k, n, InputKind::Count, r);
 }
 /// A number 0 or 1.
 CIInputAttributes boolean(std::string key, std::string displayName, bool standard, std::optional<double> identity = {});
 inline CIInputAttributes position(std::string k, std::string n, CIVector v)
 {
-    return vector(k, n, kCIAttributeTypePosition, v);
+    return vector(k, n, v, {}, InputKind::Position);
 }
 inline CIInputAttributes position3(std::string k, std::string n, CIVector v)
 {
-    return vector(k, n, kCIAttributeTypePosition3, v);
+    return vector(k, n, v, {}, InputKind::Position3);
 }
 inline CIInputAttributes offset(std::string k, std::string n, CIVector v, CIValue identity = {})
 {
-    return vector(k, n, kCIAttributeTypeOffset, v, identity);
+    return vector(k, n, v, identity, InputKind::Offset);
 }
 inline CIInputAttributes rectangle(std::string k, std::string n, CIVector v)
 {
-    return vector(k, n, kCIAttributeTypeRectangle, v);
+    return vector(k, n, v, {}, InputKind::Rectangle);
 }
 inline CIInputAttributes center(CIVector v = {150, 150}) { return position("inputCenter", "Center", v); }
 

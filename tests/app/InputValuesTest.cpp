@@ -16,19 +16,19 @@ bool contains(const CIRect& r, CIPoint p)
 
 void expectSensible(const CIInputAttributes& input, const CIValue& value)
 {
-    if (input.className == "NSNumber" && input.type != kCIAttributeTypeBoolean) {
+    if (input.isNumber() && input.kind != InputKind::Boolean) {
         EXPECT_GE(value.toDouble(), input.sliderMin.value_or(input.min.value_or(0)));
         EXPECT_LE(value.toDouble(), input.sliderMax.value_or(input.max.value_or(0)));
-        if (input.type == kCIAttributeTypeInteger || input.type == kCIAttributeTypeCount)
+        if (input.kind == InputKind::Integer || input.kind == InputKind::Count)
             EXPECT_EQ(value.toDouble(), std::floor(value.toDouble()));
-    } else if (input.type == kCIAttributeTypePosition || input.type == kCIAttributeTypePosition3) {
+    } else if (input.kind == InputKind::Position || input.kind == InputKind::Position3) {
         EXPECT_TRUE(contains(kPicture, value.toVector().point()));
-        EXPECT_EQ(value.toVector().count(), input.type == kCIAttributeTypePosition ? 2U : 3U);
-    } else if (input.type == kCIAttributeTypeRectangle) {
+        EXPECT_EQ(value.toVector().count(), input.kind == InputKind::Position ? 2U : 3U);
+    } else if (input.kind == InputKind::Rectangle) {
         const CIRect r = value.toVector().rect();
         EXPECT_TRUE(contains(kPicture, {r.left(), r.bottom()}) && contains(kPicture, {r.right(), r.top()}));
         EXPECT_GE(r.width, kPicture.width / 4);
-    } else if (input.className == "CIVector") {
+    } else if (input.isVector()) {
         EXPECT_EQ(value.toVector().count(), input.defaultValue.toVector().count());
     }
 }
@@ -51,7 +51,7 @@ TEST(InputValues, AreWithinSlidersAndPictureForEveryFilter)
                 chosen += value.has_value();
             }
             const std::optional<CIValue> nowhere = randomValue(input, filter->valueForKey(key), {}, random);
-            EXPECT_FALSE(nowhere && input.type == kCIAttributeTypePosition) << "without a picture";
+            EXPECT_FALSE(nowhere && input.kind == InputKind::Position) << "without a picture";
         }
     }
     EXPECT_GT(chosen, 1000U);

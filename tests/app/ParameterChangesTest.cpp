@@ -67,7 +67,7 @@ TEST_F(ParameterChangesTest, OfAllInputsAreOneStepAndLeaveThePictureAlone)
     const std::shared_ptr<CIFilter> bump = added("CIBumpDistortion");
     const auto doubled = [&](const CIInputAttributes& input) -> std::optional<CIValue> {
         EXPECT_NE(input.key, "inputImage");
-        if (input.className != "NSNumber")
+        if (!input.isNumber())
             return {};
         return 2 * bump->valueForKey(input.key).toDouble() + 1;
     };

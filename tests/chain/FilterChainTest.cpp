@@ -112,7 +112,7 @@ TEST(FilterChain, GivesTheViewsSizeToFiltersThatAskForAnExtent)
     for (const std::string& name : CIFilter::filterNamesInCategory("")) {
         const auto filter = filterCalled(name.c_str());
         const CIInputAttributes* extent = filter->attributesForKey("inputExtent");
-        if (!extent || extent->className != "CIVector")
+        if (!extent || !extent->isVector())
             continue;
         filteredPicture(*filter, testPicture(), {30, 20});
         EXPECT_EQ(filter->valueForKey("inputExtent").toVector(), (CIVector{0, 0, 30, 20})) << name;

@@ -16,16 +16,16 @@ constexpr double kPi = std::numbers::pi;
 
 TEST(Readout, ShowsEachUnitInItsFormat)
 {
-    const auto shown = [](double value, const std::string& type) {
-        const std::int32_t unit = unitClassOf(type);
+    const auto shown = [](double value, InputKind kind) {
+        const std::int32_t unit = unitClassOf(kind);
         return shownText(value, unit, readoutFormatOf(unit)).toStdString();
     };
-    EXPECT_EQ(shown(kPi / 2, kCIAttributeTypeAngle), "90.0");
-    EXPECT_EQ(shown(-kPi / 180, kCIAttributeTypeAngle), "-1.0");
-    EXPECT_EQ(shown(0.5, kCIAttributeTypeTime), "50.000");
-    EXPECT_EQ(shown(12.34, kCIAttributeTypeDistance), "12.3");
-    EXPECT_EQ(shown(0.126, kCIAttributeTypeScalar), "0.13");
-    EXPECT_EQ(shown(3, kCIAttributeTypeCount), "3.00");
+    EXPECT_EQ(shown(kPi / 2, InputKind::Angle), "90.0");
+    EXPECT_EQ(shown(-kPi / 180, InputKind::Angle), "-1.0");
+    EXPECT_EQ(shown(0.5, InputKind::Time), "50.000");
+    EXPECT_EQ(shown(12.34, InputKind::Distance), "12.3");
+    EXPECT_EQ(shown(0.126, InputKind::Scalar), "0.13");
+    EXPECT_EQ(shown(3, InputKind::Count), "3.00");
     EXPECT_EQ(formattedNumber(7, {4, 1}), " 7.0") << "filled up to its width";
     EXPECT_EQ(formattedNumber(1e30, {4, 2}).size(), 31) << "no longer than its buffer";
     for (std::int32_t unit : {UnitClass::kScalar, UnitClass::kAngle, UnitClass::kTime, UnitClass::kDistance})
@@ -116,29 +116,26 @@ TEST(Transform, WithoutAPlaneHasNumbersAllTheSame)
     EXPECT_FLOAT_EQ(factorOfSliderPosition(1), 10);
 }
 
-TEST(Panel, GivesEachInputTheRowOfItsClass)
+TEST(Panel, GivesEachInputTheRowOfItsKind)
 {
-    const auto kind = [](const char* className, const std::string& type = {}, const char* key = "inputThing",
-                          bool background = false) {
+    const auto row = [](InputKind kind, const char* key = "inputThing", bool background = false) {
         CIInputAttributes input = inputOf(key, "");
-        input.className = className;
-        input.type = type;
+        input.kind = kind;
         return rowKindOf(input, background);
     };
-    EXPECT_EQ(kind("NSNumber"), RowKind::Slider);
-    EXPECT_EQ(kind("NSNumber", kCIAttributeTypeBoolean), RowKind::CheckBox);
-    EXPECT_EQ(kind("CIColor"), RowKind::ColorWell);
-    EXPECT_EQ(kind("NSAffineTransform"), RowKind::Transform);
-    EXPECT_EQ(kind("CIVector"), RowKind::Vector);
-    EXPECT_EQ(kind("CIVector", kCIAttributeTypeOffset), RowKind::Offset);
-    for (const std::string& onThePicture :
-        {kCIAttributeTypePosition, kCIAttributeTypePosition3, kCIAttributeTypeRectangle})
-        EXPECT_EQ(kind("CIVector", onThePicture), RowKind::None);
-    EXPECT_EQ(kind("NSString"), RowKind::None);
-    EXPECT_EQ(kind("CIImage"), RowKind::ImageWell);
-    EXPECT_EQ(kind("CIImage", {}, "inputImage"), RowKind::None);
-    EXPECT_EQ(kind("CIImage", {}, "inputImage", true), RowKind::ImageWell);
-    EXPECT_EQ(kind("CIImage", {}, "inputBackgroundImage", true), RowKind::None);
+    EXPECT_EQ(row(InputKind::Number), RowKind::Slider);
+    EXPECT_EQ(row(InputKind::Boolean), RowKind::CheckBox);
+    EXPECT_EQ(row(InputKind::OpaqueColor), RowKind::ColorWell);
+    EXPECT_EQ(row(InputKind::Transform), RowKind::Transform);
+    EXPECT_EQ(row(InputKind::Vector), RowKind::Vector);
+    EXPECT_EQ(row(InputKind::Offset), RowKind::Offset);
+    for (const InputKind onThePicture : {InputKind::Position, InputKind::Position3, InputKind::Rectangle})
+        EXPECT_EQ(row(onThePicture), RowKind::None);
+    EXPECT_EQ(row(InputKind::String), RowKind::None);
+    EXPECT_EQ(row(InputKind::Image), RowKind::ImageWell);
+    EXPECT_EQ(row(InputKind::Image, "inputImage"), RowKind::None);
+    EXPECT_EQ(row(InputKind::Image, "inputImage", true), RowKind::ImageWell);
+    EXPECT_EQ(row(InputKind::Image, "inputBackgroundImage", true), RowKind::None);
 }
 
 TEST(Panel, StacksRowsFromTheTopAndColorsInTwoColumns)

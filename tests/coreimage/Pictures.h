@@ -99,7 +99,7 @@ inline std::shared_ptr<CIFilter> filter(const std::string& name, const CIImage& 
     auto made = CIFilter::filterWithName(name);
     made->setDefaults();
     for (const std::string& key : made->inputKeys())
-        if (made->attributesForKey(key)->className == "CIImage")
+        if (made->attributesForKey(key)->isImage())
             made->setValueForKey(image, key);
     return made;
 }

@@ -14,12 +14,12 @@ namespace {
 std::vector<CIInputAttributes> kindsOfInputs()
 {
     CIPlugIn::loadAllPlugIns();
-    std::map<std::pair<std::string, std::size_t>, CIInputAttributes> kinds;
+    std::map<std::pair<InputKind, std::size_t>, CIInputAttributes> kinds;
     for (const std::string& name : CIFilter::filterNamesInCategory("")) {
         const std::shared_ptr<CIFilter> filter = CIFilter::filterWithName(name);
         for (const std::string& key : filter->inputKeys())
             if (const CIInputAttributes* input = filter->attributesForKey(key))
-                kinds.emplace(std::pair(input->className, input->defaultValue.toVector().count()), *input);
+                kinds.emplace(std::pair(input->kind, input->defaultValue.toVector().count()), *input);
     }
     std::vector<CIInputAttributes> inputs;
     for (const auto& [kind, input] : kinds)

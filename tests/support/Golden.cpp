@@ -58,8 +58,8 @@ std::shared_ptr<CIFilter> filterOfCase(const GoldenCase& golden)
     if (!filter)
         return nullptr;
     const auto classOf = [&](const std::string& key) {
-        if (const CIInputAttributes* input = filter->attributesForKey(key))
-            return input->className;
+        if (const auto found = filter->attributes().find(key); found != filter->attributes().end())
+            return found->second.toDictionary().at(kCIAttributeClass).toString();
         throw std::runtime_error(golden.filter + " has no input " + key);
     };
     filter->setDefaults();

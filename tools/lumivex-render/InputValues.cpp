@@ -62,20 +62,22 @@ CIValue dataValue(const std::string& text)
 
 CIValue inputValue(const CIInputAttributes& input, const std::string& text)
 {
-    if (input.className == "NSNumber")
+    if (input.isNumber())
         return numbersOf(input, text, 1, "a number").front();
-    if (input.className == "CIVector")
+    if (input.isVector())
         return vectorValue(input, text);
-    if (input.className == "CIColor")
+    if (input.isColor())
         return colorValue(input, text);
-    if (input.className == "NSAffineTransform")
-        return transformValue(input, text);
-    if (input.className == "NSString" || input.className == "NSAttributedString"
-        || input.className == "NSObject") // a color space by name
-        return text;
-    if (input.className == "NSData")
-        return dataValue(text);
-    if (input.className == "CIImage")
+    if (input.isImage())
         throw UsageError(input.key + " is a picture; use --image " + input.key + "=file");
-    throw UsageError(input.key + " can't be set from the command line: it is of class " + input.className);
+    switch (input.kind) {
+    case InputKind::Transform:
+        return transformValue(input, text);
+    case InputKind::Data:
+        return dataValue(text);
+    case InputKind::Array:
+        throw UsageError(input.key + " can't be set from the command line");
+    default: // text, or a color space by name
+        return text;
+    }
 }

@@ -31,7 +31,7 @@ CIFormat setInputs(CIFilter& filter, const Arguments& arguments)
     for (const auto& [key, text] : arguments.values)
         filter.setValueForKey(inputValue(inputNamed(filter, key), text), key);
     for (const auto& [key, file] : arguments.images) {
-        if (inputNamed(filter, key).className != "CIImage")
+        if (!inputNamed(filter, key).isImage())
             throw UsageError(key + " is not a picture; use --set " + key + "=value");
         const Result<CIBitmap> bitmap = readPicture(std::filesystem::path(file));
         if (!bitmap)
@@ -47,7 +47,7 @@ std::string missingImages(const CIFilter& filter)
 {
     std::string keys;
     for (const std::string& key : filter.inputKeys())
-        if (filter.attributesForKey(key)->className == "CIImage" && !filter.valueForKey(key).isImage())
+        if (filter.attributesForKey(key)->isImage() && !filter.valueForKey(key).isImage())
             keys += (keys.empty() ? "" : ", ") + key;
     return keys;
 }

@@ -62,7 +62,7 @@ Symbol symbolOf(int symbology)
     return symbol;
 }
 
-CIInputAttributes messageInput() { return object("inputMessage", "Message", "NSData"); }
+CIInputAttributes messageInput() { return object("inputMessage", "Message", InputKind::Data); }
 
 Declaration barcode(std::string name, std::string displayName, unsigned usage, std::vector<CIInputAttributes> inputs)
 {
@@ -77,7 +77,7 @@ Declaration barcode(std::string name, std::string displayName, unsigned usage, s
 /// In byte mode; the quiet zone is one module.
 const RecipeFilter qrCodeGenerator{
     barcode("CIQRCodeGenerator", "QR Code Generator", StillOnly,
-        {messageInput(), object("inputCorrectionLevel", "Correction Level", "NSString", "M")}),
+        {messageInput(), object("inputCorrectionLevel", "Correction Level", InputKind::String, "M")}),
     [](const Values& in) {
         const Symbol symbol = symbolOf(BARCODE_QRCODE);
         const std::string levels = "LMQH", level = in.value("inputCorrectionLevel").toString();
@@ -132,7 +132,8 @@ const RecipeFilter pdf417BarcodeGenerator{
             integer("inputMaxHeight", "Max Height", {.min = 13, .max = 283, .sliderMin = 13, .sliderMax = 283}),
             integer("inputDataColumns", "Data Columns", {.min = 1, .max = 30, .sliderMin = 1, .sliderMax = 30}),
             integer("inputRows", "Rows", {.min = 3, .max = 90, .sliderMin = 3, .sliderMax = 90}),
-            number("inputPreferredAspectRatio", "Preferred Aspect Ratio", {}, {.min = 0, .sliderMin = 0}),
+            number(
+                "inputPreferredAspectRatio", "Preferred Aspect Ratio", InputKind::Number, {.min = 0, .sliderMin = 0}),
             integer("inputCompactionMode", "Compaction Mode", {.min = 0, .max = 3, .sliderMin = 0, .sliderMax = 3}),
             boolean("inputCompactStyle", "Compact Style", false),
             integer("inputCorrectionLevel", "Correction Level", {.min = 0, .max = 8, .sliderMin = 0, .sliderMax = 8}),

@@ -99,7 +99,7 @@ const RecipeFilter cannyEdgeDetector{
         .category = kCICategoryStylize,
         .usage = Video | HighDynamicRange,
         .inputs = {image(), scalar("inputGaussianSigma", "Gaussian Sigma", {.standard = 1.6, .min = 0}),
-            number("inputPerceptual", "Perceptual", kCIAttributeTypeBoolean, {.standard = 0}),
+            number("inputPerceptual", "Perceptual", InputKind::Boolean, {.standard = 0}),
             scalar("inputThresholdHigh", "Threshold High", {.standard = 0.05, .min = 0}),
             scalar("inputThresholdLow", "Threshold Low", {.standard = 0.02, .min = 0}),
             integer("inputHysteresisPasses", "Hysteresis Passes", {.standard = 1, .min = 0, .max = 20})},

@@ -107,15 +107,15 @@ CIInputAttributes cubeDimension()
 }
 CIInputAttributes cubeData(std::string key, std::string displayName)
 {
-    CIInputAttributes input = object(std::move(key), std::move(displayName), "NSData", identityCube());
+    CIInputAttributes input = object(std::move(key), std::move(displayName), InputKind::Data, identityCube());
     input.identity = input.defaultValue;
     return input;
 }
 CIInputAttributes extrapolate()
 {
-    return number("inputExtrapolate", "Extrapolate", kCIAttributeTypeBoolean, {.standard = 0});
+    return number("inputExtrapolate", "Extrapolate", InputKind::Boolean, {.standard = 0});
 }
-CIInputAttributes colorSpace() { return object("inputColorSpace", "Color Space", "NSObject"); }
+CIInputAttributes colorSpace() { return object("inputColorSpace", "Color Space", InputKind::Object); }
 
 const RecipeFilter colorCube{
     {.name = "CIColorCube",
@@ -177,9 +177,9 @@ const RecipeFilter colorCurves{{.name = "CIColorCurves",
                                    .category = kCICategoryColorEffect,
                                    .usage = AnyVideo,
                                    .inputs = {image(),
-                                       object("inputCurvesData", "Curves Data", "NSData",
+                                       object("inputCurvesData", "Curves Data", InputKind::Data,
                                            tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
-                                       vector("inputCurvesDomain", "Curves Domain", {}, CIVector{0, 1}), colorSpace()}},
+                                       vector("inputCurvesDomain", "Curves Domain", CIVector{0, 1}), colorSpace()}},
     [](const Values& in) {
         const CIImage source = in.image();
         const auto triples = tableOf(in, "inputCurvesData");

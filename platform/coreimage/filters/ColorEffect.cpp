@@ -46,9 +46,7 @@ struct ColorMap {
 
 CIInputAttributes gradientImage()
 {
-    CIInputAttributes input = image("inputGradientImage", "Gradient Image");
-    input.type = kCIAttributeTypeGradient;
-    return input;
+    return {"inputGradientImage", "Gradient Image", InputKind::Gradient};
 }
 
 const RecipeFilter colorMap{{.name = "CIColorMap",

@@ -37,10 +37,7 @@ struct ConvertLabToRGB {
     bool normalize;
 };
 
-CIInputAttributes normalize()
-{
-    return number("inputNormalize", "Normalize", kCIAttributeTypeBoolean, {.standard = 0});
-}
+CIInputAttributes normalize() { return number("inputNormalize", "Normalize", InputKind::Boolean, {.standard = 0}); }
 
 const ColorFilter<ConvertRGBtoLab> convertRGBtoLab{{.name = "CIConvertRGBtoLab",
     .displayName = "Convert RGB to Lab",

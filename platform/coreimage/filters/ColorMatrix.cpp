@@ -30,11 +30,11 @@ const ColorFilter<ColorMatrix> colorMatrix{{.name = "CIColorMatrix",
     .displayName = "Color Matrix",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(), vector("inputRVector", "Red Vector", {}, CIVector{1, 0, 0, 0}, CIVector{1, 0, 0, 0}),
-        vector("inputGVector", "Green Vector", {}, CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputBVector", "Blue Vector", {}, CIVector{0, 0, 1, 0}, CIVector{0, 0, 1, 0}),
-        vector("inputAVector", "Alpha Vector", {}, CIVector{0, 0, 0, 1}, CIVector{0, 0, 0, 1}),
-        vector("inputBiasVector", "Bias Vector", {}, CIVector{0, 0, 0, 0}, CIVector{0, 0, 0, 0})}}};
+    .inputs = {image(), vector("inputRVector", "Red Vector", CIVector{1, 0, 0, 0}, CIVector{1, 0, 0, 0}),
+        vector("inputGVector", "Green Vector", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+        vector("inputBVector", "Blue Vector", CIVector{0, 0, 1, 0}, CIVector{0, 0, 1, 0}),
+        vector("inputAVector", "Alpha Vector", CIVector{0, 0, 0, 1}, CIVector{0, 0, 0, 1}),
+        vector("inputBiasVector", "Bias Vector", CIVector{0, 0, 0, 0}, CIVector{0, 0, 0, 0})}}};
 
 /// Turns the color cube about its diagonal of grays; a third of a turn makes red green and green blue.
 template <class V>
@@ -141,7 +141,7 @@ const ColorFilter<ColorMonochrome> colorMonochrome{{.name = "CIColorMonochrome",
     .displayName = "Color Monochrome",
     .category = kCICategoryColorEffect,
     .usage = Anything,
-    .inputs = {image(), color("inputColor", "Color", CIColor{0.6, 0.45, 0.3, 1}, kCIAttributeTypeOpaqueColor),
+    .inputs = {image(), color("inputColor", "Color", CIColor{0.6, 0.45, 0.3, 1}, InputKind::OpaqueColor),
         scalar(
             "inputIntensity", "Intensity", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 1, .identity = 0})}}};
 

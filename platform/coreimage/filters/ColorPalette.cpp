@@ -79,7 +79,7 @@ struct Palettize {
 
 CIInputAttributes perceptual()
 {
-    return number("inputPerceptual", "Perceptual", kCIAttributeTypeBoolean, {.standard = 0, .min = 0, .max = 1});
+    return number("inputPerceptual", "Perceptual", InputKind::Boolean, {.standard = 0, .min = 0, .max = 1});
 }
 
 const RecipeFilter palettize{{.name = "CIPalettize",

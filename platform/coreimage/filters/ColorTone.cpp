@@ -141,8 +141,8 @@ const ColorFilter<ColorClamp> colorClamp{{.name = "CIColorClamp",
     .displayName = "Color Clamp",
     .category = kCICategoryColorAdjustment,
     .usage = AnyVideo,
-    .inputs = {image(), vector("inputMinComponents", "Min Components", {}, CIVector{0, 0, 0, 0}),
-        vector("inputMaxComponents", "Max Components", {}, CIVector{1, 1, 1, 1})}}};
+    .inputs = {image(), vector("inputMinComponents", "Min Components", CIVector{0, 0, 0, 0}),
+        vector("inputMaxComponents", "Max Components", CIVector{1, 1, 1, 1})}}};
 
 /// A cubic of each component: the four coefficients belong to 1, c, c squared and c cubed.
 template <class V>
@@ -169,11 +169,10 @@ const ColorFilter<ColorPolynomial> colorPolynomial{{.name = "CIColorPolynomial",
     .displayName = "Color Polynomial",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(),
-        vector("inputRedCoefficients", "Red Coefficients", {}, CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputGreenCoefficients", "Green Coefficients", {}, CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputBlueCoefficients", "Blue Coefficients", {}, CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputAlphaCoefficients", "Alpha Coefficients", {}, CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0})}}};
+    .inputs = {image(), vector("inputRedCoefficients", "Red Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+        vector("inputGreenCoefficients", "Green Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+        vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+        vector("inputAlphaCoefficients", "Alpha Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0})}}};
 
 /// Each component is a quadratic of all three: coefficients of r, g, b, r², g², b², rg, gb, br and 1.
 template <class V>
@@ -207,11 +206,11 @@ const ColorFilter<ColorCrossPolynomial> colorCrossPolynomial{{.name = "CIColorCr
     .category = kCICategoryColorEffect,
     .usage = Anything,
     .inputs = {image(),
-        vector("inputRedCoefficients", "Red Coefficients", {}, CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+        vector("inputRedCoefficients", "Red Coefficients", CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0},
             CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
-        vector("inputGreenCoefficients", "Green Coefficients", {}, CIVector{0, 1, 0, 0, 0, 0, 0, 0, 0, 0},
+        vector("inputGreenCoefficients", "Green Coefficients", CIVector{0, 1, 0, 0, 0, 0, 0, 0, 0, 0},
             CIVector{0, 1, 0, 0, 0, 0, 0, 0, 0, 0}),
-        vector("inputBlueCoefficients", "Blue Coefficients", {}, CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0},
+        vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0},
             CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0})}}};
 
 } // namespace

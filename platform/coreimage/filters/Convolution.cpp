@@ -25,7 +25,7 @@ private:
             .displayName = displayName,
             .category = kCICategoryStylize,
             .usage = Video | HighDynamicRange,
-            .inputs = {image(), vector("inputWeights", "Weights", {}, CIVector(nothing), CIVector(nothing)),
+            .inputs = {image(), vector("inputWeights", "Weights", CIVector(nothing), CIVector(nothing)),
                 scalar("inputBias", "Bias", {.standard = 0, .identity = 0})}};
     }
 };

@@ -108,7 +108,7 @@ std::vector<CIInputAttributes> ninePartTiledInputs()
 {
     std::vector<CIInputAttributes> inputs = ninePartInputs();
     inputs.push_back(
-        number("inputFlipYTiles", "Flip Y Tiles", kCIAttributeTypeBoolean, {.standard = 1, .min = 0, .max = 1}));
+        number("inputFlipYTiles", "Flip Y Tiles", InputKind::Boolean, {.standard = 1, .min = 0, .max = 1}));
     return inputs;
 }
 

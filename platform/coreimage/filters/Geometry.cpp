@@ -9,8 +9,8 @@ const RecipeFilter crop{{.name = "CICrop",
                             .category = kCICategoryGeometryAdjustment,
                             .usage = Video | HighDynamicRange,
                             .inputs = {image(),
-                                vector("inputRectangle", "Rectangle", kCIAttributeTypeRectangle,
-                                    CIVector(CIRect::infinite()), CIVector(CIRect::infinite()))}},
+                                vector("inputRectangle", "Rectangle", CIVector(CIRect::infinite()),
+                                    CIVector(CIRect::infinite()), InputKind::Rectangle)}},
     [](const Values& in) { return in.image().cropped(in.rect("inputRectangle")); }};
 
 const RecipeFilter affineTransform{{.name = "CIAffineTransform",

@@ -53,7 +53,7 @@ const GeneratorFilter<HueSaturationValue> hueSaturationValueGradient{{.name = "C
         distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 800}),
         scalar("inputSoftness", "Softness", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 1}),
         scalar("inputDither", "Dither", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 3}),
-        object("inputColorSpace", "Color Space", "NSObject", "sRGB")},
+        object("inputColorSpace", "Color Space", InputKind::Object, "sRGB")},
     .tolerance = 1e-3f}}; // the dither may jump by a step
 
 const RecipeFilter distanceGradientFromRedMask{

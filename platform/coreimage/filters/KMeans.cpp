@@ -130,7 +130,7 @@ const RecipeFilter kMeans{
         .inputs = {image(), rectangle("inputExtent", "Extent", {0, 0, 640, 80}), image("inputMeans", "Means"),
             count("inputCount", "Count", {.standard = 8, .min = 0, .max = 128, .identity = 0}),
             count("inputPasses", "Passes", {.standard = 5, .min = 0, .max = 20, .identity = 0}),
-            number("inputPerceptual", "Perceptual", kCIAttributeTypeBoolean, {.standard = 0, .min = 0, .max = 1})},
+            number("inputPerceptual", "Perceptual", InputKind::Boolean, {.standard = 0, .min = 0, .max = 1})},
         .optional = {"inputMeans"},
         .boundToPixelGrid = true},
     [](const Values& in) {

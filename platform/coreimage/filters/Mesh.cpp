@@ -121,7 +121,7 @@ const RecipeFilter meshGenerator{
         .category = kCICategoryGenerator,
         .usage = Video | HighDynamicRange,
         .inputs = {distance("inputWidth", "Width", {.standard = 1.5, .min = 0, .sliderMin = 1, .sliderMax = 10}),
-            color("inputColor", "Color", CIColor{1, 1, 1, 1}), object("inputMesh", "Mesh", "NSArray")}},
+            color("inputColor", "Color", CIColor{1, 1, 1, 1}), object("inputMesh", "Mesh", InputKind::Array)}},
     [](const Values& in) {
         std::vector<Segment> mesh = segments(in.value("inputMesh").toArray());
         if (mesh.empty())

@@ -22,7 +22,7 @@ std::vector<CIInputAttributes> withCorners(std::vector<CIInputAttributes> inputs
 
 std::vector<CIInputAttributes> withCrop(std::vector<CIInputAttributes> inputs)
 {
-    inputs.push_back(number("inputCrop", "Crop", kCIAttributeTypeBoolean, {.standard = 1}));
+    inputs.push_back(number("inputCrop", "Crop", InputKind::Boolean, {.standard = 1}));
     return inputs;
 }
 
@@ -217,7 +217,7 @@ struct KeystoneFilter : RecipeFilter {
 private:
     static CIInputAttributes corner(std::string key, std::string displayName)
     {
-        return vector(std::move(key), std::move(displayName), kCIAttributeTypePosition, {});
+        return vector(std::move(key), std::move(displayName), {}, {}, InputKind::Position);
     }
 };
 

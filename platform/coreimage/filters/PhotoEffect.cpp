@@ -65,7 +65,7 @@ Declaration photoEffect(const std::string& look)
         .displayName = "Photo Effect " + look,
         .category = kCICategoryColorEffect,
         .usage = Anything | XMPSerializable,
-        .inputs = {image(), number("inputExtrapolate", "Extrapolate", kCIAttributeTypeBoolean, {.standard = 0})}};
+        .inputs = {image(), number("inputExtrapolate", "Extrapolate", InputKind::Boolean, {.standard = 0})}};
 }
 
 RecipeFilter inColor(const std::string& look, double saturation, Curves curves)

@@ -108,7 +108,7 @@ const ColorFilter<SpotLight> spotLight{{.name = "CISpotLight",
             "inputBrightness", "Brightness", {.standard = 3, .min = 0, .sliderMin = 0, .sliderMax = 10, .identity = 1}),
         scalar("inputConcentration", "Concentration",
             {.standard = 0.1, .min = 0.001, .sliderMin = 0.001, .sliderMax = 1.5, .identity = 20}),
-        color("inputColor", "Color", CIColor{1, 1, 1, 1}, kCIAttributeTypeOpaqueColor)},
+        color("inputColor", "Color", CIColor{1, 1, 1, 1}, InputKind::OpaqueColor)},
     .tolerance = 1e-3f}}; // high powers make last bits grow
 
 /// Where the picture is enlarged its pixels become squares; at full size nothing changes.

@@ -32,8 +32,8 @@ const RecipeFilter textImageGenerator{
         .displayName = "Text Image Generator",
         .category = kCICategoryGenerator,
         .usage = Video,
-        .inputs = {object("inputText", "Text", "NSString"),
-            object("inputFontName", "Font Name", "NSString", "HelveticaNeue"),
+        .inputs = {object("inputText", "Text", InputKind::String),
+            object("inputFontName", "Font Name", InputKind::String, "HelveticaNeue"),
             scalar("inputFontSize", "Font Size", {.standard = 12, .min = 0, .sliderMin = 9, .sliderMax = 128}),
             scaleFactor(), padding()},
         .boundToPixelGrid = true},
@@ -66,7 +66,7 @@ const RecipeFilter attributedTextImageGenerator{
         .displayName = "Attributed Text Image Generator",
         .category = kCICategoryGenerator,
         .usage = Video,
-        .inputs = {object("inputText", "Text", "NSAttributedString"), scaleFactor(), padding()},
+        .inputs = {object("inputText", "Text", InputKind::AttributedString), scaleFactor(), padding()},
         .boundToPixelGrid = true},
     [](const Values& in) {
         const CIValue& text = in.value("inputText");

@@ -62,7 +62,7 @@ const BlendFilter<Swipe> swipeTransition{{.name = "CISwipeTransition",
     .category = kCICategoryTransition,
     .usage = Video | HighDynamicRange,
     .inputs = {image(), targetImage(), transitionExtent(),
-        color("inputColor", "Color", CIColor{1, 1, 1, 1}, kCIAttributeTypeOpaqueColor), transitionTime(),
+        color("inputColor", "Color", CIColor{1, 1, 1, 1}, InputKind::OpaqueColor), transitionTime(),
         angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0}),
         distance("inputWidth", "Width", {.standard = 300, .min = 0.1, .sliderMin = 0.1, .sliderMax = 800}),
         scalar("inputOpacity", "Opacity", {.standard = 0, .min = 0, .sliderMin = 0, .sliderMax = 1, .identity = 0})}}};
@@ -94,7 +94,7 @@ const BlendFilter<CopyMachine> copyMachineTransition{{.name = "CICopyMachineTran
     .category = kCICategoryTransition,
     .usage = Video | HighDynamicRange,
     .inputs = {image(), targetImage(), transitionExtent(),
-        color("inputColor", "Color", CIColor{0.6, 1, 0.8, 1}, kCIAttributeTypeOpaqueColor), transitionTime(),
+        color("inputColor", "Color", CIColor{0.6, 1, 0.8, 1}, InputKind::OpaqueColor), transitionTime(),
         angle("inputAngle", "Angle", {.standard = 0, .min = 0, .sliderMin = 0, .sliderMax = 2 * M_PI, .identity = 0}),
         distance(
             "inputWidth", "Width", {.standard = 200, .min = 0.1, .sliderMin = 0.1, .sliderMax = 500, .identity = 200}),

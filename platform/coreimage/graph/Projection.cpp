@@ -125,7 +125,7 @@ namespace {
 const Declaration& inverseDeclaration()
 {
     static const Declaration d{
-        .name = "inverse", .displayName = {}, .category = {}, .inputs = {vector("inverse", {}, {}, {}), image()}};
+        .name = "inverse", .displayName = {}, .category = {}, .inputs = {vector("inverse", {}, {}), image()}};
     return d;
 }
 
@@ -167,7 +167,7 @@ struct ProjectiveTiles {
     V left, bottom, width, height;
 };
 
-/// The map back, its depth 1 in the middle of what is seen, so that single precision serves.
+/// The inverse map, with depth 1 in the middle of what is seen, so that single precision serves.
 std::optional<Values> valuesFor(const CIImage& image, const Projection& map)
 {
     const CIPoint middle = image.extent().isInfinite() ? CIPoint{} : image.extent().center();
@@ -185,7 +185,7 @@ std::optional<Values> valuesFor(const CIImage& image, const Projection& map)
         {{"inverse", CIVector(std::vector<double>(back.m.begin(), back.m.end()))}, {"inputImage", image}});
 }
 
-/// In the middle of the image.
+/// How much the map enlarges the middle of the image.
 double magnificationOf(const CIImage& image, const Projection& map)
 {
     if (image.extent().isInfinite())
