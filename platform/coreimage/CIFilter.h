@@ -93,6 +93,9 @@ enum class InputKind {
     Object
 };
 
+/// What an editor puts into an input when the filter is chosen, if that depends on the editor.
+enum class Automatic { None, Texture, AlphaEMap, ShadingEMap, Ramp, Mask, ViewCenter };
+
 /// One input of a filter, in C++ types; the same facts as its dictionary in `CIFilter::attributes`.
 struct CIInputAttributes {
     std::string key; // "inputRadius"
@@ -100,6 +103,9 @@ struct CIInputAttributes {
     InputKind kind = InputKind::Object;
     CIValue defaultValue = {}, identity = {};
     std::optional<double> min = {}, max = {}, sliderMin = {}, sliderMax = {};
+    /// What an editor puts in instead of the default when the filter is chosen.
+    CIValue automaticValue = {};
+    Automatic automatic = Automatic::None;
 
     bool isNumber() const { return kind <= InputKind::Boolean; }
     bool isVector() const { return kind >= InputKind::Vector && kind <= InputKind::Rectangle; }

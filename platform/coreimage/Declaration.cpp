@@ -88,6 +88,18 @@ CIInputAttributes object(std::string key, std::string displayName, InputKind kin
     return {std::move(key), std::move(displayName), kind, std::move(standard)};
 }
 
+CIInputAttributes automatic(CIInputAttributes input, CIValue value)
+{
+    input.automaticValue = std::move(value);
+    return input;
+}
+
+CIInputAttributes automatic(CIInputAttributes input, Automatic automatic)
+{
+    input.automatic = automatic;
+    return input;
+}
+
 CIInputAttributes boolean(std::string key, std::string displayName, bool standard, std::optional<double> identity)
 {
     return number(std::move(key), std::move(displayName), InputKind::Boolean,

@@ -67,6 +67,9 @@ CIInputAttributes color(
 CIInputAttributes transform(std::string key = "inputTransform", std::string displayName = "Transform");
 /// Text, data, arrays, …
 CIInputAttributes object(std::string key, std::string displayName, InputKind, CIValue standard = {});
+/// The same input with a mark for editors.
+CIInputAttributes automatic(CIInputAttributes, CIValue);
+CIInputAttributes automatic(CIInputAttributes, Automatic);
 
 inline CIInputAttributes scalar(std::string k, std::string n, const Range& r)
 {

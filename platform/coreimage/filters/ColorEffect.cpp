@@ -46,7 +46,7 @@ struct ColorMap {
 
 CIInputAttributes gradientImage()
 {
-    return {"inputGradientImage", "Gradient Image", InputKind::Gradient};
+    return {"inputGradientImage", "Gradient Image", InputKind::Gradient, {}, {}, {}, {}, {}, {}, {}, Automatic::Ramp};
 }
 
 const RecipeFilter colorMap{{.name = "CIColorMap",

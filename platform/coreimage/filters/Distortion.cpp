@@ -183,7 +183,7 @@ const RecipeFilter circularWrap{
         .displayName = "Circular Wrap Distortion",
         .category = kCICategoryDistortionEffect,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), center(),
+        .inputs = {image(), automatic(center(), Automatic::ViewCenter),
             distance("inputRadius", "Radius", {.standard = 150, .min = 0, .sliderMin = 0, .sliderMax = 600}),
             angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0})}},
     [](const Values& in) {

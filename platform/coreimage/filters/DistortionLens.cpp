@@ -153,7 +153,7 @@ const RecipeFilter glassDistortion{
         .displayName = "Glass Distortion",
         .category = kCICategoryDistortionEffect,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputTexture", "Texture"), center(),
+        .inputs = {image(), automatic(image("inputTexture", "Texture"), Automatic::Texture), center(),
             distance("inputScale", "Scale",
                 {.standard = 200, .min = 0, .sliderMin = 0.01, .sliderMax = 500, .identity = 0})},
         .tolerance = 2e-2f}, // a last bit at the texture's seam moves the place by a pixel's fraction

@@ -41,18 +41,22 @@ struct SmoothLinearGradient : LinearGradient<V> {
     }
 };
 
-Declaration linear(std::string name, std::string displayName)
+// Editors show the picture through gradients at first.
+const CIColor kHalfWhite(1, 1, 1, 0.5), kHalfBlack(0, 0, 0, 0.5);
+
+Declaration linear(std::string name, std::string displayName, CIValue automatic0 = {}, CIValue automatic1 = {})
 {
     return {.name = std::move(name),
         .displayName = std::move(displayName),
         .category = kCICategoryGradient,
         .usage = Video | HighDynamicRange,
         .inputs = {position("inputPoint0", "Point 0", {0, 0}), position("inputPoint1", "Point 1", {200, 200}),
-            color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}),
-            color("inputColor1", "Color 2", CIColor{0, 0, 0, 1})}};
+            automatic(color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), std::move(automatic0)),
+            automatic(color("inputColor1", "Color 2", CIColor{0, 0, 0, 1}), std::move(automatic1))}};
 }
 
-const GeneratorFilter<LinearGradient> linearGradient{linear("CILinearGradient", "Linear Gradient")};
+const GeneratorFilter<LinearGradient> linearGradient{
+    linear("CILinearGradient", "Linear Gradient", kHalfWhite, kHalfBlack)};
 const GeneratorFilter<SmoothLinearGradient> smoothLinearGradient{
     linear("CISmoothLinearGradient", "Smooth Linear Gradient")};
 
@@ -85,7 +89,8 @@ const GeneratorFilter<RadialGradient> radialGradient{{.name = "CIRadialGradient"
     .inputs = {center(),
         distance("inputRadius0", "Radius 1", {.standard = 5, .min = 0, .sliderMin = 0, .sliderMax = 800}),
         distance("inputRadius1", "Radius 2", {.standard = 100, .min = 0, .sliderMin = 0, .sliderMax = 800}),
-        color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), color("inputColor1", "Color 2", CIColor{0, 0, 0, 1})}}};
+        automatic(color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), kHalfWhite),
+        automatic(color("inputColor1", "Color 2", CIColor{0, 0, 0, 1}), kHalfBlack)}}};
 
 /// A bell of three standard deviations' width, lowered so that it ends at the radius.
 template <class V>
@@ -113,8 +118,8 @@ const GeneratorFilter<GaussianGradient> gaussianGradient{{.name = "CIGaussianGra
     .displayName = "Gaussian Gradient",
     .category = kCICategoryGradient,
     .usage = Video | HighDynamicRange,
-    .inputs = {center(), color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}),
-        color("inputColor1", "Color 2", CIColor{0, 0, 0, 0}),
+    .inputs = {center(), automatic(color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), kHalfWhite),
+        automatic(color("inputColor1", "Color 2", CIColor{0, 0, 0, 0}), kHalfBlack),
         distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 800})}}};
 
 } // namespace

@@ -64,8 +64,8 @@ Declaration pattern(std::string name, std::string displayName)
         .displayName = std::move(displayName),
         .category = kCICategoryGenerator,
         .usage = Video | HighDynamicRange,
-        .inputs = {center(), color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}),
-            color("inputColor1", "Color 2", CIColor{0, 0, 0, 1}),
+        .inputs = {center(), automatic(color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), CIColor{1, 1, 1, 0.5}),
+            automatic(color("inputColor1", "Color 2", CIColor{0, 0, 0, 1}), CIColor{0, 0, 0, 0.5}),
             distance("inputWidth", "Width", {.standard = 80, .sliderMin = 0, .sliderMax = 800}),
             scalar(
                 "inputSharpness", "Sharpness", {.standard = 1, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1})}};

@@ -51,7 +51,7 @@ const RecipeFilter shadedMaterial{
         .displayName = "Shaded Material",
         .category = kCICategoryStylize,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputShadingImage", "Shading Image"),
+        .inputs = {image(), automatic(image("inputShadingImage", "Shading Image"), Automatic::ShadingEMap),
             distance("inputScale", "Scale", {.standard = 10, .min = 0, .sliderMin = 0.5, .sliderMax = 200})},
         .tolerance = 1e-3f},
     [](const Values& in) {

@@ -1,5 +1,5 @@
 // Transitions from an image to a target image as time runs from 0 to 1.
-#include "platform/coreimage/kernel/PointwiseFilter.h"
+#include "platform/coreimage/filters/Transition.h"
 #include "platform/coreimage/passes/Blur.h"
 
 namespace ci {
@@ -46,7 +46,7 @@ const RecipeFilter disintegrateWithMaskTransition{
         .displayName = "Disintegrate With Mask",
         .category = kCICategoryTransition,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputTargetImage", "Target Image"), image("inputMaskImage", "Mask Image"),
+        .inputs = {image(), targetImage(), automatic(image("inputMaskImage", "Mask Image"), Automatic::Mask),
             time("inputTime", "Time",
                 {.standard = 0, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1, .identity = 0}),
             distance("inputShadowRadius", "Shadow Radius", {.standard = 8, .min = 0, .sliderMin = 0, .sliderMax = 50}),

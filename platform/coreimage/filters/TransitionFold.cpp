@@ -184,8 +184,8 @@ const RecipeFilter rippleTransition{
         .displayName = "Ripple",
         .category = kCICategoryTransition,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), targetImage(), image("inputShadingImage", "Shading Image"), center(), transitionExtent(),
-            transitionTime(),
+        .inputs = {image(), targetImage(), automatic(image("inputShadingImage", "Shading Image"), Automatic::AlphaEMap),
+            center(), transitionExtent(), transitionTime(),
             distance("inputWidth", "Width", {.standard = 100, .min = 1, .sliderMin = 10, .sliderMax = 300}),
             scalar(
                 "inputScale", "Scale", {.standard = 50, .min = -50, .sliderMin = -50, .sliderMax = 50, .identity = 0})},

@@ -213,8 +213,8 @@ const RecipeFilter pageCurlTransition{
         .category = kCICategoryTransition,
         .usage = Video | HighDynamicRange,
         .inputs = {image(), targetImage(), image("inputBacksideImage", "Backside Image"),
-            image("inputShadingImage", "Shading Image"), transitionExtent(), transitionTime(), turnAngle(),
-            rollRadius()},
+            automatic(image("inputShadingImage", "Shading Image"), Automatic::AlphaEMap), transitionExtent(),
+            transitionTime(), automatic(turnAngle(), -0.7853982f), rollRadius()},
         .optional = {"inputBacksideImage", "inputShadingImage"},
         .tolerance = 2e-3f}, // the arc is steep where the page stands upright
     [](const Values& in) {
