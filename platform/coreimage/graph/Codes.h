@@ -30,7 +30,7 @@ CodeSheet allocateCodes(const GridRect& area, Scratch&);
 void fillCodes(const CodeSheet&, CodeReader&);
 /// The rows of a finished sheet; transparent outside the extent.
 std::unique_ptr<CodeReader> readCodes(const CodeSheet&, CodeForm, const CIRect& extent, const Render&);
-/// The same as planes.
+/// The same rows, turned into floats.
 std::unique_ptr<RowReader> decodeCodes(const CodeSheet&, CodeForm, const CIRect& extent, const Render&, Scratch&);
 
 } // namespace ci

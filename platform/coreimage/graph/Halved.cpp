@@ -7,12 +7,6 @@
 
 namespace ci {
 
-Grid halvedGrid(const Grid& grid, int times)
-{
-    const double cell = 1 << times;
-    return {grid.scale / cell, grid.phaseX / cell, grid.phaseY / cell};
-}
-
 GridRect halvedArea(const GridRect& area, int times)
 {
     const int cell = 1 << times;

@@ -7,9 +7,8 @@
 
 namespace ci {
 
-/// The lattice of the means. Cell (i, j) covers columns i * 2^n to (i + 1) * 2^n - 1 of the finer one.
-Grid halvedGrid(const Grid&, int times);
-/// The coarse cells that touch `area`, and the fine cells of a coarse area.
+/// The coarse cells that touch `area`, and the fine cells of a coarse area. Coarse cell (i, j) covers the columns
+/// i * 2^n to (i + 1) * 2^n - 1.
 GridRect halvedArea(const GridRect& area, int times);
 GridRect fineArea(const GridRect& coarse, int times);
 

@@ -88,7 +88,7 @@ struct CodeForm {
     bool operator==(const CodeForm&) const = default;
 };
 
-/// As `RowReader`, for rows of four bytes a pixel; each pixel is opaque or 0.
+/// Delivers codes as a `RowReader` delivers floats: four bytes a pixel, each pixel opaque or 0.
 class CodeReader {
 public:
     explicit CodeReader(CodeForm form)

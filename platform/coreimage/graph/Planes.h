@@ -78,7 +78,7 @@ public:
     virtual void run(const Render&, RowReader& in, const GridRect& area, const Planes& out, Scratch&) const = 0;
     /// True when every value of the result is one of those read, chosen by their order: codes will do then.
     virtual bool onlyChooses() const { return false; }
-    /// As `run`, at full size.
+    /// Does with codes what `run` does at full size.
     virtual void runOnCodes(CodeReader&, const GridRect&, const Sheet<std::uint8_t>&, Scratch&) const { }
 };
 

@@ -90,7 +90,6 @@ CI_UNARY(exp)
 CI_UNARY(exp2)
 CI_UNARY(log)
 CI_UNARY(log2)
-CI_UNARY(tanh)
 #undef CI_UNARY
 
 inline float round(float v) { return std::nearbyint(v); } // halves to even, as the vector units do

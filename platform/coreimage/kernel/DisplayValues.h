@@ -44,7 +44,7 @@ V displayFromLinear(const V& linear)
         coded = select(v > V(1.0f), srgbFromLinear(v), coded);
     return select(linear < V(0.0f), -coded, coded);
 }
-/// The way back; see `decodeCode`.
+/// The linear value of an sRGB code of any size and sign; see `decodeCode`.
 template <class V>
 V linearFromDisplay(const V& coded)
 {

@@ -127,7 +127,7 @@ V linearFromSRGB(const V& coded)
     const V linear = select(v <= V(0.04045f), v * (1 / 12.92f), curve);
     return select(coded < V(0.0f), -linear, linear);
 }
-/// The way back.
+/// One component from linear light to its sRGB code.
 template <class V>
 V srgbFromLinear(const V& linear)
 {

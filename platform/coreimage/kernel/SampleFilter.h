@@ -4,7 +4,7 @@
 // template <class V> struct Example {
 //     explicit Example(const Inputs<V>& in);
 //     Point<V> operator()(const Point<V>& here) const;   // where in the source to look
-//     static CIRect extent(const Values&);                // default: that of the first image
+//     static CIRect extent(const Values&);                // default: that of the source
 // };
 //
 // A guided warp asks another image first; it reads that around its own place, or where `guideRegion` says:
@@ -19,7 +19,6 @@
 //     explicit Example(const Inputs<V>& in);
 //     Pixel<V> operator()(const Sampler<V>& image, const Point<V>& here) const;  // or two or three samplers
 //     static CIRect regionOfInterest(const Values&, std::size_t image, const CIRect& wanted);
-//     static CIRect extent(const Values&);
 // };
 #pragma once
 
@@ -200,12 +199,12 @@ std::unique_ptr<SampleKernel> makeSampleKernel(const Values& values, const Rende
 }
 
 template <template <class> class K>
-CIRect extentOf(const Values& values, const std::vector<CIImage>& images)
+CIRect extentOf(const Values& values, const CIImage& source)
 {
     if constexpr (requires { K<float>::extent(values); })
         return K<float>::extent(values);
     else
-        return images.empty() ? CIRect::infinite() : images[0].extent();
+        return source.extent();
 }
 
 inline std::vector<NodePtr> nodesOf(const std::vector<CIImage>& images)
@@ -248,18 +247,7 @@ struct WarpFilter : RecipeFilter {
     explicit WarpFilter(Declaration d)
         : RecipeFilter(std::move(d), [](const Values& in) {
             const CIImage source = in.image();
-            return warp<K>(in, source, detail::extentOf<K>(in, {source}));
-        })
-    {
-    }
-};
-
-template <template <class> class K>
-struct GeneralFilter : RecipeFilter {
-    explicit GeneralFilter(Declaration d)
-        : RecipeFilter(std::move(d), [](const Values& in) {
-            const std::vector<CIImage> images = in.images();
-            return general<K>(in, images, detail::extentOf<K>(in, images));
+            return warp<K>(in, source, detail::extentOf<K>(in, source));
         })
     {
     }
