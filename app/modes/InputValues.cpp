@@ -1,7 +1,7 @@
 #include "app/modes/InputValues.h"
 
-#include "widgets/rows/TransformParts.h"
 #include "platform/chain/FilterChain.h"
+#include "widgets/rows/TransformParts.h"
 
 #include <algorithm>
 #include <cmath>
