@@ -18,13 +18,14 @@ public:
     void prepare(const Render&) const override;
     Opened open(const Render&, const GridRect& area, Form accepts, Scratch&) const override;
 
+    const CIBitmap& bitmap() const { return m_bitmap; }
+    /// The halved copies, largest first; made on first use.
+    std::shared_ptr<const std::vector<Level>> levels() const;
+
 private:
     std::unique_ptr<CodeTable> tableOf(const GridRect& cells) const;
     std::shared_ptr<const GridCopy> copyFor(const Grid&) const;
     bool isAskedAgain(const Grid&) const;
-    /// The halved copies, made on first use.
-    std::shared_ptr<const std::vector<Level>> levels() const;
-
     CIBitmap m_bitmap;
     mutable std::mutex m_mutex; // guards what follows; never held while other threads' work is waited for
     mutable std::shared_ptr<const std::vector<Level>> m_levels;
