@@ -1,6 +1,7 @@
 #include "files/ResizePanel.h"
 
 #include "ui_ResizePanel.h"
+#include "widgets/rows/NumberText.h"
 
 namespace {
 
@@ -14,15 +15,6 @@ QString numberText(float value)
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     return locale.toString(double(value), 'g', 6);
-}
-
-/// With a decimal point or the language's own mark.
-float parsedNumber(QString text)
-{
-    text = text.trimmed();
-    bool isNumber = false;
-    const double value = QLocale().toDouble(text, &isNumber);
-    return float(isNumber ? value : text.replace(QLatin1Char(','), QLatin1Char('.')).toDouble());
 }
 
 } // namespace
@@ -122,7 +114,7 @@ float ResizePanel::floatValue(const QLineEdit* field) const
 {
     if (field->text() == field->property(kShownText).toString())
         return field->property(kExactValue).toFloat();
-    return parsedNumber(field->text());
+    return float(typedNumber(field->text()).value_or(0));
 }
 
 void ResizePanel::setFloatValue(QLineEdit* field, float value)

@@ -73,12 +73,6 @@ void ReadoutField::restore()
     setCursorPosition(0);
 }
 
-void ReadoutField::keepTypedText()
-{
-    m_typing = false;
-    m_shownText = text();
-}
-
 void ReadoutField::commit()
 {
     if (m_typing)

@@ -12,15 +12,11 @@ public:
 
     /// The number as it is; typing that comes to nothing returns to it.
     void setShownText(const QString& text);
-    const QString& shownText() const { return m_shownText; }
     /// Back to the shown number.
     void restore();
-    /// The typed text is the shown one from now on.
-    void keepTypedText();
-    bool isTyping() const { return m_typing; }
 
 signals:
-    /// The user has typed and pressed Return or left the field. The receiver calls `keepTypedText` or `restore`.
+    /// The user has typed and pressed Return or left the field. The receiver calls `setShownText` or `restore`.
     void committed();
     /// Escape was pressed; the shown number is back.
     void givenUp();

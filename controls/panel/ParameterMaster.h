@@ -1,20 +1,15 @@
 // What the rows of the panel need from the controller.
 #pragma once
 
+#include "controls/rows/PictureSource.h"
 #include "platform/coreimage/CIFilter.h"
-#include "platform/coreimage/CIImage.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 
-#include <QStringList>
-
 /// In tests, a small fake. Everything is called on the main thread.
-class ParameterMaster {
+class ParameterMaster : public PictureSource {
 public:
-    virtual ~ParameterMaster() = default;
-
     /// Sets an input, undoably. Nothing empties it.
     virtual void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) = 0;
     /// Names the newest undo step after the filter and the input.
@@ -31,12 +26,4 @@ public:
 
     /// What the input holds when such a filter is newly chosen; nothing for an unknown key.
     virtual CIValue standardValueForKey(const CIFilter& filter, const std::string& key) = 0;
-
-    /// Reads a picture file beside the living window. Null when it is no readable picture, nothing at all when the user
-    /// stopped it.
-    virtual std::optional<CIImage> readImage(const QString& path) = 0;
-    /// Tells the user that the file could not be read, without asking for an answer.
-    virtual void showReadFailure(const QString& path) = 0;
-    /// For open panels: "Pictures (*.png …)" and the like.
-    virtual QStringList pictureNameFilters() = 0;
 };

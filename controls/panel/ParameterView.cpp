@@ -1,4 +1,3 @@
-// What all rows have in common, and the rows of one number, a check box, a color.
 #include "controls/panel/ParameterView.h"
 
 #include "controls/panel/CaptionLabel.h"
@@ -10,148 +9,87 @@
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <utility>
 
 #include <QContextMenuEvent>
 #include <QLocale>
 #include <QMenu>
+#include <QPushButton>
 #include <QTextEdit>
 
-namespace {
+// --- what all rows have in common ---
 
-QColor colorOf(const CIColor& color)
-{
-    const auto part = [](double v) { return float(std::clamp(v, 0.0, 1.0)); };
-    return QColor::fromRgbF(part(color.red()), part(color.green()), part(color.blue()), part(color.alpha()));
-}
-
-CIColor colorOf(const QColor& color)
-{
-    const QColor rgb = color.toRgb();
-    return {double(rgb.redF()), double(rgb.greenF()), double(rgb.blueF()), double(rgb.alphaF())};
-}
-
-} // namespace
-
-ParameterView::ParameterView(QWidget* parent)
-    : QWidget(parent)
-{
-}
-
-ParameterView::~ParameterView()
-{
-    if (!m_triedOver.isNothing())
-        filter->setValueForKey(m_triedOver, key);
-    endChange();
-}
-
-// --- putting a row together ---
-
-void ParameterView::begin(const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+ValueBinding ParameterView::bind(const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
 {
     filter = newFilter;
     key = newKey;
     master = &newMaster;
+    // Without this view: a row goes with its children, when its members have gone.
+    return {.get = [=] { return newFilter->valueForKey(newKey); },
+        .set =
+            [=, &newMaster](const CIValue& value) {
+                newMaster.setFilterValueForKey(*newFilter, value, newKey);
+                newMaster.setActionNameForFilterKey(*newFilter, newKey);
+                newMaster.updateView();
+            },
+        .standard = [=, &newMaster] { return newMaster.standardValueForKey(*newFilter, newKey); },
+        .begin = [&newMaster] { newMaster.beginChange(); },
+        .end = [&newMaster] { newMaster.endChange(); },
+        .preview = [=](const CIValue& value) { newFilter->setValueForKey(value, newKey); }};
 }
 
-const CIInputAttributes& ParameterView::attributes() const
+CIInputAttributes ParameterView::attributes() const
 {
-    static const CIInputAttributes none;
-    const CIInputAttributes* input = filter ? filter->attributesForKey(key) : nullptr;
-    return input ? *input : none;
+    const CIInputAttributes* input = filter->attributesForKey(key);
+    CIInputAttributes found = input ? *input : CIInputAttributes();
+    found.key = key;
+    return found;
 }
 
 QString ParameterView::keyCaption() const
 {
     if (key.compare(0, 5, "input") != 0)
         std::puts("input key does not begin with input");
-    CIInputAttributes input = attributes();
-    input.key = key;
-    return captionText(input);
+    return captionText(attributes());
 }
 
-void ParameterView::place(QWidget* widget, const char* name, Placement placement)
+template <class Widget>
+Widget* ParameterView::place(Widget* widget, const char* name, Placement placement)
 {
-    widget->setParent(this);
     widget->setObjectName(QLatin1String(name));
+    setPlace(*widget, placement);
     m_places.emplace_back(widget, std::move(placement));
-    const QRect frame = m_places.back().second(width());
-    widget->setGeometry(frame.x(), height() - frame.y() - frame.height(), frame.width(), frame.height());
     widget->show();
+    return widget;
+}
+
+void ParameterView::setPlace(QWidget& widget, const Placement& placement) const
+{
+    const QRect frame = placement(width());
+    widget.setGeometry(frame.x(), height() - frame.y() - frame.height(), frame.width(), frame.height());
 }
 
 void ParameterView::resizeEvent(QResizeEvent*)
 {
-    for (const auto& [widget, placement] : m_places) {
-        const QRect frame = placement(width());
-        widget->setGeometry(frame.x(), height() - frame.y() - frame.height(), frame.width(), frame.height());
-    }
+    for (const auto& [widget, placement] : m_places)
+        setPlace(*widget, placement);
 }
 
 CaptionLabel* ParameterView::addCaption(const QString& text, const char* name, Placement placement)
 {
     auto* caption = new CaptionLabel(text, this);
     caption->setToolTip(filter ? tr("%1\nA double click brings the standard value back").arg(text) : text);
-    connect(caption, &CaptionLabel::doubleClicked, this, &ParameterView::resetToStandardValue);
-    place(caption, name, std::move(placement));
-    return caption;
+    connect(caption, &CaptionLabel::doubleClicked, this, [this] { m_row->reset(); });
+    return place(caption, name, std::move(placement));
 }
 
-ValueSlider* ParameterView::addSlider(const QString& name, const char* objectName, Placement placement)
+void ParameterView::dressReadout(ReadoutField& readout, const QString& name, bool bezeled)
 {
-    auto* added = new ValueSlider(this);
-    added->setAccessibleName(name);
-    added->setToolTip(name);
-    connect(added, &ValueSlider::pressed, this, &ParameterView::beginChange);
-    connect(added, &ValueSlider::released, this, &ParameterView::endChange);
-    connect(added, &ValueSlider::standardValueWanted, this, &ParameterView::resetToStandardValue);
-    place(added, objectName, std::move(placement));
-    return added;
-}
-
-ReadoutField* ParameterView::addReadout(const QString& name, const char* objectName, Placement placement, bool bezeled)
-{
-    auto* readout = new ReadoutField(this);
-    readout->setFont(rowFont(font()));
-    readout->setProperty("bezeled", bezeled); // for the style sheet, before it is shown
-    readout->setAccessibleName(name);
-    readout->setToolTip(tr("%1: type a number").arg(name));
-    place(readout, objectName, std::move(placement));
-    return readout;
-}
-
-// --- changing the value ---
-
-void ParameterView::send(const CIValue& value)
-{
-    master->setFilterValueForKey(*filter, value, key);
-    master->setActionNameForFilterKey(*filter, key);
-    master->updateView();
-}
-
-void ParameterView::beginChange()
-{
-    if (!std::exchange(m_changing, true))
-        master->beginChange();
-}
-
-void ParameterView::endChange()
-{
-    if (std::exchange(m_changing, false))
-        master->endChange();
-}
-
-void ParameterView::resetToStandardValue()
-{
-    if (!filter)
-        return;
-    const CIValue standard = master->standardValueForKey(*filter, key);
-    if (standard.isNothing() || standard == filter->valueForKey(key))
-        return;
-    send(standard);
-    showValue();
+    readout.setFont(rowFont(font()));
+    readout.setProperty("bezeled", bezeled); // for the style sheet, before it is shown
+    readout.setAccessibleName(name);
+    readout.setToolTip(tr("%1: type a number").arg(name));
 }
 
 void ParameterView::contextMenuEvent(QContextMenuEvent* event)
@@ -161,139 +99,55 @@ void ParameterView::contextMenuEvent(QContextMenuEvent* event)
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     QAction* reset = menu->addAction(tr("Reset %1").arg(captionText(attributes())));
-    const CIValue standard = master->standardValueForKey(*filter, key);
-    reset->setEnabled(!standard.isNothing() && !(standard == filter->valueForKey(key)));
-    connect(reset, &QAction::triggered, this, &ParameterView::resetToStandardValue);
+    reset->setEnabled(m_row->canReset());
+    connect(reset, &QAction::triggered, m_row, &ValueRow::reset);
     menu->popup(event->globalPos());
 }
 
-void ParameterView::showValue()
-{
-    if (slider)
-        showNumber();
-    else if (checkBox)
-        checkBox->setChecked(filter->valueForKey(key).toBool());
-    else if (colorWell)
-        colorWell->setColor(colorOf(filter->valueForKey(key).toColor()));
-    else if (scaleSlider)
-        showTransform();
-    else if (readout1TextField)
-        showComponents();
-    else if (imageView)
-        imageView->setImage(thumbnailOf(filter->valueForKey(key).toImage()));
-}
+// --- numbers ---
 
-// --- a number ---
-
-void ParameterView::addNumberRow(const QString& caption, double lo, double hi)
+void ParameterView::addNumberRow(const QString& caption, const NumberLook& look, ValueBinding value)
 {
-    const ReadoutFormat format = readoutFormatOf(dataType);
-    beforeDecimal = format.beforeDecimal;
-    afterDecimal = format.afterDecimal;
-    labelTextField = addCaption(caption, "labelTextField", [](int) { return QRect(0, 0, 90, 16); });
-    slider = addSlider(caption, "slider", [](int w) { return QRect(94, 0, w - 145, 16); });
-    readoutTextField = addReadout(caption, "readoutTextField", [](int w) { return QRect(w - 47, 0, 43, 16); });
-    slider->setRange(lo, hi);
-    if (hi > lo)
-        slider->setToolTip(tr("%1: %2 to %3%4", "name, smallest and largest value, unit")
-                               .arg(caption, QLocale().toString(displayedNumber(lo, dataType), 'g', 4),
-                                   QLocale().toString(displayedNumber(hi, dataType), 'g', 4), unitSign(dataType)));
-    showNumber();
-}
-
-void ParameterView::showNumber()
-{
-    lastFloatValue = dict ? (*dict)[key].toFloat() : filter->valueForKey(key).toFloat();
-    slider->setValue(double(lastFloatValue));
-    const QString text = shownText(double(lastFloatValue), dataType, {beforeDecimal, afterDecimal});
-    slider->setValueText(text.trimmed() + unitSign(dataType));
-    readoutTextField->setShownText(text);
+    addCaption(caption, "labelTextField", [](int) { return QRect(0, 0, 90, 16); });
+    const NumberRow& row = keep(new NumberRow(this, look, std::move(value)));
+    row.slider->setAccessibleName(caption);
+    const auto end = [&](double number) { return QLocale().toString(displayedNumber(number, look.unitClass), 'g', 4); };
+    row.slider->setToolTip(look.max > look.min
+            ? tr("%1: %2 to %3%4", "name, smallest and largest value, unit")
+                  .arg(caption, end(look.min), end(look.max), unitSign(look.unitClass))
+            : caption);
+    place(row.slider, "slider", [](int w) { return QRect(94, 0, w - 145, 16); });
+    dressReadout(*row.readout, caption, false);
+    place(row.readout, "readoutTextField", [](int w) { return QRect(w - 47, 0, 43, 16); });
 }
 
 void ParameterView::addSliderForFilterKeyMaster(
     const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
 {
-    begin(newFilter, newKey, newMaster);
-    const CIInputAttributes& input = attributes();
-    dataType = unitClassOf(input.kind);
-    addNumberRow(
-        keyCaption(), input.sliderMin.value_or(input.min.value_or(0)), input.sliderMax.value_or(input.max.value_or(0)));
-    slider->setWhole(input.kind == InputKind::Integer || input.kind == InputKind::Count);
+    ValueBinding value = bind(newFilter, newKey, newMaster);
+    const CIInputAttributes input = attributes();
+    NumberLook look{.min = input.sliderMin.value_or(input.min.value_or(0)),
+        .max = input.sliderMax.value_or(input.max.value_or(0)),
+        .unitClass = unitClassOf(input.kind),
+        .whole = input.kind == InputKind::Integer || input.kind == InputKind::Count};
     if (input.defaultValue.isNumber())
-        slider->setStandardValue(input.defaultValue.toDouble());
-    connect(slider, &ValueSlider::valueChanged, this, &ParameterView::sliderChanged);
-    connect(readoutTextField, &ReadoutField::committed, this, &ParameterView::readoutTextFieldChanged);
+        look.mark = input.defaultValue.toDouble();
+    addNumberRow(keyCaption(), look, std::move(value));
 }
 
-void ParameterView::sliderChanged()
+void ParameterView::addSliderForTextKeyLoHiMaster(const std::shared_ptr<CIDictionary>& dict, const std::string& newKey,
+    float lo, float hi, ParameterMaster& newMaster)
 {
-    const float value = float(slider->value());
-    if (!filter || value == lastFloatValue)
-        return;
-    lastFloatValue = value;
-    const QString text = shownText(double(value), dataType, {beforeDecimal, afterDecimal});
-    slider->setValueText(text.trimmed() + unitSign(dataType));
-    readoutTextField->setShownText(text);
-    send(slider->value());
-}
-
-void ParameterView::readoutTextFieldChanged()
-{
-    const std::optional<double> typed = typedNumber(readoutTextField->text());
-    if (!filter || !typed) {
-        readoutTextField->restore();
-        return;
-    }
-    readoutTextField->keepTypedText();
-    const float value = float(storedNumber(*typed, dataType));
-    if (value == lastFloatValue)
-        return;
-    lastFloatValue = value;
-    slider->setValue(double(value));
-    slider->setValueText(readoutTextField->text().trimmed() + unitSign(dataType));
-    send(value);
-}
-
-// --- a number of a text ---
-
-void ParameterView::addSliderForTextKeyLoHiMaster(const std::shared_ptr<CIDictionary>& dictionary,
-    const std::string& newKey, float lo, float hi, ParameterMaster& newMaster)
-{
-    begin(nullptr, newKey, newMaster);
-    dict = dictionary;
-    addNumberRow(wordsOfKey(QString::fromStdString(key)), double(lo), double(hi));
-    connect(slider, &ValueSlider::valueChanged, this, &ParameterView::textSliderChanged);
-    connect(readoutTextField, &ReadoutField::committed, this, &ParameterView::textReadoutTextFieldChanged);
-}
-
-void ParameterView::textSliderChanged()
-{
-    const float value = float(slider->value());
-    if (value == lastFloatValue)
-        return;
-    lastFloatValue = value;
-    readoutTextField->setShownText(shownText(double(value), dataType, {beforeDecimal, afterDecimal}));
-    slider->setValueText(readoutTextField->text().trimmed());
-    master->setDictValueForKey(dict, value, key);
-    master->updateView();
-}
-
-void ParameterView::textReadoutTextFieldChanged()
-{
-    const std::optional<double> typed = typedNumber(readoutTextField->text());
-    if (!typed) {
-        readoutTextField->restore();
-        return;
-    }
-    readoutTextField->keepTypedText();
-    const float value = float(*typed);
-    if (value == lastFloatValue)
-        return;
-    lastFloatValue = value;
-    slider->setValue(double(value));
-    slider->setValueText(readoutTextField->text().trimmed());
-    master->setDictValueForKey(dict, value, key);
-    master->updateView();
+    master = &newMaster;
+    addNumberRow(wordsOfKey(QString::fromStdString(newKey)), {.min = double(lo), .max = double(hi)},
+        {.get = [dict, newKey] { return (*dict)[newKey]; },
+            .set =
+                [dict, newKey, &newMaster](const CIValue& number) {
+                    newMaster.setDictValueForKey(dict, number.toFloat(), newKey);
+                    newMaster.updateView();
+                },
+            .begin = [&newMaster] { newMaster.beginChange(); },
+            .end = [&newMaster] { newMaster.endChange(); }});
 }
 
 bool ParameterView::textViewDiffers(const CIDictionary& description) const
@@ -301,61 +155,129 @@ bool ParameterView::textViewDiffers(const CIDictionary& description) const
     return !textView || textDiffers(*textView->document(), description);
 }
 
-// --- a check box ---
+// --- several numbers ---
+
+void ParameterView::addVectorForFilterKeyMaster(
+    const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+{
+    addComponents(4, bind(newFilter, newKey, newMaster));
+}
+
+void ParameterView::addOffsetForFilterKeyMaster(
+    const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+{
+    addComponents(2, bind(newFilter, newKey, newMaster));
+}
+
+void ParameterView::addComponents(int count, ValueBinding value)
+{
+    static const char* const names[] = {
+        "readout1TextField", "readout2TextField", "readout3TextField", "readout4TextField"};
+    const QString caption = keyCaption();
+    addCaption(caption, "labelTextField", [](int) { return QRect(0, 0, 75, 16); });
+    const VectorRow& row = keep(new VectorRow(this, count, std::move(value)));
+    for (int i = 0; i < count; ++i) {
+        ReadoutField& readout = *row.readouts()[std::size_t(i)];
+        dressReadout(
+            readout, tr("%1 %2", "parameter and X, Y, Z or W").arg(caption, QStringLiteral("XYZW").mid(i, 1)), true);
+        place(&readout, names[i], [i](int w) {
+            const int field = (w - 5 - 95) / 4;
+            return QRect(80 + i * (field + 5), 0, field, 16);
+        });
+    }
+}
+
+void ParameterView::addTransformForFilterKeyMaster(
+    const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+{
+    const struct {
+        TransformRow::Line line;
+        QString caption;
+        const char *labelTextField, *slider, *readoutTextField;
+    } lines[] = {
+        {TransformRow::Scale, tr("Scale"), "scaleLabelTextField", "scaleSlider", "scaleReadoutTextField"},
+        {TransformRow::Angle, tr("Angle"), "angleLabelTextField", "angleSlider", "angleReadoutTextField"},
+        {TransformRow::Stretch, tr("Stretch"), "stretchLabelTextField", "stretchSlider", "stretchReadoutTextField"},
+        {TransformRow::Skew, tr("Skew"), "skewLabelTextField", "skewSlider", "skewReadoutTextField"},
+    };
+    const TransformRow& row = keep(new TransformRow(this, bind(newFilter, newKey, newMaster)));
+    for (const auto& [line, caption, labelName, sliderName, readoutName] : lines) {
+        const int y = 51 - 17 * line;
+        const QString name = tr("%1 %2", "parameter and its part, as in Transform Angle").arg(keyCaption(), caption);
+        addCaption(caption, labelName, [y](int) { return QRect(0, y, 75, 16); });
+        ValueSlider* slider =
+            place(row.line(line).slider, sliderName, [y](int w) { return QRect(80, y, w - 133, 16); });
+        slider->setAccessibleName(name);
+        slider->setToolTip(name);
+        dressReadout(*row.line(line).readout, name, false);
+        place(row.line(line).readout, readoutName, [y](int w) { return QRect(w - 48, y, 43, 16); });
+    }
+}
+
+// --- switches and colors ---
 
 void ParameterView::addCheckBoxForFilterKeyMaster(
     const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
 {
-    begin(newFilter, newKey, newMaster);
+    PanelCheckBox* checkBox = keep(new SwitchRow(this, bind(newFilter, newKey, newMaster))).box;
     const QString caption = keyCaption();
-    checkBox = new PanelCheckBox(caption, this);
     checkBox->setFont(rowFont(font()));
+    checkBox->setText(ellipsizedText(caption, checkBox->font(), 155 - 20)); // beside the box
     checkBox->setAccessibleName(caption);
     checkBox->setToolTip(caption);
     place(checkBox, "checkBox", [](int) { return QRect(76, 0, 155, 16); });
-    checkBox->setText(ellipsizedText(caption, checkBox->font(), 155 - 20)); // beside the box
-    showValue();
-    connect(checkBox, &QCheckBox::clicked, this, &ParameterView::checkBoxChanged);
 }
-
-void ParameterView::checkBoxChanged()
-{
-    if (filter)
-        send(checkBox->isChecked());
-}
-
-// --- a color ---
 
 void ParameterView::addColorWellForFilterKeyMaster(
     const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
 {
-    begin(newFilter, newKey, newMaster);
+    ColorWell* colorWell = keep(new ColorRow(this, bind(newFilter, newKey, newMaster))).well;
     const QString caption = keyCaption();
-    labelTextField = addCaption(caption, "labelTextField", [](int w) { return QRect(0, 0, w - 43, 16); });
-    colorWell = new ColorWell(this);
+    addCaption(caption, "labelTextField", [](int w) { return QRect(0, 0, w - 43, 16); });
     colorWell->setAccessibleName(caption);
     colorWell->setToolTip(tr("%1: choose a color and how opaque it is").arg(caption));
     place(colorWell, "colorWell", [](int w) { return QRect(w - 38, 0, 38, 24); });
-    showValue();
-    connect(colorWell, &ColorWell::colorPicked, this, &ParameterView::colorWellChanged);
-    connect(colorWell, &ColorWell::colorTried, this, &ParameterView::colorWellTried);
+    connect(colorWell, &ColorWell::colorTried, this, [this] { master->updateView(); });
 }
 
-void ParameterView::colorWellChanged()
+// --- images ---
+
+CIImage ParameterView::CIImageWithNSImage(const QImage& image) { return imageOfPicture(image); }
+
+QImage ParameterView::CIImageToNSImageUsingRect(const CIImage& image, const CIRect& rect) const
 {
-    if (filter)
-        send(colorOf(colorWell->color()));
+    return pictureOfImage(image, rect);
 }
 
-/// Nothing to undo: only seen until the color is picked or given up.
-void ParameterView::colorWellTried(const QColor& color)
+ImageRow& ParameterView::addWell(const QString& name, ValueBinding value)
 {
-    if (!filter)
-        return;
-    if (m_triedOver.isNothing())
-        m_triedOver = filter->valueForKey(key);
-    // The color that was there may be one that a QColor can't hold.
-    const bool isOldOne = color == colorWell->color();
-    filter->setValueForKey(isOldOne ? std::exchange(m_triedOver, {}) : CIValue(colorOf(color)), key);
-    master->updateView();
+    ImageRow& row = keep(new ImageRow(this, *master, std::move(value)));
+    row.well->setAccessibleName(name);
+    place(row.well, "imageView", [](int) { return QRect(80, 0, 48, 44); });
+    row.button->setText(tr("Choose"));
+    row.button->setFont(rowFont(font()));
+    row.button->setProperty("mini", true);
+    row.button->setAccessibleName(tr("Choose %1").arg(name));
+    row.button->setToolTip(tr("Opens a picture file for %1").arg(name));
+    place(row.button, "pushButton", [](int) { return QRect(135, 13, 75, 16); });
+    return row;
+}
+
+void ParameterView::addImageWellForFilterKeyMaster(
+    const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+{
+    ValueBinding value = bind(newFilter, newKey, newMaster);
+    addCaption(keyCaption(), "labelTextField", [](int) { return QRect(0, 10, 75, 16); });
+    addWell(keyCaption(), std::move(value));
+}
+
+void ParameterView::addImageWellForImageTagMaster(const CIImage& image, int tag, ParameterMaster& newMaster)
+{
+    master = &newMaster;
+    const ImageRow& row = addWell(tr("Image"),
+        {.get = [image] { return image; }, .set = [&newMaster](const CIValue&) { newMaster.updateView(); }});
+    for (QWidget* part : {static_cast<QWidget*>(row.well), static_cast<QWidget*>(row.button)})
+        part->setProperty("tag", tag);
+    disconnect(row.well, nullptr, &row, nullptr); // nobody wants to know what was dropped
+    connect(row.well, &DropImageView::imageDropped, this, &ParameterView::imageLayerImageWellChanged);
 }

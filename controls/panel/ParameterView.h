@@ -3,28 +3,26 @@
 
 #include "controls/panel/ParameterMaster.h"
 #include "controls/panel/ParameterText.h"
-#include "widgets/rows/TransformParts.h"
+#include "controls/rows/ImageRow.h"
+#include "widgets/rows/ColorRow.h"
+#include "widgets/rows/NumberRow.h"
+#include "widgets/rows/SwitchRow.h"
+#include "widgets/rows/TransformRow.h"
+#include "widgets/rows/VectorRow.h"
 
-#include <array>
-#include <cstdint>
 #include <functional>
 #include <memory>
+#include <type_traits>
 #include <vector>
 
-#include <QColor>
 #include <QImage>
 #include <QWidget>
 
 class CaptionLabel;
-class ColorWell;
-class DropImageView;
 class PanelCheckBox;
-class QPushButton;
 class QTextEdit;
-class ReadoutField;
-class ValueSlider;
 
-/// Exactly one of the builders is called. It reads the input's value, and from then on every change of the user goes to
+/// Exactly one of the builders is called. It binds a row of that kind to the input: every change of the user goes to
 /// the master: the value, the name of the undo step, then the wish to see it. A value that comes from elsewhere is not
 /// noticed; the panel is then built anew.
 ///
@@ -33,8 +31,7 @@ class ValueSlider;
 class ParameterView : public QWidget {
     Q_OBJECT
 public:
-    explicit ParameterView(QWidget* parent = nullptr);
-    ~ParameterView() override;
+    using QWidget::QWidget;
 
     using Filter = std::shared_ptr<CIFilter>;
     void addSliderForFilterKeyMaster(const Filter& filter, const std::string& key, ParameterMaster& master);
@@ -64,8 +61,34 @@ public:
     static CIImage CIImageWithNSImage(const QImage& image);
     QImage CIImageToNSImageUsingRect(const CIImage& image, const CIRect& rect) const;
 
-    /// One undo step; nothing if the input holds it already or has none.
-    void resetToStandardValue();
+public slots:
+    // What the controls do, by name. Nothing where there is no such control.
+    void sliderChanged() { act(&NumberRow::sliderMoved); }
+    void readoutTextFieldChanged() { act(&NumberRow::readoutTyped); }
+    void textSliderChanged() { act(&NumberRow::sliderMoved); }
+    void textReadoutTextFieldChanged() { act(&NumberRow::readoutTyped); }
+    void checkBoxChanged() { act(&SwitchRow::clicked); }
+    void colorWellChanged() { act(&ColorRow::picked); }
+    void readout1TextFieldChanged() { act(&VectorRow::committed, 0); }
+    void readout2TextFieldChanged() { act(&VectorRow::committed, 1); }
+    void readout3TextFieldChanged() { act(&VectorRow::committed, 2); }
+    void readout4TextFieldChanged() { act(&VectorRow::committed, 3); }
+    void readout1DidChange() { act(&VectorRow::typed, 0); }
+    void readout2DidChange() { act(&VectorRow::typed, 1); }
+    void readout3DidChange() { act(&VectorRow::typed, 2); }
+    void readout4DidChange() { act(&VectorRow::typed, 3); }
+    void scaleSliderChanged() { act(&TransformRow::sliderMoved, TransformRow::Scale); }
+    void scaleReadoutTextFieldChanged() { act(&TransformRow::readoutTyped, TransformRow::Scale); }
+    void angleSliderChanged() { act(&TransformRow::sliderMoved, TransformRow::Angle); }
+    void angleReadoutTextFieldChanged() { act(&TransformRow::readoutTyped, TransformRow::Angle); }
+    void stretchSliderChanged() { act(&TransformRow::sliderMoved, TransformRow::Stretch); }
+    void stretchReadoutTextFieldChanged() { act(&TransformRow::readoutTyped, TransformRow::Stretch); }
+    void skewSliderChanged() { act(&TransformRow::sliderMoved, TransformRow::Skew); }
+    void skewReadoutTextFieldChanged() { act(&TransformRow::readoutTyped, TransformRow::Skew); }
+    void imageWellChanged() { act(&ImageRow::fileDropped); }
+    void pushButtonChanged() { act(&ImageRow::chooseFile); }
+    void imageLayerImageWellChanged() { master->updateView(); }
+    void imageLayerPushButtonChanged() { act(&ImageRow::chooseFile); }
 
 protected:
     void resizeEvent(QResizeEvent*) override;
@@ -74,101 +97,35 @@ protected:
 private:
     using Placement = std::function<QRect(int width)>; // in a row of that width, y up
 
-    void begin(const Filter& filter, const std::string& key, ParameterMaster& master);
-    const CIInputAttributes& attributes() const;
+    template <class Row, class... Arguments>
+    void act(void (Row::*action)(Arguments...), std::type_identity_t<Arguments>... arguments)
+    {
+        if (auto* row = qobject_cast<Row*>(m_row))
+            (row->*action)(arguments...);
+    }
+    ValueBinding bind(const Filter& filter, const std::string& key, ParameterMaster& master);
+    template <class Row>
+    Row& keep(Row* row)
+    {
+        m_row = row;
+        return *row;
+    }
+    CIInputAttributes attributes() const;
     QString keyCaption() const;
-    void place(QWidget* widget, const char* name, Placement placement);
+    template <class Widget>
+    Widget* place(Widget* widget, const char* name, Placement placement);
+    void setPlace(QWidget& widget, const Placement& placement) const;
     CaptionLabel* addCaption(const QString& text, const char* name, Placement placement);
-    ValueSlider* addSlider(const QString& name, const char* objectName, Placement placement);
-    ReadoutField* addReadout(const QString& name, const char* objectName, Placement placement, bool bezeled = false);
-    void addNumberRow(const QString& caption, double lo, double hi);
-    void addComponents(int count);
-    void addTransformLine(int line);
-    void addWell(const QString& name);
+    void dressReadout(ReadoutField& readout, const QString& name, bool bezeled);
+    void addNumberRow(const QString& caption, const NumberLook& look, ValueBinding value);
+    void addComponents(int count, ValueBinding value);
+    ImageRow& addWell(const QString& name, ValueBinding value);
 
-    void send(const CIValue& value);
-    void beginChange();
-    void endChange();
-    void showValue(); // what the filter holds
-    void showNumber();
-    void showComponents();
-    void showTransform();
-
-    void sliderChanged();
-    void readoutTextFieldChanged();
-    void checkBoxChanged();
-    void colorWellChanged();
-    void colorWellTried(const QColor& color);
-    void readout1TextFieldChanged() { componentTyped(0, true); }
-    void readout2TextFieldChanged() { componentTyped(1, true); }
-    void readout3TextFieldChanged() { componentTyped(2, true); }
-    void readout4TextFieldChanged() { componentTyped(3, true); }
-    void readout1DidChange() { componentTyped(0, false); }
-    void readout2DidChange() { componentTyped(1, false); }
-    void readout3DidChange() { componentTyped(2, false); }
-    void readout4DidChange() { componentTyped(3, false); }
-    void componentTyped(std::size_t component, bool committed);
-    void giveUpTyping();
-    void imageWellChanged();
-    void pushButtonChanged();
-    void imageLayerImageWellChanged();
-    void imageLayerPushButtonChanged();
-    void chooseFile(std::function<void(const QString&)> chosen);
-    void takeFile(const QString& path);
-    void textSliderChanged();
-    void textReadoutTextFieldChanged();
-    void scaleSliderChanged() { transformSliderChanged(0); }
-    void angleSliderChanged() { transformSliderChanged(1); }
-    void stretchSliderChanged() { transformSliderChanged(2); }
-    void skewSliderChanged() { transformSliderChanged(3); }
-    void scaleReadoutTextFieldChanged() { transformReadoutChanged(0); }
-    void angleReadoutTextFieldChanged() { transformReadoutChanged(1); }
-    void stretchReadoutTextFieldChanged() { transformReadoutChanged(2); }
-    void skewReadoutTextFieldChanged() { transformReadoutChanged(3); }
-    void transformSliderChanged(int line);
-    void transformReadoutChanged(int line);
-    bool takeTransformPart(int line, float part);
-    void showTransformPart(int line);
-
-    /// One part of a transform with its controls.
-    struct TransformLine {
-        ValueSlider* slider;
-        ReadoutField* readout;
-        std::int32_t dataType;
-        float* last;
-    };
-    TransformLine transformLine(int line);
-    TransformParts lastTransformParts() const;
-
-    std::shared_ptr<CIFilter> filter;
-    std::shared_ptr<CIDictionary> dict;
+    Filter filter;
     std::string key;
     ParameterMaster* master = nullptr;
-    ValueSlider* slider = nullptr;
-    std::int32_t dataType = UnitClass::kScalar;
-    PanelCheckBox* checkBox = nullptr;
-    ColorWell* colorWell = nullptr;
-    DropImageView* imageView = nullptr;
-    QPushButton* pushButton = nullptr;
-    CaptionLabel* labelTextField = nullptr;
-    ReadoutField* readoutTextField = nullptr;
     QTextEdit* textView = nullptr; // no builder makes one
-    std::int32_t beforeDecimal = 0, afterDecimal = 0;
-    float lastFloatValue = 0;
-    ValueSlider *scaleSlider = nullptr, *angleSlider = nullptr, *stretchSlider = nullptr, *skewSlider = nullptr;
-    CaptionLabel *scaleLabelTextField = nullptr, *angleLabelTextField = nullptr, *stretchLabelTextField = nullptr,
-                 *skewLabelTextField = nullptr;
-    ReadoutField *scaleReadoutTextField = nullptr, *angleReadoutTextField = nullptr, *stretchReadoutTextField = nullptr,
-                 *skewReadoutTextField = nullptr;
-    std::int32_t scaleDataType = UnitClass::kScalar, angleDataType = UnitClass::kAngle,
-                 stretchDataType = UnitClass::kScalar, skewDataType = UnitClass::kScalar;
-    float lastScaleFloatValue = 1, lastAngleFloatValue = 0, lastStretchFloatValue = 1, lastSkewFloatValue = 0;
-    bool usingNSAffineTransform = true;
-    ReadoutField *readout1TextField = nullptr, *readout2TextField = nullptr, *readout3TextField = nullptr,
-                 *readout4TextField = nullptr;
 
+    ValueRow* m_row = nullptr;
     std::vector<std::pair<QWidget*, Placement>> m_places;
-    CIValue m_triedOver; // the color while others are tried
-    CIValue m_valueBefore; // typing began
-    bool m_changing = false; // a step of undo is open
 };

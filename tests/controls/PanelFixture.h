@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QTest>
-#include <QWheelEvent>
 
 struct FakeParameterMaster : ParameterMaster {
     std::vector<std::string> log; // what was called, in order
@@ -78,13 +77,6 @@ protected:
         field.selectAll();
         QTest::keyClicks(&field, text);
         QTest::keyClick(&field, end);
-    }
-    void wheel(QWidget& target, int delta, Qt::KeyboardModifiers modifiers = {})
-    {
-        const QPointF middle = QRectF(target.rect()).center();
-        QWheelEvent event(
-            middle, target.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&target, &event);
     }
 
     FakeParameterMaster master;

@@ -109,11 +109,16 @@ TEST(Transform, WithoutAPlaneHasNumbersAllTheSame)
         for (float part : {parts.scale, parts.angle, parts.stretch, parts.skew})
             EXPECT_TRUE(std::isfinite(part));
     }
-    EXPECT_EQ(sliderPositionOfFactor(0), -2);
-    EXPECT_EQ(sliderPositionOfFactor(-5), -2);
-    EXPECT_EQ(sliderPositionOfFactor(1e9f), 2);
-    EXPECT_FLOAT_EQ(float(sliderPositionOfFactor(10)), 1);
-    EXPECT_FLOAT_EQ(factorOfSliderPosition(1), 10);
+}
+
+TEST(Readout, OfAFactorStandsAtItsPowerOfTen)
+{
+    const NumberLook factor{.min = -2, .max = 2, .isFactor = true};
+    EXPECT_EQ(factor.position(0), -2);
+    EXPECT_EQ(factor.position(-5), -2);
+    EXPECT_EQ(factor.position(1e9), 2);
+    EXPECT_EQ(factor.position(10), 1);
+    EXPECT_EQ(factor.numberAt(1), 10);
 }
 
 TEST(Panel, GivesEachInputTheRowOfItsKind)

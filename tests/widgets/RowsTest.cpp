@@ -7,12 +7,17 @@
 #include "widgets/rows/ColorRow.h"
 #include "widgets/rows/NumberRow.h"
 #include "widgets/rows/SwitchRow.h"
+#include "widgets/rows/TransformRow.h"
+#include "widgets/rows/VectorRow.h"
 #include "widgets/ValueSlider.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QTest>
+#include <QWheelEvent>
+
+#include <cmath>
 
 namespace {
 
@@ -51,11 +56,18 @@ protected:
         QTest::keyClicks(&field, text);
         QTest::keyClick(&field, end);
     }
-    static void drag(ValueSlider& slider, int to)
+    static void drag(ValueSlider& slider, int to, Qt::KeyboardModifiers modifiers = {})
     {
         QMouseEvent event(QEvent::MouseMove, QPointF(to, 8), slider.mapToGlobal(QPointF(to, 8)), Qt::NoButton,
-            Qt::LeftButton, Qt::NoModifier);
+            Qt::LeftButton, modifiers);
         QApplication::sendEvent(&slider, &event);
+    }
+    static void wheel(QWidget& target, int delta, Qt::KeyboardModifiers modifiers = {})
+    {
+        const QPointF middle = QRectF(target.rect()).center();
+        QWheelEvent event(
+            middle, target.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&target, &event);
     }
 
     QWidget window;
@@ -76,9 +88,11 @@ TEST_F(RowsTest, ADragIsOneStepOfUndo)
     drag(*row.slider, 126);
     drag(*row.slider, 146);
     EXPECT_EQ(value.toDouble(), 70);
+    drag(*row.slider, 166, Qt::ShiftModifier);
+    EXPECT_EQ(value.toDouble(), 71) << "ten times finer";
     QTest::mouseRelease(row.slider, Qt::LeftButton, {}, {146, 8});
-    EXPECT_EQ(log, "begin set set end ");
-    EXPECT_EQ(row.readout->text(), "70.00");
+    EXPECT_EQ(log, "begin set set set end ");
+    EXPECT_EQ(row.readout->text(), "71.00");
 
     log.clear();
     QTest::mousePress(row.slider, Qt::LeftButton, {}, {146, 8});
@@ -97,6 +111,30 @@ TEST_F(RowsTest, WhatTakesLongActsWhenTheSliderIsLetGo)
     QTest::mouseRelease(row.slider, Qt::LeftButton, {}, {126, 8});
     EXPECT_EQ(log, "begin set end ");
     EXPECT_EQ(value, CIValue(60));
+}
+
+TEST_F(RowsTest, KeysAndWheelStepTheSlider)
+{
+    value = 10;
+    ValueSlider& slider = *number({.max = 100}).slider;
+    slider.setFocus();
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&slider, key, modifiers);
+        return value.toDouble();
+    };
+    const auto turn = [&](int delta, Qt::KeyboardModifiers modifiers = {}) {
+        wheel(slider, delta, modifiers);
+        return value.toDouble();
+    };
+    EXPECT_EQ(press(Qt::Key_Right), 11);
+    EXPECT_EQ(press(Qt::Key_Down), 10);
+    EXPECT_NEAR(press(Qt::Key_Right, Qt::ShiftModifier), 10.1, 1e-9);
+    EXPECT_EQ(press(Qt::Key_Home), 0);
+    EXPECT_EQ(turn(120), 1);
+    EXPECT_EQ(turn(60), 1) << "half a notch";
+    EXPECT_NEAR(turn(60, Qt::ShiftModifier), 1.1, 1e-9);
+    press(Qt::Key_End);
+    EXPECT_EQ(turn(120), 100);
 }
 
 TEST_F(RowsTest, CommaAndPointMeanTheSameInEveryLanguage)
@@ -189,6 +227,53 @@ TEST_F(RowsTest, SwitchesAndMenusTellWhatTheUserChose)
     EXPECT_EQ(log, "set ") << "chosen again";
 }
 
+TEST_F(RowsTest, VectorsFollowEveryKeyAndAreOneStep)
+{
+    value = CIVector{0, 1, 0};
+    ReadoutField& y = *(new VectorRow(panel, 4, binding()))->readouts()[1];
+    EXPECT_EQ(y.text(), "1.000");
+    y.show();
+    y.setFocus();
+    y.selectAll();
+    QTest::keyClicks(&y, "0,5");
+    EXPECT_EQ(value.toVector(), (CIVector{0, 0.5, 0, 0}));
+    QTest::keyClick(&y, Qt::Key_Return);
+    EXPECT_EQ(log, "begin set set set set end ") << "three keys and the end";
+
+    type(y, "x");
+    EXPECT_EQ(y.text(), "0.500");
+    y.selectAll();
+    QTest::keyClicks(&y, "3");
+    QTest::keyClick(&y, Qt::Key_Escape);
+    EXPECT_EQ(value.toVector(), (CIVector{0, 0.5, 0, 0})) << "given up";
+    EXPECT_EQ(y.text(), "0.500");
+}
+
+TEST_F(RowsTest, TransformsKeepTheirTranslation)
+{
+    value = CIAffineTransform::translation(7, 8);
+    auto* row = new TransformRow(panel, binding());
+    const auto readout = [&](TransformRow::Line line) -> ReadoutField& { return *row->line(line).readout; };
+    EXPECT_EQ(readout(TransformRow::Scale).text(), "1.00");
+    EXPECT_EQ(readout(TransformRow::Angle).text(), "0.0");
+    row->line(TransformRow::Scale).slider->moveTo(1);
+    EXPECT_EQ(value.toTransform(), (CIAffineTransform{10, 0, 0, 10, 7, 8}));
+    type(readout(TransformRow::Angle), "90");
+    const CIAffineTransform turned = value.toTransform();
+    EXPECT_NEAR(turned.b, 10, 1e-5);
+    EXPECT_NEAR(turned.c, -10, 1e-5);
+    type(readout(TransformRow::Stretch), "999999");
+    EXPECT_EQ(readout(TransformRow::Stretch).text(), "1.00") << "a million times ten is out of reason";
+    EXPECT_EQ(value.toTransform(), turned);
+    type(readout(TransformRow::Scale), "0");
+    EXPECT_TRUE(std::isfinite(value.toTransform().a));
+
+    value = CIVector{2, 0, 0, 2, 5, 6};
+    row->show();
+    type(readout(TransformRow::Scale), "3");
+    EXPECT_EQ(value.toVector(), (CIVector{3, 0, 0, 3, 5, 6})) << "stays a vector";
+}
+
 TEST_F(RowsTest, ColorsAreTriedBeforeTheyArePicked)
 {
     const CIColor before(1, 0.5, 0.25, 0.5);
@@ -200,7 +285,8 @@ TEST_F(RowsTest, ColorsAreTriedBeforeTheyArePicked)
         row->well->panel()->setCurrentColor(QColor(0, 255, 0, 128));
         EXPECT_EQ(value.toColor().green(), 1) << "seen at once";
         accepted ? row->well->panel()->accept() : row->well->panel()->reject();
-        EXPECT_EQ(log, accepted ? "try try set " : "try try ");
+        EXPECT_EQ(log.ends_with("try set "), accepted);
+        EXPECT_EQ(log.ends_with("try "), !accepted);
         EXPECT_EQ(value.toColor() == before, !accepted);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }

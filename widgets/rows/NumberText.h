@@ -24,7 +24,6 @@ struct ReadoutFormat {
     std::int32_t afterDecimal = 2; // digits
 };
 inline constexpr ReadoutFormat kComponentFormat{1, 3}; // of vectors and offsets
-inline constexpr ReadoutFormat kFactorFormat{4, 2}; // of text, and of a transform but for its angle
 
 ReadoutFormat readoutFormatOf(std::int32_t unitClass);
 /// The number as it stands, in no unit; at most 31 characters.

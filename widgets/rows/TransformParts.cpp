@@ -1,6 +1,5 @@
 #include "widgets/rows/TransformParts.h"
 
-#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -31,12 +30,3 @@ CIAffineTransform composedTransform(const TransformParts& parts, CIPoint transla
     const double scale = parts.scale, along = scale * double(parts.stretch), skew = parts.skew;
     return {along * (c - skew * s), along * (s + skew * c), -scale * s, scale * c, translation.x, translation.y};
 }
-
-double sliderPositionOfFactor(float factor)
-{
-    if (!(factor > 0))
-        return -kFactorSliderEnd;
-    return std::clamp(std::log10(double(factor)), -kFactorSliderEnd, kFactorSliderEnd);
-}
-
-float factorOfSliderPosition(double position) { return float(std::pow(10.0, position)); }

@@ -18,9 +18,3 @@ TransformParts transformParts(const CIAffineTransform& transform);
 
 /// Neither scale nor stretch need be positive.
 CIAffineTransform composedTransform(const TransformParts& parts, CIPoint translation);
-
-/// Where the slider of a scale or stretch stands: its power of ten, from -2 to 2.
-double sliderPositionOfFactor(float factor);
-float factorOfSliderPosition(double position);
-inline constexpr double kFactorSliderEnd = 2;
-inline constexpr double kSkewSliderEnd = 10;

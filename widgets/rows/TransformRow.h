@@ -17,6 +17,8 @@ public:
 
     void show() override;
     NumberRow& line(Line line) const { return *m_lines[line]; }
+    void sliderMoved(Line line) { m_lines[line]->sliderMoved(); }
+    void readoutTyped(Line line) { m_lines[line]->readoutTyped(); }
 
 private:
     NumberRow* addLine(float TransformParts::*part, const NumberLook& look);

@@ -9,7 +9,7 @@
 /// the main thread as long as the row lives, some by its destructor; they hold what they need of their own.
 struct ValueBinding {
     std::function<CIValue()> get;
-    /// By the user: what can be undone. The value may be refused; `get` tells.
+    /// By the user: what can be undone. The value may be refused, `get` tells. The row is still there afterwards.
     std::function<void(const CIValue& value)> set;
     /// What the value was when it was new; nothing for a value that has no such.
     std::function<CIValue()> standard = [] { return CIValue(); };

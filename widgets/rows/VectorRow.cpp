@@ -3,40 +3,34 @@
 #include "widgets/ReadoutField.h"
 #include "widgets/rows/NumberText.h"
 
-namespace {
-
-std::vector<ReadoutField*> fieldsIn(QWidget* panel, int count)
-{
-    std::vector<ReadoutField*> fields;
-    for (int i = 0; i < count; ++i)
-        fields.push_back(new ReadoutField(panel));
-    return fields;
-}
-
-} // namespace
-
 VectorRow::VectorRow(QWidget* panel, int count, ValueBinding value)
     : ValueRow(panel, std::move(value))
-    , readouts(fieldsIn(panel, count))
 {
-    for (std::size_t i = 0; i < readouts.size(); ++i) {
-        connect(readouts[i], &QLineEdit::textEdited, this, [this, i] { typed(i); });
-        connect(readouts[i], &ReadoutField::committed, this, [this, i] { committed(i); });
-        connect(readouts[i], &ReadoutField::givenUp, this, &VectorRow::giveUp);
+    for (std::size_t i = 0; i < std::size_t(count); ++i) {
+        auto* field = m_readouts.emplace_back(new ReadoutField(panel));
+        connect(field, &QLineEdit::textEdited, this, [this, i] { typed(i); });
+        connect(field, &ReadoutField::committed, this, [this, i] { committed(i); });
+        connect(field, &ReadoutField::givenUp, this, &VectorRow::giveUp);
     }
     show();
 }
 
 void VectorRow::show()
 {
-    const CIVector vector = m_value.get().toVector();
-    for (std::size_t i = 0; i < readouts.size(); ++i)
-        readouts[i]->setShownText(formattedNumber(vector.valueAtIndex(i), kComponentFormat));
+    for (std::size_t i = 0; i < m_readouts.size(); ++i)
+        m_readouts[i]->setShownText(text(i));
+}
+
+QString VectorRow::text(std::size_t component) const
+{
+    return formattedNumber(m_value.get().toVector().valueAtIndex(component), kComponentFormat);
 }
 
 void VectorRow::typed(std::size_t component)
 {
-    const std::optional<double> number = typedNumber(readouts[component]->text());
+    if (component >= m_readouts.size())
+        return;
+    const std::optional<double> number = typedNumber(m_readouts[component]->text());
     if (!number)
         return;
     if (!isChanging())
@@ -50,11 +44,11 @@ void VectorRow::typed(std::size_t component)
 
 void VectorRow::committed(std::size_t component)
 {
-    ReadoutField* field = readouts[component];
+    if (component >= m_readouts.size())
+        return;
     typed(component);
-    field->setShownText(typedNumber(field->text())
-            ? field->text()
-            : formattedNumber(m_value.get().toVector().valueAtIndex(component), kComponentFormat));
+    ReadoutField& field = *m_readouts[component];
+    field.setShownText(typedNumber(field.text()) ? field.text() : text(component));
     endChange();
 }
 

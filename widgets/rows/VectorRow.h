@@ -15,15 +15,17 @@ public:
     VectorRow(QWidget* panel, int count, ValueBinding value);
 
     void show() override;
-    /// Takes what has been typed so far into one of the fields.
+    /// Takes what has been typed so far into one of the fields; nothing if there is no such.
     void typed(std::size_t component);
     /// The same at the end of typing.
     void committed(std::size_t component);
 
-    const std::vector<ReadoutField*> readouts;
+    const std::vector<ReadoutField*>& readouts() const { return m_readouts; }
 
 private:
+    QString text(std::size_t component) const;
     void giveUp();
 
+    std::vector<ReadoutField*> m_readouts;
     CIValue m_before; // typing began
 };
