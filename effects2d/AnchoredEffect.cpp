@@ -2,14 +2,16 @@
 
 #include "effects2d/EffectPanel.h"
 
+std::shared_ptr<BaseEffect> AnchoredEffect::mycopy() const
+{
+    const auto copy = std::static_pointer_cast<AnchoredEffect>(GeneratedEffect::mycopy());
+    copy->setStartPoint(m_startPT);
+    return copy;
+}
+
 void AnchoredEffect::registerPosition()
 {
-    if (UndoManager* undo = undoManager()) {
-        undo->registerUndoWithTarget(static_cast<BaseEffect*>(this), [effect = shared_from_this(), point = m_startPT] {
-            static_cast<AnchoredEffect&>(*effect).setPositionUNDO(point);
-        });
-        undo->setActionName(EffectPanel::tr("Move Anchor"));
-    }
+    registerUndo(EffectPanel::tr("Move Anchor"), &AnchoredEffect::setPositionUNDO, m_startPT);
 }
 
 void AnchoredEffect::moveAnchor(CIPoint point)

@@ -8,6 +8,7 @@
 class AnchoredEffect : public GeneratedEffect {
 public:
     bool isMousing() const override { return true; }
+    std::shared_ptr<BaseEffect> mycopy() const override;
     void mouseDown(CIPoint point) override;
     void mouseDragged(CIPoint point) override;
     void mouseUp(CIPoint point) override;
@@ -17,7 +18,6 @@ public:
     void setStartPoint(CIPoint point) { m_startPT = point; }
 
 protected:
-    static constexpr CIPoint kNotPlaced{-11000, -11000};
     /// Puts an anchor that isn't placed yet into the middle of what is drawn on.
     void placeAnchor(const QRectF& rect);
 

@@ -1,6 +1,25 @@
 #include "effects2d/BaseEffect.h"
 
 #include "effects2d/EffectMaster.h"
+#include "effects2d/EffectPanel.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/UndoManager.h"
+
+const EffectDeclaration& BaseEffect::declaration() const
+{
+    static const EffectDeclaration declared{"BaseEffect", "", ""};
+    return declared;
+}
+
+void BaseEffect::awakeFromNib()
+{
+    setName(declaration().name);
+    setTips(declaration().tips);
+    m_startPT = declaration().startPoint;
+    for (const EffectParameter& parameter : declaration().parameters)
+        if (!parameter.facts.start.isNothing())
+            parameter.setValue(*this, parameter.facts.start);
+}
 
 void BaseEffect::clearTopControlsView()
 {
@@ -24,6 +43,15 @@ std::shared_ptr<BaseEffect> BaseEffect::copyWithZone() const
     return copy;
 }
 
+std::shared_ptr<BaseEffect> BaseEffect::mycopy() const
+{
+    std::shared_ptr<BaseEffect> copy = copyWithZone();
+    for (const EffectParameter& parameter : declaration().parameters)
+        if (parameter.facts.copied)
+            parameter.setValue(*copy, parameter.value(*this));
+    return copy;
+}
+
 void BaseEffect::read(const CIDictionary& dictionary)
 {
     for (const auto& [key, value] : dictionary) {
@@ -36,12 +64,17 @@ void BaseEffect::read(const CIDictionary& dictionary)
         else if (key == "startPT.y")
             m_startPT.y = value.toFloat();
     }
+    for (const EffectParameter& parameter : declaration().parameters)
+        parameter.read(*this, dictionary);
 }
 
 CIDictionary BaseEffect::save() const
 {
-    return {{"Name", name}, {"Tips", m_tips}, {"startPT.x", float(m_startPT.x)}, {"startPT.y", float(m_startPT.y)},
-        {"class", className()}};
+    CIDictionary dictionary{{"Name", name}, {"Tips", m_tips}, {"startPT.x", float(m_startPT.x)},
+        {"startPT.y", float(m_startPT.y)}, {"class", className()}};
+    for (const EffectParameter& parameter : declaration().parameters)
+        parameter.save(*this, dictionary);
+    return dictionary;
 }
 
 BaseEffect::LaterImage BaseEffect::laterDrawImage()
@@ -79,4 +112,84 @@ UndoManager* BaseEffect::undoManager()
 {
     EffectMaster* master = EffectMaster::mainController();
     return master ? master->undoManager() : nullptr;
+}
+
+void BaseEffect::post(const char* other) const
+{
+    NotificationCenter::defaultCenter().postNotificationName(QString::fromLatin1(other ? other : notification()));
+}
+
+void BaseEffect::registerUndoInvocation(const QString& what, std::function<void()> invocation)
+{
+    if (UndoManager* undo = undoManager()) {
+        undo->registerUndoWithTarget(this, std::move(invocation));
+        undo->setActionName(what);
+    }
+}
+
+// --- parameters ---
+
+const EffectParameter* BaseEffect::parameterIn(const void* field) const
+{
+    const std::vector<EffectParameter>& all = declaration().parameters;
+    const auto found =
+        std::ranges::find_if(all, [&](const EffectParameter& parameter) { return parameter.field(*this) == field; });
+    return found == all.end() ? nullptr : &*found;
+}
+
+void BaseEffect::change(const void* field, EffectControl* sender)
+{
+    if (const EffectParameter* parameter = parameterIn(field))
+        changeParameter(*parameter, sender);
+}
+
+void BaseEffect::restore(const void* field, const CIValue& value, EffectControl* sender)
+{
+    if (const EffectParameter* parameter = parameterIn(field))
+        restoreParameter(parameter, value, sender);
+}
+
+void BaseEffect::registerOldValue(const EffectParameter& parameter, EffectControl* sender)
+{
+    registerUndo(EffectPanel::undoName(parameter.text), &BaseEffect::restoreParameter, &parameter,
+        parameter.value(*this), QPointer(sender));
+}
+
+void BaseEffect::changeParameter(const EffectParameter& parameter, EffectControl* sender)
+{
+    registerOldValue(parameter, sender);
+    parameter.setValue(*this, parameter.chosen(sender->value()));
+    parameterChanged(parameter.facts);
+    post();
+}
+
+void BaseEffect::restoreParameter(const EffectParameter* parameter, CIValue value, QPointer<EffectControl> sender)
+{
+    registerOldValue(*parameter, sender);
+    parameter->setValue(*this, value);
+    if (sender)
+        sender->setValue(parameter->shown(value));
+    parameterChanged(parameter->facts);
+    post(parameter->facts.undoneTells);
+}
+
+// --- controls ---
+
+void BaseEffect::setUpControlsView()
+{
+    if (!topControlsView)
+        return;
+    try {
+        buildControls(EffectPanel::placedIn(*topControlsView));
+    } catch (const std::exception& error) {
+        qWarning("%s", error.what());
+    }
+}
+
+void BaseEffect::buildControls(EffectPanel& panel)
+{
+    for (const EffectParameter& parameter : declaration().parameters)
+        if (parameter.text.label)
+            panel.addParameter(parameter, parameter.value(*this),
+                action([this, &parameter](EffectControl* sender) { changeParameter(parameter, sender); }));
 }

@@ -1,22 +1,24 @@
 // What all generated effects share, flat ones and those in 3D.
 #pragma once
 
+#include "effects2d/EffectParameter.h"
 #include "platform/coreimage/CIContext.h"
-#include "platform/coreimage/CIImage.h"
-#include "platform/coreimage/CIValue.h"
 #include "platform/quartz/Drawing.h"
 
 #include <QPointer>
 #include <QWidget>
 
-#include <array>
-#include <functional>
 #include <memory>
-#include <string>
 
+class EffectControl;
+class EffectPanel;
 class UndoManager;
 
-/// A generated effect. The list holds one prototype of each class; the user edits copies of them (`mycopy`).
+/// A generated effect. The list holds one prototype of each class; the user edits copies of them (`mycopy`). A class
+/// says in its `declaration` what it is called and which parameters it has, and adds the drawing.
+///
+/// Each parameter has a control action `change…(sender)` and an undo target that takes the value and the control, which
+/// may be null. They are the names by which others know `change` and `restore`.
 ///
 /// Effects are made with std::make_shared: undo steps keep the effect that they belong to alive.
 /// Points are picture pixels, y up. Main thread only.
@@ -27,8 +29,12 @@ public:
     BaseEffect(const BaseEffect&) = delete;
     BaseEffect& operator=(const BaseEffect&) = delete;
 
+    virtual const EffectDeclaration& declaration() const;
+    /// The name of the class in stored dictionaries.
+    std::string className() const { return declaration().className; }
+
     /// Gives a prototype its name, tips and the parameters that the user starts with. Copies never get this call.
-    virtual void awakeFromNib() { }
+    virtual void awakeFromNib();
 
     std::string myname() const { return name; }
     std::string tips() const { return m_tips; }
@@ -49,7 +55,7 @@ public:
     /// A new effect of the same class with only the name, the tips and the panel taken over.
     std::shared_ptr<BaseEffect> copyWithZone() const;
     /// A new effect with the same parameters. It fetches the picture and draws on its own.
-    virtual std::shared_ptr<BaseEffect> mycopy() const { return copyWithZone(); }
+    virtual std::shared_ptr<BaseEffect> mycopy() const;
 
     virtual void draw() { }
     virtual void mouseDown(CIPoint) { }
@@ -57,7 +63,7 @@ public:
     virtual void mouseDragged(CIPoint) { }
 
     /// Builds the controls into the panel.
-    virtual void setUpControlsView() { }
+    virtual void setUpControlsView();
 
     /// Fetches the picture from the controller, unless it is there.
     virtual void loadImage() { }
@@ -66,9 +72,9 @@ public:
     CIPoint startPoint() const { return m_startPT; }
 
     /// Takes over the parameters that are present.
-    virtual void read(const CIDictionary& dictionary);
+    void read(const CIDictionary& dictionary);
     /// The parameters and the class name, as favourites are stored.
-    virtual CIDictionary save() const;
+    CIDictionary save() const;
 
     /// The finished picture at full size; null for none.
     virtual CIImage getDrawImage() { return m_image; }
@@ -84,16 +90,45 @@ public:
     /// Renders a part of an image that lies with its lower left corner on the canvas' origin.
     static QImage renderedPart(const CIImage& image, const quartz::Part& part);
 
-    /// The name of the class in stored dictionaries.
-    virtual std::string className() const { return "BaseEffect"; }
-
 protected:
+    static constexpr CIPoint kNotPlaced{-11000, -11000}; // an anchor without a place yet
+
     /// A new effect of the own class with nothing set.
     virtual std::shared_ptr<BaseEffect> init() const { return std::make_shared<BaseEffect>(); }
 
     static QSizeF sizeOf(const CIImage& image); // 0 x 0 when it is null or has no end
     /// The controller's; null without one.
     static UndoManager* undoManager();
+    /// Tells the view to draw anew: by its own notification, or by the one given.
+    void post(const char* notification = nullptr) const;
+    virtual const char* notification() const { return "UpdateCustomView"; }
+
+    /// Registers the call of an operation of this effect, and names the step after what it takes back.
+    template <class Effect, class... Parameters, class... Arguments>
+    void registerUndo(const QString& what, void (Effect::*operation)(Parameters...), Arguments... arguments)
+    {
+        registerUndoInvocation(what, [effect = shared_from_this(), operation, arguments...] {
+            (static_cast<Effect&>(*effect).*operation)(arguments...);
+        });
+    }
+
+    /// Gives the parameter that is kept in `field` what the user has chosen. Does nothing for other fields.
+    void change(const void* field, EffectControl* sender);
+    /// Gives it a value and shows that in the control.
+    void restore(const void* field, const CIValue& value, EffectControl* sender);
+    /// A parameter has got another value.
+    virtual void parameterChanged(const ParameterFacts&) { }
+    /// Adds the controls in their order.
+    virtual void buildControls(EffectPanel& panel);
+    /// What a control does; nothing when the effect is gone.
+    template <class Act>
+    std::function<void(EffectControl*)> action(Act act)
+    {
+        return [weak = weak_from_this(), act](EffectControl* sender) {
+            if (const std::shared_ptr<BaseEffect> effect = weak.lock())
+                act(sender);
+        };
+    }
 
     bool wasInit = false; // the first `getDrawImage` or `drawPart` has come
     std::string name; // shown in the list
@@ -105,4 +140,11 @@ protected:
     bool gTrackball = false; // 3D effects: the mouse turns the object
     std::array<float, 4> worldRotation{}; // 3D effects
     CIPoint m_startPT; // the anchor
+
+private:
+    const EffectParameter* parameterIn(const void* field) const;
+    void changeParameter(const EffectParameter& parameter, EffectControl* sender);
+    void restoreParameter(const EffectParameter* parameter, CIValue value, QPointer<EffectControl> sender);
+    void registerOldValue(const EffectParameter& parameter, EffectControl* sender);
+    void registerUndoInvocation(const QString& what, std::function<void()> invocation);
 };

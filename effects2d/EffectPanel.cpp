@@ -58,7 +58,7 @@ public:
     CIValue value() const override { return m_widget->currentIndex(); }
     void setValue(const CIValue& value) override
     {
-        m_last = parameterValue<int>(value);
+        m_last = int(value.toDouble());
         m_widget->setCurrentIndex(m_last);
     }
 
@@ -133,7 +133,7 @@ public:
 /// A slider with an editable readout. A drag is one step for undo.
 class Slider : public ControlOf<ValueSlider> {
 public:
-    Slider(const EffectPanel::Text& text, const EffectPanel::Range& range, double standard)
+    Slider(const ParameterFacts& range, double standard)
         : m_range(range)
         , m_readout(new ReadoutField(this))
     {
@@ -142,8 +142,6 @@ public:
         m_widget->setStandardValue(standard);
         m_readout->setFixedWidth(kReadoutWidth);
         m_readout->setAlignment(Qt::AlignRight);
-        m_readout->setAccessibleName(text.label);
-        m_readout->setToolTip(text.toolTip);
         m_row->addWidget(m_readout);
         connect(m_widget, &ValueSlider::pressed, this, &Slider::begin);
         connect(m_widget, &ValueSlider::released, this, &Slider::end);
@@ -221,11 +219,29 @@ private:
             userSets(rounded(std::clamp(number, m_range.min, m_range.max)));
     }
 
-    EffectPanel::Range m_range;
+    ParameterFacts m_range;
     ReadoutField* m_readout;
     double m_value = 0; // of the parameter, which may lie between steps
     bool m_dragged = false;
 };
+
+EffectControl* newControl(const EffectParameter& parameter, double standard)
+{
+    switch (parameter.kind()) {
+    case EffectParameter::Kind::Switch:
+        return new Switch;
+    case EffectParameter::Kind::ColorWell:
+        return new Well;
+    case EffectParameter::Kind::Slider:
+        return new Slider(parameter.facts, standard);
+    case EffectParameter::Kind::PopUp:
+        break;
+    }
+    QStringList titles;
+    for (const char* title : parameter.facts.titles)
+        titles << EffectPanel::tr(title);
+    return new PopUp(titles);
+}
 
 } // namespace
 
@@ -252,61 +268,50 @@ EffectPanel& EffectPanel::placedIn(QWidget& view)
     return *panel;
 }
 
-EffectControl* EffectPanel::addRow(const Text& text, EffectControl* control, const CIValue& value, Action action)
+void EffectPanel::connectControl(EffectControl& control, const QString& name, const QString& toolTip, Action action)
 {
-    QWidget* target = control->focusProxy();
-    target->setAccessibleName(text.label);
-    target->setToolTip(text.toolTip);
-    auto* caption = new QLabel(text.label, this);
+    for (QWidget* widget : {control.focusProxy(), static_cast<QWidget*>(control.findChild<ReadoutField*>())})
+        if (widget) {
+            widget->setAccessibleName(name);
+            widget->setToolTip(toolTip);
+        }
+    connect(&control, &EffectControl::changed, &control, [&control, action = std::move(action)] { action(&control); });
+}
+
+void EffectPanel::addParameter(const EffectParameter& parameter, const CIValue& value, Action action)
+{
+    const QString label = tr(parameter.text.label), toolTip = tr(parameter.text.tip);
+    CIValue shown = parameter.shown(value);
+    if (parameter.facts.startsWhole)
+        shown = std::trunc(shown.toDouble());
+    EffectControl* control = newControl(parameter, shown.toDouble());
+    control->setValue(shown);
+    connectControl(*control, label, toolTip, std::move(action));
+    if (parameter.facts.beside) {
+        static_cast<QBoxLayout*>(m_last->layout())->addWidget(control, 1);
+        return;
+    }
+    auto* caption = new QLabel(label, this);
     caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    caption->setToolTip(text.toolTip);
-    caption->setBuddy(target);
+    caption->setToolTip(toolTip);
+    caption->setBuddy(control->focusProxy());
     const int row = m_rows->rowCount();
     m_rows->addWidget(caption, row, 0);
     m_rows->addWidget(control, row, 1);
-    control->setValue(value);
-    connect(control, &EffectControl::changed, control, [control, action = std::move(action)] { action(control); });
-    return control;
+    m_last = control;
 }
 
-EffectControl* EffectPanel::addPopUp(const Text& text, const QStringList& titles, int index, Action action)
+void EffectPanel::addPushButton(const QString& title, const QString& toolTip, Action action)
 {
-    return addRow(text, new PopUp(titles), index, std::move(action));
-}
-
-EffectControl* EffectPanel::addColorWell(const Text& text, const CIColor& color, Action action)
-{
-    return addRow(text, new Well, color, std::move(action));
-}
-
-EffectControl* EffectPanel::addColorWellBeside(
-    EffectControl& neighbor, const Text& text, const CIColor& color, Action action)
-{
-    auto* well = new Well;
-    well->focusProxy()->setAccessibleName(text.label);
-    well->focusProxy()->setToolTip(text.toolTip);
-    well->setValue(color);
-    connect(well, &EffectControl::changed, well, [well, action = std::move(action)] { action(well); });
-    static_cast<QBoxLayout*>(neighbor.layout())->addWidget(well, 1);
-    return well;
-}
-
-EffectControl* EffectPanel::addCheckBox(const Text& text, bool on, Action action)
-{
-    return addRow(text, new Switch, on, std::move(action));
-}
-
-EffectControl* EffectPanel::addSlider(const Text& text, const Range& range, double value, Action action)
-{
-    return addRow(text, new Slider(text, range, value), value, std::move(action));
-}
-
-EffectControl* EffectPanel::addPushButton(const Text& text, Action action)
-{
-    auto* button = new PushButton(text.label);
-    button->focusProxy()->setAccessibleName(text.label);
-    button->focusProxy()->setToolTip(text.toolTip);
+    auto* button = new PushButton(title);
+    connectControl(*button, title, toolTip, std::move(action));
     m_rows->addWidget(button, m_rows->rowCount(), 0, 1, 2, Qt::AlignHCenter);
-    connect(button, &EffectControl::changed, button, [button, action = std::move(action)] { action(button); });
-    return button;
+}
+
+QString EffectPanel::undoName(const ParameterText& text)
+{
+    QString noun = tr(text.noun ? text.noun : text.label);
+    if (noun.endsWith(QLatin1Char(':')))
+        noun.chop(1);
+    return tr("Change to %1", "%1 is a parameter of an effect").arg(noun.trimmed());
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "effects2d/EffectControl.h"
+#include "effects2d/EffectParameter.h"
 
 #include <functional>
 
@@ -13,31 +14,20 @@ class EffectPanel : public QWidget {
 public:
     using Action = std::function<void(EffectControl* sender)>; // called when the user has changed the value
 
-    struct Text {
-        QString label; // the caption, also what assistive technology reads
-        QString toolTip;
-    };
-    struct Range {
-        double min = 0, max = 1;
-        int decimals = 0; // of the readout, and of the steps
-        bool continuous = true; // acts while it is moved, not only when it is let go
-    };
-
     explicit EffectPanel(QWidget* parent);
     /// A new panel as the only thing in `view`.
     static EffectPanel& placedIn(QWidget& view);
 
-    EffectControl* addPopUp(const Text& text, const QStringList& titles, int index, Action action);
-    EffectControl* addColorWell(const Text& text, const CIColor& color, Action action);
-    /// On the row of another control, after it. The label is for assistive technology only.
-    EffectControl* addColorWellBeside(EffectControl& neighbor, const Text& text, const CIColor& color, Action action);
-    EffectControl* addCheckBox(const Text& text, bool on, Action action);
-    EffectControl* addSlider(const Text& text, const Range& range, double value, Action action);
+    /// A control that shows what belongs to that value.
+    void addParameter(const EffectParameter& parameter, const CIValue& value, Action action);
     /// 96 x 24 points, in the middle, without a caption.
-    EffectControl* addPushButton(const Text& text, Action action);
+    void addPushButton(const QString& title, const QString& toolTip, Action action);
+    /// What taking a change back is called.
+    static QString undoName(const ParameterText& text);
 
 private:
-    EffectControl* addRow(const Text& text, EffectControl* control, const CIValue& value, Action action);
+    static void connectControl(EffectControl& control, const QString& name, const QString& toolTip, Action action);
 
     QGridLayout* m_rows;
+    EffectControl* m_last = nullptr;
 };

@@ -176,98 +176,38 @@ CIImage GeneratedEffect::Composition::drawn(const quartz::Drawing& layer, CIRend
 
 // --- parameters ---
 
-void GeneratedEffect::nameUndoStep(const EffectControl* sender)
+EffectParameter GeneratedEffect::backgroundColor(const CIColor& start, const char* undoneTells)
 {
-    UndoManager* undo = undoManager();
-    if (!undo || !sender || !sender->focusProxy())
-        return; // a step that is taken back keeps its name
-    QString caption = sender->focusProxy()->accessibleName();
-    if (caption.endsWith(QLatin1Char(':')))
-        caption.chop(1);
-    undo->setActionName(EffectPanel::tr("Change to %1", "%1 is a parameter of an effect").arg(caption.trimmed()));
+    return {"bgColor", &GeneratedEffect::m_bgColor,
+        {QT_TRANSLATE_NOOP("EffectPanel", "Background Color:"),
+            QT_TRANSLATE_NOOP("EffectPanel", "The color laid over the background")},
+        {.start = start, .redraw = ParameterFacts::Composite, .undoneTells = undoneTells}};
 }
 
-void GeneratedEffect::post(const char* notification)
+EffectParameter GeneratedEffect::backgroundImage()
 {
-    NotificationCenter::defaultCenter().postNotificationName(QString::fromLatin1(notification));
+    return {"useBackImage", &GeneratedEffect::m_useBackImage,
+        {QT_TRANSLATE_NOOP("EffectPanel", "Background Image:"),
+            QT_TRANSLATE_NOOP("EffectPanel", "Lay the effect over the picture")},
+        {.start = true, .redraw = ParameterFacts::Composite}};
 }
 
-void GeneratedEffect::read(const CIDictionary& dictionary)
+EffectParameter GeneratedEffect::layerOpacity(const char* label, double start)
 {
-    BaseEffect::read(dictionary);
-    readParameter(dictionary, "useBackImage", m_useBackImage);
-    readParameter(dictionary, "bgColor", m_bgColor);
-    readParameter(dictionary, "opacity", m_opacity);
+    return {"opacity", &GeneratedEffect::m_opacity,
+        {label, QT_TRANSLATE_NOOP("EffectPanel", "How much of what lies beneath the effect is covered, in percent")},
+        {.start = start, .max = 100, .redraw = ParameterFacts::Composite}};
 }
 
-CIDictionary GeneratedEffect::save() const
+void GeneratedEffect::parameterChanged(const ParameterFacts& facts)
 {
-    CIDictionary dictionary = BaseEffect::save();
-    dictionary["useBackImage"] = m_useBackImage;
-    dictionary["bgColor"] = m_bgColor;
-    dictionary["opacity"] = m_opacity;
-    return dictionary;
+    if (facts.redraw == ParameterFacts::Layer)
+        makeImageEffect();
 }
 
-void GeneratedEffect::changeBgColor(EffectControl* sender)
+void GeneratedEffect::buildControls(EffectPanel& panel)
 {
-    changeParameter(&GeneratedEffect::m_bgColor, &GeneratedEffect::setchangeBgColorSender, sender, Redraw::Composite);
-}
-
-void GeneratedEffect::setchangeBgColorSender(CIColor color, EffectControl* sender)
-{
-    restoreParameter(
-        &GeneratedEffect::m_bgColor, color, &GeneratedEffect::setchangeBgColorSender, sender, Redraw::Composite);
-}
-
-void GeneratedEffect::useBgImage(EffectControl* sender)
-{
-    changeParameter(&GeneratedEffect::m_useBackImage, &GeneratedEffect::setuseBgImageSender, sender, Redraw::Composite);
-}
-
-void GeneratedEffect::setuseBgImageSender(bool use, EffectControl* sender)
-{
-    restoreParameter(
-        &GeneratedEffect::m_useBackImage, use, &GeneratedEffect::setuseBgImageSender, sender, Redraw::Composite);
-}
-
-void GeneratedEffect::changeOpacity(EffectControl* sender)
-{
-    changeParameter(&GeneratedEffect::m_opacity, &GeneratedEffect::setchangeOpacitySender, sender, Redraw::Composite);
-}
-
-void GeneratedEffect::setchangeOpacitySender(float percent, EffectControl* sender)
-{
-    restoreParameter(
-        &GeneratedEffect::m_opacity, percent, &GeneratedEffect::setchangeOpacitySender, sender, Redraw::Composite);
-}
-
-// --- controls ---
-
-void GeneratedEffect::setUpControlsView()
-{
-    if (!topControlsView)
-        return;
-    try {
-        buildControls(EffectPanel::placedIn(*topControlsView));
-    } catch (const std::exception& error) {
-        qWarning("%s", error.what());
-    }
-}
-
-void GeneratedEffect::addCommonControls(EffectPanel& panel, const QString& opacityLabel)
-{
-    panel.addColorWell({EffectPanel::tr("Background Color:"), EffectPanel::tr("The color laid over the background")},
-        m_bgColor, action(&GeneratedEffect::changeBgColor));
-    panel.addCheckBox({EffectPanel::tr("Background Image:"), EffectPanel::tr("Lay the effect over the picture")},
-        m_useBackImage, action(&GeneratedEffect::useBgImage));
-    panel.addSlider({opacityLabel, EffectPanel::tr("How much of what lies beneath the effect is covered, in percent")},
-        {.min = 0, .max = 100}, m_opacity, action(&GeneratedEffect::changeOpacity));
-}
-
-void GeneratedEffect::addGenerateButton(EffectPanel& panel)
-{
-    panel.addPushButton(
-        {EffectPanel::tr("Generate"), EffectPanel::tr("Draw the effect anew with other random numbers")},
-        action(&GeneratedEffect::regenerate));
+    BaseEffect::buildControls(panel);
+    panel.addPushButton(EffectPanel::tr("Generate"), EffectPanel::tr("Draw the effect anew with other random numbers"),
+        action([this](EffectControl* sender) { regenerate(sender); }));
 }

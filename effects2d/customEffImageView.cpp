@@ -2,6 +2,7 @@
 
 #include "effects2d/AnchoredEffect.h"
 #include "platform/foundation/Look.h"
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "platform/imageio/PictureReader.h"
 #include "widgets/DropFileTypes.h"

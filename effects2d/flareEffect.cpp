@@ -1,6 +1,5 @@
 #include "effects2d/flareEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
 #include <cmath>
@@ -64,32 +63,18 @@ double brightness(const std::vector<Spike>& spikes, int dx, int dy)
 
 } // namespace
 
-void flareEffect::awakeFromNib()
+const EffectDeclaration& flareEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Flare Effect"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Flare Effect Generator"));
-    m_useBackImage = true;
-    m_bgColor = CIColor(1, 1, 1, 0);
-    m_opacity = 50;
-    m_linesCount = 30;
-    m_lineWidth = 1;
-    m_imageZoom = 1;
-    m_startPT = kNotPlaced;
-}
-
-std::shared_ptr<BaseEffect> flareEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<flareEffect>(copyWithZone());
-    copyParametersTo(*copy);
-    return copy;
-}
-
-void flareEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Flare opacity:"));
-    panel.addSlider({EffectPanel::tr("Spikes count:"), EffectPanel::tr("How many spikes the flare has")},
-        {.min = 6, .max = 60, .continuous = false}, m_linesCount, action(&BurstEffect::changeLinesCount));
-    addGenerateButton(panel);
+    static const EffectDeclaration declared{"flareEffect", QT_TRANSLATE_NOOP("BaseEffect", "Flare Effect"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Flare Effect Generator"), kNotPlaced,
+        {backgroundColor(CIColor(1, 1, 1, 0)), backgroundImage(),
+            layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Flare opacity:"), 50),
+            {"linesCount", &flareEffect::m_linesCount,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Spikes count:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How many spikes the flare has")},
+                {.start = 30, .min = 6, .max = 60, .continuous = false}},
+            {"lineWidth", &flareEffect::m_lineWidth, {}, {.start = 1}}, drawingScale()}};
+    return declared;
 }
 
 void flareEffect::drawMyself(quartz::Context& context, const QRectF& rect)

@@ -1,6 +1,5 @@
 #include "effects2d/hilbertLinesEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
 #include <cmath>
@@ -12,29 +11,20 @@ constexpr int kDeepest = 10; // a million segments; no canvas shows a finer curv
 
 } // namespace
 
-void hilbertLinesEffect::awakeFromNib()
+const EffectDeclaration& hilbertLinesEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Hilbert Lines"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Hilbert Lines Effect Generator"));
-    awakeWithOpacity(70);
-}
-
-std::shared_ptr<BaseEffect> hilbertLinesEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<hilbertLinesEffect>(copyWithZone());
-    copyParametersTo(*copy);
-    return copy;
-}
-
-void hilbertLinesEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Objects opacity:"));
-    panel.addSlider({EffectPanel::tr("Lines level:"), EffectPanel::tr("How often the curve is folded")},
-        {.min = 3, .max = 7, .continuous = false}, m_level, action(&LeveledEffect::changeLinesLevel));
-    panel.addSlider({EffectPanel::tr("Line width:"), EffectPanel::tr("How thick the curve is")},
-        {.min = 1, .max = 15, .decimals = 1, .continuous = false}, m_lineWidth,
-        action(&LeveledEffect::changeLineWidth));
-    addGenerateButton(panel);
+    static const EffectDeclaration declared{"hilbertLinesEffect", QT_TRANSLATE_NOOP("BaseEffect", "Hilbert Lines"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Hilbert Lines Effect Generator"), {},
+        {backgroundColor(), backgroundImage(), layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Objects opacity:"), 70),
+            {"level", &hilbertLinesEffect::m_level,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Lines level:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How often the curve is folded")},
+                {.start = 7, .min = 3, .max = 7, .continuous = false}},
+            {"lineWidth", &hilbertLinesEffect::m_lineWidth,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Line width:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How thick the curve is")},
+                {.start = 7.5, .min = 1, .max = 15, .decimals = 1, .continuous = false}}}};
+    return declared;
 }
 
 void hilbertLinesEffect::drawMyself(quartz::Context& context, const QRectF& rect) { drawHilbertRect(context, rect); }

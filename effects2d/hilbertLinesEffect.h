@@ -6,9 +6,7 @@
 /// Hilbert's curve, segment by segment, over a square larger than the canvas.
 class hilbertLinesEffect : public LeveledEffect {
 public:
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "hilbertLinesEffect"; }
+    const EffectDeclaration& declaration() const override;
 
     void drawMyself(quartz::Context& context, const QRectF& rect) override;
     void drawHilbertRect(quartz::Context& context, const QRectF& rect);
@@ -25,7 +23,6 @@ public:
     void lineRel(double dx, double dy);
 
 protected:
-    void buildControls(EffectPanel& panel) override;
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<hilbertLinesEffect>(); }
 
 private:

@@ -1,37 +1,22 @@
 #include "effects2d/linesEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
-void linesEffect::awakeFromNib()
+const EffectDeclaration& linesEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Lines Effect"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Lines Effect Generator"));
-    m_useBackImage = true;
-    m_bgColor = CIColor(1, 1, 1, 0.5);
-    m_opacity = 50;
-    m_linesCount = 500;
-    m_lineWidth = 1;
-    m_imageZoom = 1;
-    m_startPT = kNotPlaced;
-}
-
-std::shared_ptr<BaseEffect> linesEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<linesEffect>(copyWithZone());
-    copyParametersTo(*copy);
-    return copy;
-}
-
-void linesEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Objects opacity:"));
-    panel.addSlider({EffectPanel::tr("Lines count:"), EffectPanel::tr("How many lines are drawn")},
-        {.min = 20, .max = 2000, .continuous = false}, m_linesCount, action(&BurstEffect::changeLinesCount));
-    panel.addSlider({EffectPanel::tr("Line width:"), EffectPanel::tr("How thick the lines are")},
-        {.min = 0.5, .max = 50, .decimals = 1, .continuous = false}, m_lineWidth,
-        action(&BurstEffect::changeLineWidth));
-    addGenerateButton(panel);
+    static const EffectDeclaration declared{"linesEffect", QT_TRANSLATE_NOOP("BaseEffect", "Lines Effect"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Lines Effect Generator"), kNotPlaced,
+        {backgroundColor(), backgroundImage(), layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Objects opacity:"), 50),
+            {"linesCount", &linesEffect::m_linesCount,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Lines count:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How many lines are drawn")},
+                {.start = 500, .min = 20, .max = 2000, .continuous = false}},
+            {"lineWidth", &linesEffect::m_lineWidth,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Line width:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How thick the lines are")},
+                {.start = 1, .min = 0.5, .max = 50, .decimals = 1, .continuous = false}},
+            drawingScale()}};
+    return declared;
 }
 
 void linesEffect::drawMyself(quartz::Context& context, const QRectF& rect) { devideLinesRect(context, rect); }

@@ -1,6 +1,5 @@
 #include "effects2d/patMorphingEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
 #include <numbers>
@@ -44,70 +43,43 @@ Spring springAt(double value)
 
 } // namespace
 
+const EffectDeclaration& patMorphingEffect::declaration() const
+{
+    static const EffectDeclaration declared{"patMorphingEffect", QT_TRANSLATE_NOOP("BaseEffect", "Pattern Morphing"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Pattern Morphing Effect Generator"), kNotPlaced,
+        {backgroundColor(), backgroundImage(), layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Pattern opacity:"), 70),
+            {"count", &patMorphingEffect::m_count,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Objects count:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How many ellipses the pattern has")},
+                {.start = 30, .min = 4, .max = 60}},
+            {"patColor", &patMorphingEffect::m_patColor,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Pattern Color:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "The color of the pattern")},
+                {.start = CIColor(0.2, 1, 0.2, 1)}},
+            {"lineWidth", &patMorphingEffect::m_lineWidth,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Line width:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How thick the ellipses' lines are")},
+                {.start = 10, .min = 1, .max = 30, .decimals = 1}},
+            // A copy's proportion is 0, which makes lines of its ellipses, until it is set.
+            {"proportion", &patMorphingEffect::m_proportion,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Proportion:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "The width of the ellipses in parts of their height")},
+                {.start = 0.5, .min = 0.1, .max = 1, .decimals = 2, .copied = false}}}};
+    return declared;
+}
+
 void patMorphingEffect::awakeFromNib()
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Pattern Morphing"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Pattern Morphing Effect Generator"));
-    m_useBackImage = true;
-    m_bgColor = CIColor(1, 1, 1, 0.5);
-    m_patColor = CIColor(0.2, 1, 0.2, 1);
-    m_opacity = 70;
-    m_count = 30;
-    m_lineWidth = 10;
-    m_proportion = 0.5;
-    m_startPT = kNotPlaced;
+    AnchoredEffect::awakeFromNib();
     setupPatMorphing();
 }
 
 std::shared_ptr<BaseEffect> patMorphingEffect::mycopy() const
 {
-    const auto copy = std::static_pointer_cast<patMorphingEffect>(copyWithZone());
-    copy->setUseBackImage(m_useBackImage);
-    copy->setBgColor(m_bgColor);
-    copy->setPatColor(m_patColor);
-    copy->seOpacity(m_opacity);
-    copy->setPatCount(m_count);
-    copy->setLineWidth(m_lineWidth);
-    copy->setStartPoint(m_startPT);
+    const auto copy = std::static_pointer_cast<patMorphingEffect>(AnchoredEffect::mycopy());
     copy->setupPatMorphing();
     return copy;
 }
-
-void patMorphingEffect::read(const CIDictionary& dictionary)
-{
-    AnchoredEffect::read(dictionary);
-    readParameter(dictionary, "count", m_count);
-    readParameter(dictionary, "patColor", m_patColor);
-    readParameter(dictionary, "lineWidth", m_lineWidth);
-    readParameter(dictionary, "proportion", m_proportion);
-}
-
-CIDictionary patMorphingEffect::save() const
-{
-    CIDictionary dictionary = AnchoredEffect::save();
-    dictionary["count"] = m_count;
-    dictionary["patColor"] = m_patColor;
-    dictionary["lineWidth"] = m_lineWidth;
-    dictionary["proportion"] = m_proportion;
-    return dictionary;
-}
-
-void patMorphingEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Pattern opacity:"));
-    panel.addSlider({EffectPanel::tr("Objects count:"), EffectPanel::tr("How many ellipses the pattern has")},
-        {.min = 4, .max = 60}, m_count, action(&patMorphingEffect::changePatCount));
-    panel.addColorWell({EffectPanel::tr("Pattern Color:"), EffectPanel::tr("The color of the pattern")}, m_patColor,
-        action(&patMorphingEffect::changePatColor));
-    panel.addSlider({EffectPanel::tr("Line width:"), EffectPanel::tr("How thick the ellipses' lines are")},
-        {.min = 1, .max = 30, .decimals = 1}, m_lineWidth, action(&patMorphingEffect::changeLineWidth));
-    panel.addSlider(
-        {EffectPanel::tr("Proportion:"), EffectPanel::tr("The width of the ellipses in parts of their height")},
-        {.min = 0.1, .max = 1, .decimals = 2}, m_proportion, action(&patMorphingEffect::changeProportion));
-    addGenerateButton(panel);
-}
-
-// --- drawing ---
 
 void patMorphingEffect::setupPatMorphing()
 {
@@ -161,52 +133,4 @@ void patMorphingEffect::drawPatternsYContext(double x, double y, quartz::Context
         context.strokePath();
     }
     context.restoreGState();
-}
-
-// --- parameters ---
-
-void patMorphingEffect::changePatCount(EffectControl* sender)
-{
-    changeParameter(&patMorphingEffect::m_count, &patMorphingEffect::setchangePatCountSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::setchangePatCountSender(int count, EffectControl* sender)
-{
-    restoreParameter(
-        &patMorphingEffect::m_count, count, &patMorphingEffect::setchangePatCountSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::changePatColor(EffectControl* sender)
-{
-    changeParameter(&patMorphingEffect::m_patColor, &patMorphingEffect::setchangePatColorSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::setchangePatColorSender(CIColor color, EffectControl* sender)
-{
-    restoreParameter(
-        &patMorphingEffect::m_patColor, color, &patMorphingEffect::setchangePatColorSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::changeLineWidth(EffectControl* sender)
-{
-    changeParameter(
-        &patMorphingEffect::m_lineWidth, &patMorphingEffect::setchangeLineWidthSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::setchangeLineWidthSender(double width, EffectControl* sender)
-{
-    restoreParameter(
-        &patMorphingEffect::m_lineWidth, width, &patMorphingEffect::setchangeLineWidthSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::changeProportion(EffectControl* sender)
-{
-    changeParameter(
-        &patMorphingEffect::m_proportion, &patMorphingEffect::setchangeProportionSender, sender, Redraw::Layer);
-}
-
-void patMorphingEffect::setchangeProportionSender(double proportion, EffectControl* sender)
-{
-    restoreParameter(&patMorphingEffect::m_proportion, proportion, &patMorphingEffect::setchangeProportionSender,
-        sender, Redraw::Layer);
 }

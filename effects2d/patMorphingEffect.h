@@ -7,12 +7,9 @@
 /// press of "Generate". All effects of this class share the springs.
 class patMorphingEffect : public AnchoredEffect {
 public:
+    const EffectDeclaration& declaration() const override;
     void awakeFromNib() override;
-    /// The copy's proportion is 0, which makes lines of its ellipses, until it is set.
     std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "patMorphingEffect"; }
-    void read(const CIDictionary& dictionary) override;
-    CIDictionary save() const override;
 
     /// Gives the springs new random positions, at rest.
     void setupPatMorphing();
@@ -32,17 +29,16 @@ public:
     double lineWidth() const { return m_lineWidth; }
     double proportion() const { return m_proportion; }
 
-    void changePatCount(EffectControl* sender);
-    void setchangePatCountSender(int count, EffectControl* sender);
-    void changePatColor(EffectControl* sender);
-    void setchangePatColorSender(CIColor color, EffectControl* sender);
-    void changeLineWidth(EffectControl* sender);
-    void setchangeLineWidthSender(double width, EffectControl* sender);
-    void changeProportion(EffectControl* sender);
-    void setchangeProportionSender(double proportion, EffectControl* sender);
+    void changePatCount(EffectControl* sender) { change(&m_count, sender); }
+    void setchangePatCountSender(int count, EffectControl* sender) { restore(&m_count, count, sender); }
+    void changePatColor(EffectControl* sender) { change(&m_patColor, sender); }
+    void setchangePatColorSender(CIColor color, EffectControl* sender) { restore(&m_patColor, color, sender); }
+    void changeLineWidth(EffectControl* sender) { change(&m_lineWidth, sender); }
+    void setchangeLineWidthSender(double width, EffectControl* sender) { restore(&m_lineWidth, width, sender); }
+    void changeProportion(EffectControl* sender) { change(&m_proportion, sender); }
+    void setchangeProportionSender(double value, EffectControl* sender) { restore(&m_proportion, value, sender); }
 
 protected:
-    void buildControls(EffectPanel& panel) override;
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<patMorphingEffect>(); }
 
 private:

@@ -1,6 +1,5 @@
 #include "effects2d/patchWorkEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
 #include <cmath>
@@ -50,25 +49,14 @@ void spread(Square& square)
 
 } // namespace
 
-void patchWorkEffect::awakeFromNib()
+const EffectDeclaration& patchWorkEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Patch Works"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Patch Works Effect Generator"));
-    awakeWithOpacity(40);
-    m_startPT = {-11000, -11000};
-}
-
-std::shared_ptr<BaseEffect> patchWorkEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<patchWorkEffect>(copyWithZone());
-    copyParametersTo(*copy);
-    return copy;
-}
-
-void patchWorkEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Objects opacity:"));
-    addGenerateButton(panel);
+    static const EffectDeclaration declared{"patchWorkEffect", QT_TRANSLATE_NOOP("BaseEffect", "Patch Works"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Patch Works Effect Generator"), kNotPlaced,
+        {backgroundColor(), backgroundImage(), layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Objects opacity:"), 40),
+            {"level", &patchWorkEffect::m_level, {}, {.start = 7}},
+            {"lineWidth", &patchWorkEffect::m_lineWidth, {}, {.start = 7.5}}}};
+    return declared;
 }
 
 void patchWorkEffect::drawMyself(quartz::Context& context, const QRectF& rect) { drawPatchwork(context, rect); }

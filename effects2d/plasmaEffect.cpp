@@ -1,6 +1,5 @@
 #include "effects2d/plasmaEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects2d/Random.h"
 
 #include <cmath>
@@ -21,26 +20,21 @@ int brightness(int v)
 
 } // namespace
 
-void plasmaEffect::awakeFromNib()
+const EffectDeclaration& plasmaEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Plasma Effect"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Plasma Effect Generator"));
-    awakeWithOpacity(40);
-    m_startPT = {-11000, -11000};
+    static const EffectDeclaration declared{"plasmaEffect", QT_TRANSLATE_NOOP("BaseEffect", "Plasma Effect"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Plasma Effect Generator"), kNotPlaced,
+        {backgroundColor(), backgroundImage(), layerOpacity(QT_TRANSLATE_NOOP("EffectPanel", "Plasma opacity:"), 40),
+            {"level", &plasmaEffect::m_level, {}, {.start = 7, .storage = ParameterFacts::NotStored}},
+            {"lineWidth", &plasmaEffect::m_lineWidth, {}, {.start = 7.5, .storage = ParameterFacts::NotStored}}}};
+    return declared;
 }
 
 std::shared_ptr<BaseEffect> plasmaEffect::mycopy() const
 {
-    const auto copy = std::static_pointer_cast<plasmaEffect>(copyWithZone());
-    copyParametersTo(*copy);
+    const auto copy = std::static_pointer_cast<plasmaEffect>(LeveledEffect::mycopy());
     copy->setupPlazma();
     return copy;
-}
-
-void plasmaEffect::buildControls(EffectPanel& panel)
-{
-    addCommonControls(panel, EffectPanel::tr("Plasma opacity:"));
-    addGenerateButton(panel);
 }
 
 void plasmaEffect::setupPlazma()

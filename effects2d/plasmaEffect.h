@@ -6,13 +6,10 @@
 /// Each color channel is the sum of two waves along x and two along y, with random phases.
 class plasmaEffect : public LeveledEffect {
 public:
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "plasmaEffect"; }
+    const EffectDeclaration& declaration() const override;
 
-    // Level and line width are not stored
-    void read(const CIDictionary& dictionary) override { GeneratedEffect::read(dictionary); }
-    CIDictionary save() const override { return GeneratedEffect::save(); }
+    /// The copy has phases of its own.
+    std::shared_ptr<BaseEffect> mycopy() const override;
 
     /// Fills the tables and picks new random phases.
     void setupPlazma();
@@ -21,7 +18,6 @@ public:
     void drawPlazma(quartz::Context& context, const QRectF& rect);
 
 protected:
-    void buildControls(EffectPanel& panel) override;
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<plasmaEffect>(); }
 
 private:

@@ -6,11 +6,7 @@
 /// Fills the canvas with rectangles, circles, curves and other simple objects.
 class simpleEffects : public GeneratedEffect {
 public:
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "simpleEffects"; }
-    void read(const CIDictionary& dictionary) override;
-    CIDictionary save() const override;
+    const EffectDeclaration& declaration() const override;
 
     /// Draws nothing when the kind is unknown.
     void drawMyself(quartz::Context& context, const QRectF& rect) override;
@@ -30,19 +26,15 @@ public:
     int objectMode() const { return m_drawObj; }
     int objectCount() const { return m_object_count; }
 
-    void changeObjectType(EffectControl* sender);
-    void setObjectTypeSender(int kind, EffectControl* sender);
-    void changeBgColor(EffectControl* sender) override;
-    void setBgColorSender(CIColor color, EffectControl* sender);
-    void useBgImage(EffectControl* sender) override;
-    void setUseBgImageSender(bool use, EffectControl* sender);
-    void changeOpacity(EffectControl* sender) override;
-    void setChangOpacitySender(float percent, EffectControl* sender);
-    void changeObjectCount(EffectControl* sender);
-    void setChangObjCountSender(int count, EffectControl* sender);
+    void changeObjectType(EffectControl* sender) { change(&m_drawObj, sender); }
+    void setObjectTypeSender(int kind, EffectControl* sender) { restore(&m_drawObj, kind, sender); }
+    void setBgColorSender(CIColor color, EffectControl* sender) { restore(&m_bgColor, color, sender); }
+    void setUseBgImageSender(bool use, EffectControl* sender) { restore(&m_useBackImage, use, sender); }
+    void setChangOpacitySender(float percent, EffectControl* sender) { restore(&m_opacity, percent, sender); }
+    void changeObjectCount(EffectControl* sender) { change(&m_object_count, sender); }
+    void setChangObjCountSender(int count, EffectControl* sender) { restore(&m_object_count, count, sender); }
 
 protected:
-    void buildControls(EffectPanel& panel) override;
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<simpleEffects>(); }
 
 private:

@@ -22,12 +22,16 @@ CIImage filtered(const char* filterName, std::initializer_list<std::pair<const c
 
 } // namespace
 
-void sketchEffect::awakeFromNib()
+const EffectDeclaration& sketchEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Sketch Effect"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "Sketch Effect Generator"));
-    m_startPT = {-11000, -11000};
-    m_useBackImage = false;
+    static const EffectDeclaration declared{"sketchEffect", QT_TRANSLATE_NOOP("BaseEffect", "Sketch Effect"),
+        QT_TRANSLATE_NOOP("BaseEffect", "Sketch Effect Generator"), kNotPlaced,
+        {{"useBackImage", &sketchEffect::m_useBackImage, {},
+            {.start = false,
+                .redraw = ParameterFacts::Composite,
+                .storage = ParameterFacts::NotStored,
+                .copied = false}}}};
+    return declared;
 }
 
 void sketchEffect::makeImageEffect() { m_sketch = convertImage(m_image); }

@@ -6,12 +6,7 @@
 /// Shows what a chain of filters makes of the picture, as it is: without controls, tint, opacity or random numbers.
 class sketchEffect : public GeneratedEffect {
 public:
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override { return copyWithZone(); }
-    std::string className() const override { return "sketchEffect"; }
-    // Only what every effect stores
-    void read(const CIDictionary& dictionary) override { BaseEffect::read(dictionary); }
-    CIDictionary save() const override { return BaseEffect::save(); }
+    const EffectDeclaration& declaration() const override;
 
     void setUpControlsView() override { }
     void makeImageEffect() override;

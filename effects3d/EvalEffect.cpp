@@ -1,21 +1,18 @@
 #include "effects3d/EvalEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects3d/OpenGL.h"
 #include "effects3d/PictureTexture.h"
 
 #include <algorithm>
-#include <cmath>
-
-#include <QPointer>
 
 namespace {
 
-constexpr int kFirstCurve = 5; // y of the middle point of row 0
-constexpr int kSecondCurve = 17; // of row 1
-
-constexpr EvalEffect::Net kStandardNet{-0.5, -0.5, 0.5, 1, 0, 0.6, 0.5, 1, 0.5, -0.5, 0.5, 1, //
-    -0.5, 0.5, -0.5, 1, 0, -0.6, -0.5, 1, 0.5, 0.5, -0.5, 1};
+/// 2 rows of 3 points (x, y, z, w).
+CIVector standardNet()
+{
+    return {-0.5, -0.5, 0.5, 1, 0, 0.6, 0.5, 1, 0.5, -0.5, 0.5, 1, //
+        -0.5, 0.5, -0.5, 1, 0, -0.6, -0.5, 1, 0.5, 0.5, -0.5, 1};
+}
 
 // The points of the color net overlap, and the last one begins with the net's last two numbers: the two that follow
 // here make it white and opaque.
@@ -50,29 +47,36 @@ void setLight()
 
 } // namespace
 
-void EvalEffect::awakeFromNib()
+const EffectDeclaration& EvalEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "Surface Rotate"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "3D Surface Rotate"));
-    m_objectRotation = {90, -45, 0, 0};
-    m_borderColor = {1, 1, 1, 1};
-    m_borderSize = 4;
-    m_decal = GL_DECAL;
-    m_decalColor = {1, 0, 0, 0};
-    m_polygonFilled = true;
-    m_point2 = kStandardNet;
-}
-
-std::shared_ptr<BaseEffect> EvalEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<EvalEffect>(copyWithZone());
-    copy->setRotationE(m_objectRotation);
-    copy->setBorderColor(m_borderColor);
-    copy->setFilledMode(m_polygonFilled);
-    copy->setPoints2(m_point2);
-    copy->setDecalMode(m_decal);
-    copy->setDecalColor(m_decalColor);
-    return copy;
+    static const EffectDeclaration declared{"EvalEffect", QT_TRANSLATE_NOOP("BaseEffect", "Surface Rotate"),
+        QT_TRANSLATE_NOOP("BaseEffect", "3D Surface Rotate"), {},
+        {{"objectRotation", &EvalEffect::m_objectRotation, {}, {.start = CIVector{90, -45, 0, 0}}},
+            {"borderColor", &EvalEffect::m_borderColor, {}, {.start = CIVector{1, 1, 1, 1}}},
+            {"borderSize", &EvalEffect::m_borderSize, {}, {.start = 4, .copied = false}},
+            {"point2", &EvalEffect::m_point2, {}, {.start = standardNet()}},
+            {&EvalEffect::m_point2, kFirstCurve,
+                {QT_TRANSLATE_NOOP("EffectPanel", "First Curve:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How far the lower edge bends")},
+                {.min = -1.2, .max = 1, .decimals = 2, .startsWhole = true}},
+            {&EvalEffect::m_point2, kSecondCurve,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Second Curve:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "How far the upper edge bends")},
+                {.min = -1, .max = 1.2, .decimals = 2, .startsWhole = true}},
+            {"polygonFilled", &EvalEffect::m_polygonFilled,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Filled Poly:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "A closed surface, or else a net of lines")},
+                {.start = true, .states = {{0, 1}}}},
+            {"decal", &EvalEffect::m_decal,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Colored Light:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "Tints the picture with the color")},
+                {.start = GL_DECAL, .states = {{GL_DECAL, GL_MODULATE}}}},
+            {"decalColor", &EvalEffect::m_decalColor,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Light color"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "The color of the light"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "Light Color")},
+                {.start = CIVector{1, 0, 0, 0}, .beside = true, .storage = 3}}}};
+    return declared;
 }
 
 // --- drawing ---
@@ -168,155 +172,4 @@ void EvalEffect::DrawMapEval2Dv(float du, float dv)
         glEnd();
         lower = upper;
     } while (upper < 1);
-}
-
-// --- controls ---
-
-void EvalEffect::buildControls(EffectPanel& panel)
-{
-    // The sliders start at the whole part of their value; the surface keeps the value until they are moved.
-    const auto start = [this](int index) { return std::trunc(m_point2[std::size_t(index)]); };
-    panel.addSlider({tr("First Curve:"), tr("How far the lower edge bends")}, {.min = -1.2, .max = 1.0, .decimals = 2},
-        start(kFirstCurve), action(&EvalEffect::changepoint5));
-    panel.addSlider({tr("Second Curve:"), tr("How far the upper edge bends")}, {.min = -1.0, .max = 1.2, .decimals = 2},
-        start(kSecondCurve), action(&EvalEffect::changepoint17));
-    panel.addCheckBox({tr("Filled Poly:"), tr("A closed surface, or else a net of lines")}, m_polygonFilled,
-        action(&EvalEffect::changepoligonFilled));
-    EffectControl* tinted = panel.addCheckBox({tr("Colored Light:"), tr("Tints the picture with the color")},
-        m_decal != float(GL_DECAL), action(&EvalEffect::changeDecal));
-    panel.addColorWellBeside(*tinted, {tr("Light color"), tr("The color of the light")},
-        CIColor(m_decalColor[0], m_decalColor[1], m_decalColor[2], m_decalColor[3]),
-        action(&EvalEffect::changeDecalColor));
-}
-
-/// The next drawing sets OpenGL up with the new values.
-void EvalEffect::changed()
-{
-    reloadImage();
-    post();
-}
-
-void EvalEffect::registerPoint(int index, EffectControl* sender)
-{
-    registerUndo(index == kFirstCurve ? tr("Change to First Curve") : tr("Change to Second Curve"),
-        &EvalEffect::setPointsIdxSender, m_point2[std::size_t(index)], index, QPointer(sender));
-}
-
-void EvalEffect::changePoint(int index, EffectControl* sender)
-{
-    clearFilter();
-    registerPoint(index, sender);
-    m_point2[std::size_t(index)] = sender->value().toFloat();
-    changed();
-}
-
-void EvalEffect::changepoint5(EffectControl* sender) { changePoint(kFirstCurve, sender); }
-
-void EvalEffect::changepoint17(EffectControl* sender) { changePoint(kSecondCurve, sender); }
-
-void EvalEffect::setPointsIdxSender(double value, int index, EffectControl* sender)
-{
-    clearFilter();
-    registerPoint(index, sender);
-    m_point2[std::size_t(index)] = value;
-    if (sender)
-        sender->setValue(value);
-    changed();
-}
-
-void EvalEffect::registerPolygonFilled(EffectControl* sender)
-{
-    registerUndo(tr("Change to Filled Poly"), &EvalEffect::setpolygonFilledSender, m_polygonFilled, QPointer(sender));
-}
-
-void EvalEffect::changepoligonFilled(EffectControl* sender)
-{
-    clearFilter();
-    registerPolygonFilled(sender);
-    m_polygonFilled = sender->value().toBool();
-    changed();
-}
-
-void EvalEffect::setpolygonFilledSender(bool filled, EffectControl* sender)
-{
-    clearFilter();
-    registerPolygonFilled(sender);
-    m_polygonFilled = filled;
-    if (sender)
-        sender->setValue(filled);
-    changed();
-}
-
-void EvalEffect::registerDecal(EffectControl* sender)
-{
-    registerUndo(tr("Change to Colored Light"), &EvalEffect::changeM_DecalSender, m_decal, QPointer(sender));
-}
-
-void EvalEffect::changeDecal(EffectControl* sender)
-{
-    clearFilter();
-    registerDecal(sender);
-    m_decal = float(sender->value().toBool() ? GL_MODULATE : GL_DECAL);
-    changed();
-}
-
-void EvalEffect::changeM_DecalSender(float mode, EffectControl* sender)
-{
-    clearFilter();
-    registerDecal(sender);
-    m_decal = mode;
-    if (sender)
-        sender->setValue(mode != float(GL_DECAL));
-    changed();
-}
-
-void EvalEffect::registerDecalColor(EffectControl* sender)
-{
-    registerUndo(tr("Change to Light Color"), &EvalEffect::setDecalColorSender, m_decalColor, QPointer(sender));
-}
-
-void EvalEffect::changeDecalColor(EffectControl* sender)
-{
-    clearFilter();
-    registerDecalColor(sender);
-    const CIColor color = sender->value().toColor();
-    m_decalColor = {float(color.red()), float(color.green()), float(color.blue()), float(color.alpha())};
-    changed();
-}
-
-void EvalEffect::setDecalColorSender(Color color, EffectControl* sender)
-{
-    clearFilter();
-    registerDecalColor(sender);
-    m_decalColor = color;
-    if (sender)
-        sender->setValue(CIColor(color[0], color[1], color[2], color[3]));
-    changed();
-}
-
-// --- favourites ---
-
-void EvalEffect::read(const CIDictionary& dictionary)
-{
-    TurnedEffect::read(dictionary);
-    readNumbers(dictionary, "objectRotation", m_objectRotation);
-    readNumbers(dictionary, "borderColor", m_borderColor);
-    readNumber(dictionary, "borderSize", m_borderSize);
-    readNumber(dictionary, "polygonFilled", m_polygonFilled);
-    readNumbers(dictionary, "point2", m_point2);
-    readNumber(dictionary, "decal", m_decal);
-    readNumbers(dictionary, "decalColor", m_decalColor, 3); // the fourth is not stored
-}
-
-CIDictionary EvalEffect::save() const
-{
-    CIDictionary dictionary = TurnedEffect::save();
-    saveNumbers(dictionary, "objectRotation", m_objectRotation);
-    saveNumbers(dictionary, "borderColor", m_borderColor);
-    dictionary["borderSize"] = m_borderSize;
-    dictionary["polygonFilled"] = int(m_polygonFilled);
-    saveNumbers(dictionary, "point2", m_point2);
-    dictionary["decal"] = m_decal;
-    saveNumbers(dictionary, "decalColor", m_decalColor, 3);
-    return dictionary;
 }

@@ -6,14 +6,11 @@
 /// A Bézier patch of 2 by 3 control points, turned with the mouse and bent with two sliders, filled or as a net of
 /// lines, plain or tinted.
 class EvalEffect : public TurnedEffect {
-    Q_DECLARE_TR_FUNCTIONS(EvalEffect)
 public:
     using Color = std::array<float, 4>;
     using Net = std::array<double, 24>; // 2 rows of 3 points (x, y, z, w)
 
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "EvalEffect"; }
+    const EffectDeclaration& declaration() const override;
 
     void initEffect() override;
     void draw() override;
@@ -21,9 +18,6 @@ public:
     void evalDraw();
     void RenderEval();
     void DrawMapEval2Dv(float du, float dv);
-
-    void read(const CIDictionary& dictionary) override;
-    CIDictionary save() const override;
 
     // Plain setters, which neither register undo nor draw
     void setRotationE(const std::array<float, 4>& newRotation) { m_objectRotation = newRotation; }
@@ -40,29 +34,31 @@ public:
     const Color& decalColor() const { return m_decalColor; }
 
     // Control actions and undo targets
-    void changepoint5(EffectControl* sender);
-    void changepoint17(EffectControl* sender);
-    void setPointsIdxSender(double value, int index, EffectControl* sender);
-    void changepoligonFilled(EffectControl* sender);
-    void setpolygonFilledSender(bool filled, EffectControl* sender);
-    void changeDecal(EffectControl* sender);
-    void changeM_DecalSender(float mode, EffectControl* sender);
-    void changeDecalColor(EffectControl* sender);
-    void setDecalColorSender(Color color, EffectControl* sender);
+    void changepoint5(EffectControl* sender) { change(&m_point2[kFirstCurve], sender); }
+    void changepoint17(EffectControl* sender) { change(&m_point2[kSecondCurve], sender); }
+    /// `index` is that of one of the two.
+    void setPointsIdxSender(double value, int index, EffectControl* sender)
+    {
+        restore(&m_point2[std::size_t(index)], value, sender);
+    }
+    void changepoligonFilled(EffectControl* sender) { change(&m_polygonFilled, sender); }
+    void setpolygonFilledSender(bool filled, EffectControl* sender) { restore(&m_polygonFilled, filled, sender); }
+    void changeDecal(EffectControl* sender) { change(&m_decal, sender); }
+    void changeM_DecalSender(float mode, EffectControl* sender) { restore(&m_decal, mode, sender); }
+    void changeDecalColor(EffectControl* sender) { change(&m_decalColor, sender); }
+    void setDecalColorSender(Color color, EffectControl* sender)
+    {
+        restore(&m_decalColor, CIVector{color[0], color[1], color[2], color[3]}, sender);
+    }
 
 protected:
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<EvalEffect>(); }
     Rotation& rotation() override { return m_objectRotation; }
-    void buildControls(EffectPanel& panel) override;
 
 private:
-    void registerPoint(int index, EffectControl* sender);
-    void changePoint(int index, EffectControl* sender);
-    void registerPolygonFilled(EffectControl* sender);
-    void registerDecal(EffectControl* sender);
-    void registerDecalColor(EffectControl* sender);
-    /// What every change of a control ends with.
-    void changed();
+    static constexpr std::size_t kFirstCurve = 5; // y of the middle point of row 0
+    static constexpr std::size_t kSecondCurve = 17; // of row 1
+
     bool isTinted() const;
 
     std::array<float, 4> m_objectRotation{};

@@ -1,25 +1,23 @@
 #include "effects3d/ObjectEffect.h"
 
-#include "effects2d/EffectPanel.h"
 #include "effects3d/OpenGL.h"
 #include "effects3d/PictureTexture.h"
 
-#include <QPointer>
-
-void ObjectEffect::awakeFromNib()
+const EffectDeclaration& ObjectEffect::declaration() const
 {
-    setName(QT_TRANSLATE_NOOP("BaseEffect", "3D Objects"));
-    setTips(QT_TRANSLATE_NOOP("BaseEffect", "3D Objects Texuture"));
-    m_objectRotationEFF = {};
-    m_drawObj = Sphere;
-}
-
-std::shared_ptr<BaseEffect> ObjectEffect::mycopy() const
-{
-    const auto copy = std::static_pointer_cast<ObjectEffect>(copyWithZone());
-    copy->setRotationO(m_objectRotationEFF);
-    copy->setObjectMode(m_drawObj);
-    return copy;
+    static const EffectDeclaration declared{"ObjectEffect", QT_TRANSLATE_NOOP("BaseEffect", "3D Objects"),
+        QT_TRANSLATE_NOOP("BaseEffect", "3D Objects Texuture"), {},
+        {{"objectRotationEFF", &ObjectEffect::m_objectRotationEFF, {}, {.start = CIVector{0, 0, 0, 0}}},
+            {"drawObj", &ObjectEffect::m_drawObj,
+                {QT_TRANSLATE_NOOP("EffectPanel", "Object type:"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "The body that wears the picture"),
+                    QT_TRANSLATE_NOOP("EffectPanel", "Object Type")},
+                {.start = Sphere,
+                    .titles = {QT_TRANSLATE_NOOP("EffectPanel", "Sphere"), QT_TRANSLATE_NOOP("EffectPanel", "Cylinder"),
+                        QT_TRANSLATE_NOOP("EffectPanel", "Torus"), QT_TRANSLATE_NOOP("EffectPanel", "Cube"),
+                        QT_TRANSLATE_NOOP("EffectPanel", "Cone"), QT_TRANSLATE_NOOP("EffectPanel", "Pyramid"),
+                        QT_TRANSLATE_NOOP("EffectPanel", "Disk")}}}}};
+    return declared;
 }
 
 void ObjectEffect::clearEffect()
@@ -105,51 +103,4 @@ void ObjectEffect::drawObject() const
     default:
         return;
     }
-}
-
-// --- controls ---
-
-void ObjectEffect::buildControls(EffectPanel& panel)
-{
-    panel.addPopUp({tr("Object type:"), tr("The body that wears the picture")},
-        {tr("Sphere"), tr("Cylinder"), tr("Torus"), tr("Cube"), tr("Cone"), tr("Pyramid"), tr("Disk")}, m_drawObj,
-        action(&ObjectEffect::changeObjectType));
-}
-
-void ObjectEffect::registerObjectType(EffectControl* sender)
-{
-    registerUndo(tr("Change to Object Type"), &ObjectEffect::setObjectPopupSender, m_drawObj, QPointer(sender));
-}
-
-void ObjectEffect::changeObjectType(EffectControl* sender)
-{
-    registerObjectType(sender);
-    m_drawObj = parameterValue<int>(sender->value());
-    post();
-}
-
-void ObjectEffect::setObjectPopupSender(int type, EffectControl* sender)
-{
-    registerObjectType(sender);
-    m_drawObj = type;
-    if (sender)
-        sender->setValue(type);
-    post();
-}
-
-// --- favourites ---
-
-void ObjectEffect::read(const CIDictionary& dictionary)
-{
-    TurnedEffect::read(dictionary);
-    readNumbers(dictionary, "objectRotationEFF", m_objectRotationEFF);
-    readNumber(dictionary, "drawObj", m_drawObj);
-}
-
-CIDictionary ObjectEffect::save() const
-{
-    CIDictionary dictionary = TurnedEffect::save();
-    saveNumbers(dictionary, "objectRotationEFF", m_objectRotationEFF);
-    dictionary["drawObj"] = m_drawObj;
-    return dictionary;
 }

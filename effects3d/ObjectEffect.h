@@ -6,13 +6,10 @@
 /// One of seven bodies with the picture as its skin, turned with the mouse. Bodies are seen from outside only: where
 /// they are open one looks through.
 class ObjectEffect : public TurnedEffect {
-    Q_DECLARE_TR_FUNCTIONS(ObjectEffect)
 public:
     enum ObjectType { Sphere, Cylinder, Torus, Cube, Cone, Pyramid, Disk };
 
-    void awakeFromNib() override;
-    std::shared_ptr<BaseEffect> mycopy() const override;
-    std::string className() const override { return "ObjectEffect"; }
+    const EffectDeclaration& declaration() const override;
 
     void clearEffect() override;
     void initEffect() override;
@@ -24,17 +21,14 @@ public:
     /// The scene; nothing but the cleared frame without a picture or for an unknown type.
     void redraw();
 
-    void read(const CIDictionary& dictionary) override;
-    CIDictionary save() const override;
-
     // Plain setters, which neither register undo nor draw
     void setRotationO(const std::array<float, 4>& newRotation) { m_objectRotationEFF = newRotation; }
     void setObjectMode(int type) { m_drawObj = type; }
     const std::array<float, 4>& objectRotation() const { return m_objectRotationEFF; }
     int objectMode() const { return m_drawObj; }
 
-    void changeObjectType(EffectControl* sender);
-    void setObjectPopupSender(int type, EffectControl* sender);
+    void changeObjectType(EffectControl* sender) { change(&m_drawObj, sender); }
+    void setObjectPopupSender(int type, EffectControl* sender) { restore(&m_drawObj, type, sender); }
 
     // The bodies: the origin is their middle, z their axis, lengths are half frames.
     static void drawSphereNumMinorRadius(int numMajor, int numMinor, double radius);
@@ -50,11 +44,9 @@ public:
 protected:
     std::shared_ptr<BaseEffect> init() const override { return std::make_shared<ObjectEffect>(); }
     Rotation& rotation() override { return m_objectRotationEFF; }
-    void buildControls(EffectPanel& panel) override;
 
 private:
     void drawObject() const;
-    void registerObjectType(EffectControl* sender);
 
     std::array<float, 4> m_objectRotationEFF{}; // minus half degrees
     int m_drawObj = Sphere;

@@ -1,10 +1,7 @@
 #include "effects3d/TurnedEffect.h"
 
 #include "effects2d/EffectMaster.h"
-#include "effects2d/EffectPanel.h"
 #include "effects3d/PictureTexture.h"
-#include "platform/foundation/NotificationCenter.h"
-#include "platform/foundation/UndoManager.h"
 
 namespace {
 
@@ -41,12 +38,6 @@ void TurnedEffect::loadPicture()
     m_texture = picture->name();
 }
 
-void TurnedEffect::setUpControlsView()
-{
-    if (topControlsView)
-        buildControls(EffectPanel::placedIn(*topControlsView));
-}
-
 void TurnedEffect::mouseDown(CIPoint point)
 {
     registerUndo(tr("Rotate"), &TurnedEffect::setPositionUNDO, rotation()[0], rotation()[1]);
@@ -72,17 +63,4 @@ void TurnedEffect::setPositionUNDO(float aboutVertical, float aboutHorizontal)
     rotation()[0] = aboutVertical;
     rotation()[1] = aboutHorizontal;
     post();
-}
-
-void TurnedEffect::post()
-{
-    NotificationCenter::defaultCenter().postNotificationName(QStringLiteral("UpdateOpenGLView"));
-}
-
-void TurnedEffect::registerUndoInvocation(const QString& what, std::function<void()> invocation)
-{
-    if (UndoManager* undo = undoManager()) {
-        undo->registerUndoWithTarget(static_cast<BaseEffect*>(this), std::move(invocation));
-        undo->setActionName(what);
-    }
 }

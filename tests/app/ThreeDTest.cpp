@@ -2,6 +2,7 @@
 
 #include "app/catalogue/OutlineView.h"
 #include "app/catalogue/Thumbnail.h"
+#include "effects2d/EffectControl.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ObjectEffect.h"
 #include "effects3d/ThreeDStage.h"

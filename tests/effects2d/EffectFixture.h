@@ -3,6 +3,8 @@
 #include "effects2d/CustomEffects.h"
 #include "effects2d/EffectMaster.h"
 #include "effects2d/GeneratedEffect.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "platform/foundation/UndoManager.h"
 
 #include <gtest/gtest.h>
 

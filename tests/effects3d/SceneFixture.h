@@ -1,5 +1,6 @@
 #pragma once
 
+#include "effects2d/EffectControl.h"
 #include "effects2d/EffectMaster.h"
 #include "effects3d/EvalEffect.h"
 #include "effects3d/MyOGLView.h"
