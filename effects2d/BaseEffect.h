@@ -122,11 +122,11 @@ protected:
     virtual void buildControls(EffectPanel& panel);
     /// What a control does; nothing when the effect is gone.
     template <class Act>
-    std::function<void(EffectControl*)> action(Act act)
+    auto action(Act act)
     {
-        return [weak = weak_from_this(), act](EffectControl* sender) {
+        return [weak = weak_from_this(), act](auto... sender) {
             if (const std::shared_ptr<BaseEffect> effect = weak.lock())
-                act(sender);
+                act(sender...);
         };
     }
 

@@ -10,8 +10,6 @@ public:
     void setLineWidth(double width) { m_lineWidth = width; }
     void setLinesCount(int count) { m_linesCount = count; }
 
-    int linesCount() const { return m_linesCount; }
-    double lineWidth() const { return m_lineWidth; }
     float imageZoom() const { return m_imageZoom; }
 
     void changeLinesCount(EffectControl* sender) { change(&m_linesCount, sender); }

@@ -9,15 +9,23 @@
 #include "effects2d/simpleEffects.h"
 #include "effects2d/sketchEffect.h"
 
-std::vector<std::shared_ptr<BaseEffect>> customEffectPrototypes()
+namespace {
+
+template <class... Effects>
+std::vector<std::shared_ptr<BaseEffect>> prototypesOf()
 {
-    std::vector<std::shared_ptr<BaseEffect>> prototypes{std::make_shared<simpleEffects>(),
-        std::make_shared<linesEffect>(), std::make_shared<hilbertLinesEffect>(), std::make_shared<patchWorkEffect>(),
-        std::make_shared<flareEffect>(), std::make_shared<plasmaEffect>(), std::make_shared<patMorphingEffect>(),
-        std::make_shared<sketchEffect>()};
+    std::vector<std::shared_ptr<BaseEffect>> prototypes{std::make_shared<Effects>()...};
     for (const std::shared_ptr<BaseEffect>& prototype : prototypes)
         prototype->awakeFromNib();
     return prototypes;
+}
+
+} // namespace
+
+std::vector<std::shared_ptr<BaseEffect>> customEffectPrototypes()
+{
+    return prototypesOf<simpleEffects, linesEffect, hilbertLinesEffect, patchWorkEffect, flareEffect, plasmaEffect,
+        patMorphingEffect, sketchEffect>();
 }
 
 std::shared_ptr<BaseEffect> customEffectFromDictionary(

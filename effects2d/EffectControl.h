@@ -1,21 +1,34 @@
 // One control of an effect's panel.
 #pragma once
 
-#include "platform/coreimage/CIValue.h"
+#include "effects2d/EffectParameter.h"
+#include "widgets/rows/ValueBinding.h"
 
 #include <QWidget>
 
-/// Holds a parameter's value: a number, a boolean, a color, or the index of a choice.
+class ValueRow;
+
+/// A row of the kind that suits a parameter. Holds what the row shows: a number, a boolean, a color, or the index of a
+/// choice. The first value shown is the standard one.
 class EffectControl : public QWidget {
     Q_OBJECT
 public:
-    using QWidget::QWidget;
+    EffectControl(const EffectParameter& parameter, const CIValue& value, QWidget* parent);
+    ~EffectControl() override;
 
-    virtual CIValue value() const = 0;
+    CIValue value() const { return m_value; }
     /// Shows a value without telling anybody.
-    virtual void setValue(const CIValue& value) = 0;
+    void setValue(const CIValue& value);
 
 signals:
-    /// The user has changed the value, or pressed the button.
+    /// The user has changed the value, or tries one; then nothing that is registered for undo counts.
     void changed();
+
+private:
+    ValueRow* newRow(const EffectParameter& parameter, ValueBinding binding);
+    void take(const CIValue& value);
+    void addToRow(QWidget* widget, const ParameterText& text);
+
+    CIValue m_value;
+    ValueRow* m_row = nullptr;
 };

@@ -2,9 +2,6 @@
 #pragma once
 
 #include "effects2d/EffectControl.h"
-#include "effects2d/EffectParameter.h"
-
-#include <functional>
 
 class QGridLayout;
 
@@ -12,22 +9,19 @@ class QGridLayout;
 class EffectPanel : public QWidget {
     Q_OBJECT
 public:
-    using Action = std::function<void(EffectControl* sender)>; // called when the user has changed the value
-
     explicit EffectPanel(QWidget* parent);
     /// A new panel as the only thing in `view`.
     static EffectPanel& placedIn(QWidget& view);
 
-    /// A control that shows what belongs to that value.
-    void addParameter(const EffectParameter& parameter, const CIValue& value, Action action);
+    /// A control that shows what belongs to that value, and what is called when the user changes it.
+    void addParameter(
+        const EffectParameter& parameter, const CIValue& value, std::function<void(EffectControl* sender)> action);
     /// 96 x 24 points, in the middle, without a caption.
-    void addPushButton(const QString& title, const QString& toolTip, Action action);
+    void addPushButton(const QString& title, const QString& toolTip, std::function<void()> action);
     /// What taking a change back is called.
     static QString undoName(const ParameterText& text);
 
 private:
-    static void connectControl(EffectControl& control, const QString& name, const QString& toolTip, Action action);
-
     QGridLayout* m_rows;
-    EffectControl* m_last = nullptr;
+    EffectControl* m_last = nullptr; // on a row of its own
 };

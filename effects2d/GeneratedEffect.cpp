@@ -209,5 +209,5 @@ void GeneratedEffect::buildControls(EffectPanel& panel)
 {
     BaseEffect::buildControls(panel);
     panel.addPushButton(EffectPanel::tr("Generate"), EffectPanel::tr("Draw the effect anew with other random numbers"),
-        action([this](EffectControl* sender) { regenerate(sender); }));
+        action([this] { regenerate(nullptr); }));
 }

@@ -21,7 +21,7 @@ public:
     virtual void makeImageEffect();
     /// Draws the effect into `rect`, which starts at the origin.
     virtual void drawMyself(quartz::Context& context, const QRectF& rect) = 0;
-    /// The button "Generate".
+    /// The button "Generate". The sender may be null.
     virtual void regenerate(EffectControl* sender);
 
     CIImage getDrawImage() override;
@@ -34,7 +34,6 @@ public:
     void setBgColor(const CIColor& color) { m_bgColor = color; }
     void seOpacity(float percent) { m_opacity = percent; }
 
-    bool usesBackImage() const { return m_useBackImage; }
     CIColor bgColor() const { return m_bgColor; }
     float opacity() const { return m_opacity; }
     /// The layer; null before the first drawing.

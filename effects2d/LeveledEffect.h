@@ -9,9 +9,6 @@ public:
     void setLineWidth(double width) { m_lineWidth = width; }
     void setLinesLevel(int level) { m_level = level; }
 
-    int level() const { return m_level; }
-    double lineWidth() const { return m_lineWidth; }
-
     void changeLinesLevel(EffectControl* sender) { change(&m_level, sender); }
     void setchangeLinesLevelSender(int level, EffectControl* sender) { restore(&m_level, level, sender); }
     void changeLineWidth(EffectControl* sender) { change(&m_lineWidth, sender); }

@@ -24,9 +24,6 @@ public:
     void setPatCount(int count) { m_count = count; }
     void setLineWidth(double width) { m_lineWidth = width; }
     void setProportin(double proportion) { m_proportion = proportion; }
-    CIColor patColor() const { return m_patColor; }
-    int patCount() const { return m_count; }
-    double lineWidth() const { return m_lineWidth; }
     double proportion() const { return m_proportion; }
 
     void changePatCount(EffectControl* sender) { change(&m_count, sender); }

@@ -24,7 +24,6 @@ public:
     void setObjectMode(int kind) { m_drawObj = kind; }
     void seObjectCount(int count) { m_object_count = count; }
     int objectMode() const { return m_drawObj; }
-    int objectCount() const { return m_object_count; }
 
     void changeObjectType(EffectControl* sender) { change(&m_drawObj, sender); }
     void setObjectTypeSender(int kind, EffectControl* sender) { restore(&m_drawObj, kind, sender); }

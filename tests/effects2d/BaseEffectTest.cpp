@@ -1,3 +1,4 @@
+#include "effects2d/LeveledEffect.h"
 #include "effects2d/linesEffect.h"
 #include "effects2d/patMorphingEffect.h"
 #include "effects2d/simpleEffects.h"
@@ -106,6 +107,57 @@ TEST(EffectsList, SurvivesDamagedDictionaries)
         effect->initEffect();
         EXPECT_EQ(effect->getDrawImage().isNull(), prototype->className() == "sketchEffect");
     }
+}
+
+template <class Effect>
+void expectRestored(Row row, const char* key, const CIValue& value, const std::function<void(Effect&)>& restore)
+{
+    SCOPED_TRACE(std::to_string(row) + " " + key);
+    FakeEffectMaster master;
+    Working<Effect> effect(row);
+    effect->initEffect(); // places the anchor
+    const CIDictionary before = effect->save();
+    restore(*effect);
+    CIDictionary expected = before;
+    expected[key] = value;
+    EXPECT_NE(expected, before);
+    EXPECT_EQ(effect->save(), expected);
+    master.undo.undo();
+    EXPECT_EQ(effect->save(), before);
+    master.undo.redo();
+    EXPECT_EQ(effect->save(), expected);
+}
+
+TEST(EffectParameters, AreRestoredByTheirOwnOperations)
+{
+    const CIColor red(1, 0, 0, 0.25);
+    for (const Row row : {kLines, kPatchWork, kMorphing}) {
+        using E = GeneratedEffect;
+        expectRestored<E>(row, "bgColor", red, [&](E& e) { e.setchangeBgColorSender(red, nullptr); });
+        expectRestored<E>(row, "useBackImage", false, [](E& e) { e.setuseBgImageSender(false, nullptr); });
+        expectRestored<E>(row, "opacity", 12.5, [](E& e) { e.setchangeOpacitySender(12.5f, nullptr); });
+    }
+    for (const Row row : {kLines, kFlare}) {
+        using E = BurstEffect;
+        expectRestored<E>(row, "linesCount", 21, [](E& e) { e.setchangeLinesCountSender(21, nullptr); });
+        expectRestored<E>(row, "lineWidth", 2.5, [](E& e) { e.setchangeLineWidthSender(2.5, nullptr); });
+    }
+    for (const Row row : {kHilbert, kPatchWork}) {
+        using E = LeveledEffect;
+        expectRestored<E>(row, "level", 4, [](E& e) { e.setchangeLinesLevelSender(4, nullptr); });
+        expectRestored<E>(row, "lineWidth", 2.5, [](E& e) { e.setchangeLineWidthSender(2.5, nullptr); });
+    }
+    using M = patMorphingEffect;
+    expectRestored<M>(kMorphing, "count", 5, [](M& e) { e.setchangePatCountSender(5, nullptr); });
+    expectRestored<M>(kMorphing, "patColor", red, [&](M& e) { e.setchangePatColorSender(red, nullptr); });
+    expectRestored<M>(kMorphing, "lineWidth", 2.5, [](M& e) { e.setchangeLineWidthSender(2.5, nullptr); });
+    expectRestored<M>(kMorphing, "proportion", 0.75, [](M& e) { e.setchangeProportionSender(0.75, nullptr); });
+    using S = simpleEffects;
+    expectRestored<S>(kSimple, "drawObj", 3, [](S& e) { e.setObjectTypeSender(3, nullptr); });
+    expectRestored<S>(kSimple, "bgColor", red, [&](S& e) { e.setBgColorSender(red, nullptr); });
+    expectRestored<S>(kSimple, "useBackImage", false, [](S& e) { e.setUseBgImageSender(false, nullptr); });
+    expectRestored<S>(kSimple, "opacity", 12.5, [](S& e) { e.setChangOpacitySender(12.5f, nullptr); });
+    expectRestored<S>(kSimple, "object_count", 11, [](S& e) { e.setChangObjCountSender(11, nullptr); });
 }
 
 TEST(GeneratedEffect, LaysLayerOverTintOverPicture)

@@ -166,6 +166,28 @@ TEST_F(SurfacePanelTest, EveryControlIsUndoneAndRedone)
     EXPECT_EQ(control("First Curve:").value().toDouble(), 0.6);
 }
 
+TEST_F(SurfaceTest, ParametersAreRestoredByTheirOwnOperations)
+{
+    const CIDictionary start = surface->save();
+    surface->setPointsIdxSender(0.25, 5, nullptr);
+    surface->setPointsIdxSender(-0.25, 17, nullptr);
+    surface->setpolygonFilledSender(false, nullptr);
+    surface->changeM_DecalSender(float(GL_MODULATE), nullptr);
+    surface->setDecalColorSender({0.1f, 0.2f, 0.3f, 0.4f}, nullptr);
+    EXPECT_EQ(surface->points2()[5], 0.25);
+    EXPECT_EQ(surface->points2()[17], -0.25);
+    EXPECT_FALSE(surface->polygonFilled());
+    EXPECT_EQ(surface->decal(), float(GL_MODULATE));
+    EXPECT_EQ(surface->decalColor(), (EvalEffect::Color{0.1f, 0.2f, 0.3f, 0.4f}));
+    EXPECT_EQ(undo.undoActionNames(),
+        (QStringList{"Change to Light Color", "Change to Colored Light", "Change to Filled Poly",
+            "Change to Second Curve", "Change to First Curve"}));
+    while (undo.canUndo())
+        undo.undo();
+    EXPECT_EQ(surface->save(), start);
+    EXPECT_EQ(surface->decalColor()[3], 0);
+}
+
 TEST_F(SurfaceTest, AFavouriteKeepsFloatsAndTheFourthColorElement)
 {
     EvalEffect::Net net = surface->points2();
