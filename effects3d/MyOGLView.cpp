@@ -7,20 +7,15 @@
 #include "effects3d/PictureTexture.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/NotificationCenter.h"
-#include "widgets/PictureMenu.h"
 
 #include <algorithm>
 
-#include <QContextMenuEvent>
 #include <QElapsedTimer>
-#include <QMenu>
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace {
 
 constexpr double kPictureEdge = 0.9; // of half the view
-constexpr double kKeyStep = 10, kLargeKeyStep = 90; // points of mouse movement: 5 and 45 degrees
 constexpr qint64 kSlowFrame = 33; // ms
 constexpr double kDepthScale = 0.5; // bodies and bent surfaces that reach out of the unit cube stay whole
 
@@ -30,9 +25,10 @@ bool isBlank(const QImage& frame)
         const auto* row = reinterpret_cast<const QRgb*>(frame.constScanLine(y));
         return std::all_of(row, row + frame.width(), [](QRgb pixel) { return pixel == 0; });
     };
-    const int middle = frame.height() / 2;
-    if (frame.isNull() || !isEmptyRow(middle))
-        return frame.isNull(); // nearly always
+    if (frame.isNull())
+        return true;
+    if (!isEmptyRow(frame.height() / 2))
+        return false; // Nearly every frame shows something in its middle, so that one row is looked at.
     for (int y = 0; y < frame.height(); ++y)
         if (!isEmptyRow(y))
             return false;
@@ -190,9 +186,8 @@ void MyOGLView::endTurn()
 
 void MyOGLView::paintEvent(QPaintEvent*)
 {
-    if (m_shown.isNull()) {
+    if (m_shown.isNull())
         drawShown();
-    }
     QPainter painter(this);
     painter.drawImage(rect(), m_shown);
     if (m_isBlank && m_picture && effect())
@@ -228,128 +223,4 @@ CIImage MyOGLView::ogl_shot_CI()
         return {};
     return CIImage::fromBitmap(CIBitmap(shot.constBits(), shot.width(), shot.height(), std::size_t(shot.bytesPerLine()),
         CIFormat::BGRA8, CIAlpha::Premultiplied, CIColorSpace::SRGB, std::make_shared<const QImage>(shot)));
-}
-
-// --- mouse and keyboard ---
-
-CIPoint MyOGLView::viewPoint(const QMouseEvent& event) const
-{
-    return {event.position().x(), height() - event.position().y()};
-}
-
-void MyOGLView::mousePressEvent(QMouseEvent* event)
-{
-    BaseEffect* current = effect();
-    if (event->button() != Qt::LeftButton || !current)
-        return;
-    endKeyTurn();
-    m_mouseTurns = true;
-    current->mouseDown(viewPoint(*event));
-}
-
-void MyOGLView::mouseMoveEvent(QMouseEvent* event)
-{
-    BaseEffect* current = effect();
-    if (!m_mouseTurns || !current)
-        return;
-    current->mouseDragged(viewPoint(*event));
-    redraw();
-}
-
-void MyOGLView::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
-        return;
-    m_mouseTurns = false;
-    if (BaseEffect* current = effect())
-        current->mouseUp(viewPoint(*event));
-    endTurn();
-}
-
-void MyOGLView::keyPressEvent(QKeyEvent* event)
-{
-    const double step = event->modifiers() & Qt::ShiftModifier ? kLargeKeyStep : kKeyStep;
-    CIPoint move;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        move.x = -step;
-        break;
-    case Qt::Key_Right:
-        move.x = step;
-        break;
-    case Qt::Key_Up:
-        move.y = step;
-        break;
-    case Qt::Key_Down:
-        move.y = -step;
-        break;
-    default:
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    BaseEffect* current = effect();
-    if (!current || m_mouseTurns)
-        return;
-    if (!m_keysTurn) {
-        current->mouseDown(m_keyPoint); // one undo step for as long as keys are held
-        m_keysTurn = true;
-    }
-    m_keyPoint = {m_keyPoint.x + move.x, m_keyPoint.y + move.y};
-    current->mouseDragged(m_keyPoint);
-    redraw();
-}
-
-void MyOGLView::keyReleaseEvent(QKeyEvent* event)
-{
-    QWidget::keyReleaseEvent(event);
-    if (!event->isAutoRepeat())
-        endKeyTurn();
-}
-
-void MyOGLView::endKeyTurn()
-{
-    if (!std::exchange(m_keysTurn, false))
-        return;
-    if (BaseEffect* current = effect())
-        current->mouseUp(m_keyPoint);
-    endTurn();
-}
-
-/// Those who click need no frame around what they click on.
-void MyOGLView::focusInEvent(QFocusEvent* event)
-{
-    m_showsFocus = event->reason() != Qt::MouseFocusReason;
-    update();
-}
-
-void MyOGLView::focusOutEvent(QFocusEvent*)
-{
-    endKeyTurn();
-    m_showsFocus = false;
-    update();
-}
-
-void MyOGLView::enterEvent(QEnterEvent*) { mouseEntered(); }
-
-void MyOGLView::leaveEvent(QEvent*) { mouseExited(); }
-
-void MyOGLView::mouseEntered()
-{
-    if (!effect())
-        return;
-    setCursor(Qt::PointingHandCursor);
-    update();
-}
-
-void MyOGLView::mouseExited()
-{
-    setCursor(Qt::ArrowCursor);
-    update();
-}
-
-void MyOGLView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
-
-void MyOGLView::mouseContentMenu(const QPoint& globalPosition)
-{
-    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
 }
