@@ -689,9 +689,6 @@
         <comment>%1 is a parameter of an effect</comment>
         <translation>%1 ändern</translation>
     </message>
-</context>
-<context>
-    <name>EvalEffect</name>
     <message>
         <source>First Curve:</source>
         <translation>Erste Kurve:</translation>
@@ -733,24 +730,44 @@
         <translation>Die Farbe des Lichts</translation>
     </message>
     <message>
-        <source>Change to First Curve</source>
-        <translation>Erste Kurve ändern</translation>
+        <source>Light Color</source>
+        <translation>Lichtfarbe</translation>
     </message>
     <message>
-        <source>Change to Second Curve</source>
-        <translation>Zweite Kurve ändern</translation>
+        <source>The body that wears the picture</source>
+        <translation>Der Körper, der das Bild trägt</translation>
     </message>
     <message>
-        <source>Change to Filled Poly</source>
-        <translation>Gefüllte Fläche ändern</translation>
+        <source>Sphere</source>
+        <translation>Kugel</translation>
     </message>
     <message>
-        <source>Change to Colored Light</source>
-        <translation>Farbiges Licht ändern</translation>
+        <source>Cylinder</source>
+        <translation>Zylinder</translation>
     </message>
     <message>
-        <source>Change to Light Color</source>
-        <translation>Lichtfarbe ändern</translation>
+        <source>Torus</source>
+        <translation>Torus</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>Würfel</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Kegel</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>Pyramide</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Scheibe</translation>
+    </message>
+    <message>
+        <source>Object Type</source>
+        <translation>Objektart</translation>
     </message>
 </context>
 <context>
@@ -3265,49 +3282,6 @@
     <message>
         <source>Nothing is to be seen from this side. Drag to turn it.</source>
         <translation>Von dieser Seite ist nichts zu sehen. Ziehen Sie, um es zu drehen.</translation>
-    </message>
-</context>
-<context>
-    <name>ObjectEffect</name>
-    <message>
-        <source>Object type:</source>
-        <translation>Objektart:</translation>
-    </message>
-    <message>
-        <source>The body that wears the picture</source>
-        <translation>Der Körper, der das Bild trägt</translation>
-    </message>
-    <message>
-        <source>Sphere</source>
-        <translation>Kugel</translation>
-    </message>
-    <message>
-        <source>Cylinder</source>
-        <translation>Zylinder</translation>
-    </message>
-    <message>
-        <source>Torus</source>
-        <translation>Torus</translation>
-    </message>
-    <message>
-        <source>Cube</source>
-        <translation>Würfel</translation>
-    </message>
-    <message>
-        <source>Cone</source>
-        <translation>Kegel</translation>
-    </message>
-    <message>
-        <source>Pyramid</source>
-        <translation>Pyramide</translation>
-    </message>
-    <message>
-        <source>Disk</source>
-        <translation>Scheibe</translation>
-    </message>
-    <message>
-        <source>Change to Object Type</source>
-        <translation>Objektart ändern</translation>
     </message>
 </context>
 <context>

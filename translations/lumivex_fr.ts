@@ -689,9 +689,6 @@
         <comment>%1 is a parameter of an effect</comment>
         <translation>Changer&#xa0;: %1</translation>
     </message>
-</context>
-<context>
-    <name>EvalEffect</name>
     <message>
         <source>First Curve:</source>
         <translation>Première courbe&#xa0;:</translation>
@@ -733,24 +730,44 @@
         <translation>La couleur de la lumière</translation>
     </message>
     <message>
-        <source>Change to First Curve</source>
-        <translation>Changer la première courbe</translation>
+        <source>Light Color</source>
+        <translation>Couleur de la lumière</translation>
     </message>
     <message>
-        <source>Change to Second Curve</source>
-        <translation>Changer la seconde courbe</translation>
+        <source>The body that wears the picture</source>
+        <translation>Le solide qui porte l’image</translation>
     </message>
     <message>
-        <source>Change to Filled Poly</source>
-        <translation>Changer le remplissage</translation>
+        <source>Sphere</source>
+        <translation>Sphère</translation>
     </message>
     <message>
-        <source>Change to Colored Light</source>
-        <translation>Changer la lumière colorée</translation>
+        <source>Cylinder</source>
+        <translation>Cylindre</translation>
     </message>
     <message>
-        <source>Change to Light Color</source>
-        <translation>Changer la couleur de la lumière</translation>
+        <source>Torus</source>
+        <translation>Tore</translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation>Cube</translation>
+    </message>
+    <message>
+        <source>Cone</source>
+        <translation>Cône</translation>
+    </message>
+    <message>
+        <source>Pyramid</source>
+        <translation>Pyramide</translation>
+    </message>
+    <message>
+        <source>Disk</source>
+        <translation>Disque</translation>
+    </message>
+    <message>
+        <source>Object Type</source>
+        <translation>Type d’objet</translation>
     </message>
 </context>
 <context>
@@ -3265,49 +3282,6 @@
     <message>
         <source>Nothing is to be seen from this side. Drag to turn it.</source>
         <translation>On ne voit rien de ce côté. Faites glisser pour tourner.</translation>
-    </message>
-</context>
-<context>
-    <name>ObjectEffect</name>
-    <message>
-        <source>Object type:</source>
-        <translation>Type d’objet&#xa0;:</translation>
-    </message>
-    <message>
-        <source>The body that wears the picture</source>
-        <translation>Le solide qui porte l’image</translation>
-    </message>
-    <message>
-        <source>Sphere</source>
-        <translation>Sphère</translation>
-    </message>
-    <message>
-        <source>Cylinder</source>
-        <translation>Cylindre</translation>
-    </message>
-    <message>
-        <source>Torus</source>
-        <translation>Tore</translation>
-    </message>
-    <message>
-        <source>Cube</source>
-        <translation>Cube</translation>
-    </message>
-    <message>
-        <source>Cone</source>
-        <translation>Cône</translation>
-    </message>
-    <message>
-        <source>Pyramid</source>
-        <translation>Pyramide</translation>
-    </message>
-    <message>
-        <source>Disk</source>
-        <translation>Disque</translation>
-    </message>
-    <message>
-        <source>Change to Object Type</source>
-        <translation>Changer le type d’objet</translation>
     </message>
 </context>
 <context>
