@@ -6,6 +6,7 @@
 #include "platform/foundation/ResourcePaths.h"
 #include "platform/imageio/PictureReader.h"
 #include "widgets/DropFileTypes.h"
+#include "widgets/PictureDrop.h"
 #include "widgets/PictureLayout.h"
 #include "widgets/PictureMenu.h"
 
@@ -265,15 +266,10 @@ void customEffImageView::mouseContentMenu(const QPoint& globalPosition)
 
 void customEffImageView::dragEnterEvent(QDragEnterEvent* event)
 {
-    const QString path = firstDroppedFile(*event->mimeData());
-    if (!(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !isAcceptableEffectPicture(path)) {
-        event->ignore();
+    if (!takeDrag(*event, firstDroppedFile(*event->mimeData()), isAcceptableEffectPicture))
         return;
-    }
     dragEnter = true;
     redraw();
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
 }
 
 void customEffImageView::dragLeaveEvent(QDragLeaveEvent*)
@@ -286,12 +282,7 @@ void customEffImageView::dropEvent(QDropEvent* event)
 {
     dragEnter = false;
     redraw();
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    // With the picture itself among the data, the drag came from a program that means something else by the file.
-    if (!controller || event->mimeData()->hasImage() || event->mimeData()->hasFormat("image/tiff"))
-        return;
-    const QString path = firstDroppedFile(*event->mimeData());
-    if (!path.isEmpty())
+    const QString path = takeDroppedPicture(*event);
+    if (controller && !path.isEmpty())
         controller->takeDroppedFile(path);
 }

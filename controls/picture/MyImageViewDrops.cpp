@@ -4,9 +4,9 @@
 #include "controls/picture/PictureScrollView.h"
 #include "controls/picture/PointMark.h"
 #include "widgets/DropFileTypes.h"
+#include "widgets/PictureDrop.h"
 
 #include <QDragEnterEvent>
-#include <QMimeData>
 #include <QPainter>
 
 namespace {
@@ -52,17 +52,11 @@ void MyImageView::showDropHighlight(bool shown)
 
 void MyImageView::dragEnterEvent(QDragEnterEvent* event)
 {
-    const QString path = onlyDroppedFile(*event->mimeData());
-    const bool copies = event->possibleActions() & Qt::CopyAction;
-    if (!copies || path.isEmpty() || !isAcceptablePictureFile(path)) {
-        event->ignore();
+    if (!takeDrag(*event, onlyDroppedFile(*event->mimeData()), isAcceptablePictureFile))
         return;
-    }
     if (!dragEnter)
         showDropHighlight(true);
     dragEnter = true;
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
 }
 
 void MyImageView::dragLeaveEvent(QDragLeaveEvent*)
@@ -76,12 +70,7 @@ void MyImageView::dropEvent(QDropEvent* event)
 {
     dragEnter = false;
     showDropHighlight(false);
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    // With the picture itself among the data, the drag came from a program that means something else by the file.
-    if (!controller || event->mimeData()->hasImage() || event->mimeData()->hasFormat("image/tiff"))
-        return;
-    const QString path = firstDroppedFile(*event->mimeData());
-    if (!path.isEmpty())
+    const QString path = takeDroppedPicture(*event);
+    if (controller && !path.isEmpty())
         controller->takeDroppedFile(path);
 }
