@@ -39,7 +39,6 @@ public:
     bool canUndo() const;
     bool canRedo() const { return !m_redo.empty(); }
     bool isUndoing() const { return m_state == State::Undoing; }
-    bool isRedoing() const { return m_state == State::Redoing; }
 
     /// Runs the newest step, its last registered action first. An open group is closed before. Nothing while an
     /// undo or redo is running.

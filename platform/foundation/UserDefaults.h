@@ -23,7 +23,6 @@ public:
 
     /// Invalid when there is no such value.
     QVariant objectForKey(const QString& key) const;
-    QString stringForKey(const QString& key) const { return objectForKey(key).toString(); }
     void setObjectForKey(const QVariant& value, const QString& key);
     void removeObjectForKey(const QString& key);
 
