@@ -39,7 +39,7 @@ int exportIndexForExtension(QString extension)
 QString exportPath(const QString& chosenPath, const QString& formatName)
 {
     const QString stem = withoutExtension(chosenPath);
-    if (formatName == QLatin1String("EPS ")) // of an older table
+    if (formatName == QLatin1String("EPS ")) // an older table had this name
         return stem + QStringLiteral(".eps");
     if (formatName == QLatin1String("PDF ") || formatName == QLatin1String("PDF"))
         return stem + QStringLiteral(".pdf");

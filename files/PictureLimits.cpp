@@ -15,7 +15,7 @@ constexpr float kLongestSide = 1'000'000; // px; far beyond what any format stor
 std::optional<QSize> pixelSize(float width, float height)
 {
     const bool isSize = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide;
-    if (!isSize) // not-a-number too
+    if (!isSize) // true of not-a-number, too
         return std::nullopt;
     return QSize(std::max(1, int(std::lround(width))), std::max(1, int(std::lround(height))));
 }

@@ -174,6 +174,6 @@ void ResizePanel::cancel()
 
 void ResizePanel::selectPixels()
 {
-    mMeasurement = Pixels; // first: the menu's change is then none
+    mMeasurement = Pixels; // comes first, so that the menu's signal finds no change
     mMeasurePopup->setCurrentIndex(mMeasurePopup->findData(int(Pixels)));
 }

@@ -32,7 +32,7 @@ void SavePanel::giveBackAccessory()
 void SavePanel::dress()
 {
     dressFilePanel(*this);
-    for (const char* name : {"fileTypeLabel", "fileTypeCombo"}) // there is one format, the menu's
+    for (const char* name : {"fileTypeLabel", "fileTypeCombo"}) // the accessory view's menu chooses the format
         if (auto* part = findChild<QWidget*>(QLatin1String(name)))
             part->hide();
 }

@@ -31,5 +31,5 @@ bool StoredBitmap::store(const CIBitmap& bitmap)
 CIBitmap StoredBitmap::read()
 {
     m_file.seek(0);
-    return unpackBitmap(m_file, std::numeric_limits<std::int64_t>::max()); // it was in memory before
+    return unpackBitmap(m_file, std::numeric_limits<std::int64_t>::max()); // no limit: it has been in memory before
 }

@@ -89,7 +89,7 @@ private:
     /// Null while the view is going away.
     const AccessibleCanvas* canvas() const { return dynamic_cast<const AccessibleCanvas*>(object()); }
 
-    mutable QList<QAccessible::Id> m_points; // as many as were asked for
+    mutable QList<QAccessible::Id> m_points; // grows as readers ask for them
 };
 
 std::optional<CanvasPoint> PointFace::point() const

@@ -79,7 +79,7 @@ void ColorWell::paintEvent(QPaintEvent*)
     if (m_shown.alpha() < 255)
         drawSquares(painter, rect());
     painter.fillRect(rect(), m_shown);
-    if (m_shown.alpha() < 255) { // half of it as if opaque: both can be judged
+    if (m_shown.alpha() < 255) { // one half shows the color without its transparency
         QColor opaque = m_shown;
         opaque.setAlpha(255);
         const QPoint corner[] = {{0, 0}, {width(), 0}, {0, height()}};

@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kHeight = 50; // points
-constexpr int kStepButtonWidth = 20, kStepButtonHeight = 37; // beside the cards, not the boxes above them
+constexpr int kStepButtonWidth = 20, kStepButtonHeight = 37; // as high as cards without their boxes
 constexpr auto kTick = 10ms;
 constexpr int kGlideTime = 160; // ms
 constexpr int kWheelNotch = 120;
@@ -67,7 +67,7 @@ QToolButton* DocPageControl::addStepButton(const char* icon, const QString& name
     button->setAccessibleName(name);
     button->setFocusPolicy(Qt::NoFocus); // arrow keys walk over the items
     QSizePolicy policy = button->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // or the items would jump
+    policy.setRetainSizeWhenHidden(true); // a hidden button keeps its place, so that the items stay
     button->setSizePolicy(policy);
     return button;
 }
@@ -256,7 +256,7 @@ void DocPageControl::removeItem(QAbstractButton* item)
     }
     item->removeEventFilter(this);
     item->hide();
-    item->deleteLater(); // the click that removes it may be its own
+    item->deleteLater(); // later, since its own click may be what removes it
     liveResizeDone();
 }
 

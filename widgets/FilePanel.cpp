@@ -45,7 +45,7 @@ void setIcons(QFileDialog& panel)
 void layOutList(QFileDialog& panel)
 {
     panel.setViewMode(QFileDialog::Detail);
-    for (const char* name : {"listModeButton", "detailModeButton"}) // one way of listing will do
+    for (const char* name : {"listModeButton", "detailModeButton"}) // there is only one way of listing
         if (auto* button = panel.findChild<QWidget*>(QLatin1String(name)))
             button->hide();
     if (auto* splitter = panel.findChild<QSplitter*>())
@@ -55,7 +55,7 @@ void layOutList(QFileDialog& panel)
         list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
         for (const int column : {1, 3})
             list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-        list->hideColumn(2); // the kind of file, which the name says
+        list->hideColumn(2); // it tells the kind of file, as the name's extension does
     }
 }
 

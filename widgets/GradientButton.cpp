@@ -76,7 +76,7 @@ void GradientButton::resizeEvent(QResizeEvent* event)
 
 bool GradientButton::event(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) // another look
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange) // the look has changed
         m_image = gradientImage(isChecked());
     return QPushButton::event(event);
 }
@@ -96,7 +96,7 @@ void GradientButton::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     QPainterPath shape;
     shape.addRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
-    const QBrush filling(m_image); // scales it by the image's device pixel ratio itself
+    const QBrush filling(m_image); // a brush minds the image's device pixel ratio
     painter.fillPath(shape, filling);
     if (isDown())
         painter.fillPath(shape, QColor(0, 0, 0, 40));

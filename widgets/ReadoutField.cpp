@@ -114,7 +114,7 @@ void ReadoutField::focusInEvent(QFocusEvent* event)
 {
     QLineEdit::focusInEvent(event);
     if (event->reason() == Qt::MouseFocusReason)
-        QTimer::singleShot(0, this, &QLineEdit::selectAll); // after the press has set the cursor
+        QTimer::singleShot(0, this, &QLineEdit::selectAll); // later, since the press moves the cursor first
 }
 
 void ReadoutField::focusOutEvent(QFocusEvent* event)

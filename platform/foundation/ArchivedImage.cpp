@@ -129,7 +129,7 @@ CIImage unarchivedImage(const QCborMap& map)
     const QCborArray stored = map[QLatin1String("extent")].toArray();
     const CIRect extent{stored[0].toDouble(), stored[1].toDouble(), stored[2].toDouble(), stored[3].toDouble()};
     const CIRect whole = extent.roundedOut();
-    const bool isNear = std::abs(whole.x) < kFarthest && std::abs(whole.y) < kFarthest; // not-a-number is not
+    const bool isNear = std::abs(whole.x) < kFarthest && std::abs(whole.y) < kFarthest; // not-a-number is never near
     if (extent.isInfinite() || whole.width != bitmap.width() || whole.height != bitmap.height() || !isNear)
         throw ArchiveError("A picture has no place.");
     if (whole.x != 0 || whole.y != 0)

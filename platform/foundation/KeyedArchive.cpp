@@ -11,7 +11,7 @@
 
 namespace {
 
-const QLatin1String kFormat("keyed archive"); // also says that the bytes are one
+const QLatin1String kFormat("keyed archive"); // marks bytes as an archive
 constexpr int kVersion = 1;
 const QLatin1String kVersionKey("version"), kRootKey("root");
 

@@ -53,7 +53,7 @@ QString Pasteboard::bestPictureType(const QStringList& offeredTypes)
 
 void Pasteboard::setPicture(const QByteArray& tiff, const QImage& shown)
 {
-    auto* data = new QMimeData; // the clipboard's from now on
+    auto* data = new QMimeData; // the clipboard owns it from now on
     data->setData(QStringLiteral("image/tiff"), tiff);
     data->setImageData(shown);
     QGuiApplication::clipboard()->setMimeData(data);

@@ -114,7 +114,7 @@ Drawing Drawing::detached() const
     for (Figure& figure : copy.m_figures)
         if (!figure.path.isEmpty()) {
             const QPainterPath::Element first = figure.path.elementAt(0);
-            figure.path.setElementPositionAt(0, first.x, first.y); // no longer shares what it is made of
+            figure.path.setElementPositionAt(0, first.x, first.y); // writing gives the path elements of its own
         }
     return copy;
 }
