@@ -1,9 +1,8 @@
 #include "files/ExportFormats.h"
 
-namespace {
+#include <algorithm>
 
-const QLatin1String kAppleIcons("com.apple.icns");
-const QLatin1String kWindowsIcons("com.microsoft.ico");
+namespace {
 
 /// Without its extension. A leading dot starts a name, not an extension.
 QString withoutExtension(const QString& path)
@@ -15,18 +14,30 @@ QString withoutExtension(const QString& path)
 
 } // namespace
 
+const std::vector<const FileFormat*>& exportFormats()
+{
+    static const std::vector<const FileFormat*> offered = [] {
+        std::vector<const FileFormat*> rows;
+        for (const FileFormat& row : fileFormats())
+            if (row.exportName)
+                rows.push_back(&row);
+        return rows;
+    }();
+    return offered;
+}
+
 int getRealExportIndex(const QString& name)
 {
-    for (std::size_t i = 0; i < kExportFormats.size(); ++i)
-        if (name == QLatin1String(kExportFormats[i].name))
-            return int(i);
-    return -1;
+    const auto& formats = exportFormats();
+    const auto found =
+        std::ranges::find_if(formats, [&](const FileFormat* row) { return name == QLatin1String(row->exportName); });
+    return found == formats.end() ? -1 : int(found - formats.begin());
 }
 
 PictureFormat bitmapFormatForType(const QString& typeIdentifier)
 {
-    const std::optional<PictureFormat> format = destinationFormat(typeIdentifier);
-    return format && !isIconType(typeIdentifier) && *format != PictureFormat::WebP ? *format : PictureFormat::Tiff;
+    const FileFormat* format = destinationFormat(typeIdentifier);
+    return format && format->exportName && !format->isIcon ? format->format : PictureFormat::Tiff;
 }
 
 int exportIndexForExtension(QString extension)
@@ -48,7 +59,7 @@ QString exportPath(const QString& chosenPath, const QString& formatName)
 
 int getIconSizeSize(const QString& typeIdentifier, int available)
 {
-    if (typeIdentifier == kAppleIcons) {
+    if (typeIdentifier == QLatin1String(fileFormat(PictureFormat::Icns).typeIdentifier)) {
         if (available >= 1024)
             return 1024;
         if (available >= 512)
@@ -61,26 +72,8 @@ int getIconSizeSize(const QString& typeIdentifier, int available)
     return available >= 48 ? 48 : 16;
 }
 
-std::optional<PictureFormat> destinationFormat(const QString& typeIdentifier)
+const FileFormat* destinationFormat(const QString& typeIdentifier)
 {
-    static const std::pair<QLatin1String, PictureFormat> formats[] = {
-        {QLatin1String("public.jpeg"), PictureFormat::Jpeg},
-        {QLatin1String("public.jpeg-2000"), PictureFormat::Jpeg2000},
-        {QLatin1String("public.tiff"), PictureFormat::Tiff},
-        {QLatin1String("com.compuserve.gif"), PictureFormat::Gif},
-        {QLatin1String("public.png"), PictureFormat::Png},
-        {QLatin1String("com.microsoft.bmp"), PictureFormat::Bmp},
-        {QLatin1String("org.webmproject.webp"), PictureFormat::WebP},
-        {kAppleIcons, PictureFormat::Icns},
-        {kWindowsIcons, PictureFormat::Ico},
-    };
-    for (const auto& [type, format] : formats)
-        if (typeIdentifier == type)
-            return format;
-    return std::nullopt;
-}
-
-bool isIconType(const QString& typeIdentifier)
-{
-    return typeIdentifier == kAppleIcons || typeIdentifier == kWindowsIcons;
+    const FileFormat* format = formatOfType(typeIdentifier.toStdString());
+    return format && format->encode ? format : nullptr;
 }

@@ -1,29 +1,14 @@
 // The formats that pictures are saved in, and the rules of names that go with them.
 #pragma once
 
-#include "platform/imageio/PictureWriter.h"
+#include "platform/imageio/FileFormats.h"
 
 #include <QString>
 
-#include <array>
-#include <optional>
+#include <vector>
 
-struct ExportFormat {
-    const char* name; // title in the menu and, in lower case, the extension
-    const char* typeIdentifier; // a uniform type identifier; empty for PDF, which isn't a bitmap
-};
-
-/// In the order of the menu: an item's tag is its index here.
-inline constexpr std::array<ExportFormat, 8> kExportFormats{{
-    {"JPEG", "public.jpeg"},
-    {"JPEG-2000", "public.jpeg-2000"},
-    {"TIFF", "public.tiff"},
-    {"GIF", "com.compuserve.gif"},
-    {"PNG", "public.png"},
-    {"BMP", "com.microsoft.bmp"},
-    {"ICNS", "com.apple.icns"},
-    {"PDF", ""},
-}};
+/// In the order of the menu: an item's tag is its index here. All have an `exportName`.
+const std::vector<const FileFormat*>& exportFormats();
 
 inline constexpr double kDefaultResolution = 300; // dots per inch
 
@@ -45,6 +30,5 @@ QString exportPath(const QString& chosenPath, const QString& formatName);
 /// The side of an icon for a picture whose shorter side is `available` pixels. Only icns knows 512 and 1024.
 int getIconSizeSize(const QString& typeIdentifier, int available);
 
-/// What an image destination of that type writes; nothing for types that can't be written.
-std::optional<PictureFormat> destinationFormat(const QString& typeIdentifier);
-bool isIconType(const QString& typeIdentifier);
+/// What an image destination of that type writes; null for types that can't be written.
+const FileFormat* destinationFormat(const QString& typeIdentifier);

@@ -3,6 +3,7 @@
 #include "files/ExportFormats.h"
 #include "files/PlainPicture.h"
 #include "platform/coreimage/passes/Resample.h"
+#include "platform/imageio/PictureWriter.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -33,26 +34,22 @@ QByteArray pdfOf(const CIBitmap& plain)
     return buffer.data();
 }
 
-Failure cannotWrite(const QString& path, const QString& reason)
-{
-    return {QObject::tr("“%1” can't be written: %2", "file name, reason")
-                .arg(path.section(QLatin1Char('/'), -1), reason)
-                .toStdString()};
-}
-
 } // namespace
 
 Result<void> writePdf(const CIBitmap& picture, const QString& path, CIRenderControl* control)
 {
     const CIBitmap bitmap = picture.isNull() ? CIBitmap() : plainBitmap(picture);
     if (bitmap.isNull())
-        return cannotWrite(path, QObject::tr("there is no picture."));
+        return Failure{Reason::NothingToWrite};
     const QByteArray document = pdfOf(bitmap);
     if (control && control->isCancelled())
-        return Failure{QObject::tr("The picture was not written.").toStdString()};
+        return Failure{Reason::NotWritten};
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit();
-    return isWritten ? Result<void>() : cannotWrite(path, file.errorString());
+    if (isWritten)
+        return {};
+    return Failure{
+        Reason::CannotWrite, path.section(QLatin1Char('/'), -1).toStdString(), file.errorString().toStdString()};
 }
 
 QTransform imageTransformToFitViewSize(QSizeF picture, QSizeF view)
@@ -77,12 +74,13 @@ CIBitmap scaleImageSize(const CIBitmap& picture, int side)
 
 bool export1PathTypeDpi(const CIBitmap& picture, const QString& path, const QString& typeIdentifier, float dpi)
 {
-    const std::optional<PictureFormat> format = destinationFormat(typeIdentifier);
+    const FileFormat* format = destinationFormat(typeIdentifier);
     if (!format)
         return false;
-    const CIBitmap written = isIconType(typeIdentifier)
+    const CIBitmap written = format->isIcon
         ? scaleImageSize(picture, getIconSizeSize(typeIdentifier, std::min(picture.width(), picture.height())))
         : picture;
-    return writePicture(written, QFile::encodeName(path).toStdString(), {.format = *format, .dotsPerInch = double(dpi)})
+    return writePicture(
+        written, QFile::encodeName(path).toStdString(), {.format = format->format, .dotsPerInch = double(dpi)})
         .isOk();
 }

@@ -1,9 +1,8 @@
-// What platform/imageio says about failures, in the user's language.
+// What a failure is called in the user's language.
 #pragma once
 
-#include <string>
+#include "platform/imageio/Failure.h"
 
 #include <QString>
 
-/// A message that is not among the known ones stays as it is.
-QString shownPictureMessage(const std::string& message);
+QString shownText(const Failure& failure);

@@ -276,10 +276,6 @@
         <translation>Bild speichern unter:</translation>
     </message>
     <message>
-        <source>There was not enough memory to save the picture.</source>
-        <translation>Der Speicher reichte nicht, um das Bild zu speichern.</translation>
-    </message>
-    <message>
         <source>Saving “%1”…</source>
         <translation>„%1“ wird gespeichert …</translation>
     </message>
@@ -3362,64 +3358,128 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
 <context>
     <name>PictureMessage</name>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Es gibt keine Datei %1.</translation>
+        <source>There is no file “%1”.</source>
+        <translation>Es gibt keine Datei „%1“.</translation>
     </message>
     <message>
-        <source>%1 is a folder, not a picture.</source>
-        <translation>%1 ist ein Ordner, kein Bild.</translation>
+        <source>There is no such file.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
     </message>
     <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 ist keine gewöhnliche Datei.</translation>
+        <source>“%1” is a folder, not a picture.</source>
+        <translation>„%1“ ist ein Ordner, kein Bild.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be read: %2.</source>
-        <translation>%1 kann nicht gelesen werden: %2.</translation>
+        <source>A folder is not a picture.</source>
+        <translation>Ein Ordner ist kein Bild.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be read.</source>
-        <translation>%1 kann nicht gelesen werden.</translation>
+        <source>“%1” is not an ordinary file.</source>
+        <translation>„%1“ ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>%1 is empty.</source>
-        <translation>%1 ist leer.</translation>
+        <source>It is not an ordinary file.</source>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
-        <source>%1 is not a picture of a kind that can be opened.</source>
-        <translation>%1 ist kein Bild einer Art, die geöffnet werden kann.</translation>
+        <source>“%1” can&apos;t be read: %2.</source>
+        <translation>„%1“ kann nicht gelesen werden: %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged or incomplete, so it can&apos;t be opened.</source>
-        <translation>%1 ist beschädigt oder unvollständig und kann nicht geöffnet werden.</translation>
+        <source>“%1” can&apos;t be read.</source>
+        <translation>„%1“ kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>%1 is too large to be opened: %2 × %3 pixels.</source>
-        <translation>%1 ist zu groß zum Öffnen: %2 × %3 Pixel.</translation>
+        <source>The picture can&apos;t be read.</source>
+        <translation>Das Bild kann nicht gelesen werden.</translation>
     </message>
     <message>
-        <source>%1 is too large to be opened.</source>
-        <translation>%1 ist zu groß zum Öffnen.</translation>
+        <source>“%1” is empty.</source>
+        <translation>„%1“ ist leer.</translation>
     </message>
     <message>
-        <source>%1 has a kind of pixel that can&apos;t be shown.</source>
-        <translation>%1 hat eine Art von Pixeln, die nicht gezeigt werden kann.</translation>
+        <source>The picture is empty.</source>
+        <translation>Das Bild ist leer.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be opened.</source>
-        <translation>%1 kann nicht geöffnet werden.</translation>
+        <source>“%1” is not a picture of a kind that can be opened.</source>
+        <translation>„%1“ ist kein Bild einer Art, die geöffnet werden kann.</translation>
     </message>
     <message>
-        <source>Opening %1 took too long.</source>
-        <translation>%1: Das Öffnen dauerte zu lange.</translation>
+        <source>It is not a picture of a kind that can be opened.</source>
+        <translation>Das ist kein Bild einer Art, die geöffnet werden kann.</translation>
     </message>
     <message>
-        <source>Opening %1 was given up.</source>
-        <translation>%1: Das Öffnen wurde abgebrochen.</translation>
+        <source>“%1” comes from a camera whose raw format is not known.</source>
+        <translation>„%1“ kommt von einer Kamera, deren Rohformat nicht bekannt ist.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open %1.</source>
-        <translation>%1: Der Speicher reicht zum Öffnen nicht aus.</translation>
+        <source>The picture comes from a camera whose raw format is not known.</source>
+        <translation>Das Bild kommt von einer Kamera, deren Rohformat nicht bekannt ist.</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged or incomplete, so it can&apos;t be opened.</source>
+        <translation>„%1“ ist beschädigt oder unvollständig und kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The picture is damaged or incomplete, so it can&apos;t be opened.</source>
+        <translation>Das Bild ist beschädigt oder unvollständig und kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be opened: %2 pixels.</source>
+        <translation>„%1“ ist zu groß zum Öffnen: %2 Pixel.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be opened.</source>
+        <translation>„%1“ ist zu groß zum Öffnen.</translation>
+    </message>
+    <message>
+        <source>The picture is too large to be opened: %2 pixels.</source>
+        <translation>Das Bild ist zu groß zum Öffnen: %2 Pixel.</translation>
+    </message>
+    <message>
+        <source>The picture is too large to be opened.</source>
+        <translation>Das Bild ist zu groß zum Öffnen.</translation>
+    </message>
+    <message>
+        <source>“%1” has a kind of pixel that can&apos;t be shown.</source>
+        <translation>„%1“ hat eine Art von Pixeln, die nicht gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>The picture has a kind of pixel that can&apos;t be shown.</source>
+        <translation>Das Bild hat eine Art von Pixeln, die nicht gezeigt werden kann.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be opened.</source>
+        <translation>„%1“ kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be opened.</source>
+        <translation>Das Bild kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>Opening “%1” took too long.</source>
+        <translation>Das Öffnen von „%1“ dauerte zu lange.</translation>
+    </message>
+    <message>
+        <source>Opening the picture took too long.</source>
+        <translation>Das Öffnen des Bildes dauerte zu lange.</translation>
+    </message>
+    <message>
+        <source>Opening “%1” was given up.</source>
+        <translation>Das Öffnen von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Opening the picture was given up.</source>
+        <translation>Das Öffnen des Bildes wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open “%1”.</source>
+        <translation>Der Speicher reicht nicht, um „%1“ zu öffnen.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the picture.</source>
+        <translation>Der Speicher reicht nicht, um das Bild zu öffnen.</translation>
     </message>
     <message>
         <source>There is no picture to write.</source>
@@ -3430,20 +3490,20 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <translation>Das Bild wurde nicht geschrieben.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 kann nicht geschrieben werden: %2.</translation>
+        <source>“%1” can&apos;t be written: %2.</source>
+        <translation>„%1“ kann nicht geschrieben werden: %2.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written.</source>
-        <translation>%1 kann nicht geschrieben werden.</translation>
+        <source>“%1” can&apos;t be written.</source>
+        <translation>„%1“ kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>The picture</source>
-        <translation>Das Bild</translation>
+        <source>The picture can&apos;t be written.</source>
+        <translation>Das Bild kann nicht geschrieben werden.</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>„%1“</translation>
+        <source>There was not enough memory to save the picture.</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu speichern.</translation>
     </message>
 </context>
 <context>
@@ -3567,19 +3627,6 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
 </context>
 <context>
     <name>QObject</name>
-    <message>
-        <source>“%1” can&apos;t be written: %2</source>
-        <comment>file name, reason</comment>
-        <translation>„%1“ kann nicht geschrieben werden: %2</translation>
-    </message>
-    <message>
-        <source>there is no picture.</source>
-        <translation>es gibt kein Bild.</translation>
-    </message>
-    <message>
-        <source>The picture was not written.</source>
-        <translation>Das Bild wurde nicht geschrieben.</translation>
-    </message>
     <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>

@@ -276,10 +276,6 @@
         <translation>Enregistrer l’image sous&#xa0;:</translation>
     </message>
     <message>
-        <source>There was not enough memory to save the picture.</source>
-        <translation>Mémoire insuffisante pour enregistrer l’image.</translation>
-    </message>
-    <message>
         <source>Saving “%1”…</source>
         <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
     </message>
@@ -3362,64 +3358,128 @@ Un double-clic rétablit la valeur par défaut</translation>
 <context>
     <name>PictureMessage</name>
     <message>
-        <source>There is no file %1.</source>
-        <translation>Le fichier %1 n’existe pas.</translation>
+        <source>There is no file “%1”.</source>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
-        <source>%1 is a folder, not a picture.</source>
-        <translation>%1 est un dossier, pas une image.</translation>
+        <source>There is no such file.</source>
+        <translation>Ce fichier n’existe pas.</translation>
     </message>
     <message>
-        <source>%1 is not an ordinary file.</source>
-        <translation>%1 n’est pas un fichier ordinaire.</translation>
+        <source>“%1” is a folder, not a picture.</source>
+        <translation>«&#xa0;%1&#xa0;» est un dossier, pas une image.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be read: %2.</source>
-        <translation>%1 ne peut pas être lu&#xa0;: %2.</translation>
+        <source>A folder is not a picture.</source>
+        <translation>Un dossier n’est pas une image.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be read.</source>
-        <translation>%1 ne peut pas être lu.</translation>
+        <source>“%1” is not an ordinary file.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
-        <source>%1 is empty.</source>
-        <translation>%1 ne contient rien.</translation>
+        <source>It is not an ordinary file.</source>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
-        <source>%1 is not a picture of a kind that can be opened.</source>
-        <translation>%1 n’est pas une image d’un genre que l’on peut ouvrir.</translation>
+        <source>“%1” can&apos;t be read: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>%1 is damaged or incomplete, so it can&apos;t be opened.</source>
-        <translation>Impossible d’ouvrir %1&#xa0;: les données sont abîmées ou incomplètes.</translation>
+        <source>“%1” can&apos;t be read.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu.</translation>
     </message>
     <message>
-        <source>%1 is too large to be opened: %2 × %3 pixels.</source>
-        <translation>Impossible d’ouvrir %1, de trop grande taille&#xa0;: %2 × %3 pixels.</translation>
+        <source>The picture can&apos;t be read.</source>
+        <translation>L’image ne peut pas être lue.</translation>
     </message>
     <message>
-        <source>%1 is too large to be opened.</source>
-        <translation>Impossible d’ouvrir %1, de trop grande taille.</translation>
+        <source>“%1” is empty.</source>
+        <translation>«&#xa0;%1&#xa0;» ne contient rien.</translation>
     </message>
     <message>
-        <source>%1 has a kind of pixel that can&apos;t be shown.</source>
-        <translation>%1 a un genre de pixels qui ne peut être affiché.</translation>
+        <source>The picture is empty.</source>
+        <translation>L’image ne contient rien.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be opened.</source>
-        <translation>%1 ne peut pas être ouvert.</translation>
+        <source>“%1” is not a picture of a kind that can be opened.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une image d’un genre que l’on peut ouvrir.</translation>
     </message>
     <message>
-        <source>Opening %1 took too long.</source>
-        <translation>%1&#xa0;: l’ouverture a pris trop de temps.</translation>
+        <source>It is not a picture of a kind that can be opened.</source>
+        <translation>Ce n’est pas une image d’un genre que l’on peut ouvrir.</translation>
     </message>
     <message>
-        <source>Opening %1 was given up.</source>
-        <translation>%1&#xa0;: l’ouverture a été abandonnée.</translation>
+        <source>“%1” comes from a camera whose raw format is not known.</source>
+        <translation>«&#xa0;%1&#xa0;» provient d’un appareil dont le format brut est inconnu.</translation>
     </message>
     <message>
-        <source>There is not enough memory to open %1.</source>
-        <translation>Mémoire insuffisante pour ouvrir %1.</translation>
+        <source>The picture comes from a camera whose raw format is not known.</source>
+        <translation>L’image provient d’un appareil dont le format brut est inconnu.</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged or incomplete, so it can&apos;t be opened.</source>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;»&#xa0;: les données sont abîmées ou incomplètes.</translation>
+    </message>
+    <message>
+        <source>The picture is damaged or incomplete, so it can&apos;t be opened.</source>
+        <translation>Impossible d’ouvrir l’image&#xa0;: les données sont abîmées ou incomplètes.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be opened: %2 pixels.</source>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;», de trop grande taille&#xa0;: %2 pixels.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large to be opened.</source>
+        <translation>Impossible d’ouvrir «&#xa0;%1&#xa0;», de trop grande taille.</translation>
+    </message>
+    <message>
+        <source>The picture is too large to be opened: %2 pixels.</source>
+        <translation>Impossible d’ouvrir l’image, de trop grande taille&#xa0;: %2 pixels.</translation>
+    </message>
+    <message>
+        <source>The picture is too large to be opened.</source>
+        <translation>Impossible d’ouvrir l’image, de trop grande taille.</translation>
+    </message>
+    <message>
+        <source>“%1” has a kind of pixel that can&apos;t be shown.</source>
+        <translation>«&#xa0;%1&#xa0;» a un genre de pixels qui ne peut être affiché.</translation>
+    </message>
+    <message>
+        <source>The picture has a kind of pixel that can&apos;t be shown.</source>
+        <translation>L’image a un genre de pixels qui ne peut être affiché.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be opened.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be opened.</source>
+        <translation>L’image ne peut pas être ouverte.</translation>
+    </message>
+    <message>
+        <source>Opening “%1” took too long.</source>
+        <translation>L’ouverture de «&#xa0;%1&#xa0;» a pris trop de temps.</translation>
+    </message>
+    <message>
+        <source>Opening the picture took too long.</source>
+        <translation>L’ouverture de l’image a pris trop de temps.</translation>
+    </message>
+    <message>
+        <source>Opening “%1” was given up.</source>
+        <translation>L’ouverture de «&#xa0;%1&#xa0;» a été abandonnée.</translation>
+    </message>
+    <message>
+        <source>Opening the picture was given up.</source>
+        <translation>L’ouverture de l’image a été abandonnée.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open “%1”.</source>
+        <translation>Mémoire insuffisante pour ouvrir «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>There is not enough memory to open the picture.</source>
+        <translation>Mémoire insuffisante pour ouvrir l’image.</translation>
     </message>
     <message>
         <source>There is no picture to write.</source>
@@ -3430,20 +3490,20 @@ Un double-clic rétablit la valeur par défaut</translation>
         <translation>L’image n’a pas été écrite.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written: %2.</source>
-        <translation>%1 ne peut pas être écrit&#xa0;: %2.</translation>
+        <source>“%1” can&apos;t be written: %2.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2.</translation>
     </message>
     <message>
-        <source>%1 can&apos;t be written.</source>
-        <translation>%1 ne peut pas être écrit.</translation>
+        <source>“%1” can&apos;t be written.</source>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit.</translation>
     </message>
     <message>
-        <source>The picture</source>
-        <translation>L’image</translation>
+        <source>The picture can&apos;t be written.</source>
+        <translation>L’image ne peut pas être écrite.</translation>
     </message>
     <message>
-        <source>“%1”</source>
-        <translation>«&#xa0;%1&#xa0;»</translation>
+        <source>There was not enough memory to save the picture.</source>
+        <translation>Mémoire insuffisante pour enregistrer l’image.</translation>
     </message>
 </context>
 <context>
@@ -3567,19 +3627,6 @@ Un double-clic rétablit la valeur par défaut</translation>
 </context>
 <context>
     <name>QObject</name>
-    <message>
-        <source>“%1” can&apos;t be written: %2</source>
-        <comment>file name, reason</comment>
-        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>there is no picture.</source>
-        <translation>il n’y a pas d’image.</translation>
-    </message>
-    <message>
-        <source>The picture was not written.</source>
-        <translation>L’image n’a pas été écrite.</translation>
-    </message>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>

@@ -1,5 +1,7 @@
 #include "widgets/DropFileTypes.h"
 
+#include "platform/imageio/FileFormats.h"
+
 #include <QFileInfo>
 #include <QMimeData>
 #include <QStringList>
@@ -11,13 +13,13 @@ namespace {
 const QStringList& imageFileTypes()
 {
     static const QStringList types = [] {
-        QStringList both = QStringLiteral("jpg jpeg jpe jfif jp2 j2k jpx jpf jxl tif tiff png apng gif webp heic heif "
-                                          "hif avif bmp dib ico icns svg svgz exr hdr psd psb tga pbm pgm ppm pnm pfm "
-                                          "dng cr2 cr3 crw nef nrw arw srf sr2 raf orf rw2 pef srw raw rwl 3fr erf "
-                                          "kdc mos mrw x3f iiq")
-                               .split(u' ');
-        for (const QString& type : QStringList(both))
-            both.append(type.toUpper());
+        QStringList both;
+        for (const FileFormat& format : fileFormats())
+            if (format.isRead())
+                for (const std::string_view extension : format.extensions) {
+                    const QString lower = QString::fromUtf8(extension.data(), qsizetype(extension.size()));
+                    both << lower << lower.toUpper();
+                }
         return both;
     }();
     return types;
@@ -33,6 +35,8 @@ const QStringList& codedTypes()
 }
 
 } // namespace
+
+QString pictureFilePatterns() { return QStringLiteral("*.") + imageFileTypes().join(QLatin1String(" *.")); }
 
 bool isAcceptablePictureFile(const QString& path)
 {

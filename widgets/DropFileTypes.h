@@ -1,8 +1,11 @@
-// Which dropped files the picture view takes.
+// Which files the open panel offers and the views take.
 #pragma once
 
 class QMimeData;
 class QString;
+
+/// Patterns for a file dialog, "*.jpg *.JPG …": some dialogs tell upper and lower case apart.
+QString pictureFilePatterns();
 
 /// True when the extension is that of a picture and isn't PDF. Upper and lower case are told apart.
 bool isAcceptablePictureFile(const QString& path);

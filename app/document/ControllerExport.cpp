@@ -7,6 +7,7 @@
 #include "files/SavePanel.h"
 #include "platform/chain/Baking.h"
 #include "platform/foundation/Log.h"
+#include "platform/imageio/PictureWriter.h"
 #include "ui_SaveOptions.h"
 #include "widgets/AlertPanel.h"
 #include "widgets/BackgroundWork.h"
@@ -39,8 +40,8 @@ void Controller::initExportFormats()
     saveObjectOutlet->hide();
     Ui::SaveOptions options;
     options.setupUi(saveObjectOutlet);
-    for (std::size_t i = 0; i < kExportFormats.size(); ++i)
-        options.formatMenu->addItem(QLatin1String(kExportFormats[i].name), int(i));
+    for (std::size_t i = 0; i < exportFormats().size(); ++i)
+        options.formatMenu->addItem(QLatin1String(exportFormats()[i]->exportName), int(i));
     options.formatMenu->setCurrentIndex(0);
     for (int i = 0; i < int(std::size(kResolutions)); ++i)
         options.resolutionMenu->setItemData(i, kResolutions[i]);
@@ -163,7 +164,7 @@ void Controller::saveAs(const QString& path)
 {
     const QComboBox* formats = menuWithTag(saveObjectOutlet, kFormatTag);
     format_type = formats ? formats->currentData().toInt() : 0;
-    const QString name = QLatin1String(kExportFormats[std::size_t(format_type)].name);
+    const QString name = QLatin1String(exportFormats()[std::size_t(format_type)]->exportName);
     const double resolution = chosenResolution();
     const QString target = exportPath(path, name);
     // Whatever the answer, the file is overwritten. The new one takes the old one's place when it is complete; taking
@@ -188,7 +189,8 @@ void Controller::saveAs(const QString& path)
 
 bool Controller::simplySaveResolutionPath(int index, double, const QString& path)
 {
-    const PictureFormat format = bitmapFormatForType(QLatin1String(kExportFormats[std::size_t(index)].typeIdentifier));
+    const PictureFormat format =
+        bitmapFormatForType(QLatin1String(exportFormats()[std::size_t(index)]->typeIdentifier));
     const bool isWritten = writeInBackground(path, [&](const CIBitmap& bitmap, CIRenderControl& control) {
         return writePicture(bitmap, QFile::encodeName(path).toStdString(),
             {.format = format, .metadata = m_document.metadata(), .control = &control});
@@ -208,7 +210,7 @@ bool Controller::writeInBackground(
     const QString& path, const std::function<Result<void>(const CIBitmap&, CIRenderControl&)>& write)
 {
     const BaseEffect::LaterImage image = laterEffectedImage();
-    Result<void> result = Failure{tr("There was not enough memory to save the picture.").toStdString()};
+    Result<void> result = Failure{Reason::NoMemoryToSave};
     WorkControl control(kRenderingShare);
     workInBackground(&m_window, tr("Saving “%1”…").arg(QFileInfo(path).fileName()), control, [&] {
         const CIImage finished = image ? image(&control.rendering) : CIImage();
@@ -224,6 +226,6 @@ bool Controller::writeInBackground(
     if (result)
         markSessionClean();
     if (!result && !m_saveWasStopped)
-        showMessage(shownPictureMessage(result.message()));
+        showMessage(shownText(result.failure()));
     return result.isOk();
 }

@@ -1,8 +1,8 @@
 #include "app/Controller.h"
-#include "app/document/PictureFiles.h"
 #include "app/document/RecentFiles.h"
 #include "app/window/MainWindow.h"
 #include "ui_MainWindow.h"
+#include "widgets/DropFileTypes.h"
 #include "widgets/FilePanel.h"
 
 #include <QAccessible>

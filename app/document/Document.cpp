@@ -70,7 +70,7 @@ CIImage Document::restored(KeptPicture& kept)
 
 CIImage Document::take(const PictureRead& read)
 {
-    m_readFailure = read.failure.empty() ? QString() : shownPictureMessage(read.failure);
+    m_readFailure = read.failure ? shownText(*read.failure) : QString();
     if (read.image)
         m_formats.remember(read.image, read.format);
     m_lastRead = {read.image.node(), read.metadata};

@@ -26,7 +26,7 @@ std::string fileOf(const QString& path) { return QFile::encodeName(path).toStdSt
 PictureRead pictureOf(const Result<CIBitmap>& read)
 {
     if (!read)
-        return {.failure = read.message()};
+        return {.failure = read.failure()};
     PictureRead picture{.image = CIImage::fromBitmap(read.value()), .format = read.value().format()};
     makeReducedCopies(picture.image);
     return picture;
@@ -36,7 +36,7 @@ PictureRead pictureOf(const Result<CIBitmap>& read)
 std::optional<CIImage> reducedPicture(const std::string& file, const ReadOptions& options)
 {
     const Result<PictureInfo> info = readPictureInfo(file);
-    if (!info || info.value().formatName != "JPEG" || double(info.value().width) * info.value().height < kLarge)
+    if (!info || info.value().format != PictureFormat::Jpeg || double(info.value().width) * info.value().height < kLarge)
         return {};
     const Result<CIBitmap> reduced = readPicture(file, options);
     if (!reduced)
@@ -60,7 +60,7 @@ PictureRead readPictureFile(const QString& path, const ReadOptions& options)
             read.metadata = PictureMetadata::ofFile(file);
         return read;
     } catch (const std::bad_alloc&) {
-        return {.failure = "There is not enough memory to open “" + fileOf(QFileInfo(path).fileName()) + "”."};
+        return {.failure = Failure{Reason::NoMemoryToOpen, fileOf(QFileInfo(path).fileName())}};
     }
 }
 
@@ -69,7 +69,7 @@ PictureRead readPictureData(const QByteArray& data, const ReadOptions& options)
     try {
         return pictureOf(readPicture(std::as_bytes(std::span(data.data(), std::size_t(data.size()))), options));
     } catch (const std::bad_alloc&) {
-        return {.failure = "There is not enough memory to open the picture."};
+        return {.failure = Failure{Reason::NoMemoryToOpen}};
     }
 }
 

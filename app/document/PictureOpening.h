@@ -12,14 +12,14 @@
 #include <atomic>
 #include <functional>
 #include <memory>
-#include <string>
+#include <optional>
 
 /// What was read: an image, or why there is none.
 struct PictureRead {
     CIImage image{};
     CIFormat format = CIFormat::RGBA8; // of its pixels
     std::shared_ptr<const PictureMetadata> metadata{}; // null when the source says nothing about itself
-    std::string failure{}; // a message fit to show; empty when there is an image
+    std::optional<Failure> failure{}; // none when there is an image, or none was asked for
 };
 
 /// Reads a file on other threads: first a reduced picture, where that is much quicker, then the whole one. Nobody waits

@@ -39,10 +39,6 @@ std::shared_ptr<Job> jobFor(const PictureInput& input, const ReadOptions& option
 
 } // namespace
 
-Failure tookTooLong(const PictureInput& input) { return {"Opening " + input.name() + " took too long."}; }
-
-Failure givenUp(const PictureInput& input) { return {"Opening " + input.name() + " was given up."}; }
-
 Result<CIBitmap> decodeInTime(const PictureInput& input, const ReadOptions& options,
     Result<CIBitmap> (*decode)(const PictureInput&, const ReadOptions&))
 {
@@ -62,7 +58,7 @@ Result<CIBitmap> decodeInTime(const PictureInput& input, const ReadOptions& opti
         if (isCancelled() || std::chrono::steady_clock::now() > deadline) {
             giveUpLooseThread();
             job->isGivenUp = true;
-            return isCancelled() ? givenUp(input) : tookTooLong(input);
+            return input.failure(isCancelled() ? Reason::GivenUp : Reason::TookTooLong);
         }
     return result.get();
 }

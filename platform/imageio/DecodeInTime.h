@@ -6,9 +6,6 @@
 
 namespace imageio {
 
-Failure tookTooLong(const PictureInput&);
-Failure givenUp(const PictureInput&);
-
 /// Runs `decode` on a thread of its own, for as long as the options allow, and at most half a minute. The libraries
 /// that render drawings can't be stopped within a strip, and a few lines of a drawing can ask for endless work: such a
 /// thread is left to itself, and holds back neither the caller nor the end of the program.

@@ -123,9 +123,9 @@ void addJfif(const PictureInput& input, Properties& properties)
 
 void addFormatHeaders(const PictureInput& input, Properties& properties)
 {
-    if (input.kind() == PictureKind::Png)
+    if (input.isOf(PictureFormat::Png))
         addPng(input, groupIn(properties, "{PNG}").children);
-    else if (input.kind() == PictureKind::Jpeg)
+    else if (input.isOf(PictureFormat::Jpeg))
         addJfif(input, properties);
 }
 

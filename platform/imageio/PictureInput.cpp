@@ -12,23 +12,23 @@ Result<PictureInput> PictureInput::fromFile(const fs::path& path)
 {
     PictureInput input;
     input.m_path = path;
-    input.m_name = "“" + path.filename().string() + "”";
+    input.m_name = path.filename().string();
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found)
-        return Failure{"There is no file " + input.m_name + "."};
+        return input.failure(Reason::NoFile);
     if (status.type() == fs::file_type::directory)
-        return Failure{input.m_name + " is a folder, not a picture."};
+        return input.failure(Reason::IsFolder);
     if (status.type() != fs::file_type::regular) // a pipe or a device could block for ever
-        return Failure{input.m_name + " is not an ordinary file."};
+        return input.failure(Reason::NotOrdinary);
     if (std::FILE* file = std::fopen(path.c_str(), "rb"))
         input.m_file = std::shared_ptr<std::FILE>(file, CloseFile());
     else
-        return Failure{input.m_name + " can't be read: " + std::strerror(errno) + "."};
+        return input.failure(Reason::CannotRead, std::strerror(errno));
     input.m_size = std::size_t(fs::file_size(path, error));
     if (error || input.m_size == 0)
-        return Failure{input.m_name + " is empty."};
-    input.m_kind = kindOfContent(input.reader());
+        return input.failure(Reason::Empty);
+    input.m_format = formatOfContent(input.reader());
     return input;
 }
 
@@ -37,10 +37,9 @@ Result<PictureInput> PictureInput::fromMemory(std::span<const std::byte> content
     PictureInput input;
     input.m_memory = content;
     input.m_size = content.size();
-    input.m_name = "The picture";
     if (content.empty())
-        return Failure{"The picture is empty."};
-    input.m_kind = kindOfContent(input.reader());
+        return input.failure(Reason::Empty);
+    input.m_format = formatOfContent(input.reader());
     return input;
 }
 

@@ -1,7 +1,7 @@
 // The bytes of one picture file, on disk or in memory.
 #pragma once
 
-#include "platform/imageio/PictureKind.h"
+#include "platform/imageio/FileFormats.h"
 #include "platform/imageio/Result.h"
 #include "platform/imageio/Vips.h"
 
@@ -18,9 +18,11 @@ public:
     static Result<PictureInput> fromFile(const std::filesystem::path&);
     static Result<PictureInput> fromMemory(std::span<const std::byte>);
 
-    /// How messages call the picture: "“name.jpg”" or "The picture".
+    /// Of the file, without its folder; empty for memory.
     const std::string& name() const { return m_name; }
-    PictureKind kind() const { return m_kind; }
+    Failure failure(Reason reason, const std::string& detail = {}) const { return {reason, m_name, detail}; }
+    const FileFormat* format() const { return m_format; } // null for an unknown one
+    bool isOf(PictureFormat format) const { return m_format && m_format->format == format; }
     std::size_t size() const { return m_size; } // bytes
     ReadBytes reader() const;
 
@@ -43,7 +45,7 @@ private:
     std::shared_ptr<std::FILE> m_file;
     std::span<const std::byte> m_memory;
     std::size_t m_size = 0;
-    PictureKind m_kind = PictureKind::Unknown;
+    const FileFormat* m_format = nullptr;
 };
 
 } // namespace imageio

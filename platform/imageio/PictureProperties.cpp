@@ -14,49 +14,6 @@ using namespace imageio;
 
 constexpr double kMillimetersPerInch = 25.4;
 
-const char* typeIdentifierOf(PictureKind kind)
-{
-    switch (kind) {
-    case PictureKind::Jpeg:
-        return "public.jpeg";
-    case PictureKind::Png:
-        return "public.png";
-    case PictureKind::Tiff:
-        return "public.tiff";
-    case PictureKind::Gif:
-        return "com.compuserve.gif";
-    case PictureKind::Bmp:
-        return "com.microsoft.bmp";
-    case PictureKind::WebP:
-        return "org.webmproject.webp";
-    case PictureKind::Heif:
-        return "public.heic";
-    case PictureKind::Avif:
-        return "public.avif";
-    case PictureKind::Jpeg2000:
-        return "public.jpeg-2000";
-    case PictureKind::JpegXl:
-        return "public.jpeg-xl";
-    case PictureKind::Svg:
-        return "public.svg-image";
-    case PictureKind::Pdf:
-        return "com.adobe.pdf";
-    case PictureKind::Exr:
-        return "com.ilm.openexr-image";
-    case PictureKind::Psd:
-        return "com.adobe.photoshop-image";
-    case PictureKind::Ico:
-        return "com.microsoft.ico";
-    case PictureKind::Sgi:
-        return "com.sgi.sgi-image";
-    case PictureKind::CameraRaw:
-        return "public.camera-raw-image";
-    case PictureKind::Unknown:
-        break;
-    }
-    return "";
-}
-
 const char* yesOrNo(bool yes) { return yes ? "Yes" : "No"; }
 
 const char* colorModelOf(VipsImage* image)
@@ -123,7 +80,7 @@ void addPixels(const PictureInput& input, const OpenPicture& picture, const Pict
         addValue(properties, "DPIHeight", dpiText(y));
     }
     addValue(properties, "ProfileName", info.profileName);
-    if (input.kind() == PictureKind::Gif)
+    if (input.isOf(PictureFormat::Gif))
         addGif(image, properties);
 }
 
@@ -133,13 +90,13 @@ Result<PictureFileProperties> propertiesOf(const PictureInput& input, const std:
     if (!info)
         return info.failure();
     PictureFileProperties result;
-    result.typeIdentifier = typeIdentifierOf(input.kind());
+    result.typeIdentifier = input.format()->typeIdentifier;
     result.fileSize = input.size();
     Properties& properties = result.properties;
     addValue(properties, "Depth", std::to_string(info->bitsPerComponent));
     addValue(properties, "HasAlpha", yesOrNo(info->hasAlpha));
     addValue(properties, "IsFloat", yesOrNo(info->isFloat));
-    const OpenPicture picture = input.kind() == PictureKind::CameraRaw ? OpenPicture() : openPicture(input, 0);
+    const OpenPicture picture = input.isOf(PictureFormat::CameraRaw) ? OpenPicture() : openPicture(input, 0);
     if (picture.image) {
         addPixels(input, picture, *info, properties);
     } else {
@@ -165,6 +122,6 @@ Result<PictureFileProperties> readPictureProperties(const std::filesystem::path&
         return propertiesOf(*input, file);
     } catch (const std::exception& error) {
         imageLog(input->name() + ": " + error.what());
-        return Failure{input->name() + " can't be read."};
+        return input->failure(Reason::CannotRead);
     }
 }

@@ -14,23 +14,15 @@ namespace {
 
 using namespace imageio;
 
-Failure unknownFormat(const PictureInput& input)
-{
-    return {input.name() + " is not a picture of a kind that can be opened."};
-}
-
 Failure damaged(const PictureInput& input)
 {
-    imageLog(input.name() + " (" + nameOfKind(input.kind()) + "): " + takeVipsError());
-    return {input.name() + " is damaged or incomplete, so it can't be opened."};
+    imageLog(input.name() + " (" + input.format()->name + "): " + takeVipsError());
+    return input.failure(Reason::Damaged);
 }
-
-bool isDrawing(PictureKind kind) { return kind == PictureKind::Svg || kind == PictureKind::Pdf; }
 
 Failure tooLarge(const PictureInput& input, int width, int height)
 {
-    return {input.name() + " is too large to be opened: " + std::to_string(width) + " × " + std::to_string(height)
-        + " pixels."};
+    return input.failure(Reason::TooLarge, std::to_string(width) + " × " + std::to_string(height));
 }
 
 /// The JPEG decoder fills up what is missing with grey, which makes a few bytes a picture of any size. Even a blank
@@ -39,7 +31,7 @@ bool claimsTooMuch(const PictureInput& input, int width, int height)
 {
     constexpr double kMaxPixelsPerByte = 64 * 8 * 4; // color at half the resolution takes hardly more; be generous
     constexpr double kHeaderBytes = 1000;
-    return input.kind() == PictureKind::Jpeg
+    return input.isOf(PictureFormat::Jpeg)
         && double(width) * height > kMaxPixelsPerByte * (double(input.size()) + kHeaderBytes);
 }
 
@@ -94,9 +86,9 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
     case SinkEnd::Damaged:
         return damaged(input);
     case SinkEnd::TimeOver:
-        return tookTooLong(input);
+        return input.failure(Reason::TookTooLong);
     case SinkEnd::Cancelled:
-        return givenUp(input);
+        return input.failure(Reason::GivenUp);
     }
     return damaged(input);
 }
@@ -105,18 +97,18 @@ Result<CIBitmap> readChecked(const Result<PictureInput>& input, const ReadOption
 {
     if (!input)
         return input.failure();
-    if (input->kind() == PictureKind::Unknown)
-        return unknownFormat(*input);
+    if (!input->format())
+        return input->failure(Reason::UnknownFormat);
     try {
         useVips();
-        if (isDrawing(input->kind()))
+        if (input->format()->isDrawing)
             return decodeInTime(*input, options, decode);
-        return input->kind() == PictureKind::CameraRaw ? readRaw(*input, options) : decode(*input, options);
+        return input->isOf(PictureFormat::CameraRaw) ? readRaw(*input, options) : decode(*input, options);
     } catch (const std::bad_alloc&) {
-        return Failure{"There is not enough memory to open " + input->name() + "."};
+        return input->failure(Reason::NoMemoryToOpen);
     } catch (const std::exception& error) {
         imageLog(input->name() + ": " + error.what());
-        return Failure{input->name() + " can't be opened."};
+        return input->failure(Reason::CannotOpen);
     }
 }
 
@@ -133,7 +125,7 @@ int bitsPerComponent(VipsImage* image)
     return vips_image_get_coding(image) == VIPS_CODING_NONE ? int(vips_format_sizeof(format)) * 8 : 16;
 }
 
-PictureInfo infoOf(const OpenPicture& picture, PictureKind kind)
+PictureInfo infoOf(const OpenPicture& picture, PictureFormat format)
 {
     VipsImage* image = picture.image.get();
     PictureInfo info;
@@ -145,7 +137,7 @@ PictureInfo infoOf(const OpenPicture& picture, PictureKind kind)
     info.isFloat = vips_band_format_isfloat(vips_image_get_format(image));
     info.hasAlpha = vips_image_hasalpha(image) && vips_image_get_coding(image) == VIPS_CODING_NONE;
     info.profileName = profileName(image);
-    info.formatName = nameOfKind(kind);
+    info.format = format;
     return info;
 }
 
@@ -166,16 +158,16 @@ Result<PictureInfo> readPictureInfo(const std::filesystem::path& file)
     const Result<PictureInput> input = PictureInput::fromFile(file);
     if (!input)
         return input.failure();
-    if (input->kind() == PictureKind::Unknown)
-        return unknownFormat(*input);
+    if (!input->format())
+        return input->failure(Reason::UnknownFormat);
     try {
         useVips();
-        if (input->kind() == PictureKind::CameraRaw)
+        if (input->isOf(PictureFormat::CameraRaw))
             return readRawInfo(*input);
         const OpenPicture picture = openPicture(*input, 0);
-        return picture.image ? Result<PictureInfo>(infoOf(picture, input->kind())) : damaged(*input);
+        return picture.image ? Result<PictureInfo>(infoOf(picture, input->format()->format)) : damaged(*input);
     } catch (const std::exception& error) {
         imageLog(input->name() + ": " + error.what());
-        return Failure{input->name() + " can't be opened."};
+        return input->failure(Reason::CannotOpen);
     }
 }

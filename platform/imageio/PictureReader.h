@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/coreimage/CIBitmap.h"
+#include "platform/imageio/FileFormats.h"
 #include "platform/imageio/Result.h"
 
 #include <atomic>
@@ -27,7 +28,7 @@ struct PictureInfo {
     bool isFloat = false;
     bool hasAlpha = false;
     std::string profileName; // of the embedded color profile; empty without one
-    std::string formatName; // "JPEG", "PNG", …
+    PictureFormat format = PictureFormat::Png;
 };
 
 /// Reads a picture: upright, in sRGB, first frame or page, row 0 on top. Content decides the format, not the name.

@@ -1,7 +1,5 @@
 #include "platform/imageio/PictureWriter.h"
 
-#include "platform/imageio/BmpWriter.h"
-#include "platform/imageio/IconWriter.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PictureRows.h"
@@ -27,20 +25,13 @@ struct BlobUnref {
     void operator()(VipsBlob* blob) const { vips_area_unref(VIPS_AREA(blob)); }
 };
 
-bool keepsAlpha(PictureFormat format) { return format != PictureFormat::Jpeg; }
-
-bool keepsSixteenBits(PictureFormat format)
-{
-    return format == PictureFormat::Png || format == PictureFormat::Tiff || format == PictureFormat::Jpeg2000;
-}
-
 RowLayout layoutFor(const CIBitmap& bitmap, const WriteOptions& options)
 {
     const bool isDeepBitmap = bitmap.format() == CIFormat::RGBA16 || bitmap.format() == CIFormat::RGBAf;
     const int wanted = options.bitsPerComponent ? options.bitsPerComponent : (isDeepBitmap ? 16 : 8);
     RowLayout layout;
-    layout.bits = wanted > 8 && keepsSixteenBits(options.format) ? 16 : 8;
-    layout.hasAlpha = bitmap.alpha() != CIAlpha::Opaque && keepsAlpha(options.format);
+    layout.bits = wanted > 8 ? fileFormat(options.format).writtenBits : 8;
+    layout.hasAlpha = bitmap.alpha() != CIAlpha::Opaque && fileFormat(options.format).writesAlpha;
     return layout;
 }
 
@@ -57,33 +48,6 @@ void attachSrgbProfile(VipsImage* image)
     vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, bytes, size);
 }
 
-int encode(VipsImage* image, VipsTarget* target, const WriteOptions& options)
-{
-    const int quality = std::clamp(int(options.quality * 100 + 0.5), 1, 100);
-    switch (options.format) {
-    case PictureFormat::Jpeg:
-        return vips_jpegsave_target(image, target, "Q", quality, "optimize_coding", TRUE, nullptr);
-    case PictureFormat::Jpeg2000:
-        return vips_jp2ksave_target(image, target, "Q", quality, nullptr);
-    case PictureFormat::Tiff:
-        return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW, "predictor",
-            VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL, nullptr);
-    case PictureFormat::Gif:
-        return vips_gifsave_target(image, target, nullptr);
-    case PictureFormat::Png: // a third of the time of the usual level for a seventh more bytes
-        return vips_pngsave_target(image, target, "compression", 2, "filter", VIPS_FOREIGN_PNG_FILTER_SUB, nullptr);
-    case PictureFormat::WebP:
-        return vips_webpsave_target(image, target, "Q", quality, nullptr);
-    case PictureFormat::Bmp:
-        return writeBmp(image, target, options.dotsPerInch);
-    case PictureFormat::Icns:
-        return writeIcns(image, target);
-    case PictureFormat::Ico:
-        return writeIco(image, target);
-    }
-    return -1;
-}
-
 void reportProgress(VipsImage* image, VipsProgress* progress, CIRenderControl* control)
 {
     control->setProgress(progress->percent / 100.0);
@@ -94,7 +58,8 @@ void reportProgress(VipsImage* image, VipsProgress* progress, CIRenderControl* c
 /// False, with the reason logged, when the picture can't be encoded or its bytes can't be stored.
 bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& options)
 {
-    VipsImagePtr image = target ? imageOfBitmap(bitmap, layoutFor(bitmap, options)) : nullptr;
+    const auto encode = fileFormat(options.format).encode;
+    VipsImagePtr image = target && encode ? imageOfBitmap(bitmap, layoutFor(bitmap, options)) : nullptr;
     if (image) {
         attachSrgbProfile(image.get());
         if (options.dotsPerInch > 0)
@@ -175,9 +140,8 @@ private:
 
 Failure cannotWrite(const fs::path& file, int error)
 {
-    const Failure failure{"“" + file.filename().string() + "” can't be written"
-        + (error ? ": " + std::string(std::strerror(error)) : std::string()) + "."};
-    imageLog(failure.message);
+    const Failure failure{Reason::CannotWrite, file.filename().string(), error ? std::strerror(error) : ""};
+    imageLog(englishText(failure));
     return failure;
 }
 
@@ -219,7 +183,7 @@ bool isCancelled(const WriteOptions& options) { return options.control && option
 Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const WriteOptions& options)
 {
     if (bitmap.isNull())
-        return Failure{"There is no picture to write."};
+        return Failure{Reason::NothingToWrite};
     try {
         useVips();
         FileBeside beside(file);
@@ -227,7 +191,7 @@ Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const Wr
             return cannotWrite(file, errno);
         const bool isEncoded = encodeInto(beside.descriptor(), bitmap, options);
         if (isCancelled(options))
-            return Failure{"The picture was not written."};
+            return Failure{Reason::NotWritten};
         if (!isEncoded)
             return cannotWrite(file, errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0);
         if (!beside.commit())
@@ -243,7 +207,7 @@ Result<void> writePng(const CIBitmap& bitmap, const fs::path& file) { return wri
 
 Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const WriteOptions& options)
 {
-    const Failure failure{"The picture can't be encoded."};
+    const Failure failure{Reason::CannotWrite};
     if (bitmap.isNull())
         return failure;
     try {
@@ -263,42 +227,4 @@ Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const Write
         imageLog(error.what());
         return failure;
     }
-}
-
-bool isIconSide(PictureFormat format, int side)
-{
-    const std::span<const int> sides = format == PictureFormat::Icns ? icnsSides() : icoSides();
-    return std::ranges::find(sides, side) != sides.end();
-}
-
-std::optional<PictureFormat> formatForExtension(std::string_view extension)
-{
-    std::string lower(extension.substr(extension.starts_with('.') ? 1 : 0));
-    std::ranges::transform(
-        lower, lower.begin(), [](unsigned char c) { return char(c >= 'A' && c <= 'Z' ? c + 32 : c); });
-    struct Entry {
-        std::string_view extension;
-        PictureFormat format;
-    };
-    constexpr Entry entries[] = {
-        {"jpg", PictureFormat::Jpeg},
-        {"jpeg", PictureFormat::Jpeg},
-        {"jpe", PictureFormat::Jpeg},
-        {"jp2", PictureFormat::Jpeg2000},
-        {"j2k", PictureFormat::Jpeg2000},
-        {"jpf", PictureFormat::Jpeg2000},
-        {"jpeg-2000", PictureFormat::Jpeg2000},
-        {"tif", PictureFormat::Tiff},
-        {"tiff", PictureFormat::Tiff},
-        {"gif", PictureFormat::Gif},
-        {"png", PictureFormat::Png},
-        {"webp", PictureFormat::WebP},
-        {"bmp", PictureFormat::Bmp},
-        {"icns", PictureFormat::Icns},
-        {"ico", PictureFormat::Ico},
-    };
-    for (const Entry& entry : entries)
-        if (lower == entry.extension)
-            return entry.format;
-    return std::nullopt;
 }

@@ -3,17 +3,13 @@
 
 #include "platform/coreimage/CIBitmap.h"
 #include "platform/coreimage/CIContext.h"
+#include "platform/imageio/FileFormats.h"
 #include "platform/imageio/PictureMetadata.h"
 #include "platform/imageio/Result.h"
 
 #include <filesystem>
 #include <memory>
-#include <optional>
-#include <string_view>
 #include <vector>
-
-/// Icns and Ico hold one square picture of a side that the format knows: see `isIconSide`.
-enum class PictureFormat { Jpeg, Jpeg2000, Tiff, Gif, Png, WebP, Bmp, Icns, Ico };
 
 struct WriteOptions {
     PictureFormat format = PictureFormat::Png;
@@ -37,9 +33,3 @@ Result<void> writePng(const CIBitmap&, const std::filesystem::path& file);
 
 /// The bytes of such a file.
 Result<std::vector<std::byte>> encodePicture(const CIBitmap&, const WriteOptions& = {});
-
-/// Whether an icon file can hold a picture of `side` by `side` pixels.
-bool isIconSide(PictureFormat format, int side);
-
-/// The format that a file name's extension stands for, in any letter case.
-std::optional<PictureFormat> formatForExtension(std::string_view extension);

@@ -11,14 +11,15 @@ namespace imageio {
 
 namespace {
 
-Failure damaged(const PictureInput& input, int error)
+/// `error` of LibRaw in the users' terms.
+Failure failureOf(const PictureInput& input, int error, const ReadOptions& options = {})
 {
     if (error == LIBRAW_CANCELLED_BY_CALLBACK)
-        return {"Opening " + input.name() + " took too long or was given up."};
+        return input.failure(options.cancelled && *options.cancelled ? Reason::GivenUp : Reason::TookTooLong);
     imageLog(input.name() + ": LibRaw: " + libraw_strerror(error));
     if (error == LIBRAW_UNSUPPORTED_THUMBNAIL || error == LIBRAW_FILE_UNSUPPORTED)
-        return {input.name() + " comes from a camera whose raw format is not known."};
-    return {input.name() + " is damaged or incomplete, so it can't be opened."};
+        return input.failure(Reason::UnknownCamera);
+    return input.failure(Reason::Damaged);
 }
 
 int open(LibRaw& raw, const PictureInput& input)
@@ -80,10 +81,10 @@ Result<CIBitmap> developed(LibRaw& raw, const PictureInput& input)
     int width = 0, height = 0, colors = 0, bits = 0;
     raw.get_mem_image_format(&width, &height, &colors, &bits);
     if (width <= 0 || height <= 0 || colors != 3 || bits != 16)
-        return Failure{input.name() + " has a kind of pixel that can't be shown."};
+        return input.failure(Reason::StrangePixels);
     CIBitmap bitmap(width, height, CIFormat::RGBA16, CIAlpha::Opaque);
     if (const int error = raw.copy_mem_image(bitmap.mutableRow(0), int(bitmap.bytesPerRow()), 0))
-        return damaged(input, error);
+        return failureOf(input, error);
     spreadRows(bitmap);
     return bitmap;
 }
@@ -94,14 +95,14 @@ Result<PictureInfo> readRawInfo(const PictureInput& input)
 {
     const auto raw = std::make_unique<LibRaw>();
     if (const int error = open(*raw, input))
-        return damaged(input, error);
+        return failureOf(input, error);
     PictureInfo info;
     info.width = raw->imgdata.sizes.iwidth;
     info.height = raw->imgdata.sizes.iheight;
     if (swapsSides(*raw))
         std::swap(info.width, info.height);
     info.bitsPerComponent = 16;
-    info.formatName = nameOfKind(PictureKind::CameraRaw);
+    info.format = PictureFormat::CameraRaw;
     return info;
 }
 
@@ -111,18 +112,18 @@ Result<CIBitmap> readRaw(const PictureInput& input, const ReadOptions& options)
     Watch watch{options, std::chrono::steady_clock::now() + options.timeLimit};
     raw->set_progress_handler(&Watch::isOver, &watch);
     if (const int error = open(*raw, input))
-        return damaged(input, error);
+        return failureOf(input, error);
     const auto& sizes = raw->imgdata.sizes;
     const std::int64_t pixels = std::int64_t(sizes.raw_width) * sizes.raw_height;
     if (pixels > options.maxPixels)
-        return Failure{input.name() + " is too large to be opened."};
+        return input.failure(Reason::TooLarge);
     requireMemory(sizes.raw_width, sizes.raw_height, CIFormat::RGBA16, options);
     const int longerSide = std::max(sizes.iwidth, sizes.iheight);
     setDeveloping(*raw, options.maxSide > 0 && longerSide / 2 >= options.maxSide);
     int error = raw->unpack();
     if (!error)
         error = raw->dcraw_process();
-    return error ? Result<CIBitmap>(damaged(input, error)) : developed(*raw, input);
+    return error ? Result<CIBitmap>(failureOf(input, error, options)) : developed(*raw, input);
 }
 
 } // namespace imageio

@@ -1,16 +1,12 @@
 // A value, or the reason why there is none.
 #pragma once
 
-#include <string>
+#include "platform/imageio/Failure.h"
+
 #include <utility>
 #include <variant>
 
-/// Why something failed, as one or two sentences fit to show to the user.
-struct Failure {
-    std::string message;
-};
-
-/// Holds a value or a message. Ask before taking: `value()` of a failure throws std::bad_variant_access.
+/// Ask before taking: `value()` of a failure and `failure()` of a value throw std::bad_variant_access.
 template <class T>
 class [[nodiscard]] Result {
 public:
@@ -34,30 +30,20 @@ public:
     T* operator->() { return &value(); }
     const T* operator->() const { return &value(); }
 
-    /// The message; empty when there is a value.
-    std::string message() const { return isOk() ? std::string() : std::get<1>(m_state).message; }
-    Failure failure() const { return {message()}; }
+    const Failure& failure() const { return std::get<1>(m_state); }
+    /// In English; empty when there is a value.
+    std::string message() const { return isOk() ? std::string() : englishText(failure()); }
 
 private:
     std::variant<T, Failure> m_state;
 };
 
 template <>
-class [[nodiscard]] Result<void> {
+class [[nodiscard]] Result<void> : public Result<std::monostate> {
 public:
-    Result() = default;
-    Result(Failure failure)
-        : m_message(std::move(failure.message))
-        , m_ok(false)
+    Result()
+        : Result<std::monostate>(std::monostate())
     {
     }
-
-    bool isOk() const { return m_ok; }
-    explicit operator bool() const { return m_ok; }
-    const std::string& message() const { return m_message; }
-    Failure failure() const { return {m_message}; }
-
-private:
-    std::string m_message;
-    bool m_ok = true;
+    using Result<std::monostate>::Result;
 };

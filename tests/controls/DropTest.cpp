@@ -47,6 +47,17 @@ TEST(DropFileTypes, ArePicturesButNotPDF)
         EXPECT_FALSE(isAcceptablePictureFile(path)) << path;
 }
 
+TEST(DropFileTypes, AreTheOnesThatTheOpenPanelOffers)
+{
+    const QStringList patterns = pictureFilePatterns().split(' ');
+    EXPECT_TRUE(patterns.contains("*.cr2") && patterns.contains("*.JPG"));
+    for (const QString& pattern : patterns) {
+        const QString file = QString(pattern).replace('*', "/a/b");
+        EXPECT_TRUE(isAcceptableEffectPicture(file)) << file.toStdString();
+        EXPECT_EQ(isAcceptablePictureFile(file), !file.endsWith(".pdf", Qt::CaseInsensitive)) << file.toStdString();
+    }
+}
+
 TEST_F(ImageViewTest, TakesExactlyOnePictureFile)
 {
     EXPECT_TRUE(accepts(view, Files({"/p/one.png"})));

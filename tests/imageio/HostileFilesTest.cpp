@@ -147,7 +147,7 @@ TEST_F(HostileFiles, EndlessDrawingsAreLeftToThemselves)
 {
     EXPECT_TRUE(readPicture(bytesOf(nestedDocument(2))));
     const Result<CIBitmap> endless = readPicture(bytesOf(nestedDocument(12)), {.timeLimit = std::chrono::seconds(1)});
-    EXPECT_EQ(endless.message(), "Opening The picture took too long.");
+    EXPECT_EQ(endless.message(), "Opening the picture took too long.");
     const std::atomic<bool> isCancelled = true;
     EXPECT_THAT(readPicture(bytesOf(nestedDocument(12)), {.cancelled = &isCancelled}).message(), HasSubstr("given up"));
     EXPECT_TRUE(readPicture(bytesOf(nestedDocument(2)))) << "others go on";

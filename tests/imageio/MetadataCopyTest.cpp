@@ -90,7 +90,7 @@ TEST_F(MetadataCopy, WritesThePictureWhereThereIsNothingToCarry)
     for (const fs::path& source : {broken, folder.path() / "missing", photograph()}) {
         ASSERT_TRUE(
             writePicture(bitmap, file, {.format = PictureFormat::Gif, .metadata = PictureMetadata::ofFile(source)}));
-        EXPECT_EQ(readPictureInfo(file)->formatName, "GIF");
+        EXPECT_EQ(readPictureInfo(file)->format, PictureFormat::Gif);
         ASSERT_TRUE(
             writePicture(bitmap, file, {.format = PictureFormat::Png, .metadata = PictureMetadata::ofFile(source)}));
         EXPECT_EQ(readPictureInfo(file)->width, 9);

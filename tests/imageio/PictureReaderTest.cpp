@@ -102,7 +102,7 @@ TEST(PictureReader, TurnsJpegByExifAndSaysSoInTheInfo)
     ASSERT_TRUE(info) << info.message();
     EXPECT_EQ(info->width, 16);
     EXPECT_EQ(info->height, 64);
-    EXPECT_EQ(info->formatName, "JPEG");
+    EXPECT_EQ(info->format, PictureFormat::Jpeg);
     EXPECT_THAT(info->profileName, HasSubstr("sRGB"));
 }
 

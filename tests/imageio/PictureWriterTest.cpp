@@ -105,12 +105,4 @@ TEST(PictureWriter, ReplacesFilesWholeOrNotAtAll)
     setImageLog({});
 }
 
-TEST(PictureWriter, KnowsFormatsByExtension)
-{
-    EXPECT_EQ(formatForExtension(".JPEG"), PictureFormat::Jpeg);
-    EXPECT_EQ(formatForExtension("jpeg-2000"), PictureFormat::Jpeg2000);
-    EXPECT_EQ(formatForExtension("xyz"), std::nullopt);
-    EXPECT_EQ(formatForExtension(""), std::nullopt);
-}
-
 } // namespace

@@ -79,6 +79,20 @@ private:
     int m_users = 0;
 };
 
+/// Why the work failed; empty when it did not.
+template <class Work>
+std::string failureOf(Work work)
+{
+    try {
+        work();
+        return {};
+    } catch (const std::bad_alloc&) {
+        return "there is not enough memory";
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
 class Batch {
 public:
     Batch(const Arguments& arguments, const BatchLimits& limits, std::function<void(const BatchReport&)> report,
@@ -117,55 +131,47 @@ private:
         std::unique_lock lock(m_mutex);
         while (m_next < m_inputs.size() && !m_stop) {
             const fs::path input = m_inputs[m_next++];
-            const Result<BatchFile> planned = m_files.plan(input); // in their order: who comes first gets the name
+            BatchFile file;
+            // In their order: who comes first gets the name.
+            std::string failure = failureOf([&] { file = m_files.plan(input); });
             lock.unlock();
-            const std::string failure = planned ? processed(*planned) : planned.message();
+            if (failure.empty()) {
+                m_budget.take(file.memory);
+                failure = failureOf([&] { process(file); });
+                m_budget.giveBack(file.memory);
+            }
             lock.lock();
             if (m_stop && !failure.empty())
                 break;
             m_failures += !failure.empty();
-            m_report({++m_finished, m_inputs.size(), input, planned ? planned->output : fs::path(), failure});
+            m_report({++m_finished, m_inputs.size(), input, file.output, failure});
         }
         if (--m_running == 0)
             m_ended.notify_all();
     }
 
-    /// Why it failed; empty when all went well.
-    std::string processed(const BatchFile& file)
-    {
-        m_budget.take(file.memory);
-        std::string failure;
-        try {
-            failure = process(file).message();
-        } catch (const std::bad_alloc&) {
-            failure = "there is not enough memory";
-        } catch (const std::exception& error) {
-            failure = error.what();
-        }
-        m_budget.giveBack(file.memory);
-        return failure;
-    }
-
-    Result<void> process(const BatchFile& file)
+    void process(const BatchFile& file)
     {
         const Result<CIBitmap> read = readPicture(file.input, {.cancelled = &m_stop});
         if (!read)
-            return read.failure();
+            throw std::runtime_error(read.message());
         const CIImage result = filtered(CIImage::fromBitmap(*read));
         const CIRect extent = result.extent();
         if (result.isNull() || extent.isEmpty())
-            return Failure{m_filterName + " makes no picture of it"};
+            throw std::runtime_error(m_filterName + " makes no picture of it");
         if (extent.width * extent.height > kMaxOutputPixels)
-            return Failure{"the result would have more than 500 million pixels"};
+            throw std::runtime_error("the result would have more than 500 million pixels");
         const CIBitmap bitmap = renderedBitmap(m_context, result, read->format(), &m_control);
         if (bitmap.isNull())
-            return Failure{"there is not enough memory for the result"};
+            throw std::bad_alloc();
         const std::shared_ptr<const PictureMetadata> metadata = PictureMetadata::ofFile(file.input);
-        return writePicture(bitmap, file.output,
+        const Result<void> written = writePicture(bitmap, file.output,
             {.format = file.format,
                 .dotsPerInch = metadata ? metadata->dotsPerInch() : 0,
                 .metadata = metadata,
                 .control = &m_control});
+        if (!written)
+            throw std::runtime_error(written.message());
     }
 
     /// As the editor does it when the favourite is pressed and the picture saved.

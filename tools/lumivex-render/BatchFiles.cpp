@@ -1,32 +1,12 @@
 #include "tools/lumivex-render/BatchFiles.h"
 
-#include <array>
-#include <string_view>
+#include <stdexcept>
 
 #include <sys/stat.h>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// That of the picture's own content, whatever its name says. Icons have sides of their own, so a filtered one may fit
-/// into none.
-std::optional<PictureFormat> formatWithName(std::string_view name)
-{
-    constexpr std::array<std::pair<std::string_view, PictureFormat>, 7> writable{{
-        {"JPEG", PictureFormat::Jpeg},
-        {"JPEG 2000", PictureFormat::Jpeg2000},
-        {"TIFF", PictureFormat::Tiff},
-        {"GIF", PictureFormat::Gif},
-        {"PNG", PictureFormat::Png},
-        {"WebP", PictureFormat::WebP},
-        {"BMP", PictureFormat::Bmp},
-    }};
-    for (const auto& [known, format] : writable)
-        if (known == name)
-            return format;
-    return std::nullopt;
-}
 
 std::int64_t memoryFor(const PictureInfo& info)
 {
@@ -56,20 +36,23 @@ bool BatchFiles::identify(const fs::path& file, FileIdentity& identity)
     return true;
 }
 
-Result<BatchFile> BatchFiles::plan(const fs::path& input)
+BatchFile BatchFiles::plan(const fs::path& input)
 {
     const Result<PictureInfo> info = readPictureInfo(input);
     if (!info)
-        return info.failure();
-    BatchFile file{input, m_folder / input.filename(), PictureFormat::Png, memoryFor(*info)};
-    if (const std::optional<PictureFormat> format = formatWithName(info->formatName))
-        file.format = *format;
-    else
+        throw std::runtime_error(info.message());
+    // That of the picture's own content, whatever its name says. Icons have sides of their own, so a filtered one may
+    // fit into none.
+    const FileFormat& format = fileFormat(info->format);
+    const bool isKept = format.encode && !format.isIcon;
+    BatchFile file{input, m_folder / input.filename(), isKept ? format.format : PictureFormat::Png, memoryFor(*info)};
+    if (!isKept)
         file.output.replace_extension(".png");
     FileIdentity identity;
     if (identify(file.output, identity) && m_inputs.contains(identity))
-        return Failure{"it would overwrite the input file " + file.output.string() + "; choose another folder"};
+        throw std::runtime_error(
+            "it would overwrite the input file " + file.output.string() + "; choose another folder");
     if (!m_taken.insert(file.output).second)
-        return Failure{"another of these files is written to " + file.output.string()};
+        throw std::runtime_error("another of these files is written to " + file.output.string());
     return file;
 }

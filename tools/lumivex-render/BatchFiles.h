@@ -21,9 +21,9 @@ class BatchFiles {
 public:
     BatchFiles(const std::vector<std::string>& inputs, std::filesystem::path folder);
 
-    /// Where the file goes. Fails with a message fit to show when it is no picture, or when its target is one of the
-    /// inputs or was given to another file.
-    Result<BatchFile> plan(const std::filesystem::path& input);
+    /// Where the file goes. Throws std::runtime_error when it is no picture, or when its target is one of the inputs or
+    /// was given to another file.
+    BatchFile plan(const std::filesystem::path& input);
 
 private:
     using FileIdentity = std::pair<std::uintmax_t, std::uintmax_t>; // device and file number

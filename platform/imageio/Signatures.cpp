@@ -1,4 +1,4 @@
-#include "platform/imageio/PictureKind.h"
+#include "platform/imageio/Signatures.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -9,11 +9,6 @@ namespace imageio {
 namespace {
 
 using namespace std::string_view_literals;
-
-std::string_view textOf(const std::vector<std::byte>& bytes)
-{
-    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
-}
 
 /// Numbers of a TIFF-like file, in its byte order; 0 past the end.
 class Numbers {
@@ -96,34 +91,40 @@ bool isCameraTiff(const ReadBytes& read, bool littleEndian)
     return false;
 }
 
-PictureKind kindOfTiff(std::string_view head, const ReadBytes& read)
-{
-    const bool isClassic = head.starts_with("II*\0"sv) || head.starts_with("MM\0*"sv);
-    const bool isMakersMark = head.substr(8, 2) == "CR"sv || head.substr(8, 4) == "IIII"sv;
-    if (isClassic && (isMakersMark || isCameraTiff(read, head[0] == 'I')))
-        return PictureKind::CameraRaw;
-    return PictureKind::Tiff;
-}
-
 /// Files of the ISO base media family name their brands at the start.
-PictureKind kindOfBrands(std::string_view head)
+bool hasBrand(std::string_view head, std::initializer_list<std::string_view> wanted)
 {
+    if (head.substr(4, 4) != "ftyp"sv)
+        return false;
     const std::size_t size = std::min<std::size_t>(head.size(), static_cast<unsigned char>(head[3]));
-    PictureKind kind = PictureKind::Unknown;
-    for (std::size_t at = 8; at + 4 <= size; at += 4) {
-        const std::string_view brand = head.substr(at, 4);
-        if (brand == "crx "sv)
-            return PictureKind::CameraRaw;
-        if (brand == "avif"sv || brand == "avis"sv)
-            return PictureKind::Avif;
-        for (const auto heif : {"heic"sv, "heix"sv, "heim"sv, "heis"sv, "hevc"sv, "hevx"sv, "mif1"sv, "msf1"sv})
-            if (brand == heif)
-                kind = PictureKind::Heif;
-    }
-    return kind;
+    for (std::size_t at = 8; at + 4 <= size; at += 4)
+        if (std::ranges::find(wanted, head.substr(at, 4)) != wanted.end())
+            return true;
+    return false;
 }
 
-bool isBmp(std::string_view head)
+} // namespace
+
+bool isAvif(std::string_view head, const ReadBytes&) { return hasBrand(head, {"avif", "avis"}); }
+
+bool isHeif(std::string_view head, const ReadBytes&)
+{
+    return hasBrand(head, {"heic", "heix", "heim", "heis", "hevc", "hevx", "mif1", "msf1"});
+}
+
+bool isWebP(std::string_view head, const ReadBytes&)
+{
+    return head.starts_with("RIFF"sv) && head.substr(8, 4) == "WEBP"sv;
+}
+
+bool isCameraRaw(std::string_view head, const ReadBytes& read)
+{
+    const bool isTiff = head.starts_with("II*\0"sv) || head.starts_with("MM\0*"sv);
+    const bool isMakersMark = head.substr(8, 2) == "CR"sv || head.substr(8, 4) == "IIII"sv;
+    return isTiff ? isMakersMark || isCameraTiff(read, head[0] == 'I') : hasBrand(head, {"crx "});
+}
+
+bool isBmp(std::string_view head, const ReadBytes&)
 {
     if (!head.starts_with("BM"sv) || head.size() < 18)
         return false;
@@ -132,113 +133,17 @@ bool isBmp(std::string_view head)
         && head.substr(15, 3) == "\0\0\0"sv;
 }
 
-bool isSgi(std::string_view head)
+bool isSgi(std::string_view head, const ReadBytes&)
 {
-    return head.starts_with("\x01\xda"sv) && head.size() > 4 && (head[2] == 0 || head[2] == 1)
-        && (head[3] == 1 || head[3] == 2);
+    return head.starts_with("\x01\xda"sv) && (head[2] == 0 || head[2] == 1) && (head[3] == 1 || head[3] == 2);
 }
 
-bool isSvg(std::string_view head)
+bool isSvg(std::string_view head, const ReadBytes&)
 {
     if (head.starts_with("\xef\xbb\xbf"sv))
         head.remove_prefix(3);
     const std::size_t start = head.find_first_not_of(" \t\r\n"sv);
     return start != head.npos && head[start] == '<' && head.find("<svg"sv) != head.npos;
-}
-
-struct Signature {
-    std::string_view bytes;
-    PictureKind kind;
-};
-
-constexpr Signature kSignatures[] = {
-    {"\xff\xd8\xff"sv, PictureKind::Jpeg},
-    {"\x89PNG\r\n\x1a\n"sv, PictureKind::Png},
-    {"GIF8"sv, PictureKind::Gif},
-    {"\0\0\0\x0cjP  "sv, PictureKind::Jpeg2000},
-    {"\xff\x4f\xff\x51"sv, PictureKind::Jpeg2000},
-    {"\0\0\0\x0cJXL \r\n\x87\n"sv, PictureKind::JpegXl},
-    {"\xff\x0a"sv, PictureKind::JpegXl},
-    {"%PDF-"sv, PictureKind::Pdf},
-    {"\x76\x2f\x31\x01"sv, PictureKind::Exr},
-    {"8BPS"sv, PictureKind::Psd},
-    {"\0\0\x01\0"sv, PictureKind::Ico},
-    {"IIU\0"sv, PictureKind::CameraRaw},
-    {"IIRO"sv, PictureKind::CameraRaw},
-    {"IIRS"sv, PictureKind::CameraRaw},
-    {"MMOR"sv, PictureKind::CameraRaw},
-    {"FUJIFILMCCD-RAW"sv, PictureKind::CameraRaw},
-    {"II\x1a\0\0\0HEAPCCDR"sv, PictureKind::CameraRaw},
-    {"\0MRM"sv, PictureKind::CameraRaw},
-    {"FOVb"sv, PictureKind::CameraRaw},
-};
-
-} // namespace
-
-PictureKind kindOfContent(const ReadBytes& read)
-{
-    const auto bytes = read(0, 4096);
-    const std::string_view head = textOf(bytes);
-    if (head.size() < 12)
-        return PictureKind::Unknown;
-    for (const Signature& signature : kSignatures)
-        if (head.starts_with(signature.bytes))
-            return signature.kind;
-    for (const auto tiff : {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv})
-        if (head.starts_with(tiff))
-            return kindOfTiff(head, read);
-    if (head.starts_with("RIFF"sv) && head.substr(8, 4) == "WEBP"sv)
-        return PictureKind::WebP;
-    if (head.substr(4, 4) == "ftyp"sv)
-        return kindOfBrands(head);
-    if (isBmp(head))
-        return PictureKind::Bmp;
-    if (isSgi(head))
-        return PictureKind::Sgi;
-    return isSvg(head) ? PictureKind::Svg : PictureKind::Unknown;
-}
-
-const char* nameOfKind(PictureKind kind)
-{
-    switch (kind) {
-    case PictureKind::Unknown:
-        return "";
-    case PictureKind::Jpeg:
-        return "JPEG";
-    case PictureKind::Png:
-        return "PNG";
-    case PictureKind::Tiff:
-        return "TIFF";
-    case PictureKind::Gif:
-        return "GIF";
-    case PictureKind::Bmp:
-        return "BMP";
-    case PictureKind::WebP:
-        return "WebP";
-    case PictureKind::Heif:
-        return "HEIF";
-    case PictureKind::Avif:
-        return "AVIF";
-    case PictureKind::Jpeg2000:
-        return "JPEG 2000";
-    case PictureKind::JpegXl:
-        return "JPEG XL";
-    case PictureKind::Svg:
-        return "SVG";
-    case PictureKind::Pdf:
-        return "PDF";
-    case PictureKind::Exr:
-        return "OpenEXR";
-    case PictureKind::Psd:
-        return "PSD";
-    case PictureKind::Ico:
-        return "ICO";
-    case PictureKind::Sgi:
-        return "SGI";
-    case PictureKind::CameraRaw:
-        return "Camera raw";
-    }
-    return "";
 }
 
 int largestIconIndex(const ReadBytes& read)
