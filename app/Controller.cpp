@@ -7,9 +7,9 @@
 
 void Controller::showPicture()
 {
-    fitZoom();
     for (Mode* mode : m_modes.modes())
         mode->pictureChanged();
+    fitZoom(); // the views lay themselves out for what the effects make of it
     updatePictureInfo();
     const CIRect extent = getBgImageExtent();
     ResizePanel::setWHH(float(extent.width), float(extent.height));
@@ -40,7 +40,7 @@ void Controller::escapeEffect()
 
 void Controller::applyBtn()
 {
-    if (!isOpening())
+    if (m_document.isIdle())
         m_modes.current().apply([this] { clearAllAndUpdate(); });
 }
 

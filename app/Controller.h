@@ -3,13 +3,20 @@
 
 #include "app/catalogue/FilterCatalogue.h"
 #include "app/catalogue/FilterMaker.h"
+#include "app/document/Clipboard.h"
 #include "app/document/Document.h"
+#include "app/document/Opening.h"
+#include "app/document/Resizing.h"
+#include "app/document/Saving.h"
+#include "app/document/Session.h"
+#include "app/document/Turning.h"
 #include "app/modes/CustomMode.h"
 #include "app/modes/FilterPanel.h"
 #include "app/modes/ModeSwitch.h"
 #include "app/modes/ParameterChanges.h"
 #include "app/modes/StandardMode.h"
 #include "app/modes/ThreeDMode.h"
+#include "app/window/Sight.h"
 #include "controls/panel/BezelStyle.h"
 #include "controls/panel/ParameterMaster.h"
 #include "controls/picture/ImageViewMaster.h"
@@ -19,7 +26,6 @@
 #include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
 #include "platform/chain/FilterChain.h"
-#include "platform/imageio/Result.h"
 
 #include <QAction>
 #include <QObject>
@@ -38,10 +44,7 @@ class QAbstractButton;
 class QLabel;
 class QSessionManager;
 class QSlider;
-class SessionJournal;
 class customEffImageView;
-struct PictureRead;
-struct SessionState;
 
 namespace Ui {
 class MainWindow;
@@ -162,13 +165,11 @@ public:
     void rotateRight() { rotateImage(false); }
     void flipHorizont() { flipImage(false); }
     void flipVert() { flipImage(true); }
-    void rotateImage(bool left);
-    /// Its undo flips in the other direction, which leaves the picture turned by half a turn.
-    void flipImage(bool vertical);
-    /// Rounded to whole pixels; tells the user when there is no room for so many.
-    void resizeImageHeight(float width, float height) override;
-    void copy();
-    void paste();
+    void rotateImage(bool left) { m_turning.rotate(left); }
+    void flipImage(bool vertical) { m_turning.flip(vertical); }
+    void resizeImageHeight(float width, float height) override { m_resizing.resize(width, height); }
+    void copy() { m_clipboard.copy(); }
+    void paste() { m_clipboard.paste(); }
     void undoPaste(const CIImage& image) { m_document.replaceByForeignPicture(image); }
     void zoomChanged();
     void setZoom(float zoom) override; // moves the slider only
@@ -186,41 +187,35 @@ public:
 
     // Files: ControllerFiles.cpp
     void openImg();
-    void openImgPanelDidEnd(int returnCode, const QStringList& files);
+    void openImgPanelDidEnd(int returnCode, const QStringList& files) { m_opening.panelDidEnd(returnCode, files); }
     void setFilePath(const QString& path) { m_document.setFilePath(path); } // empty for none
     void showInfoPanel(); // or hides it
     QString getFilePath() const { return m_document.filePath(); }
     void updateWinTitle();
     void showReadFailure(const QString& path) override;
-    QStringList pictureNameFilters() override;
+    QStringList pictureNameFilters() override { return Opening::nameFilters(); }
 
     // Opening: ControllerOpening.cpp
-    /// Opens a picture file as the open panel does. The picture may come later: the file is read in the background, and
-    /// only what has been read replaces picture, path and title. Nothing can be edited meanwhile, and a newer opening
-    /// takes the place of this one.
-    void openFile(const QString& path);
-    /// The same as an undo step, if it is a picture; nothing while the program is busy.
-    void openDroppedFile(const QString& path);
-    void takeDroppedFile(const QString& path) override;
-    /// Leaves everything as it was before the file was opened.
-    void cancelOpening();
-    bool isOpening() const { return m_opening != nullptr; }
-    std::optional<CIImage> readImage(const QString& path) override;
+    void openFile(const QString& path) { m_opening.open(path); }
+    void openDroppedFile(const QString& path) { m_opening.openDropped(path, true); }
+    void takeDroppedFile(const QString& path) override { m_opening.openDropped(path, false); }
+    void cancelOpening() { m_opening.cancel(); }
+    Opening& opening() { return m_opening; }
+    bool isOpening() const { return m_document.state() == Document::State::Opening; }
+    void readImage(const QString& path, std::function<void(const CIImage&)> take) override;
 
     // Export: ControllerExport.cpp
-    void initExportFormats();
-    void saveImg();
+    void initExportFormats() { m_saving.initExportFormats(); }
+    void saveImg() { m_saving.save(); }
     void saveImgAs() { runSavePanel(); }
-    void runSavePanel();
-    void savePanelDidEnd(int returnCode, const QString& path);
-    /// To the current file, after a question. False when that can't be written to.
-    bool saveExistFile();
-    /// `index` is that of the format. Always true; failures are logged. The resolution isn't stored.
-    bool simplySaveResolutionPath(int index, double resolution, const QString& path);
-    void createPDFFileResolution(const QString& path, double resolution);
+    void runSavePanel() { m_saving.runPanel(); }
+    void savePanelDidEnd(int returnCode, const QString& path) { m_saving.panelDidEnd(returnCode, path); }
+    bool saveExistFile() { return m_saving.saveExistFile(); }
+    bool simplySaveResolutionPath(int index, double, const QString& path) { return m_saving.simplySave(index, path); }
+    void createPDFFileResolution(const QString& path, double) { m_saving.createPDFFile(path); }
     CIImage getEffectedImage() { return m_modes.current().finishedImage(); }
     BaseEffect::LaterImage laterEffectedImage() { return m_modes.current().laterFinishedImage(); }
-    /// The pixels of the finished picture. Null when there is no picture or the user stopped the rendering.
+    /// The pixels of the finished picture; null without one. Blocks.
     CIBitmap createObjectImage();
     CIBitmap createObjectImage(double) { return createObjectImage(); } // the resolution means nothing to pixels
     /// The source picture. Images here have no rows to be upside down, so `flipped` changes nothing.
@@ -288,60 +283,28 @@ public:
     Document& document() { return m_document; }
     bool wasChanged() const { return m_document.wasChanged(); }
 
-    // Unexpected ends: ControllerSession.cpp
-    /// From now on, what is being edited is kept in the folder `home`, at most a minute old.
-    void startJournal(const QString& home);
-    /// Brings back a session that ended unexpectedly, if there is one and the user wants it. A picture that was opened
-    /// meanwhile, and further sessions, get windows of their own.
-    void offerRestore(const QString& home);
-    SessionState sessionState();
-    void restoreSession(const SessionState& state);
-
-    // Other processes: ControllerSession.cpp
-    /// The first one here, unless the user would lose changes and doesn't agree; the others in windows of their own.
-    void openFilesFromOutside(const QStringList& paths);
-    /// Starts a process for it; an empty path opens the window alone.
-    static void openInNewWindow(const QString& path);
-
-signals:
-    /// Finished, failed or cancelled.
-    void openingEnded();
+    Session& session() { return m_session; }
 
 private:
-    struct Opening;
-    void openInBackground(const QString& path, int reducedSide, std::function<void(const CIImage&)> take);
+    void connectOpening();
     int reducedSide() const;
-    void showReduced(const CIImage& picture);
-    void openingFinished(const PictureRead& read);
-    std::shared_ptr<Opening> endOpening();
-    QString openingPath() const;
-    CIImage lastingPicture() const;
-    bool isOpeningShown() const;
     QString openingText(const QString& path) const;
     void showOpening();
-    void showOpeningProgress();
-    void hideOpening(const Opening& opening);
+    void hideOpening();
     void setEditable(bool on);
     bool isFree(const QAction& item) const;
     void commitData(QSessionManager& session);
-    bool asksToRestore(const SessionState& state);
-    void markSessionClean();
+    void saveEdits(SessionState& state, const CIImage& picture);
+    void restoreEdits(const SessionState& state);
     void connectInterface();
     void connectActions();
     void connectZoom();
     void restoreWindowFrame();
-    CIImage turned(const QString& title, const std::function<CIImage()>& turn);
     void fitZoom();
     void showZoom();
     void showZoomOfMode();
     void updatePictureInfo();
     void showMessage(const QString& text);
-    double chosenResolution() const;
-    bool asksToReplace();
-    void saveAs(const QString& path);
-    bool writeInBackground(
-        const QString& path, const std::function<Result<void>(const CIBitmap&, CIRenderControl&)>& write);
-    void rememberRecentFile(const QString& path);
     void fillRecentMenu();
     void fillUndoHistoryMenu();
     void connectDocument();
@@ -353,7 +316,12 @@ private:
     MainWindow& m_window;
     Ui::MainWindow& ui;
     Document m_document;
-    std::unique_ptr<SessionJournal> m_journal;
+    Opening m_opening;
+    Turning m_turning;
+    Resizing m_resizing;
+    Clipboard m_clipboard;
+    Saving m_saving;
+    Session m_session;
     UndoManager& m_undoManager; // the document's
 
     // The interface, by the names under which it is known.
@@ -364,7 +332,6 @@ private:
     customEffImageView* customEffectsView;
     QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
-    QPointer<QWidget> saveObjectOutlet; // the menus of the save panel
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;
 
@@ -377,12 +344,8 @@ private:
     CustomMode m_custom;
     ModeSwitch m_modes;
 
-    int format_type = 0; // of the last save
-    /// A finished save ends the program: the user wanted to quit.
-    inline static bool quitAfterSave = false;
-
-    bool m_saveWasStopped = false; // by the user, so nothing was written
-    QString m_lastFolder; // of the open and save panels
-    std::shared_ptr<Opening> m_opening; // null when nothing is being opened
+    std::vector<Sight> m_sights; // of the former picture, while a reduced one stands in for the new one
+    QTimer m_openingTick;
+    QPointer<QWidget> m_formerFocus; // before the window was closed to edits
     QTimer m_messageEnd;
 };

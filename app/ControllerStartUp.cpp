@@ -1,7 +1,6 @@
 #include "app/catalogue/OutlineView.h"
 #include "app/Controller.h"
 #include "app/document/PictureOpening.h"
-#include "app/document/SessionJournal.h"
 #include "app/window/MainWindow.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
@@ -34,6 +33,15 @@ Controller::Controller(MainWindow& window)
     : m_window(window)
     , ui(window.interface())
     , m_document(&window)
+    , m_opening(m_document, [this] { return reducedSide(); })
+    , m_turning(m_document)
+    , m_resizing(m_document, &window)
+    , m_clipboard(m_document, [this] { return laterEffectedImage(); })
+    , m_saving(m_document, &window, [this] { return laterEffectedImage(); },
+          {[this] { m_session.markClean(); }, [this] { terminate(); }})
+    , m_session(m_document, m_opening, &window,
+          {[this](SessionState& state, const CIImage& picture) { saveEdits(state, picture); },
+              [this](const SessionState& state) { restoreEdits(state); }})
     , m_undoManager(m_document.undoManager())
     , zoomSlider(ui.zoomSlider)
     , zoomSuperView(ui.zoomSuperView)
@@ -46,12 +54,12 @@ Controller::Controller(MainWindow& window)
     , m_catalogue(*ui.listView, *ui.actionThumbnails, m_filters)
     , m_panel(*ui.placeCntrlView, *ui.controlScrollArea, *ciView, *this)
     , m_standard(modeParts(ui, ui.standardBtn, ui.listView, ui.m_pageController, ui.placeCntrlView),
-          {m_document, m_filters, m_changes, m_catalogue, m_panel, *ciView, window})
+          {m_document, m_filters, m_changes, m_catalogue, m_panel, *ciView})
     , m_threeD(modeParts(ui, ui.threeDBtn, ui.filter3DOutlineView, ui.m_page3DController, ui.place3DCntrlView),
           *ui.openGLStage, m_document)
     , m_custom(
           modeParts(ui, ui.customBtn, ui.filterCustomOutlineView, ui.m_pageCustomController, ui.placeCustomCntrlView),
-          *customEffectsView, m_threeD, m_document, window)
+          *customEffectsView, m_threeD, m_document)
     , m_modes(
           {&m_standard, &m_threeD, &m_custom}, {ui.filterTabView, ui.favoritesTabView, ui.mainTabView}, m_undoManager)
 {
@@ -71,7 +79,6 @@ Controller::~Controller()
     ciView->setController(nullptr);
     openGLView->setController(nullptr);
     customEffectsView->setController(nullptr);
-    quitAfterSave = false;
     if (theController == this)
         theController = nullptr;
 }
@@ -113,6 +120,5 @@ void Controller::applicationWillTerminate()
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     defaults.setObjectForKey(m_window.saveGeometry(), kWindowFrameName);
     defaults.synchronize();
-    if (m_journal)
-        m_journal->remove();
+    m_session.end();
 }

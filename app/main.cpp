@@ -45,18 +45,28 @@ int main(int argc, char** argv)
     if (!pictures.isEmpty())
         controller.openFile(pictures.takeFirst());
     for (const QString& picture : pictures)
-        Controller::openInNewWindow(picture);
-    window.show();
+        Session::openInNewWindow(picture);
     controller.applicationDidFinishLaunching();
+    Session& session = controller.session();
     const QString home = SessionFolder::stateHome();
-    controller.startJournal(home);
-    QTimer::singleShot(0, &controller, [&] { controller.offerRestore(home); });
+    session.startJournal(home);
+    const auto show = [&] {
+        if (window.isVisible())
+            return;
+        window.show();
+        QTimer::singleShot(0, &controller, [&] { session.offerRestore(home); });
+    };
+    // With its picture, unless that takes long.
+    QObject::connect(&controller.opening(), &Opening::shown, &window, show);
+    QObject::connect(&controller.opening(), &Opening::finished, &window, show);
+    if (!controller.isOpening())
+        show();
     QObject::connect(&instance, &OneInstance::requested, &controller, [&](const QStringList& paths) {
         window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
         window.raise();
         window.activateWindow();
         qunsetenv("XDG_ACTIVATION_TOKEN"); // not for the next process
-        controller.openFilesFromOutside(paths);
+        session.openFilesFromOutside(paths);
     });
     return QApplication::exec();
 }

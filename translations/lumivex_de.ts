@@ -183,6 +183,25 @@
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>Copying the picture…</source>
+        <translation>Bild wird kopiert …</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to copy the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu kopieren</translation>
+    </message>
+    <message>
+        <source>Pasting the picture…</source>
+        <translation>Bild wird eingefügt …</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Edits a picture with live filters.</source>
@@ -204,80 +223,8 @@
         <translation>%1&#xa0;%</translation>
     </message>
     <message>
-        <source>Rotate Left</source>
-        <translation>Nach links drehen</translation>
-    </message>
-    <message>
-        <source>Rotate Right</source>
-        <translation>Nach rechts drehen</translation>
-    </message>
-    <message>
-        <source>Flip Vertical</source>
-        <translation>Vertikal spiegeln</translation>
-    </message>
-    <message>
-        <source>Flip Horizontal</source>
-        <translation>Horizontal spiegeln</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be made that large.</source>
-        <translation>So groß kann das Bild nicht werden.</translation>
-    </message>
-    <message>
-        <source>Up to %1 million pixels fit into this computer&apos;s memory.</source>
-        <translation>In den Speicher dieses Rechners passen bis zu %1 Millionen Pixel.</translation>
-    </message>
-    <message>
-        <source>Resizing the picture…</source>
-        <translation>Bildgröße wird geändert …</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>Größe ändern</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to resize the picture</source>
-        <translation>Der Speicher reichte nicht, um die Bildgröße zu ändern</translation>
-    </message>
-    <message>
-        <source>Copying the picture…</source>
-        <translation>Bild wird kopiert …</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to copy the picture</source>
-        <translation>Der Speicher reichte nicht, um das Bild zu kopieren</translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Einfügen</translation>
-    </message>
-    <message>
         <source>Rendering the picture…</source>
         <translation>Bild wird berechnet …</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t save file.</source>
-        <translation>Die Datei konnte nicht gespeichert werden.</translation>
-    </message>
-    <message>
-        <source>File I/O error occured.</source>
-        <translation>Beim Schreiben der Datei ist ein Fehler aufgetreten.</translation>
-    </message>
-    <message>
-        <source>Do you want to replace an existing file?</source>
-        <translation>Soll die vorhandene Datei ersetzt werden?</translation>
-    </message>
-    <message>
-        <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
-        <translation>Eine Datei mit diesem Namen ist bereits vorhanden. Beim Ersetzen wird ihr Inhalt überschrieben.</translation>
-    </message>
-    <message>
-        <source>Save Image As:</source>
-        <translation>Bild speichern unter:</translation>
-    </message>
-    <message>
-        <source>Saving “%1”…</source>
-        <translation>„%1“ wird gespeichert …</translation>
     </message>
     <message>
         <source>sRGB 16-bit</source>
@@ -290,22 +237,6 @@
     <message>
         <source>sRGB 8-bit</source>
         <translation>sRGB, 8 Bit</translation>
-    </message>
-    <message>
-        <source>Open Picture</source>
-        <translation>Bild öffnen</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Öffnen</translation>
-    </message>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Bilder (%1)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read</source>
@@ -342,50 +273,6 @@
         <translation>Wenn Sie nicht speichern, gehen Ihre Änderungen verloren.</translation>
     </message>
     <message>
-        <source>Lumivex ended unexpectedly. Restore the picture?</source>
-        <translation>Lumivex wurde unerwartet beendet. Das Bild wiederherstellen?</translation>
-    </message>
-    <message>
-        <source>Lumivex ended unexpectedly. Restore “%1”?</source>
-        <translation>Lumivex wurde unerwartet beendet. „%1“ wiederherstellen?</translation>
-    </message>
-    <message>
-        <source>The picture comes back with its filter, as it was at most a minute before.</source>
-        <translation>Das Bild kommt mit seinem Filter zurück, in einem höchstens eine Minute älteren Stand.</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <translation>Wiederherstellen</translation>
-    </message>
-    <message>
-        <source>Goes on where the work ended</source>
-        <translation>Macht da weiter, wo die Arbeit endete</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Verwerfen</translation>
-    </message>
-    <message>
-        <source>Forgets the changes for good</source>
-        <translation>Vergisst die Änderungen endgültig</translation>
-    </message>
-    <message>
-        <source>Restoring the picture…</source>
-        <translation>Bild wird wiederhergestellt …</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be restored; its journal is damaged.</source>
-        <translation>Das Bild kann nicht wiederhergestellt werden; sein Journal ist beschädigt.</translation>
-    </message>
-    <message>
-        <source>Do you want to open “%1” here?</source>
-        <translation>Möchten Sie „%1“ hier öffnen?</translation>
-    </message>
-    <message>
-        <source>Your changes will be lost if you did not save them.</source>
-        <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
-    </message>
-    <message>
         <source>Change</source>
         <translation>Änderung</translation>
     </message>
@@ -408,30 +295,6 @@
     <message>
         <source>The present state</source>
         <translation>Der jetzige Stand</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t have that size.</source>
-        <translation>Diese Größe kann das Bild nicht haben.</translation>
-    </message>
-    <message>
-        <source>Its width and its height are numbers above zero.</source>
-        <translation>Breite und Höhe sind Zahlen über null.</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to turn the picture</source>
-        <translation>Der Speicher reichte nicht, um das Bild zu drehen</translation>
-    </message>
-    <message>
-        <source>Rotating the picture…</source>
-        <translation>Bild wird gedreht …</translation>
-    </message>
-    <message>
-        <source>Flipping the picture…</source>
-        <translation>Bild wird gespiegelt …</translation>
-    </message>
-    <message>
-        <source>Pasting the picture…</source>
-        <translation>Bild wird eingefügt …</translation>
     </message>
     <message>
         <source>Opening “%1”…</source>
@@ -3288,6 +3151,25 @@
     </message>
 </context>
 <context>
+    <name>Opening</name>
+    <message>
+        <source>Open Picture</source>
+        <translation>Bild öffnen</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Bilder (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
     <name>ParameterView</name>
     <message>
         <source>%1
@@ -3728,6 +3610,37 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     </message>
 </context>
 <context>
+    <name>Resizing</name>
+    <message>
+        <source>The picture can&apos;t have that size.</source>
+        <translation>Diese Größe kann das Bild nicht haben.</translation>
+    </message>
+    <message>
+        <source>Its width and its height are numbers above zero.</source>
+        <translation>Breite und Höhe sind Zahlen über null.</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be made that large.</source>
+        <translation>So groß kann das Bild nicht werden.</translation>
+    </message>
+    <message>
+        <source>Up to %1 million pixels fit into this computer&apos;s memory.</source>
+        <translation>In den Speicher dieses Rechners passen bis zu %1 Millionen Pixel.</translation>
+    </message>
+    <message>
+        <source>Resizing the picture…</source>
+        <translation>Bildgröße wird geändert …</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Größe ändern</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to resize the picture</source>
+        <translation>Der Speicher reichte nicht, um die Bildgröße zu ändern</translation>
+    </message>
+</context>
+<context>
     <name>SaveOptions</name>
     <message>
         <source>&amp;Format:</source>
@@ -3772,6 +3685,80 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>600 dpi</source>
         <translation>600 dpi</translation>
+    </message>
+</context>
+<context>
+    <name>Saving</name>
+    <message>
+        <source>Couldn&apos;t save file.</source>
+        <translation>Die Datei konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>File I/O error occured.</source>
+        <translation>Beim Schreiben der Datei ist ein Fehler aufgetreten.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace an existing file?</source>
+        <translation>Soll die vorhandene Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
+        <translation>Eine Datei mit diesem Namen ist bereits vorhanden. Beim Ersetzen wird ihr Inhalt überschrieben.</translation>
+    </message>
+    <message>
+        <source>Save Image As:</source>
+        <translation>Bild speichern unter:</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>„%1“ wird gespeichert …</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore the picture?</source>
+        <translation>Lumivex wurde unerwartet beendet. Das Bild wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore “%1”?</source>
+        <translation>Lumivex wurde unerwartet beendet. „%1“ wiederherstellen?</translation>
+    </message>
+    <message>
+        <source>The picture comes back with its filter, as it was at most a minute before.</source>
+        <translation>Das Bild kommt mit seinem Filter zurück, in einem höchstens eine Minute älteren Stand.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Goes on where the work ended</source>
+        <translation>Macht da weiter, wo die Arbeit endete</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Forgets the changes for good</source>
+        <translation>Vergisst die Änderungen endgültig</translation>
+    </message>
+    <message>
+        <source>Restoring the picture…</source>
+        <translation>Bild wird wiederhergestellt …</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be restored; its journal is damaged.</source>
+        <translation>Das Bild kann nicht wiederhergestellt werden; sein Journal ist beschädigt.</translation>
+    </message>
+    <message>
+        <source>Do you want to open “%1” here?</source>
+        <translation>Möchten Sie „%1“ hier öffnen?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you did not save them.</source>
+        <translation>Nicht gespeicherte Änderungen gehen verloren.</translation>
     </message>
 </context>
 <context>
@@ -3845,6 +3832,37 @@ Alles andere geht auch ohne.</translation>
     <message>
         <source>Rotate</source>
         <translation>Drehen</translation>
+    </message>
+</context>
+<context>
+    <name>Turning</name>
+    <message>
+        <source>Rotating the picture…</source>
+        <translation>Bild wird gedreht …</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>Nach links drehen</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>Nach rechts drehen</translation>
+    </message>
+    <message>
+        <source>Flipping the picture…</source>
+        <translation>Bild wird gespiegelt …</translation>
+    </message>
+    <message>
+        <source>Flip Vertical</source>
+        <translation>Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Flip Horizontal</source>
+        <translation>Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to turn the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu drehen</translation>
     </message>
 </context>
 <context>

@@ -183,6 +183,25 @@
     </message>
 </context>
 <context>
+    <name>Clipboard</name>
+    <message>
+        <source>Copying the picture…</source>
+        <translation>Copie de l’image…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to copy the picture</source>
+        <translation>Mémoire insuffisante pour copier l’image</translation>
+    </message>
+    <message>
+        <source>Pasting the picture…</source>
+        <translation>Collage de l’image…</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Edits a picture with live filters.</source>
@@ -204,80 +223,8 @@
         <translation>%1&#xa0;%</translation>
     </message>
     <message>
-        <source>Rotate Left</source>
-        <translation>Rotation à gauche</translation>
-    </message>
-    <message>
-        <source>Rotate Right</source>
-        <translation>Rotation à droite</translation>
-    </message>
-    <message>
-        <source>Flip Vertical</source>
-        <translation>Retourner verticalement</translation>
-    </message>
-    <message>
-        <source>Flip Horizontal</source>
-        <translation>Retourner horizontalement</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be made that large.</source>
-        <translation>L’image ne peut pas devenir aussi grande.</translation>
-    </message>
-    <message>
-        <source>Up to %1 million pixels fit into this computer&apos;s memory.</source>
-        <translation>La mémoire de cet ordinateur contient jusqu’à %1 millions de pixels.</translation>
-    </message>
-    <message>
-        <source>Resizing the picture…</source>
-        <translation>Redimensionnement de l’image…</translation>
-    </message>
-    <message>
-        <source>Resize</source>
-        <translation>Redimensionner</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to resize the picture</source>
-        <translation>Mémoire insuffisante pour redimensionner l’image</translation>
-    </message>
-    <message>
-        <source>Copying the picture…</source>
-        <translation>Copie de l’image…</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to copy the picture</source>
-        <translation>Mémoire insuffisante pour copier l’image</translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Coller</translation>
-    </message>
-    <message>
         <source>Rendering the picture…</source>
         <translation>Calcul de l’image…</translation>
-    </message>
-    <message>
-        <source>Couldn&apos;t save file.</source>
-        <translation>Impossible d’enregistrer le fichier.</translation>
-    </message>
-    <message>
-        <source>File I/O error occured.</source>
-        <translation>Une erreur d’entrée-sortie s’est produite.</translation>
-    </message>
-    <message>
-        <source>Do you want to replace an existing file?</source>
-        <translation>Voulez-vous remplacer le fichier existant&#xa0;?</translation>
-    </message>
-    <message>
-        <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
-        <translation>Un fichier du même nom existe déjà. Le remplacer écrasera son contenu.</translation>
-    </message>
-    <message>
-        <source>Save Image As:</source>
-        <translation>Enregistrer l’image sous&#xa0;:</translation>
-    </message>
-    <message>
-        <source>Saving “%1”…</source>
-        <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
     </message>
     <message>
         <source>sRGB 16-bit</source>
@@ -290,22 +237,6 @@
     <message>
         <source>sRGB 8-bit</source>
         <translation>sRVB 8 bits</translation>
-    </message>
-    <message>
-        <source>Open Picture</source>
-        <translation>Ouvrir une image</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <translation>Ouvrir</translation>
-    </message>
-    <message>
-        <source>Pictures (%1)</source>
-        <translation>Images (%1)</translation>
-    </message>
-    <message>
-        <source>All files (*)</source>
-        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>%1 can&apos;t be read</source>
@@ -342,50 +273,6 @@
         <translation>Si vous n’enregistrez pas, vos modifications seront perdues.</translation>
     </message>
     <message>
-        <source>Lumivex ended unexpectedly. Restore the picture?</source>
-        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer l’image&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Lumivex ended unexpectedly. Restore “%1”?</source>
-        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer «&#xa0;%1&#xa0;»&#xa0;?</translation>
-    </message>
-    <message>
-        <source>The picture comes back with its filter, as it was at most a minute before.</source>
-        <translation>L’image revient avec son filtre, telle qu’elle était au plus une minute avant.</translation>
-    </message>
-    <message>
-        <source>Restore</source>
-        <translation>Restaurer</translation>
-    </message>
-    <message>
-        <source>Goes on where the work ended</source>
-        <translation>Reprend là où le travail s’est arrêté</translation>
-    </message>
-    <message>
-        <source>Discard</source>
-        <translation>Abandonner</translation>
-    </message>
-    <message>
-        <source>Forgets the changes for good</source>
-        <translation>Oublie définitivement les modifications</translation>
-    </message>
-    <message>
-        <source>Restoring the picture…</source>
-        <translation>Restauration de l’image…</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be restored; its journal is damaged.</source>
-        <translation>L’image ne peut pas être restaurée&#xa0;; son journal est endommagé.</translation>
-    </message>
-    <message>
-        <source>Do you want to open “%1” here?</source>
-        <translation>Voulez-vous ouvrir «&#xa0;%1&#xa0;» ici&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Your changes will be lost if you did not save them.</source>
-        <translation>Les modifications non enregistrées seront perdues.</translation>
-    </message>
-    <message>
         <source>Change</source>
         <translation>Modification</translation>
     </message>
@@ -408,30 +295,6 @@
     <message>
         <source>The present state</source>
         <translation>L’état actuel</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t have that size.</source>
-        <translation>L’image ne peut pas avoir cette taille.</translation>
-    </message>
-    <message>
-        <source>Its width and its height are numbers above zero.</source>
-        <translation>Sa largeur et sa hauteur sont des nombres supérieurs à zéro.</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to turn the picture</source>
-        <translation>Mémoire insuffisante pour tourner l’image</translation>
-    </message>
-    <message>
-        <source>Rotating the picture…</source>
-        <translation>Rotation de l’image…</translation>
-    </message>
-    <message>
-        <source>Flipping the picture…</source>
-        <translation>Retournement de l’image…</translation>
-    </message>
-    <message>
-        <source>Pasting the picture…</source>
-        <translation>Collage de l’image…</translation>
     </message>
     <message>
         <source>Opening “%1”…</source>
@@ -3288,6 +3151,25 @@
     </message>
 </context>
 <context>
+    <name>Opening</name>
+    <message>
+        <source>Open Picture</source>
+        <translation>Ouvrir une image</translation>
+    </message>
+    <message>
+        <source>Pictures (%1)</source>
+        <translation>Images (%1)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+</context>
+<context>
     <name>ParameterView</name>
     <message>
         <source>%1
@@ -3728,6 +3610,37 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
 </context>
 <context>
+    <name>Resizing</name>
+    <message>
+        <source>The picture can&apos;t have that size.</source>
+        <translation>L’image ne peut pas avoir cette taille.</translation>
+    </message>
+    <message>
+        <source>Its width and its height are numbers above zero.</source>
+        <translation>Sa largeur et sa hauteur sont des nombres supérieurs à zéro.</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be made that large.</source>
+        <translation>L’image ne peut pas devenir aussi grande.</translation>
+    </message>
+    <message>
+        <source>Up to %1 million pixels fit into this computer&apos;s memory.</source>
+        <translation>La mémoire de cet ordinateur contient jusqu’à %1 millions de pixels.</translation>
+    </message>
+    <message>
+        <source>Resizing the picture…</source>
+        <translation>Redimensionnement de l’image…</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Redimensionner</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to resize the picture</source>
+        <translation>Mémoire insuffisante pour redimensionner l’image</translation>
+    </message>
+</context>
+<context>
     <name>SaveOptions</name>
     <message>
         <source>&amp;Format:</source>
@@ -3772,6 +3685,80 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>600 dpi</source>
         <translation>600 ppp</translation>
+    </message>
+</context>
+<context>
+    <name>Saving</name>
+    <message>
+        <source>Couldn&apos;t save file.</source>
+        <translation>Impossible d’enregistrer le fichier.</translation>
+    </message>
+    <message>
+        <source>File I/O error occured.</source>
+        <translation>Une erreur d’entrée-sortie s’est produite.</translation>
+    </message>
+    <message>
+        <source>Do you want to replace an existing file?</source>
+        <translation>Voulez-vous remplacer le fichier existant&#xa0;?</translation>
+    </message>
+    <message>
+        <source>A file with the same name is already exists. Replacing it will overwrite its current contents.</source>
+        <translation>Un fichier du même nom existe déjà. Le remplacer écrasera son contenu.</translation>
+    </message>
+    <message>
+        <source>Save Image As:</source>
+        <translation>Enregistrer l’image sous&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Saving “%1”…</source>
+        <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+</context>
+<context>
+    <name>Session</name>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore the picture?</source>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer l’image&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Lumivex ended unexpectedly. Restore “%1”?</source>
+        <translation>Lumivex s’est arrêté de façon inattendue. Restaurer «&#xa0;%1&#xa0;»&#xa0;?</translation>
+    </message>
+    <message>
+        <source>The picture comes back with its filter, as it was at most a minute before.</source>
+        <translation>L’image revient avec son filtre, telle qu’elle était au plus une minute avant.</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restaurer</translation>
+    </message>
+    <message>
+        <source>Goes on where the work ended</source>
+        <translation>Reprend là où le travail s’est arrêté</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>Forgets the changes for good</source>
+        <translation>Oublie définitivement les modifications</translation>
+    </message>
+    <message>
+        <source>Restoring the picture…</source>
+        <translation>Restauration de l’image…</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be restored; its journal is damaged.</source>
+        <translation>L’image ne peut pas être restaurée&#xa0;; son journal est endommagé.</translation>
+    </message>
+    <message>
+        <source>Do you want to open “%1” here?</source>
+        <translation>Voulez-vous ouvrir «&#xa0;%1&#xa0;» ici&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you did not save them.</source>
+        <translation>Les modifications non enregistrées seront perdues.</translation>
     </message>
 </context>
 <context>
@@ -3845,6 +3832,37 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Rotate</source>
         <translation>Rotation</translation>
+    </message>
+</context>
+<context>
+    <name>Turning</name>
+    <message>
+        <source>Rotating the picture…</source>
+        <translation>Rotation de l’image…</translation>
+    </message>
+    <message>
+        <source>Rotate Left</source>
+        <translation>Rotation à gauche</translation>
+    </message>
+    <message>
+        <source>Rotate Right</source>
+        <translation>Rotation à droite</translation>
+    </message>
+    <message>
+        <source>Flipping the picture…</source>
+        <translation>Retournement de l’image…</translation>
+    </message>
+    <message>
+        <source>Flip Vertical</source>
+        <translation>Retourner verticalement</translation>
+    </message>
+    <message>
+        <source>Flip Horizontal</source>
+        <translation>Retourner horizontalement</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to turn the picture</source>
+        <translation>Mémoire insuffisante pour tourner l’image</translation>
     </message>
 </context>
 <context>

@@ -3,16 +3,12 @@
 #include "widgets/HeldInput.h"
 
 #include <QDialog>
-#include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScopedValueRollback>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <chrono>
-#include <thread>
 
 namespace {
 
@@ -20,8 +16,6 @@ using namespace std::chrono_literals;
 
 constexpr auto kPatience = 500ms;
 constexpr auto kTick = 50ms;
-
-int runningWorks = 0;
 
 class ProgressSheet : public QDialog {
 public:
@@ -75,8 +69,6 @@ private:
 
 } // namespace
 
-bool isWorkRunning() { return runningWorks > 0; }
-
 void showProgressOn(QProgressBar& bar, double progress)
 {
     constexpr int kSteps = 1000;
@@ -128,29 +120,4 @@ void BackgroundWork::end()
     m_input.reset();
     const std::function<void(bool)> then = std::move(m_then);
     then(m_control.isCancelled());
-}
-
-bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work)
-{
-    const QScopedValueRollback running(runningWorks, runningWorks + 1);
-    QEventLoop loop;
-    std::atomic<bool> finished = false, hadMemory = true;
-    std::thread worker([&] {
-        try {
-            work();
-        } catch (const std::bad_alloc&) {
-            hadMemory = false;
-        }
-        finished = true;
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
-    });
-    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
-    if (!finished) {
-        ProgressSheet sheet(window, title, control);
-        sheet.show();
-        loop.exec();
-    }
-    worker.join();
-    return hadMemory && !control.isCancelled();
 }

@@ -72,13 +72,5 @@ private:
     std::thread m_thread;
 };
 
-/// Runs `work` on another thread and returns when it is done; the window goes on drawing meanwhile. After half a second
-/// a sheet with a bar and a Cancel button appears; until then keys and clicks wait. `work` sees to it that it ends
-/// soon after `isCancelled`. False when the user cancelled, or when there was no memory for the work.
-/// Called on the main thread, which must not end the program meanwhile: ask `isWorkRunning`.
-bool workInBackground(QWidget* window, const QString& title, WorkControl& control, const std::function<void()>& work);
-
-bool isWorkRunning();
-
 /// Shows how far something is, 0 to 1; at 0, when nobody can tell, the bar runs to and fro.
 void showProgressOn(QProgressBar& bar, double progress);

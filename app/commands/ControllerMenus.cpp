@@ -10,6 +10,7 @@
 void Controller::connectInterface()
 {
     connectDocument();
+    connectOpening();
     connectActions();
     connectZoom();
     connect(&m_modes, &ModeSwitch::shown, this, &Controller::showZoomOfMode);
@@ -90,7 +91,7 @@ void Controller::connectActions()
 
 void Controller::updateMainBtnState()
 {
-    const bool isFree = !isOpeningShown();
+    const bool isFree = !m_opening.isShown();
     pasteBtn->setEnabled(isFree && Pasteboard::generalPasteboard().offersTIFF());
     ui.applyBtn->setEnabled(isFree && hasCurrentItem());
     ui.compareBtn->setEnabled(isFree && canCompare());

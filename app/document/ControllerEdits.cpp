@@ -1,21 +1,11 @@
 #include "app/Controller.h"
-#include "app/document/PictureOpening.h"
-#include "app/document/Turning.h"
 #include "app/window/MainWindow.h"
 #include "app/window/ZoomScale.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
 #include "effects2d/GeneratedEffect.h"
-#include "files/PictureLimits.h"
-#include "files/PlainPicture.h"
-#include "platform/chain/Baking.h"
-#include "platform/coreimage/passes/Resample.h"
-#include "platform/foundation/Pasteboard.h"
-#include "platform/imageio/PictureWriter.h"
 #include "ui_MainWindow.h"
-#include "widgets/AlertPanel.h"
-#include "widgets/BackgroundWork.h"
 #include "widgets/ZoomSteps.h"
 
 #include <QSignalBlocker>
@@ -56,130 +46,6 @@ void Controller::showZoomOfMode()
     canvas->setZoom(canvas->getZoom());
     setZoom(canvas->getZoom());
     showZoom();
-}
-
-/// Beside the living window; null when there is no memory for it, which the user is told. Soon done, so not to be
-/// stopped.
-CIImage Controller::turned(const QString& title, const std::function<CIImage()>& turn)
-{
-    CIImage picture;
-    WorkControl control(1);
-    control.canBeCancelled = false;
-    const bool needsCopies = m_modes.current().needsReducedCopies();
-    if (!workInBackground(&m_window, title, control, [&] {
-            picture = turn();
-            if (needsCopies)
-                makeReducedCopies(picture);
-        })) {
-        showMessage(tr("There was not enough memory to turn the picture"));
-        return {};
-    }
-    return picture;
-}
-
-void Controller::rotateImage(bool left)
-{
-    if (!m_document.picture() || isOpening())
-        return;
-    const CIImage rotated =
-        turned(tr("Rotating the picture…"), [&] { return rotatedPicture(m_document.picture(), left); });
-    if (!rotated)
-        return;
-    m_undoManager.registerUndoWithTarget(this, [this, left] { rotateImage(!left); });
-    if (!m_undoManager.isUndoing()) // the redo is called what it does, not what the undo does
-        m_undoManager.setActionName(left ? tr("Rotate Left") : tr("Rotate Right"));
-    setBackgroundImage(rotated);
-    customEffectsView->setZoom(customEffectsView->getZoom()); // lays itself out for the new size
-}
-
-void Controller::flipImage(bool vertical)
-{
-    if (!m_document.picture() || isOpening())
-        return;
-    const CIImage flipped =
-        turned(tr("Flipping the picture…"), [&] { return flippedPicture(m_document.picture(), vertical); });
-    if (!flipped)
-        return;
-    m_undoManager.registerUndoWithTarget(this, [this, vertical] { flipImage(!vertical); });
-    if (!m_undoManager.isUndoing())
-        m_undoManager.setActionName(vertical ? tr("Flip Vertical") : tr("Flip Horizontal"));
-    setBackgroundImage(flipped);
-}
-
-void Controller::resizeImageHeight(float width, float height)
-{
-    if (!m_document.picture() || isOpening())
-        return;
-    if (!(width > 0 && height > 0)) {
-        AlertPanel::Alert_OKMsgText(
-            &m_window, tr("The picture can't have that size."), tr("Its width and its height are numbers above zero."));
-        return;
-    }
-    const std::optional<QSize> size = pixelSize(width, height);
-    if (!size || !fitsIntoMemory(*size, m_document.format())) {
-        AlertPanel::Alert_OKMsgText(&m_window, tr("The picture can't be made that large."),
-            tr("Up to %1 million pixels fit into this computer's memory.")
-                .arg(largestPixelCount(m_document.format()) / 1'000'000));
-        return;
-    }
-    CIImage resized;
-    WorkControl control(1);
-    const CIImage recipe = ci::resampled(m_document.picture(), size->width(), size->height());
-    workInBackground(&m_window, tr("Resizing the picture…"), control,
-        [&] { resized = bakedImage(*m_document.context(), recipe, m_document.format(), &control.rendering); });
-    if (resized) {
-        m_document.replacePicture(resized, tr("Resize"));
-        m_document.setWasChanged(true);
-    } else if (!control.isCancelled()) {
-        showMessage(tr("There was not enough memory to resize the picture"));
-    }
-}
-
-void Controller::copy()
-{
-    if (isOpening())
-        return;
-    const BaseEffect::LaterImage image = laterEffectedImage();
-    if (!image)
-        return;
-    CIBitmap bitmap;
-    std::vector<std::byte> tiff;
-    QImage shown;
-    WorkControl control(0.5);
-    workInBackground(&m_window, tr("Copying the picture…"), control, [&] {
-        bitmap =
-            renderedBitmap(*m_document.context(), image(&control.rendering), m_document.format(), &control.rendering);
-        Result<std::vector<std::byte>> encoded =
-            encodePicture(bitmap, {.format = PictureFormat::Tiff, .control = &control.writing});
-        if (encoded)
-            tiff = std::move(encoded.value());
-        shown = screenPicture(bitmap);
-    });
-    if (tiff.empty()) {
-        if (!control.isCancelled())
-            showMessage(tr("There was not enough memory to copy the picture"));
-        return;
-    }
-    Pasteboard::generalPasteboard().setPicture(
-        QByteArray(reinterpret_cast<const char*>(tiff.data()), qsizetype(tiff.size())), shown);
-    updateMainBtnState();
-}
-
-void Controller::paste()
-{
-    const QByteArray data = isOpening() ? QByteArray() : Pasteboard::generalPasteboard().pictureData();
-    if (data.isEmpty())
-        return;
-    PictureRead read;
-    WorkControl control(1);
-    workInBackground(&m_window, tr("Pasting the picture…"), control, [&] {
-        read = readUnlessCancelled(
-            [data](const ReadOptions& options) { return readPictureData(data, options); }, control.rendering);
-    });
-    if (control.isCancelled())
-        return;
-    m_document.replaceByForeignPicture(m_document.take(read));
-    m_undoManager.setActionName(tr("Paste"));
 }
 
 void Controller::fitZoom()

@@ -2,11 +2,8 @@
 #include "app/document/RecentFiles.h"
 #include "app/window/MainWindow.h"
 #include "ui_MainWindow.h"
-#include "widgets/DropFileTypes.h"
-#include "widgets/FilePanel.h"
 
 #include <QAccessible>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QUrl>
 
@@ -32,38 +29,12 @@ QString depthText(CIFormat format)
 
 } // namespace
 
-void Controller::openImg()
-{
-    auto* panel = new QFileDialog(&m_window, tr("Open Picture"));
-    panel->setAttribute(Qt::WA_DeleteOnClose);
-    panel->setFileMode(QFileDialog::ExistingFile);
-    panel->setWindowModality(Qt::WindowModal);
-    panel->setNameFilters(pictureNameFilters());
-    dressFilePanel(*panel);
-    if (!m_lastFolder.isEmpty())
-        panel->setDirectory(m_lastFolder);
-    connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
-        m_lastFolder = panel->directory().absolutePath();
-        // When the panel has gone: its end would not be told to the window while that waits for the picture.
-        QMetaObject::invokeMethod(
-            this, [this, code, files = panel->selectedFiles()] { openImgPanelDidEnd(code, files); },
-            Qt::QueuedConnection);
-    });
-    panel->open();
-}
-
-void Controller::openImgPanelDidEnd(int returnCode, const QStringList& files)
-{
-    if (returnCode == QDialog::Accepted && !files.isEmpty())
-        openFile(files.first());
-}
+void Controller::openImg() { m_opening.runPanel(m_window); }
 
 void Controller::pathChanged()
 {
     const QString& path = m_document.filePath();
     ImageInfo::setMyURL(path.isEmpty() ? QUrl() : QUrl::fromLocalFile(path));
-    if (!path.isEmpty())
-        m_lastFolder = QFileInfo(path).absolutePath();
     updateWinTitle();
 }
 
@@ -78,11 +49,6 @@ void Controller::updateWinTitle()
         title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
     m_window.setWindowModified(m_document.wasChanged());
-}
-
-QStringList Controller::pictureNameFilters()
-{
-    return {tr("Pictures (%1)").arg(pictureFilePatterns()), tr("All files (*)")};
 }
 
 void Controller::showReadFailure(const QString& path)
@@ -104,8 +70,8 @@ void Controller::showMessage(const QString& text)
 
 void Controller::updatePictureInfo()
 {
-    if (isOpeningShown()) {
-        ui.pictureInfoField->setText(openingText(openingPath()));
+    if (m_opening.isShown()) {
+        ui.pictureInfoField->setText(openingText(m_opening.path()));
         return;
     }
     const CIRect extent = m_document.picture().extent();
@@ -117,8 +83,6 @@ void Controller::updatePictureInfo()
                    .arg(depthText(m_document.format()));
     ui.pictureInfoField->setText(text);
 }
-
-void Controller::rememberRecentFile(const QString& path) { RecentFiles::remember(path); }
 
 void Controller::fillRecentMenu()
 {

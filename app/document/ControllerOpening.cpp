@@ -1,4 +1,4 @@
-// Picture files on their way into the window, which goes on living meanwhile.
+// What is seen of a picture file on its way.
 #include "app/Controller.h"
 #include "app/document/PictureOpening.h"
 #include "app/window/MainWindow.h"
@@ -8,11 +8,8 @@
 #include "files/ResizePanel.h"
 #include "ui_MainWindow.h"
 #include "widgets/BackgroundWork.h"
-#include "widgets/PictureLayout.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QScreen>
 
@@ -24,7 +21,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 300ms; // most pictures are there before
 constexpr auto kTick = 50ms;
 
 bool worksWhileOpening(const QAction& item, const Ui::MainWindow& ui)
@@ -35,122 +31,38 @@ bool worksWhileOpening(const QAction& item, const Ui::MainWindow& ui)
     return std::find(std::begin(harmless), std::end(harmless), &item) != std::end(harmless);
 }
 
-/// How a canvas is looked at.
-class Sight {
-public:
-    Sight(ZoomedCanvas& canvas, CanvasScrollView& scroller)
-        : m_canvas(&canvas)
-        , m_scroller(&scroller)
-        , m_zoom(canvas.getZoom())
-        , m_scroll{scroller.clipBounds().x, scroller.clipBounds().y}
-    {
-    }
-    void restore() const
-    {
-        m_canvas->setZoom(m_zoom);
-        m_scroller->setScrollPosition(m_scroll);
-    }
-
-private:
-    ZoomedCanvas* m_canvas;
-    CanvasScrollView* m_scroller;
-    float m_zoom;
-    CIPoint m_scroll;
-};
-
 } // namespace
 
-struct Controller::Opening {
-    PictureOpening* reader; // the controller's child
-    std::function<void(const CIImage&)> take; // what is to be done with the picture
-    QTimer tick;
-    bool isShown = false;
-    QPointer<QWidget> focus; // before the window was closed to edits
-
-    // While a reduced picture stands in for the new one, the former one and how it was looked at
-    std::optional<CIImage> former;
-    std::vector<Sight> sights;
-
-    ~Opening()
-    {
-        reader->deleteLater(); // it may be its own signal that brought us here
-    }
-};
-
-// --- what is opened ---
-
-void Controller::openFile(const QString& path)
+void Controller::readImage(const QString& path, std::function<void(const CIImage&)> take)
 {
-    openInBackground(path, reducedSide(), [this, path](const CIImage& image) {
-        setFilePath(path);
-        m_document.setForeignPicture(image);
-        if (image) {
-            rememberRecentFile(path);
-            markSessionClean();
-        }
-    });
+    readBesideWindow(
+        m_document, openingText(path),
+        [path](const ReadOptions& options) { return path.isEmpty() ? PictureRead() : readPictureFile(path, options); },
+        std::move(take));
 }
 
-void Controller::openDroppedFile(const QString& path)
+void Controller::connectOpening()
 {
-    if (path.isEmpty() || isWorkRunning() || QApplication::activeModalWidget())
-        return;
-    openInBackground(path, 0, [this, path](const CIImage& image) {
-        if (!image) {
-            showReadFailure(path);
-            return;
-        }
-        setFilePath(path);
-        undoPaste(image);
-        m_undoManager.setActionName(tr("Open"));
-        rememberRecentFile(path);
+    connect(&m_opening, &Opening::shown, this, &Controller::showOpening);
+    connect(&m_opening, &Opening::standInComes, this, [this] {
+        if (m_window.isVisible())
+            m_sights = {{*ciView, *ui.pictureScrollView}, {*customEffectsView, *ui.customEffectsScrollView}};
     });
-}
-
-void Controller::takeDroppedFile(const QString& path)
-{
-    if (isWorkRunning() || QApplication::activeModalWidget())
-        return;
-    openInBackground(path, 0, [this, path](const CIImage& image) {
-        setFilePath(path);
-        undoPaste(image);
-        m_undoManager.setActionName(tr("Open"));
-        customEffectsView->resizeViewBoundCenter(true, int(PictureCenter::Toward));
+    connect(&m_opening, &Opening::cancelled, this, [this] {
+        for (const Sight& sight : std::exchange(m_sights, {}))
+            sight.restore();
+        if (const ZoomedCanvas* canvas = m_modes.current().canvas())
+            setZoom(canvas->getZoom());
+        updatePictureInfo();
+        hideOpening();
     });
-}
-
-std::optional<CIImage> Controller::readImage(const QString& path)
-{
-    if (path.isEmpty())
-        return m_document.take({});
-    PictureRead read;
-    WorkControl control(1);
-    workInBackground(&m_window, openingText(path), control, [&] {
-        read = readUnlessCancelled(
-            [path](const ReadOptions& options) { return readPictureFile(path, options); }, control.rendering);
+    connect(&m_opening, &Opening::finished, this, [this] {
+        m_sights.clear();
+        hideOpening();
     });
-    return control.isCancelled() ? std::nullopt : std::optional(m_document.take(read));
-}
-
-// --- how ---
-
-/// Until the picture is there, file path, title and picture stay those of the former one. The newest opening wins.
-void Controller::openInBackground(const QString& path, int reducedSide, std::function<void(const CIImage&)> take)
-{
-    cancelOpening();
-    const auto opening = std::make_shared<Opening>();
-    opening->reader = new PictureOpening(path, reducedSide, this);
-    opening->take = std::move(take);
-    m_opening = opening;
-    m_document.setState(Document::State::Opening);
-    connect(opening->reader, &PictureOpening::reducedRead, this, &Controller::showReduced);
-    connect(opening->reader, &PictureOpening::finished, this, &Controller::openingFinished);
-    QEventLoop loop;
-    connect(this, &Controller::openingEnded, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents); // keys and clicks wait for the picture
-    if (m_opening == opening)
-        showOpening();
+    connect(&m_opening, &Opening::opened, this, [this] { m_session.markClean(); });
+    connect(&m_opening, &Opening::notRead, this, &Controller::showReadFailure);
+    m_openingTick.callOnTimeout(this, [this] { showProgressOn(*ui.openingBar, m_opening.progress()); });
 }
 
 /// What the window has room for; before it is on the screen, what the screen has.
@@ -159,61 +71,6 @@ int Controller::reducedSide() const
     const QSize size = ciView->isVisible() ? ciView->size() : m_window.screen()->availableSize();
     return int(std::max(size.width(), size.height()) * ciView->devicePixelRatioF());
 }
-
-/// The whole picture takes the place before anybody can act on it.
-void Controller::showReduced(const CIImage& picture)
-{
-    m_opening->former = m_document.picture();
-    if (m_window.isVisible())
-        m_opening->sights = {{*ciView, *ui.pictureScrollView}, {*customEffectsView, *ui.customEffectsScrollView}};
-    setBackgroundImage(picture);
-}
-
-void Controller::openingFinished(const PictureRead& read)
-{
-    const std::shared_ptr<Opening> ended = endOpening();
-    ended->take(m_document.take(read));
-    updateMainBtnState();
-}
-
-void Controller::cancelOpening()
-{
-    if (!m_opening)
-        return;
-    const std::shared_ptr<Opening> ended = endOpening();
-    if (ended->former)
-        setBackgroundImage(*ended->former);
-    for (const Sight& sight : ended->sights)
-        sight.restore();
-    if (const ZoomedCanvas* canvas = m_modes.current().canvas())
-        setZoom(canvas->getZoom());
-    updatePictureInfo();
-    updateMainBtnState();
-}
-
-std::shared_ptr<Controller::Opening> Controller::endOpening()
-{
-    std::shared_ptr<Opening> ended = std::exchange(m_opening, nullptr);
-    m_document.setState(Document::State::Idle);
-    ended->reader->disconnect(this); // what it has still to say comes too late
-    ended->reader->giveUp();
-    if (ended->isShown)
-        hideOpening(*ended);
-    emit openingEnded();
-    return ended;
-}
-
-QString Controller::openingPath() const { return m_opening ? m_opening->reader->path() : QString(); }
-
-/// The picture that stays if the opening is cancelled.
-CIImage Controller::lastingPicture() const
-{
-    return m_opening && m_opening->former ? *m_opening->former : m_document.picture();
-}
-
-// --- what is seen of it ---
-
-bool Controller::isOpeningShown() const { return m_opening && m_opening->isShown; }
 
 /// Long names lose their middle, or they would widen the window.
 QString Controller::openingText(const QString& path) const
@@ -226,33 +83,29 @@ QString Controller::openingText(const QString& path) const
 /// In the status bar; nothing can be edited from now on.
 void Controller::showOpening()
 {
-    Opening& opening = *m_opening;
-    opening.isShown = true;
-    opening.focus = m_window.focusWidget();
+    m_formerFocus = m_window.focusWidget();
     m_window.setFocus();
     setEditable(false);
     updatePictureInfo();
     QAccessibleEvent alert(ui.pictureInfoField, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
-    connect(&opening.tick, &QTimer::timeout, this, &Controller::showOpeningProgress);
-    opening.tick.start(kTick);
-    showOpeningProgress();
+    m_openingTick.start(kTick);
+    showProgressOn(*ui.openingBar, m_opening.progress());
     ui.openingBar->setAccessibleName(ui.pictureInfoField->text());
     ui.openingBar->show();
     ui.openingCancelBtn->show();
 }
 
-void Controller::showOpeningProgress() { showProgressOn(*ui.openingBar, m_opening->reader->progress()); }
-
-void Controller::hideOpening(const Opening& opening)
+void Controller::hideOpening()
 {
+    m_openingTick.stop();
     const QWidget* const focus = m_window.focusWidget();
     const bool isNobodys = !focus || focus == &m_window || focus == ui.openingCancelBtn;
     ui.openingBar->hide();
     ui.openingCancelBtn->hide();
     setEditable(true);
-    if (opening.focus && isNobodys)
-        opening.focus->setFocus();
+    if (QWidget* former = std::exchange(m_formerFocus, nullptr); former && isNobodys)
+        former->setFocus();
 }
 
 void Controller::setEditable(bool on)
@@ -266,4 +119,4 @@ void Controller::setEditable(bool on)
 }
 
 /// Whether an opening that is shown leaves the item alone.
-bool Controller::isFree(const QAction& item) const { return !isOpeningShown() || worksWhileOpening(item, ui); }
+bool Controller::isFree(const QAction& item) const { return !m_opening.isShown() || worksWhileOpening(item, ui); }

@@ -11,14 +11,15 @@ constexpr int kLines = 20;
 
 void Controller::goInUndoHistory(int moves)
 {
-    if (isOpening())
+    if (!m_document.isIdle() || moves == 0)
         return;
-    for (; moves < 0 && m_undoManager.canUndo(); ++moves)
+    if (moves < 0)
         m_undoManager.undo();
-    for (; moves > 0 && m_undoManager.canRedo(); --moves)
+    else
         m_undoManager.redo();
     updateView();
     updateLayout();
+    m_document.whenIdle([this, rest = moves < 0 ? moves + 1 : moves - 1] { goInUndoHistory(rest); });
 }
 
 void Controller::fillUndoHistoryMenu()

@@ -5,6 +5,7 @@
 #include "files/PictureMessages.h"
 #include "platform/chain/Baking.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <utility>
@@ -80,6 +81,8 @@ CIImage Document::take(const PictureRead& read)
 void Document::setFilePath(const QString& path)
 {
     m_filePath = path;
+    if (!path.isEmpty())
+        m_folder = QFileInfo(path).absolutePath();
     emit pathChanged();
 }
 

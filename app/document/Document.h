@@ -63,6 +63,9 @@ public:
 
     const QString& filePath() const { return m_filePath; } // empty for none
     void setFilePath(const QString& path);
+    /// Where files were last chosen; empty at first.
+    const QString& folder() const { return m_folder; }
+    void setFolder(const QString& folder) { m_folder = folder; }
     bool wasChanged() const { return m_wasChanged; }
     void setWasChanged(bool changed);
 
@@ -115,7 +118,7 @@ private:
         std::weak_ptr<const ci::Node> picture;
         std::shared_ptr<const PictureMetadata> metadata;
     } m_lastRead;
-    QString m_readFailure, m_filePath;
+    QString m_readFailure, m_filePath, m_folder;
     bool m_wasChanged = false;
     std::unique_ptr<BackgroundWork> m_work; // while it goes on
     std::vector<std::function<void()>> m_waiting;

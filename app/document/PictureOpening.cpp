@@ -1,5 +1,6 @@
 #include "app/document/PictureOpening.h"
 
+#include "app/document/Document.h"
 #include "platform/chain/Baking.h"
 #include "platform/imageio/LooseThread.h"
 
@@ -36,7 +37,8 @@ PictureRead pictureOf(const Result<CIBitmap>& read)
 std::optional<CIImage> reducedPicture(const std::string& file, const ReadOptions& options)
 {
     const Result<PictureInfo> info = readPictureInfo(file);
-    if (!info || info.value().format != PictureFormat::Jpeg || double(info.value().width) * info.value().height < kLarge)
+    if (!info || info.value().format != PictureFormat::Jpeg
+        || double(info.value().width) * info.value().height < kLarge)
         return {};
     const Result<CIBitmap> reduced = readPicture(file, options);
     if (!reduced)
@@ -132,7 +134,11 @@ void PictureOpening::readWhole()
     });
 }
 
-PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> read, CIRenderControl& control)
+namespace {
+
+/// Calls `read` on a thread of its own and waits until it is done or, soon, `control` is cancelled; then without
+/// success.
+PictureRead readUnlessCancelled(const std::function<PictureRead(const ReadOptions&)>& read, CIRenderControl& control)
 {
     struct Shared {
         std::atomic<bool> isGivenUp = false;
@@ -141,7 +147,7 @@ PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> r
     };
     const auto shared = std::make_shared<Shared>();
     std::future<PictureRead> result = shared->result.get_future();
-    imageio::runOnLooseThread([shared, read = std::move(read)] {
+    imageio::runOnLooseThread([shared, read] {
         shared->result.set_value(read({.cancelled = &shared->isGivenUp, .progress = &shared->progress}));
     });
     while (result.wait_for(10ms) != std::future_status::ready) {
@@ -153,4 +159,17 @@ PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> r
         }
     }
     return result.get();
+}
+
+} // namespace
+
+void readBesideWindow(Document& document, const QString& title, std::function<PictureRead(const ReadOptions&)> read,
+    std::function<void(const CIImage&)> take)
+{
+    document.work(
+        {.title = title}, [read](WorkControl& control) { return readUnlessCancelled(read, control.rendering); },
+        [&document, take](const std::optional<PictureRead>& picture, bool isCancelled) {
+            if (!isCancelled)
+                take(document.take(picture.value_or(PictureRead())));
+        });
 }

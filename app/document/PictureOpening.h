@@ -14,6 +14,8 @@
 #include <memory>
 #include <optional>
 
+class Document;
+
 /// What was read: an image, or why there is none.
 struct PictureRead {
     CIImage image{};
@@ -58,6 +60,7 @@ PictureRead readPictureFile(const QString& path, const ReadOptions& options = {}
 /// The same of a file's bytes, which say nothing else.
 PictureRead readPictureData(const QByteArray& data, const ReadOptions& options = {});
 
-/// Calls `read` on a thread of its own and waits until it is done or, soon, `control` is cancelled; then without
-/// success. `read` owns all that it uses, for it may go on for a while.
-PictureRead readUnlessCancelled(std::function<PictureRead(const ReadOptions&)> read, CIRenderControl& control);
+/// As work of the document, whose user is told the `title`. `take` gets the picture, null when there is none, unless
+/// the user stops it; then `read` may go on for a while, and so owns all that it uses.
+void readBesideWindow(Document& document, const QString& title, std::function<PictureRead(const ReadOptions&)> read,
+    std::function<void(const CIImage&)> take);

@@ -56,7 +56,7 @@ void SessionJournal::finishWriting()
         m_written = {}; // the next look tries again
 }
 
-void SessionJournal::adopt(std::unique_ptr<SessionFolder> folder)
+void SessionJournal::adopt(std::shared_ptr<SessionFolder> folder)
 {
     remove();
     m_folder = std::move(folder);

@@ -26,7 +26,7 @@ public:
     ~SessionJournal() override;
 
     /// Goes on in the folder of a former session, whose state is the present one.
-    void adopt(std::unique_ptr<SessionFolder> folder);
+    void adopt(std::shared_ptr<SessionFolder> folder);
     /// What there is now need not be kept.
     void markClean();
     /// Does now what the timer would do sooner or later. `waits`: until it is on the disk.
@@ -54,7 +54,7 @@ private:
     QTimer m_timer;
     QElapsedTimer m_sinceWriting;
     Fingerprint m_clean, m_written;
-    std::unique_ptr<SessionFolder> m_folder;
+    std::shared_ptr<SessionFolder> m_folder;
     std::atomic<bool> m_stop = false;
     std::future<bool> m_writing;
 };

@@ -1,11 +1,29 @@
-// Quarter turns and mirror flips of pictures.
+// Quarter turns and mirror flips of the document.
 #pragma once
 
-#include "platform/coreimage/CIImage.h"
+#include <QCoreApplication>
 
-/// Turned by a quarter, counter-clockwise when `left`, with the lower left corner at the origin. The pixels of bitmaps
-/// only change places: nothing is lost. Null for an image without end.
-CIImage rotatedPicture(const CIImage& picture, bool left);
+#include <functional>
 
-/// Upside down when `vertical`, else with left and right exchanged.
-CIImage flippedPicture(const CIImage& picture, bool vertical);
+class CIImage;
+class Document;
+
+/// Turns the document's picture, as undo steps. Nothing without a picture.
+class Turning {
+    Q_DECLARE_TR_FUNCTIONS(Turning)
+
+public:
+    explicit Turning(Document& document)
+        : m_document(document)
+    {
+    }
+    void rotate(bool left);
+    /// Its undo flips in the other direction, which leaves the picture turned by half a turn.
+    void flip(bool vertical);
+
+private:
+    void turn(const QString& title, const std::function<CIImage(const CIImage&)>& way, const QString& actionName,
+        std::function<void()> undo);
+
+    Document& m_document;
+};

@@ -5,15 +5,12 @@
 #include "effects2d/CustomEffects.h"
 #include "effects2d/customEffImageView.h"
 #include "platform/chain/Baking.h"
-#include "widgets/BackgroundWork.h"
 
-CustomMode::CustomMode(
-    const ModeParts& parts, customEffImageView& view, Mode& family, Document& document, QWidget& window)
+CustomMode::CustomMode(const ModeParts& parts, customEffImageView& view, Mode& family, Document& document)
     : EffectMode(parts, EffectList(customEffectPrototypes(), EffectList::Marks::Mousing), "effectCustom",
         {QStringLiteral("CustomEffectsFavorites"), {}}, document)
     , m_view(view)
     , m_family(family)
-    , m_window(window)
 {
     m_view.awakeFromNib();
 }
@@ -48,32 +45,34 @@ void CustomMode::apply(const std::function<void()>& done)
 {
     if (!hasItem())
         return done();
-    CIImage drawn, baked;
-    WorkControl control(1);
-    const BaseEffect::LaterImage draw = effect()->laterDrawImage();
-    workInBackground(&m_window, tr("Applying the effect…"), control, [&] {
-        drawn = draw(&control.rendering);
-        baked = bakedImage(*m_document.context(), drawn, m_document.format(), &control.rendering);
+    const auto make = [draw = effect()->laterDrawImage(), context = m_document.context(), format = m_document.format()](
+                          WorkControl& control) {
+        const CIImage drawn = draw(&control.rendering);
+        const CIImage baked = bakedImage(*context, drawn, format, &control.rendering);
         makeReducedCopies(baked);
-    });
-    if (control.isCancelled())
-        return;
-    if (drawn)
-        replacePicture(baked ? baked : drawn);
-    done();
+        return baked ? baked : drawn;
+    };
+    m_document.work({.title = tr("Applying the effect…")}, make,
+        [this, done](const std::optional<CIImage>& applied, bool isCancelled) {
+            if (isCancelled)
+                return;
+            if (applied && *applied)
+                replacePicture(*applied);
+            done();
+        });
 }
 
 void CustomMode::addFavourite()
 {
     if (!hasItem())
         return;
-    QImage thumbnail;
-    WorkControl control(1);
-    const BaseEffect::LaterImage draw = effect()->laterDrawImage();
-    workInBackground(&m_window, tr("Drawing the favourite…"), control,
-        [&] { thumbnail = favouriteThumbnail(draw(&control.rendering)); });
-    if (!thumbnail.isNull())
-        m_favorites.add(thumbnail, *effect());
+    const auto make = [draw = effect()->laterDrawImage()](
+                          WorkControl& control) { return favouriteThumbnail(draw(&control.rendering)); };
+    m_document.work(
+        {.title = tr("Drawing the favourite…")}, make, [this](const std::optional<QImage>& thumbnail, bool) {
+            if (thumbnail && !thumbnail->isNull() && hasItem())
+                m_favorites.add(*thumbnail, *effect());
+        });
 }
 
 void CustomMode::chooseFavourite(onlyTextClosedButton* button)

@@ -10,9 +10,9 @@ class CustomMode : public EffectMode {
     Q_OBJECT
 
 public:
-    /// `window` is where progress is shown. The undo of a chosen favourite asks the mode `family` for the previous one,
-    /// which there finds nothing or clears the effect.
-    CustomMode(const ModeParts& parts, customEffImageView& view, Mode& family, Document& document, QWidget& window);
+    /// The undo of a chosen favourite asks the mode `family` for the previous one, which there finds nothing or clears
+    /// the effect.
+    CustomMode(const ModeParts& parts, customEffImageView& view, Mode& family, Document& document);
 
     void updateView() override;
     ZoomedCanvas* canvas() const override;
@@ -29,5 +29,4 @@ protected:
 private:
     customEffImageView& m_view;
     Mode& m_family;
-    QWidget& m_window;
 };

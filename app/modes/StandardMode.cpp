@@ -13,7 +13,6 @@
 #include "controls/picture/MyImageView.h"
 #include "platform/chain/Baking.h"
 #include "platform/chain/FilterChain.h"
-#include "widgets/BackgroundWork.h"
 
 #include <QRandomGenerator>
 
@@ -116,21 +115,22 @@ void StandardMode::pictureChanged()
 
 void StandardMode::apply(const std::function<void()>& done)
 {
-    CIImage applied = movedToOrigin(coreImageResult());
-    if (applied && currentFilter) {
-        WorkControl control(1);
-        CIImage baked;
-        workInBackground(&m_tools.window, tr("Applying the filter…"), control,
-            [&] { baked = bakedImage(*m_document.context(), applied, m_document.format(), &control.rendering); });
-        if (control.isCancelled())
-            return;
-        // Pixels from here on; only where there is no memory for them the recipe itself.
-        if (baked)
-            applied = baked;
+    const CIImage applied = movedToOrigin(coreImageResult());
+    if (!applied || !currentFilter) {
+        if (applied)
+            replacePicture(applied);
+        return done();
     }
-    if (applied)
-        replacePicture(applied);
-    done();
+    const auto make = [applied, context = m_document.context(), format = m_document.format()](
+                          WorkControl& control) { return bakedImage(*context, applied, format, &control.rendering); };
+    m_document.work({.title = tr("Applying the filter…")}, make,
+        [this, applied, done](const std::optional<CIImage>& baked, bool isCancelled) {
+            if (isCancelled)
+                return;
+            // Pixels from here on; only where there is no memory for them the recipe itself.
+            replacePicture(baked && *baked ? *baked : applied);
+            done();
+        });
 }
 
 void StandardMode::compare(bool held) { m_tools.view.setShowsOriginal(held && isEdited()); }

@@ -23,7 +23,6 @@ public:
         FilterCatalogue& catalogue;
         FilterPanel& panel;
         MyImageView& view;
-        QWidget& window; // where progress is shown
     };
     StandardMode(const ModeParts& parts, const Tools& tools);
 

@@ -4,7 +4,6 @@
 #include "effects2d/customEffImageView.h"
 #include "platform/foundation/Pasteboard.h"
 #include "widgets/AlertPanel.h"
-#include "widgets/BackgroundWork.h"
 #include "widgets/DocPageControl.h"
 
 #include <QApplication>
@@ -48,21 +47,22 @@ void Controller::applicationDidBecomeActive() { updateMainBtnState(); }
 
 Controller::TerminateReply Controller::applicationShouldTerminate()
 {
-    if (isWorkRunning())
+    if (m_document.state() == Document::State::Working)
         return TerminateReply::Cancel; // its thread works for the window
     cancelOpening(); // what there is to save is the former picture
-    if (quitAfterSave || !m_document.wasChanged())
+    if (m_saving.isQuitting() || !m_document.wasChanged())
         return TerminateReply::Now;
     const int answer = AlertPanel::Alert_DONTSAVECANCELMsgText(&m_window, tr("Do you want to save changes?"),
         tr("Your changes will be lost if you choose don't save option."));
-    if (answer == 1) {
-        quitAfterSave = true;
-        saveImg(); // asks to terminate again when it is done
-    }
+    if (answer == 1)
+        m_saving.saveAndQuit(); // asks to terminate again when it is done
     return answer == 1 || answer == 2 ? TerminateReply::Cancel : TerminateReply::Now;
 }
 
-bool Controller::windowShouldClose() const { return !m_document.wasChanged() && !isWorkRunning(); }
+bool Controller::windowShouldClose() const
+{
+    return !m_document.wasChanged() && m_document.state() != Document::State::Working;
+}
 
 void Controller::terminate()
 {

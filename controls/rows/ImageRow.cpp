@@ -26,15 +26,15 @@ void ImageRow::show() { well->setImage(thumbnailOf(m_value.get().toImage())); }
 void ImageRow::fileDropped()
 {
     const QString path = well->filePath();
-    const QPointer<ImageRow> row(this); // may go meanwhile
-    const std::optional<CIImage> image = m_source.readImage(path);
-    if (!image || !row)
-        return;
-    if (*image)
-        well->setImage(thumbnailOf(*image));
-    else
-        m_source.showReadFailure(path);
-    m_value.set(*image);
+    m_source.readImage(path, [this, path, row = QPointer<ImageRow>(this)](const CIImage& image) {
+        if (!row)
+            return; // it has gone meanwhile
+        if (image)
+            well->setImage(thumbnailOf(image));
+        else
+            m_source.showReadFailure(path);
+        m_value.set(image);
+    });
 }
 
 void ImageRow::chooseFile()

@@ -3,7 +3,7 @@
 
 #include "platform/coreimage/CIImage.h"
 
-#include <optional>
+#include <functional>
 
 #include <QStringList>
 
@@ -12,9 +12,9 @@ class PictureSource {
 public:
     virtual ~PictureSource() = default;
 
-    /// Reads a picture file beside the living window. Null when it is no readable picture, nothing at all when the user
-    /// stopped it.
-    virtual std::optional<CIImage> readImage(const QString& path) = 0;
+    /// Reads a picture file beside the living window and then calls `take`, with null when it is no readable picture.
+    /// Calls nothing when the user stops it, or when something else is going on.
+    virtual void readImage(const QString& path, std::function<void(const CIImage&)> take) = 0;
     /// Tells the user that the file could not be read, without asking for an answer.
     virtual void showReadFailure(const QString& path) = 0;
     /// For open panels: "Pictures (*.png …)" and the like.

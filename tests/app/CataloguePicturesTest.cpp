@@ -54,7 +54,7 @@ TEST_F(CataloguePicturesTest, ShowWhatAFilterMakesOfTheOpenPicture)
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000));
 
     openPicture(pictureFile("other.png", 60, 90));
-    controller.rotateLeft();
+    perform(&Controller::rotateLeft);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000)) << "made anew";
 
     action("actionThumbnails")->trigger();

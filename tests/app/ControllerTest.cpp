@@ -1,6 +1,7 @@
 #include "WindowFixture.h"
 
 #include "app/catalogue/OutlineView.h"
+#include "app/document/PictureOpening.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
 #include "platform/foundation/ResourcePaths.h"
@@ -91,7 +92,7 @@ TEST_F(WindowTest, ALargePhotographIsOnScreenBeforeItIsReadAsAWhole)
     EXPECT_EQ(shown.extent(), (CIRect{0, 0, 3600, 2400}));
     const CIRect corner{3590, 2390, 10, 10};
     const CIBitmap pixels = CIContext().render(shown, corner),
-                   inFile = CIContext().render(controller.readImage(path).value(), corner);
+                   inFile = CIContext().render(readPictureFile(path).image, corner);
     for (int y = 0; y < corner.height; ++y)
         EXPECT_TRUE(std::ranges::equal(pixels.row<std::uint8_t>(y), inFile.row<std::uint8_t>(y))) << y;
 }
@@ -178,7 +179,7 @@ TEST_F(WindowTest, ApplyMakesTheResultThePicture)
     const CIImage before = controller.backImage();
     controller.addFilterIndex("CIConstantColorGenerator", 111);
     controller.getCurrentFilter()->setValueForKey(CIColor(0, 0, 1, 1), "inputColor");
-    controller.applyBtn();
+    perform(&Controller::applyBtn);
     EXPECT_FALSE(controller.getCurrentFilter());
     EXPECT_TRUE(controller.wasChanged());
     const CIImage after = controller.backImage();
@@ -193,7 +194,7 @@ TEST_F(WindowTest, ApplyMakesTheResultThePicture)
     EXPECT_TRUE(controller.backImage().isSameAs(after));
 
     undo.removeAllActions();
-    controller.applyBtn(); // no filter: the picture itself, and a step all the same
+    perform(&Controller::applyBtn); // no filter: the picture itself, and a step all the same
     EXPECT_TRUE(undo.canUndo());
     EXPECT_EQ(controller.backImage().extent(), after.extent());
 }
@@ -206,18 +207,18 @@ TEST_F(WindowTest, UnreadableFilesLeaveNoPictureButTheirName)
     ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
     broken.write("no picture");
     broken.close();
-    controller.openImgPanelDidEnd(0, {broken.fileName()});
+    perform(&Controller::openImgPanelDidEnd, 0, QStringList{broken.fileName()});
     EXPECT_EQ(window.windowTitle(), "Lumivex::a.png") << "a cancelled panel changes nothing";
-    controller.openImgPanelDidEnd(1, {});
+    perform(&Controller::openImgPanelDidEnd, 1, QStringList{});
     EXPECT_TRUE(controller.backImage());
 
     for (const QString& path : {broken.fileName(), folder.filePath("none.png"), folder.path()}) {
-        controller.openImgPanelDidEnd(1, {path});
+        perform(&Controller::openImgPanelDidEnd, 1, QStringList{path});
         EXPECT_FALSE(controller.backImage());
         EXPECT_EQ(controller.getBgImageExtent(), CIRect());
         EXPECT_EQ(window.windowTitle(), "Lumivex::" + QFileInfo(path).fileName());
         EXPECT_FALSE(ui.pictureInfoField->text().isEmpty());
-        controller.applyBtn(); // nothing to apply: harmless
+        perform(&Controller::applyBtn); // nothing to apply: harmless
         EXPECT_FALSE(controller.coreImageResult(false));
     }
     openPicture(pictureFile("b.png", 3, 2));
@@ -255,7 +256,7 @@ TEST_F(WindowTest, PasteTakesAnyPictureAndCanBeUndone)
     QCoreApplication::processEvents();
     const CIImage before = controller.backImage();
     EXPECT_FALSE(ui.pasteBtn->isEnabled());
-    controller.paste();
+    perform(&Controller::paste);
     EXPECT_FALSE(undo.canUndo());
 
     QImage image(5, 7, QImage::Format_RGB32);
@@ -263,7 +264,7 @@ TEST_F(WindowTest, PasteTakesAnyPictureAndCanBeUndone)
     QApplication::clipboard()->setImage(image);
     QCoreApplication::processEvents();
     EXPECT_TRUE(ui.pasteBtn->isEnabled());
-    controller.paste();
+    perform(&Controller::paste);
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 5, 7}));
     EXPECT_FALSE(controller.wasChanged());
     controller.undo();

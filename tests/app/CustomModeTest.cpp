@@ -99,6 +99,7 @@ TEST_F(CustomModeTest, EscapeAndApplyEndTheEffect)
     const CIImage drawn = controller.getEffectedImage();
     EXPECT_EQ(drawn.extent(), before.extent());
     QTest::mouseClick(ui.applyBtn, Qt::LeftButton);
+    waitUntilIdle();
     EXPECT_FALSE(effect());
     for (const auto& [x, y] : {std::pair{3, 4}, {150, 100}, {299, 199}})
         EXPECT_EQ(pixel(controller.backImage(), x, y), pixel(drawn, x, y));
@@ -183,6 +184,7 @@ TEST_F(CustomModeTest, ADroppedFileBecomesThePicture)
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &files, Qt::LeftButton, {});
     QApplication::sendEvent(&view(), &drop);
+    waitUntilIdle();
     EXPECT_EQ(controller.backImage().extent(), (CIRect{0, 0, 80, 50}));
     EXPECT_TRUE(controller.getFilePath().endsWith("/dropped.png"));
     EXPECT_EQ(undo.undoActionName(), "Open");
@@ -198,6 +200,7 @@ TEST_F(CustomModeTest, FavouritesBringEffectsBackAcrossRuns)
         if (row == kHilbert)
             controls<ValueSlider>().first()->moveTo(33);
         QTest::mouseClick(ui.addFavouriteBtn, Qt::LeftButton);
+        waitUntilIdle();
     }
     ASSERT_EQ(ui.m_pageCustomController->pageCount(), 8);
     controller.saveFavorites();
@@ -232,7 +235,7 @@ TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
 {
     for (int row : {int(kSimple), int(kPlasma)}) {
         pickRow(row);
-        controller.addFavoritesCustom();
+        perform(&Controller::addFavoritesCustom);
     }
     controller.escapeEffect();
     controller.filterChangedCustom(button(0));
@@ -253,7 +256,7 @@ TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
 TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
 {
     pickRow(kPlasma);
-    controller.addFavoritesCustom();
+    perform(&Controller::addFavoritesCustom);
     controller.saveFavoritesCustom();
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     StoredRecords records = defaults.recordsForKey(kList).value();

@@ -2,7 +2,7 @@
 #include "WindowFixture.h"
 
 #include "app/document/RecentFiles.h"
-#include "app/document/Turning.h"
+#include "app/document/TurnedPicture.h"
 #include "controls/panel/DropImageView.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
@@ -115,15 +115,16 @@ TEST_F(EditsTest, RotationIsUndoneByItsOpposite)
 {
     open(kPicture);
     action("actionRotateLeft")->trigger();
+    waitUntilIdle();
     EXPECT_EQ(shown(), (Rows{{3, 6}, {2, 5}, {1, 4}}));
     EXPECT_FALSE(controller.wasChanged());
     EXPECT_EQ(undo.undoActionName(), "Rotate Left");
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(shown(), kPicture);
-    controller.redo();
+    perform(&Controller::redo);
     EXPECT_EQ(shown(), (Rows{{3, 6}, {2, 5}, {1, 4}}));
     for (int i = 0; i < 3; ++i)
-        controller.rotateLeft();
+        perform(&Controller::rotateLeft);
     EXPECT_EQ(shown(), kPicture);
 }
 
@@ -131,12 +132,13 @@ TEST_F(EditsTest, FlipIsUndoneByTheOtherFlip)
 {
     open(kPicture);
     action("actionFlipHorizont")->trigger();
+    waitUntilIdle();
     EXPECT_EQ(shown(), (Rows{{3, 2, 1}, {6, 5, 4}}));
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(shown(), (Rows{{6, 5, 4}, {3, 2, 1}})) << "turned by half a turn";
-    controller.redo();
+    perform(&Controller::redo);
     EXPECT_EQ(shown(), (Rows{{4, 5, 6}, {1, 2, 3}})) << "flipped vertically";
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(shown(), kPicture);
     EXPECT_FALSE(controller.wasChanged());
 }
@@ -145,14 +147,14 @@ TEST_F(EditsTest, WithoutAPictureNothingHappens)
 {
     openPicture("/nowhere.png");
     const bool couldUndo = undo.canUndo();
-    controller.rotateLeft();
-    controller.flipVert();
-    controller.resizeImageHeight(10, 10);
-    controller.copy();
+    perform(&Controller::rotateLeft);
+    perform(&Controller::flipVert);
+    perform(&Controller::resizeImageHeight, 10, 10);
+    perform(&Controller::copy);
     EXPECT_EQ(undo.canUndo(), couldUndo);
     EXPECT_FALSE(action("actionCopy")->isEnabled());
     controller.setBackgroundImage(CIImage::fromBitmap(CIBitmap(4, 4)).cropped({9, 9, 4, 4}));
-    controller.copy();
+    perform(&Controller::copy);
     EXPECT_FALSE(ui.pictureInfoField->text().contains("memory")) << ui.pictureInfoField->text().toStdString();
     EXPECT_TRUE(action("actionRotateLeft")->isEnabled()) << "like all that is not about an effect or the clipboard";
 }
@@ -164,7 +166,7 @@ TEST_F(EditsTest, WhatChangesInAnotherModeIsSeenInStandardMode)
     picture.setPixel(0, 0, 0xff0000ff);
     const QString file = folder.filePath("corner.png");
     ASSERT_TRUE(picture.save(file));
-    controller.openFile(file);
+    openPicture(file);
     MyImageView& view = *ui.pictureScrollView->imageView();
     const auto corner = [&] {
         EXPECT_TRUE(view.waitForFrame());
@@ -172,7 +174,7 @@ TEST_F(EditsTest, WhatChangesInAnotherModeIsSeenInStandardMode)
     };
     const QRgb before = corner();
     action("action3D")->trigger();
-    controller.flipHorizont(); // the size stays
+    perform(&Controller::flipHorizont); // the size stays
     action("actionStandard")->trigger();
     EXPECT_NE(corner(), before);
 }
@@ -184,7 +186,7 @@ TEST_F(EditsTest, ResizesInOneStep)
     auto* panel = window.findChild<ResizePanel*>();
     ASSERT_TRUE(panel && panel->isVisible());
     EXPECT_TRUE(action("actionResize")->isChecked());
-    controller.resizeImageHeight(20.2f, 50);
+    perform(&Controller::resizeImageHeight, 20.2f, 50);
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 20, 50}));
     EXPECT_EQ(panel->findChild<QLabel*>("mCaptionInfo")->text(), "20 x 50 pixels");
     const CIBitmap pixels = *bitmapOf(controller.backImage());
@@ -193,12 +195,12 @@ TEST_F(EditsTest, ResizesInOneStep)
     EXPECT_EQ(pixels.alpha(), CIAlpha::Opaque) << "up to the edges";
     EXPECT_TRUE(controller.wasChanged());
     EXPECT_EQ(undo.undoActionName(), "Resize");
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
 
     for (const auto& [size, told] : {std::pair(900'000.0f, "made that large"), std::pair(0.0f, "have that size")})
         answering("OK", [&, size = size] {
-            controller.resizeImageHeight(size, 900'000);
+            perform(&Controller::resizeImageHeight, size, 900'000);
             EXPECT_TRUE(window.findChild<QDialog*>("AlertPanel")->accessibleName().contains(told));
         });
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30}));
@@ -211,6 +213,7 @@ TEST_F(EditsTest, OtherProgramsPasteWhatIsCopied)
     openPicture(pictureFile("a.png", 12, 7));
     pick("CIColorInvert");
     action("actionCopy")->trigger();
+    waitUntilIdle();
     EXPECT_TRUE(ui.pasteBtn->isEnabled());
     const QByteArray types = answerOf("xclip", {"-selection", "clipboard", "-o", "-t", "TARGETS"});
     EXPECT_TRUE(types.contains("image/tiff") && types.contains("image/png")) << types.toStdString();
@@ -233,10 +236,11 @@ TEST_F(EditsTest, PastesWhatOtherProgramsCopy)
         "sh", {"-c", "exec xclip -selection clipboard -t image/png -i '" + file + "' >/dev/null 2>&1"});
     EXPECT_TRUE(changed.wait(5000));
     action("actionPaste")->trigger();
+    waitUntilIdle();
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_NE(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
-    controller.redo();
+    perform(&Controller::redo);
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 9, 5}));
 }
 
@@ -246,9 +250,9 @@ TEST_F(EditsTest, BrokenClipboardGivesNoPictureAndTheWayBack)
     auto* broken = new QMimeData;
     broken->setData("image/tiff", "II*\0 no more");
     QApplication::clipboard()->setMimeData(broken);
-    controller.paste();
+    perform(&Controller::paste);
     EXPECT_FALSE(controller.backImage());
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(shown(), kPicture);
 }
 
@@ -269,6 +273,7 @@ TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
             return false;
         QDropEvent dropped(QPointF(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
         QApplication::sendEvent(&window, &dropped);
+        waitUntilIdle();
         return true;
     };
     const auto middleOf = [&](QWidget& widget) { return widget.mapTo(&window, widget.rect().center()); };
@@ -286,7 +291,7 @@ TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
     EXPECT_TRUE(drop(file));
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 8, 6}));
     EXPECT_EQ(controller.getFilePath(), file);
-    controller.undo();
+    perform(&Controller::undo);
     EXPECT_EQ(shown(), kPicture);
 }
 
@@ -302,6 +307,7 @@ TEST_F(EditsTest, RecentFilesAreInTheirMenu)
     emit ui.menuRecent->aboutToShow();
     ASSERT_GE(ui.menuRecent->actions().size(), 2);
     ui.menuRecent->actions().at(1)->trigger();
+    waitUntilIdle();
     EXPECT_EQ(controller.getFilePath(), second);
     EXPECT_TRUE(QFile::remove(first));
     EXPECT_EQ(RecentFiles::list(), QStringList{second}) << "files that are gone are left out";

@@ -108,7 +108,7 @@ TEST_F(ExportTest, EveryFormatIsAFileThatOthersRead)
     for (const auto& format : formats) {
         SCOPED_TRACE(format.name);
         chooseFormat(format.name);
-        controller.savePanelDidEnd(QDialog::Accepted, path("OUT.xyz"));
+        perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("OUT.xyz"));
         EXPECT_EQ(controller.getFilePath().isEmpty(), false);
         if (!format.kind)
             continue; // its capitals stay: see below
@@ -134,7 +134,7 @@ TEST_F(ExportTest, SavesWhatTheFilterMakesAndForgetsTheChanges)
     EXPECT_EQ(window.windowTitle(), "Lumivex::noise.png[*]") << "where the platform marks changes";
     EXPECT_TRUE(window.isWindowModified());
     chooseFormat("PNG");
-    controller.savePanelDidEnd(QDialog::Accepted, path("inverse"));
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("inverse"));
     EXPECT_FALSE(controller.wasChanged());
     EXPECT_EQ(window.windowTitle(), "Lumivex::inverse.png");
     const Result<CIBitmap> back = readPicture(path("inverse.png").toStdString());
@@ -150,9 +150,9 @@ TEST_F(ExportTest, TheSheetsQuestionOnlyTellsWhatHappens)
     ASSERT_TRUE(QFile::copy(path("noise.png"), target));
     openPicture(pictureFile("other.png", 10, 10));
     chooseFormat("PNG");
-    answering("Cancel", [&] { controller.savePanelDidEnd(QDialog::Accepted, path("there")); });
+    answering("Cancel", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("there")); });
     EXPECT_EQ(identify(target), "PNG 10 10") << "overwritten all the same";
-    controller.savePanelDidEnd(QDialog::Rejected, path("never"));
+    perform(&Controller::savePanelDidEnd, QDialog::Rejected, path("never"));
     EXPECT_EQ(controller.getFilePath(), target);
     EXPECT_FALSE(QFile::exists(path("never.png")));
 }
@@ -160,7 +160,7 @@ TEST_F(ExportTest, TheSheetsQuestionOnlyTellsWhatHappens)
 TEST_F(ExportTest, SavesInPlaceWhereTheExtensionAllows)
 {
     openNoise("photo.jpeg");
-    controller.rotateLeft();
+    perform(&Controller::rotateLeft);
     answering("OK", [&] { controller.saveImg(); });
     EXPECT_EQ(identify(path("photo.jpeg")), "JPEG 48 64");
 
@@ -182,36 +182,36 @@ TEST_F(ExportTest, KeepsWhatTheFileSaidAboutItself)
     openPicture(path("photo.jpeg"));
     EXPECT_EQ(controller.getBgImageExtent().width, 48) << "turned upright";
     pick("CIColorInvert");
-    controller.applyBtn();
-    controller.resizeImageHeight(24, 32);
-    controller.rotateLeft();
+    perform(&Controller::applyBtn);
+    perform(&Controller::resizeImageHeight, 24, 32);
+    perform(&Controller::rotateLeft);
     answering("OK", [&] { controller.saveImg(); }); // over the file that it comes from
     EXPECT_EQ(metadata(path("photo.jpeg")), "Camera 1 32 Somebody");
     for (const QString format : {"TIFF", "PNG", "JPEG-2000"}) {
         chooseFormat(format);
-        controller.savePanelDidEnd(QDialog::Accepted, path("kept"));
+        perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("kept"));
         EXPECT_EQ(metadata(path("kept." + format.toLower())), "Camera 1 32 Somebody") << format.toStdString();
     }
 
     // Pictures that come from elsewhere carry none of it, until their step is undone.
     chooseFormat("PNG");
-    controller.copy();
-    controller.paste();
-    controller.savePanelDidEnd(QDialog::Accepted, path("pasted"));
+    perform(&Controller::copy);
+    perform(&Controller::paste);
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("pasted"));
     EXPECT_EQ(metadata(path("pasted.png")), "");
-    controller.undo();
-    controller.savePanelDidEnd(QDialog::Accepted, path("back"));
+    perform(&Controller::undo);
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("back"));
     EXPECT_EQ(metadata(path("back.png")), "Camera 1 32 Somebody");
-    controller.redo();
-    controller.savePanelDidEnd(QDialog::Accepted, path("again"));
+    perform(&Controller::redo);
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("again"));
     EXPECT_EQ(metadata(path("again.png")), "");
-    controller.openDroppedFile(path("kept.tiff"));
-    const SessionState state = controller.sessionState();
+    perform(&Controller::openDroppedFile, path("kept.tiff"));
+    const SessionState state = controller.session().state();
     openPicture(pictureFile("plain.png", 10, 10));
-    controller.savePanelDidEnd(QDialog::Accepted, path("plain"));
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("plain"));
     EXPECT_EQ(metadata(path("plain.png")), "");
-    controller.restoreSession(state);
-    controller.savePanelDidEnd(QDialog::Accepted, path("restored"));
+    controller.session().restore(state);
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("restored"));
     EXPECT_EQ(metadata(path("restored.png")), "Camera 1 32 Somebody");
 }
 
@@ -220,7 +220,7 @@ TEST_F(ExportTest, ReportsAnUnwritableFolderAndKeepsTheFile)
     setImageLog([](std::string_view) {});
     openNoise("noise.png");
     chooseFormat("PNG");
-    controller.savePanelDidEnd(QDialog::Accepted, path("no folder/x"));
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x"));
     EXPECT_TRUE(ui.pictureInfoField->text().contains("x.png")) << ui.pictureInfoField->text().toStdString();
     setImageLog({});
 }
@@ -244,6 +244,7 @@ TEST_F(ExportTest, ThePanelOffersTheLastFormatAndGivesItsMenusBack)
         static_cast<QDialog*>(panel)->accept();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QCoreApplication::processEvents(); // it is saved when the panel has gone
+        waitUntilIdle();
         EXPECT_EQ(identify(path(QString("n%1.tiff").arg(i))), "TIFF 64 48");
     }
 }
@@ -292,7 +293,7 @@ TEST_F(ExportTest, AFileThatCantBeWrittenStopsTheQuitting)
     answering("Save...", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
     delete window.findChild<SavePanel*>();
     chooseFormat("PNG");
-    controller.savePanelDidEnd(QDialog::Accepted, path("no folder/x"));
+    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x"));
     pick("CIColorPosterize");
     answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
     setImageLog({});

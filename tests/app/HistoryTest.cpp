@@ -89,11 +89,11 @@ TEST_F(HistoryTest, FiftyLargeEditsStayWithinTheBudgetAndAllUndo)
     // The picture itself, its reduced copies, one that is on its way to the disk, and the program.
     EXPECT_LT(most, budget + 5 * onePicture + 300 * kMegabyte) << most / kMegabyte << " MB";
     for (int edit = edits - 1; edit >= 0; --edit) {
-        controller.undo();
+        perform(&Controller::undo);
         ASSERT_TRUE(areEqual(*bitmapOf(controller.backImage()), edited(width, height, edit))) << "edit " << edit;
     }
     for (int edit = 1; edit <= 5; ++edit)
-        controller.redo();
+        perform(&Controller::redo);
     EXPECT_TRUE(areEqual(*bitmapOf(controller.backImage()), edited(width, height, 5)));
 }
 
@@ -103,14 +103,14 @@ TEST_F(HistoryTest, FiltersOfThePastHoldNoPictures)
     pick("CIGaussianBlur");
     controller.setFilterValueForKey(*controller.getCurrentFilter(), 3.0, "inputRadius");
     const std::weak_ptr<CIFilter> blur = controller.getCurrentFilter();
-    controller.applyBtn();
+    perform(&Controller::applyBtn);
     openPicture(pictureFile("b.png", 20, 10));
-    controller.rotateLeft();
+    perform(&Controller::rotateLeft);
     controller.undoPaste(controller.backImage());
     ASSERT_FALSE(blur.expired()) << "an undo step needs it";
     EXPECT_FALSE(blur.lock()->valueForKey("inputImage").isImage());
     for (int i = 0; i < 4; ++i)
-        controller.undo();
+        perform(&Controller::undo);
     EXPECT_EQ(blur.lock()->valueForKey("inputRadius").toFloat(), 10) << "its other values still come and go";
 }
 

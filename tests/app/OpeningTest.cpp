@@ -8,7 +8,6 @@
 #include "files/ResizePanel.h"
 #include "tests/support/NestedDocument.h"
 #include "ui_MainWindow.h"
-#include "widgets/BackgroundWork.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -35,8 +34,8 @@ protected:
     void openSlowly()
     {
         controller.openFile(slowFile());
+        ASSERT_TRUE(QTest::qWaitFor([&] { return ui.openingCancelBtn->isVisible(); }));
         ASSERT_TRUE(controller.isOpening());
-        ASSERT_TRUE(ui.openingCancelBtn->isVisible());
     }
     bool isFormerPicture() const
     {
@@ -109,7 +108,7 @@ TEST_F(OpeningTest, EscapeKeepsAllAsItWas)
     const QString title = window.windowTitle(), status = ui.pictureInfoField->text();
     openSlowly();
     QTest::keyClick(&window, Qt::Key_Escape);
-    waitForPicture();
+    waitUntilIdle();
     EXPECT_TRUE(controller.backImage().isSameAs(picture));
     EXPECT_EQ(controller.getFilePath(), former);
     EXPECT_EQ(window.windowTitle(), title);
@@ -131,8 +130,7 @@ TEST_F(OpeningTest, TheNewestFileWins)
     EXPECT_TRUE(controller.getFilePath().endsWith("new.png"));
     EXPECT_TRUE(ui.sideBar->isEnabled());
     openSlowly();
-    controller.openDroppedFile(folder.filePath("missing.png"));
-    waitForPicture();
+    perform(&Controller::openDroppedFile, folder.filePath("missing.png"));
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 40, 30})) << "what can't be read replaces nothing";
     openSlowly();
     EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Now);
@@ -150,7 +148,7 @@ TEST_F(OpeningTest, WhatStandsInForALargePhotographLeavesWithIt)
             return;
         wasReduced = true;
         EXPECT_EQ(controller.getFilePath(), former);
-        EXPECT_TRUE(controller.sessionState().pictures.at("picture").isSameAs(picture)) << "no picture to keep";
+        EXPECT_TRUE(controller.session().state().pictures.at("picture").isSameAs(picture)) << "no picture to keep";
         controller.cancelOpening();
     });
     look.start(0);
@@ -179,18 +177,18 @@ TEST_F(OpeningTest, WorkOnThePictureLeavesTheWindowAlive)
     data->setData("image/png", file.readAll());
     QApplication::clipboard()->setMimeData(data);
     QCoreApplication::processEvents();
-    EXPECT_GT(ticksDuring([&] { controller.paste(); }), 0) << "paste";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::paste); }), 0) << "paste";
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 4000, 3000}));
-    EXPECT_GT(ticksDuring([&] { controller.rotateLeft(); }), 0) << "rotate";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::rotateLeft); }), 0) << "rotate";
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 3000, 4000}));
-    EXPECT_GT(ticksDuring([&] { controller.undo(); }), 0) << "undo";
-    EXPECT_GT(ticksDuring([&] { controller.flipHorizont(); }), 0) << "flip";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::undo); }), 0) << "undo";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::flipHorizont); }), 0) << "flip";
     ui.actionCustom->trigger();
     QTest::mouseClick(ui.filterCustomOutlineView->viewport(), Qt::LeftButton, {},
         ui.filterCustomOutlineView->visualRect(ui.filterCustomOutlineView->model()->index(0, 0)).center());
     ASSERT_TRUE(controller.getCurrentCustomEffect());
-    EXPECT_GT(ticksDuring([&] { controller.copy(); }), 0) << "copy";
-    EXPECT_GT(ticksDuring([&] { controller.applyBtn(); }), 0) << "apply";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::copy); }), 0) << "copy";
+    EXPECT_GT(ticksDuring([&] { perform(&Controller::applyBtn); }), 0) << "apply";
     EXPECT_FALSE(controller.getCurrentCustomEffect());
     EXPECT_EQ(undo.undoActionName(), "Apply");
 }
@@ -210,7 +208,7 @@ TEST_F(OpeningTest, StoppedPasteChangesNothing)
             QTest::keyClick(sheet, Qt::Key_Escape);
     });
     stop.start(20);
-    controller.paste();
+    perform(&Controller::paste);
     EXPECT_TRUE(isFormerPicture());
     EXPECT_EQ(undo.canUndo(), couldUndo);
 }

@@ -249,6 +249,7 @@ TEST_F(PanelTest, UnreadableFilesAreToldInTheStatusBar)
     file.close();
     well.setFilePath1(path);
     emit well.imageDropped();
+    waitUntilIdle();
     EXPECT_EQ(well.image(), shown);
     EXPECT_TRUE(ui.pictureInfoField->text().contains("broken.png")) << ui.pictureInfoField->text().toStdString();
     controller.undo();
@@ -256,6 +257,7 @@ TEST_F(PanelTest, UnreadableFilesAreToldInTheStatusBar)
     EXPECT_TRUE(controller.getCurrentFilter()->valueForKey("inputTexture").isImage());
     control<DropImageView>("imageView").setFilePath1(pictureFile("good.png", 20, 10));
     emit control<DropImageView>("imageView").imageDropped();
+    waitUntilIdle();
     EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputTexture").toImage().extent(), (CIRect{0, 0, 20, 10}));
 }
 

@@ -164,6 +164,7 @@ TEST_P(RandomUseTest, LeavesEverythingFitting)
         trace += std::string(" ") + name;
         SCOPED_TRACE(trace);
         run();
+        waitUntilIdle();
         QCoreApplication::processEvents();
         expectAllFits();
     }

@@ -140,7 +140,7 @@ protected:
     /// Through the disk, into a window that shows something else.
     void restoreElsewhere()
     {
-        const SessionState kept = controller.sessionState();
+        const SessionState kept = controller.session().state();
         {
             const auto session = SessionFolder::make(folder.path());
             ASSERT_TRUE(session && session->write(kept, kGoOn));
@@ -152,7 +152,7 @@ protected:
         ASSERT_EQ(found.size(), 1U);
         const std::optional<SessionState> state = found.front()->read();
         ASSERT_TRUE(state);
-        controller.restoreSession(*state);
+        controller.session().restore(*state);
         found.front()->remove();
     }
 };
@@ -160,7 +160,7 @@ protected:
 TEST_F(SessionTest, BringsPictureFilterAndModeBack)
 {
     openPicture(pictureFile("a.png", 60, 40));
-    controller.rotateLeft();
+    perform(&Controller::rotateLeft);
     const CIImage turned = controller.getImage(false);
     pick("CIGlassDistortion");
     controller.setFilterValueForKey(*controller.getCurrentFilter(), 123, "inputScale");
@@ -204,8 +204,8 @@ TEST_F(SessionTest, AsksForEachSessionUntilOneIsRestored)
         const auto session = SessionFolder::make(home);
         ASSERT_TRUE(session->write(kept, kGoOn));
     }
-    controller.startJournal(home);
-    answering({"Discard", "Restore"}, [&] { controller.offerRestore(home); });
+    controller.session().startJournal(home);
+    answering({"Discard", "Restore"}, [&] { controller.session().offerRestore(home); });
     EXPECT_EQ(controller.getImage(false).extent().width, 8);
     EXPECT_EQ(controller.getFilePath(), "/a/kept.png");
     EXPECT_EQ(QDir(home).entryList({"session-*"}, QDir::Dirs).size(), 1);

@@ -139,13 +139,13 @@ TEST_F(ThreeDTest, CopiesWhatTheViewShows)
 {
     openPicture(pictureFile("plain.png", 300, 200));
     choose(1);
-    controller.copy();
+    perform(&Controller::copy);
     const QImage copied = QGuiApplication::clipboard()->image();
     ASSERT_EQ(copied.size(), view.ogl_shot().size());
     EXPECT_EQ(copied.pixelColor(copied.rect().center()), QColor(200, 100, 50));
     EXPECT_EQ(copied.pixelColor(2, 2).alpha(), 0);
     controller.escapeEffect();
-    controller.copy();
+    perform(&Controller::copy);
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(300, 200)) << "the plain picture without an effect";
 }
 

@@ -45,7 +45,11 @@ protected:
             titles << (item->isChecked() ? "> " : "") + item->text();
         return titles;
     }
-    void choose(int line) { opened().actions().at(line)->trigger(); }
+    void choose(int line)
+    {
+        opened().actions().at(line)->trigger();
+        waitUntilIdle();
+    }
     double radius() { return controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(); }
     void setRadius(double value)
     {
@@ -61,7 +65,7 @@ TEST_F(UndoHistoryTest, GoesToAnyStepAndBack)
     EXPECT_FALSE(ui.menuUndoHistory->isEnabled());
     openPicture(pictureFile("plain.png", 60, 40));
     undo.removeAllActions();
-    controller.rotateLeft();
+    perform(&Controller::rotateLeft);
     const double width = controller.getBgImageExtent().width;
     pick("CIGaussianBlur");
     const double standard = radius();

@@ -35,13 +35,13 @@ QString WindowTest::pictureFile(const QString& name, int width, int height)
 void WindowTest::openPicture(const QString& path)
 {
     controller.openFile(path);
-    waitForPicture();
+    waitUntilIdle();
 }
 
-void WindowTest::waitForPicture()
+void WindowTest::waitUntilIdle()
 {
     constexpr int kPatience = 60'000; // ms, for a busy machine
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !controller.isOpening(); }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return controller.document().isIdle(); }, kPatience));
 }
 
 void WindowTest::click(const OutlineItem* row)
@@ -99,6 +99,7 @@ void WindowTest::answering(QStringList buttons, const std::function<void()>& ope
     });
     asked.start(0);
     operation();
+    waitUntilIdle();
     EXPECT_TRUE(buttons.isEmpty()) << "nobody asked for " << buttons.value(0).toStdString();
 }
 

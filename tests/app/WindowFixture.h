@@ -21,15 +21,22 @@ protected:
     /// Answers the path of a small picture file, `width` by `height` pixels of one color.
     QString pictureFile(const QString& name, int width, int height);
     void openPicture(const QString& path); // and wait for it
-    void waitForPicture();
+    void waitUntilIdle(); // what was asked for has been done
+    /// Has the controller do something that may take time, and waits for it.
+    template <class Operation, class... Arguments>
+    void perform(Operation operation, Arguments&&... arguments)
+    {
+        (controller.*operation)(std::forward<Arguments>(arguments)...);
+        waitUntilIdle();
+    }
     void pick(const QString& className); // a filter, as by a click
     const OutlineItem* groupOf(const QString& className) const;
     void click(const OutlineItem* row);
     QAction* action(const char* name) const { return window.findChild<QAction*>(QLatin1String(name)); }
-    /// Runs the operation, and presses the button of that text in the sheet that it opens.
-    static void answering(const QString& button, const std::function<void()>& operation);
+    /// Runs the operation to its end, and presses the button of that text in the sheet that it opens.
+    void answering(const QString& button, const std::function<void()>& operation);
     /// The same for several sheets, one after the other.
-    static void answering(QStringList buttons, const std::function<void()>& operation);
+    void answering(QStringList buttons, const std::function<void()>& operation);
 
     QTemporaryDir folder;
     MainWindow window;

@@ -27,7 +27,7 @@ TEST_F(WindowTest, MenusTellWhatCanBeDone)
     pick("CIGaussianBlur");
     EXPECT_TRUE(action("actionApply")->isEnabled());
     EXPECT_TRUE(action("actionClearEffect")->isEnabled());
-    controller.applyBtn();
+    perform(&Controller::applyBtn);
     EXPECT_EQ(action("actionUndo")->isEnabled(), undo.canUndo());
     action("action3D")->trigger();
     EXPECT_TRUE(action("action3D")->isChecked());

@@ -34,11 +34,10 @@ struct FakeParameterMaster : ParameterMaster {
     void beginChange() override { ++openChanges, log.push_back("begin"); }
     void endChange() override { --openChanges, log.push_back("end"); }
     CIValue standardValueForKey(const CIFilter&, const std::string& key) override { return standard[key]; }
-    std::optional<CIImage> readImage(const QString& path) override
+    void readImage(const QString& path, std::function<void(const CIImage&)> take) override
     {
-        if (path.contains("stopped"))
-            return {};
-        return path.contains("bad") ? CIImage() : picture;
+        if (!path.contains("stopped"))
+            take(path.contains("bad") ? CIImage() : picture);
     }
     void showReadFailure(const QString& path) override { log.push_back("failure " + path.toStdString()); }
     QStringList pictureNameFilters() override { return {"Pictures (*.png)"}; }

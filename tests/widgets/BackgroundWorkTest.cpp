@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
@@ -10,6 +11,7 @@
 
 #include <chrono>
 #include <new>
+#include <optional>
 #include <thread>
 
 namespace {
@@ -23,19 +25,24 @@ protected:
         window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     }
+    /// Does the work to its end; whether it was cancelled.
+    bool run(const WorkOptions& options, BackgroundWork::Work work)
+    {
+        std::optional<bool> isCancelled;
+        const BackgroundWork running(
+            &window, options, std::move(work), [&](bool cancelled) { isCancelled = cancelled; });
+        EXPECT_FALSE(isCancelled) << "never at once";
+        EXPECT_TRUE(QTest::qWaitFor([&] { return isCancelled.has_value(); }, 60'000));
+        return isCancelled.value_or(false);
+    }
     QWidget window;
-    WorkControl control{0.5};
 };
 
 TEST_F(BackgroundWorkTest, ShortWorkShowsNoSheet)
 {
     bool sheetSeen = false;
-    EXPECT_TRUE(workInBackground(&window, "Short", control, [&] {
-        EXPECT_TRUE(isWorkRunning());
-        sheetSeen = QApplication::activeModalWidget();
-    }));
+    EXPECT_FALSE(run({.title = "Short"}, [&](WorkControl&) { sheetSeen = QApplication::activeModalWidget(); }));
     EXPECT_FALSE(sheetSeen);
-    EXPECT_FALSE(isWorkRunning());
 }
 
 TEST_F(BackgroundWorkTest, LongWorkShowsHowFarItIsAndCanBeStopped)
@@ -52,21 +59,38 @@ TEST_F(BackgroundWorkTest, LongWorkShowsHowFarItIsAndCanBeStopped)
             sheet->findChild<QPushButton*>()->click();
     });
     alive.start(10);
-    EXPECT_FALSE(workInBackground(&window, "Long", control, [&] {
+    EXPECT_TRUE(run({.title = "Long", .renderingShare = 0.5}, [](WorkControl& control) {
         control.rendering.setProgress(1);
         control.writing.setProgress(0.5);
-        for (int i = 0; i < 1000 && !control.isCancelled(); ++i)
+        while (!control.writing.isCancelled())
             std::this_thread::sleep_for(10ms);
     }));
-    EXPECT_TRUE(control.writing.isCancelled());
     EXPECT_EQ(shown, 750);
     EXPECT_GT(ticks, 10) << "events went on";
     EXPECT_FALSE(QApplication::activeModalWidget());
 }
 
-TEST_F(BackgroundWorkTest, WithoutMemoryItFails)
+TEST_F(BackgroundWorkTest, KeysWaitForItUntilTheSheetIsThere)
 {
-    EXPECT_FALSE(workInBackground(&window, "Large", control, [] { throw std::bad_alloc(); }));
+    QLineEdit field(&window);
+    field.show();
+    BackgroundWork work(
+        &window, {},
+        [](WorkControl& control) {
+            while (!control.isCancelled())
+                std::this_thread::sleep_for(1ms);
+        },
+        [](bool) {});
+    QTest::keyClicks(&field, "a");
+    EXPECT_EQ(field.text(), "");
+    EXPECT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }, 60'000));
+    QTest::keyClicks(&field, "b");
+    EXPECT_EQ(field.text(), "b") << "what came before is forgotten";
+}
+
+TEST_F(BackgroundWorkTest, WithoutMemoryItEnds)
+{
+    EXPECT_FALSE(run({}, [](WorkControl&) { throw std::bad_alloc(); }));
 }
 
 } // namespace

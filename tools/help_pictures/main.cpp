@@ -105,9 +105,9 @@ void pickRow(OutlineView& list, const QModelIndex& row)
     QTest::qWait(kFrameTime);
 }
 
-class Session {
+class Tour {
 public:
-    explicit Session(const QDir& folder)
+    explicit Tour(const QDir& folder)
         : m_camera(folder)
     {
         m_controller.awakeFromNib();
@@ -139,10 +139,17 @@ private:
             Qt::MatchExactly | Qt::MatchRecursive);
         pickRow(*ui.listView, found.value(0));
     }
+    void waitUntilIdle()
+    {
+        while (!m_controller.document().isIdle())
+            QTest::qWait(kFrameTime);
+    }
     void undoAll()
     {
-        while (m_controller.undoManager()->canUndo())
+        while (m_controller.undoManager()->canUndo()) {
             m_controller.undoManager()->undo();
+            waitUntilIdle();
+        }
     }
     /// The filter's point, to a place of the view from 0 to 1.
     void dragPoint(double x, double y)
@@ -211,8 +218,10 @@ private:
     {
         undoAll();
         ui.actionRotateRight->trigger();
+        waitUntilIdle();
         pick("CISepiaTone");
         ui.applyBtn->click();
+        waitUntilIdle();
         QTest::qWait(kFrameTime);
         pick("CIColorControls");
         auto& saturation = *ui.placeCntrlView->findChild<ValueSlider*>();
@@ -287,8 +296,8 @@ int main(int argc, char** argv)
     }
     UserDefaults::standardUserDefaults().setFile(home.filePath(QStringLiteral("defaults.ini")));
     Appearance::shared().dressApplication();
-    Session session{QDir(application.arguments().at(1))};
-    if (session.run())
+    Tour tour{QDir(application.arguments().at(1))};
+    if (tour.run())
         return 0;
     std::fputs("The pictures could not be written.\n", stderr);
     return 1;

@@ -1,0 +1,11 @@
+// Quarter turns and mirror flips of pictures.
+#pragma once
+
+#include "platform/coreimage/CIImage.h"
+
+/// Turned by a quarter, counter-clockwise when `left`, with the lower left corner at the origin. The pixels of bitmaps
+/// only change places: nothing is lost. Null for an image without end.
+CIImage rotatedPicture(const CIImage& picture, bool left);
+
+/// Upside down when `vertical`, else with left and right exchanged.
+CIImage flippedPicture(const CIImage& picture, bool vertical);
