@@ -1,6 +1,7 @@
 #include "app/Controller.h"
 
 #include "app/catalogue/OutlineView.h"
+#include "app/commands/Commands.h"
 #include "app/window/MainWindow.h"
 #include "controls/picture/MyImageView.h"
 #include "ui_MainWindow.h"
@@ -9,8 +10,8 @@ void Controller::showPicture()
 {
     for (Mode* mode : m_modes.modes())
         mode->pictureChanged();
-    fitZoom(); // the views lay themselves out for what the effects make of it
-    updatePictureInfo();
+    m_zooming.fit(); // the views lay themselves out for what the effects make of it
+    m_status.update();
     const CIRect extent = getBgImageExtent();
     ResizePanel::setWHH(float(extent.width), float(extent.height));
     updateView();
@@ -59,7 +60,7 @@ CIImage Controller::coreImageResult(bool overBlack)
     return overBlack && !hasMissingImage() ? ::overBlack(result) : result;
 }
 
-void Controller::splitView() { m_standard.split(ui.actionSplitView->isChecked()); }
+void Controller::splitView() { m_standard.split(m_window.commands().action("actionSplitView").isChecked()); }
 
 void Controller::addFavourite()
 {

@@ -17,6 +17,8 @@
 #include "app/modes/StandardMode.h"
 #include "app/modes/ThreeDMode.h"
 #include "app/window/Sight.h"
+#include "app/window/StatusRow.h"
+#include "app/window/Zooming.h"
 #include "controls/panel/BezelStyle.h"
 #include "controls/panel/ParameterMaster.h"
 #include "controls/picture/ImageViewMaster.h"
@@ -43,7 +45,6 @@ class OutlineView;
 class QAbstractButton;
 class QLabel;
 class QSessionManager;
-class QSlider;
 class customEffImageView;
 
 namespace Ui {
@@ -79,7 +80,7 @@ public:
     // Modes
     unsigned filerMode() const { return m_modes.filerMode(); }
     void changeFilterMode(QAbstractButton* sender) { m_modes.changeFilterMode(sender); }
-    void selectMenuMode(const QAction* sender) { m_modes.selectMenuMode(sender->data().toInt()); }
+    void selectMenuMode(int tag) { m_modes.selectMenuMode(tag); }
     void adjustViewsAndTabs() { m_modes.showCurrent(); }
     void escapeEffect();
     void clearAll() { m_modes.current().clear(); }
@@ -171,14 +172,10 @@ public:
     void copy() { m_clipboard.copy(); }
     void paste() { m_clipboard.paste(); }
     void undoPaste(const CIImage& image) { m_document.replaceByForeignPicture(image); }
-    void zoomChanged();
-    void setZoom(float zoom) override; // moves the slider only
-    void updateZoommWithDelta(double delta) override;
-    void zoomTo(float zoom); // slider and view
-    bool canZoom() const { return m_modes.current().canvas(); }
-    void zoomIn();
-    void zoomOut();
-    void zoomToFit();
+    Zooming& zooming() { return m_zooming; }
+    void zoomChanged() { m_zooming.takeSlider(); }
+    void setZoom(float zoom) override { m_zooming.setZoom(zoom); } // moves the slider only
+    void updateZoommWithDelta(double delta) override { m_zooming.zoomBy(delta); }
 
     // Before and after
     bool canCompare() const { return m_standard.isEdited(); }
@@ -189,7 +186,6 @@ public:
     void openImg();
     void openImgPanelDidEnd(int returnCode, const QStringList& files) { m_opening.panelDidEnd(returnCode, files); }
     void setFilePath(const QString& path) { m_document.setFilePath(path); } // empty for none
-    void showInfoPanel(); // or hides it
     QString getFilePath() const { return m_document.filePath(); }
     void updateWinTitle();
     void showReadFailure(const QString& path) override;
@@ -263,7 +259,14 @@ public:
     /// Enables, names and ticks the item; answers whether it is enabled.
     bool validateMenuItem(QAction& item);
     void validateMenuItems();
+    MainWindow& window() { return m_window; }
     QMenu* contextMenu() override { return contentMenuOutlet; }
+    void showInfoPanel(); // or hides it, when it is there already
+    void showResizePanel();
+    bool isInfoPanelShown() const;
+    bool isResizePanelShown() const;
+    void fillRecentMenu(QMenu& menu);
+    void fillUndoHistoryMenu(QMenu& menu);
     void displayHelp();
     void orderFrontAboutPanel();
 
@@ -292,21 +295,13 @@ private:
     void showOpening();
     void hideOpening();
     void setEditable(bool on);
-    bool isFree(const QAction& item) const;
     void commitData(QSessionManager& session);
     void saveEdits(SessionState& state, const CIImage& picture);
     void restoreEdits(const SessionState& state);
     void connectInterface();
-    void connectActions();
-    void connectZoom();
     void restoreWindowFrame();
-    void fitZoom();
-    void showZoom();
     void showZoomOfMode();
-    void updatePictureInfo();
-    void showMessage(const QString& text);
-    void fillRecentMenu();
-    void fillUndoHistoryMenu();
+    void showMessage(const QString& text) { m_status.showMessage(text); }
     void connectDocument();
     void showPicture();
     void showItem();
@@ -316,6 +311,7 @@ private:
     MainWindow& m_window;
     Ui::MainWindow& ui;
     Document m_document;
+    StatusRow m_status;
     Opening m_opening;
     Turning m_turning;
     Resizing m_resizing;
@@ -325,12 +321,9 @@ private:
     UndoManager& m_undoManager; // the document's
 
     // The interface, by the names under which it is known.
-    QSlider* zoomSlider;
-    QWidget* zoomSuperView;
     MyImageView* ciView;
     MyOGLView* openGLView;
     customEffImageView* customEffectsView;
-    QAbstractButton* pasteBtn;
     QMenu* contentMenuOutlet;
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;
@@ -343,9 +336,7 @@ private:
     ThreeDMode m_threeD;
     CustomMode m_custom;
     ModeSwitch m_modes;
+    Zooming m_zooming;
 
     std::vector<Sight> m_sights; // of the former picture, while a reduced one stands in for the new one
-    QTimer m_openingTick;
-    QPointer<QWidget> m_formerFocus; // before the window was closed to edits
-    QTimer m_messageEnd;
 };

@@ -1,10 +1,12 @@
 #include "app/catalogue/OutlineView.h"
+#include "app/commands/Commands.h"
 #include "app/Controller.h"
 #include "app/document/PictureOpening.h"
 #include "app/window/MainWindow.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
+#include "effects2d/GeneratedEffect.h"
 #include "effects3d/MyOGLView.h"
 #include "effects3d/ThreeDStage.h"
 #include "platform/coreimage/CIPlugIn.h"
@@ -33,6 +35,7 @@ Controller::Controller(MainWindow& window)
     : m_window(window)
     , ui(window.interface())
     , m_document(&window)
+    , m_status(m_document, {window, *ui.pictureInfoField, *ui.openingBar, *ui.openingCancelBtn})
     , m_opening(m_document, [this] { return reducedSide(); })
     , m_turning(m_document)
     , m_resizing(m_document, &window)
@@ -43,15 +46,12 @@ Controller::Controller(MainWindow& window)
           {[this](SessionState& state, const CIImage& picture) { saveEdits(state, picture); },
               [this](const SessionState& state) { restoreEdits(state); }})
     , m_undoManager(m_document.undoManager())
-    , zoomSlider(ui.zoomSlider)
-    , zoomSuperView(ui.zoomSuperView)
     , ciView(ui.pictureScrollView->imageView())
     , openGLView(ui.openGLStage->openGLView())
     , customEffectsView(ui.customEffectsScrollView->imageView())
-    , pasteBtn(ui.pasteBtn)
-    , contentMenuOutlet(window.contextMenu())
+    , contentMenuOutlet(&window.commands().contextMenu())
     , m_changes(m_undoManager)
-    , m_catalogue(*ui.listView, *ui.actionThumbnails, m_filters)
+    , m_catalogue(*ui.listView, window.commands().action("actionThumbnails"), m_filters)
     , m_panel(*ui.placeCntrlView, *ui.controlScrollArea, *ciView, *this)
     , m_standard(modeParts(ui, ui.standardBtn, ui.listView, ui.m_pageController, ui.placeCntrlView),
           {m_document, m_filters, m_changes, m_catalogue, m_panel, *ciView})
@@ -62,9 +62,14 @@ Controller::Controller(MainWindow& window)
           *customEffectsView, m_threeD, m_document)
     , m_modes(
           {&m_standard, &m_threeD, &m_custom}, {ui.filterTabView, ui.favoritesTabView, ui.mainTabView}, m_undoManager)
+    , m_zooming(*ui.zoomSlider, *ui.zoomField, *ui.pictureScrollView,
+          {{*ciView, {}}, {*customEffectsView, GeneratedEffect::kCanvasWithoutPicture}},
+          {[this] { return m_modes.current().canvas(); },
+              [this] {
+                  const CIRect extent = m_document.picture().extent();
+                  return QSizeF(extent.width, extent.height);
+              }})
 {
-    m_messageEnd.setSingleShot(true);
-    connect(&m_messageEnd, &QTimer::timeout, this, &Controller::updatePictureInfo);
     ciView->setContext(m_document.context());
     ciView->setController(this);
     openGLView->setController(this);

@@ -13,7 +13,6 @@ public:
     explicit CatalogueSearch(QObject* parent = nullptr);
 
     void setText(const QString& text);
-    bool isSearching() const { return !m_words.isEmpty(); }
     /// The first row that is no group, or an invalid index.
     QModelIndex firstMatch() const;
 

@@ -7,31 +7,12 @@
 #include "effects2d/customEffImageView.h"
 #include "files/ResizePanel.h"
 #include "ui_MainWindow.h"
-#include "widgets/BackgroundWork.h"
 
-#include <QAccessible>
 #include <QFileInfo>
 #include <QScreen>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
-
-namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto kTick = 50ms;
-
-bool worksWhileOpening(const QAction& item, const Ui::MainWindow& ui)
-{
-    const QAction* const harmless[] = {ui.actionOpen, ui.actionQuit, ui.actionInfo, ui.actionThumbnails,
-        ui.actionHistogram, ui.actionFollowDesktop, ui.actionLight, ui.actionDark, ui.actionFullScreen, ui.actionHelp,
-        ui.actionAbout};
-    return std::find(std::begin(harmless), std::end(harmless), &item) != std::end(harmless);
-}
-
-} // namespace
 
 void Controller::readImage(const QString& path, std::function<void(const CIImage&)> take)
 {
@@ -51,9 +32,8 @@ void Controller::connectOpening()
     connect(&m_opening, &Opening::cancelled, this, [this] {
         for (const Sight& sight : std::exchange(m_sights, {}))
             sight.restore();
-        if (const ZoomedCanvas* canvas = m_modes.current().canvas())
-            setZoom(canvas->getZoom());
-        updatePictureInfo();
+        m_zooming.show();
+        m_status.update();
         hideOpening();
     });
     connect(&m_opening, &Opening::finished, this, [this] {
@@ -62,7 +42,6 @@ void Controller::connectOpening()
     });
     connect(&m_opening, &Opening::opened, this, [this] { m_session.markClean(); });
     connect(&m_opening, &Opening::notRead, this, &Controller::showReadFailure);
-    m_openingTick.callOnTimeout(this, [this] { showProgressOn(*ui.openingBar, m_opening.progress()); });
 }
 
 /// What the window has room for; before it is on the screen, what the screen has.
@@ -80,43 +59,25 @@ QString Controller::openingText(const QString& path) const
     return tr("Opening “%1”…").arg(m_window.fontMetrics().elidedText(name, Qt::ElideMiddle, kWidest));
 }
 
-/// In the status bar; nothing can be edited from now on.
+/// Nothing can be edited from now on.
 void Controller::showOpening()
 {
-    m_formerFocus = m_window.focusWidget();
-    m_window.setFocus();
+    m_status.showProgress(openingText(m_opening.path()), [this] { return m_opening.progress(); });
     setEditable(false);
-    updatePictureInfo();
-    QAccessibleEvent alert(ui.pictureInfoField, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-    m_openingTick.start(kTick);
-    showProgressOn(*ui.openingBar, m_opening.progress());
-    ui.openingBar->setAccessibleName(ui.pictureInfoField->text());
-    ui.openingBar->show();
-    ui.openingCancelBtn->show();
 }
 
 void Controller::hideOpening()
 {
-    m_openingTick.stop();
-    const QWidget* const focus = m_window.focusWidget();
-    const bool isNobodys = !focus || focus == &m_window || focus == ui.openingCancelBtn;
-    ui.openingBar->hide();
-    ui.openingCancelBtn->hide();
     setEditable(true);
-    if (QWidget* former = std::exchange(m_formerFocus, nullptr); former && isNobodys)
-        former->setFocus();
+    m_status.endProgress();
 }
 
 void Controller::setEditable(bool on)
 {
     for (QWidget* part : {static_cast<QWidget*>(ui.sideBar), static_cast<QWidget*>(ui.mainTabView),
-             static_cast<QWidget*>(ui.controlPanel), static_cast<QWidget*>(ui.modeGroup), zoomSuperView,
-             static_cast<QWidget*>(m_resizePanel)})
+             static_cast<QWidget*>(ui.controlPanel), static_cast<QWidget*>(ui.modeGroup),
+             static_cast<QWidget*>(ui.zoomSuperView), static_cast<QWidget*>(m_resizePanel)})
         if (part)
             part->setEnabled(on);
     updateMainBtnState();
 }
-
-/// Whether an opening that is shown leaves the item alone.
-bool Controller::isFree(const QAction& item) const { return !m_opening.isShown() || worksWhileOpening(item, ui); }

@@ -22,9 +22,8 @@ void Controller::goInUndoHistory(int moves)
     m_document.whenIdle([this, rest = moves < 0 ? moves + 1 : moves - 1] { goInUndoHistory(rest); });
 }
 
-void Controller::fillUndoHistoryMenu()
+void Controller::fillUndoHistoryMenu(QMenu& menu)
 {
-    QMenu& menu = *ui.menuUndoHistory;
     menu.clear();
     for (const UndoHistoryLine& line :
         undoHistoryLines(m_undoManager.undoActionNames(), m_undoManager.redoActionNames(), kLines)) {

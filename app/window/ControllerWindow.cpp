@@ -25,7 +25,7 @@ void Controller::windowDidResize()
 
 void Controller::windowDidBecomeVisible()
 {
-    fitZoom(); // only now the picture's area has its size
+    m_zooming.fit(); // only now the picture's area has its size
 }
 
 void Controller::keyUp(int key)

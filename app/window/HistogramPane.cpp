@@ -12,18 +12,18 @@ const QString kHiddenKey = QStringLiteral("HistogramHidden");
 
 } // namespace
 
-void installHistogram(Ui::MainWindow& ui)
+void installHistogram(Ui::MainWindow& ui, QAction& choice)
 {
     auto* view = ui.pictureScrollView->imageView();
     auto* histogram = ui.histogramView;
     histogram->setSource([view] { return view->shownFrame(); });
     QObject::connect(view, &MyImageView::frameShown, histogram, &HistogramView::sourceChanged);
 
-    ui.actionHistogram->setChecked(!UserDefaults::standardUserDefaults().objectForKey(kHiddenKey).toBool());
-    const auto follow = [row = ui.histogramRow, action = ui.actionHistogram, pages = ui.mainTabView] {
-        row->setVisible(action->isChecked() && pages->currentIndex() == 0);
+    choice.setChecked(!UserDefaults::standardUserDefaults().objectForKey(kHiddenKey).toBool());
+    const auto follow = [row = ui.histogramRow, &choice, pages = ui.mainTabView] {
+        row->setVisible(choice.isChecked() && pages->currentIndex() == 0);
     };
-    QObject::connect(ui.actionHistogram, &QAction::toggled, histogram, [follow](bool shown) {
+    QObject::connect(&choice, &QAction::toggled, histogram, [follow](bool shown) {
         UserDefaults::standardUserDefaults().setObjectForKey(!shown, kHiddenKey);
         follow();
     });

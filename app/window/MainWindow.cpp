@@ -1,6 +1,7 @@
 #include "app/window/MainWindow.h"
 
 #include "app/catalogue/OutlineView.h"
+#include "app/commands/Commands.h"
 #include "app/Controller.h"
 #include "app/window/HistogramPane.h"
 #include "app/window/WindowGestures.h"
@@ -18,7 +19,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QShortcut>
 
@@ -32,19 +32,13 @@ constexpr Qt::Key kCompareKey = Qt::Key_F7; // on every keyboard, and no text fi
 
 MainWindow::MainWindow()
     : ui(std::make_unique<Ui::MainWindow>())
-    , m_contextMenu(new QMenu(this))
 {
     ui->setupUi(this);
+    m_commands = std::make_unique<Commands>(*this);
     setAcceptDrops(true);
     setLayout();
     setIcons();
-    setShortcuts();
     setButtons();
-    m_contextMenu->addActions({ui->actionApply, ui->actionClearEffect});
-    m_contextMenu->addSeparator();
-    m_contextMenu->addActions({ui->actionCopy, ui->actionPaste});
-    m_contextMenu->addSeparator();
-    m_contextMenu->addActions({ui->actionZoomIn, ui->actionZoomOut, ui->actionActualSize, ui->actionFit});
     dress();
     connect(&Appearance::shared(), &Appearance::changed, this, &MainWindow::dress);
 }
@@ -66,42 +60,12 @@ void MainWindow::setLayout()
     ui->searchField->installEventFilter(this);
     ui->listView->installEventFilter(this);
     m_gestures = std::make_unique<WindowGestures>(*this, *ui);
-    connect(ui->actionFindFilter, &QAction::triggered, ui->searchField, [this] {
-        ui->searchField->setFocus(Qt::ShortcutFocusReason);
-        ui->searchField->selectAll();
-    });
-    connect(ui->actionFullScreen, &QAction::triggered, this,
-        [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
-    installHistogram(*ui);
+    installHistogram(*ui, m_commands->action("actionHistogram"));
     ui->listView->setFocus();
 }
 
 void MainWindow::setIcons()
 {
-    const std::pair<QAction*, const char*> icons[] = {
-        {ui->actionOpen, "open"},
-        {ui->actionSave, "save"},
-        {ui->actionRotateLeft, "rotate-left"},
-        {ui->actionRotateRight, "rotate-right"},
-        {ui->actionFlipHorizont, "flip-horizontal"},
-        {ui->actionFlipVert, "flip-vertical"},
-        {ui->actionResize, "resize"},
-        {ui->actionInfo, "info"},
-        {ui->actionCopy, "copy"},
-        {ui->actionUndo, "undo"},
-        {ui->actionRedo, "redo"},
-        {ui->actionPaste, "paste"},
-        {ui->actionZoomIn, "zoom-in"},
-        {ui->actionZoomOut, "zoom-out"},
-        {ui->actionActualSize, "actual-size"},
-        {ui->actionFit, "fit"},
-        {ui->actionSplitView, "split"},
-        {ui->actionAddFavourite, "favourite-add"},
-    };
-    for (const auto& [action, name] : icons) {
-        action->setIcon(tintedIcon(QLatin1String(name)));
-        action->setIconVisibleInMenu(false);
-    }
     ui->standardBtn->setIcon(tintedIcon(QStringLiteral("mode-standard")));
     ui->threeDBtn->setIcon(tintedIcon(QStringLiteral("mode-3d")));
     ui->customBtn->setIcon(tintedIcon(QStringLiteral("mode-custom")));
@@ -111,78 +75,12 @@ void MainWindow::setIcons()
     setWindowIcon(QIcon(QStringLiteral(":/icons/io.github.lumivex.Lumivex.svg")));
 }
 
-void MainWindow::setShortcuts()
-{
-    // Written out: the platform leaves some of the standard ones empty.
-    const std::pair<QAction*, QList<QKeySequence>> shortcuts[] = {
-        {ui->actionOpen, {Qt::CTRL | Qt::Key_O}},
-        {ui->actionSave, {Qt::CTRL | Qt::Key_S}},
-        {ui->actionSaveAs, {Qt::CTRL | Qt::SHIFT | Qt::Key_S}},
-        {ui->actionQuit, {Qt::CTRL | Qt::Key_Q}},
-        {ui->actionUndo, {Qt::CTRL | Qt::Key_Z}},
-        {ui->actionRedo, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}},
-        {ui->actionCopy, {Qt::CTRL | Qt::Key_C}},
-        {ui->actionResetInputs, {Qt::CTRL | Qt::Key_Backspace}},
-        {ui->actionRandomizeInputs, {Qt::CTRL | Qt::SHIFT | Qt::Key_R}},
-        {ui->actionRotateLeft, {Qt::CTRL | Qt::Key_L}},
-        {ui->actionRotateRight, {Qt::CTRL | Qt::Key_R}},
-        {ui->actionFlipHorizont, {Qt::CTRL | Qt::SHIFT | Qt::Key_H}},
-        {ui->actionFlipVert, {Qt::CTRL | Qt::SHIFT | Qt::Key_V}},
-        {ui->actionInfo, {Qt::CTRL | Qt::Key_I}},
-        {ui->actionResize, {Qt::CTRL | Qt::ALT | Qt::Key_I}},
-        {ui->actionPaste, {Qt::CTRL | Qt::Key_V}},
-        {ui->actionAddFavourite, {Qt::CTRL | Qt::Key_D}},
-        {ui->actionRemoveFavourite, {Qt::CTRL | Qt::SHIFT | Qt::Key_D}},
-        {ui->actionFindFilter, {Qt::CTRL | Qt::Key_F}},
-        {ui->actionApply, {Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter}},
-        {ui->actionClearEffect, {Qt::Key_Escape}},
-        {ui->actionStandard, {Qt::ALT | Qt::Key_1}},
-        {ui->action3D, {Qt::ALT | Qt::Key_2}},
-        {ui->actionCustom, {Qt::ALT | Qt::Key_3}},
-        {ui->actionZoomIn, {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}},
-        {ui->actionZoomOut, {Qt::CTRL | Qt::Key_Minus}},
-        {ui->actionActualSize, {Qt::CTRL | Qt::Key_1, Qt::CTRL | Qt::ALT | Qt::Key_0}},
-        {ui->actionFit, {Qt::CTRL | Qt::Key_0}},
-        {ui->actionSplitView, {Qt::Key_F8}},
-        {ui->actionHistogram, {Qt::CTRL | Qt::ALT | Qt::Key_H}},
-        {ui->actionFullScreen, {Qt::Key_F11}},
-        {ui->actionHelp, {Qt::Key_F1}},
-    };
-    for (const auto& [action, keys] : shortcuts)
-        action->setShortcuts(keys);
-    ui->actionQuit->setMenuRole(QAction::QuitRole);
-    ui->actionAbout->setMenuRole(QAction::AboutRole);
-    const auto* nextPane = new QShortcut(Qt::Key_F6, this);
-    connect(nextPane, &QShortcut::activated, this, &MainWindow::focusNextPane);
-}
-
 void MainWindow::setButtons()
 {
-    const std::pair<QToolButton*, QAction*> buttons[] = {
-        {ui->openBtn, ui->actionOpen},
-        {ui->saveBtn, ui->actionSave},
-        {ui->rotateLeftBtn, ui->actionRotateLeft},
-        {ui->rotateRightBtn, ui->actionRotateRight},
-        {ui->flipHorizontBtn, ui->actionFlipHorizont},
-        {ui->flipVertBtn, ui->actionFlipVert},
-        {ui->resizeBtn, ui->actionResize},
-        {ui->infoBtn, ui->actionInfo},
-        {ui->copyBtn, ui->actionCopy},
-        {ui->undoBtn, ui->actionUndo},
-        {ui->redoBtn, ui->actionRedo},
-        {ui->pasteBtn, ui->actionPaste},
-        {ui->splitBtn, ui->actionSplitView},
-        {ui->fitBtn, ui->actionFit},
-        {ui->actualSizeBtn, ui->actionActualSize},
-        {ui->addFavouriteBtn, ui->actionAddFavourite},
-    };
-    for (const auto& [button, action] : buttons) {
-        const QString tip = button->toolTip();
-        action->setToolTip(QStringLiteral("%1 (%2)").arg(tip, action->shortcut().toString(QKeySequence::NativeText)));
-        button->setDefaultAction(action);
-    }
+    const auto* nextPane = new QShortcut(Qt::Key_F6, this);
+    connect(nextPane, &QShortcut::activated, this, &MainWindow::focusNextPane);
     ui->applyBtn->setProperty("prominent", true);
-    ui->openingCancelBtn->setShortcut(Qt::Key_Escape); // while it is there, nothing else has the key
+    ui->openingCancelBtn->setShortcut(Qt::Key_Escape); // while the button is shown, Escape means nothing else
     connect(ui->compareBtn, &QAbstractButton::pressed, this, [this] { emit compareHeld(true); });
     connect(ui->compareBtn, &QAbstractButton::released, this, [this] { emit compareHeld(false); });
 }
@@ -211,6 +109,20 @@ void MainWindow::dress()
                 look.panel, look.text, look.separator, look.secondaryText));
     ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }", look.surround));
 }
+
+void MainWindow::setController(Controller* controller)
+{
+    m_controller = controller;
+    m_commands->setController(controller);
+}
+
+void MainWindow::findFilter()
+{
+    ui->searchField->setFocus(Qt::ShortcutFocusReason);
+    ui->searchField->selectAll();
+}
+
+void MainWindow::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
 
 void MainWindow::focusNextPane()
 {
@@ -303,7 +215,7 @@ void MainWindow::dropEvent(QDropEvent* event)
         m_controller->openDroppedFile(onlyDroppedFile(*event->mimeData()));
 }
 
-/// As if the button were held.
+/// Does what the button does while it is held.
 void MainWindow::holdCompareKey(bool held)
 {
     if (held && ui->compareBtn->isEnabled())
@@ -365,7 +277,6 @@ bool MainWindow::foundListEvent(QEvent* event)
         event->accept();
         return true;
     }
-    ui->searchField->setFocus(Qt::ShortcutFocusReason);
-    ui->searchField->selectAll();
+    findFilter();
     return true;
 }

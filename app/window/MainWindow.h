@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class Commands;
 class Controller;
 class WindowGestures;
 
@@ -22,10 +23,11 @@ public:
     ~MainWindow() override;
 
     Ui::MainWindow& interface() { return *ui; }
-    /// The menu of a right click on the picture.
-    QMenu* contextMenu() { return m_contextMenu; }
-    /// Is told of what happens to the window; null for nobody.
-    void setController(Controller* controller) { m_controller = controller; }
+    Commands& commands() { return *m_commands; }
+    /// Is told of what happens to the window, and carries out its commands; null for nobody.
+    void setController(Controller* controller);
+    void findFilter(); // moves the keyboard to the search
+    void toggleFullScreen();
 
 signals:
     /// The button for looking at the picture without the filter, or its key, is held down or let go.
@@ -44,7 +46,6 @@ protected:
 
 private:
     void setIcons();
-    void setShortcuts();
     void setButtons();
     void setLayout();
     void dress();
@@ -54,8 +55,8 @@ private:
     void holdCompareKey(bool held);
 
     std::unique_ptr<Ui::MainWindow> ui;
+    std::unique_ptr<Commands> m_commands;
     std::unique_ptr<WindowGestures> m_gestures; // gone before what it watches
-    QMenu* m_contextMenu = nullptr;
     Controller* m_controller = nullptr;
     QSet<int> m_pressedKeys; // whose releases are for this window: those after a sheet's Escape are not
     bool m_wasShown = false;

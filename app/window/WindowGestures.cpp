@@ -13,10 +13,9 @@ WindowGestures::WindowGestures(MainWindow& window, Ui::MainWindow& interface)
     , ui(interface)
 {
     window.installEventFilter(this); // gets what nobody in the window took
-    ui.zoomField->installEventFilter(this);
 }
 
-/// None in 3D mode.
+/// The canvas that is seen; null in 3D mode, which has none.
 ZoomedCanvas* WindowGestures::shownCanvas() const
 {
     for (QAbstractScrollArea* area : {static_cast<QAbstractScrollArea*>(ui.pictureScrollView),
@@ -32,19 +31,9 @@ void WindowGestures::holdSpace(bool held)
         canvas->setSpaceHeld(held);
 }
 
-void WindowGestures::toggleZoom()
-{
-    if (const ZoomedCanvas* canvas = shownCanvas())
-        (canvas->getZoom() == 1 ? ui.actionFit : ui.actionActualSize)->trigger();
-}
-
 bool WindowGestures::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if (watched == ui.zoomField && type == QEvent::MouseButtonDblClick) {
-        toggleZoom();
-        return true;
-    }
     if (watched != &m_window)
         return false;
     if (type == QEvent::WindowDeactivate)

@@ -11,7 +11,6 @@ class MainWindow;
 }
 
 /// The space bar held moves the picture about wherever the keyboard is, except where it types or presses something.
-/// A double click on the zoom goes to actual size, and from there to the whole picture.
 class WindowGestures : public QObject {
     Q_OBJECT
 
@@ -24,7 +23,6 @@ protected:
 private:
     ZoomedCanvas* shownCanvas() const;
     void holdSpace(bool held);
-    void toggleZoom();
 
     MainWindow& m_window;
     Ui::MainWindow& ui;

@@ -152,7 +152,7 @@ TEST_F(CustomModeTest, TheMousePlacesTheAnchorWithTwoStepsForUndo)
 TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
 {
     pickRow(kPlasma);
-    controller.zoomTo(1);
+    controller.zooming().zoomTo(1);
     EXPECT_EQ(view().getZoom(), 1);
     EXPECT_EQ(ui.zoomField->text(), "100 %");
     const auto turn = [this](int delta) {
@@ -168,7 +168,7 @@ TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
     EXPECT_EQ(ui.zoomField->text(), "126 %");
     const float zoom = view().getZoom();
     QTest::mouseClick(ui.standardBtn, Qt::LeftButton);
-    controller.zoomTo(2);
+    controller.zooming().zoomTo(2);
     QTest::mouseClick(ui.customBtn, Qt::LeftButton);
     EXPECT_EQ(view().getZoom(), zoom) << "each mode has its own";
     EXPECT_EQ(ui.zoomField->text(), "126 %");

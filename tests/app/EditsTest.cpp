@@ -304,16 +304,16 @@ TEST_F(EditsTest, RecentFilesAreInTheirMenu)
     openPicture(first);
     openPicture("/nowhere.png");
     EXPECT_EQ(RecentFiles::list(), QStringList({first, second}));
-    emit ui.menuRecent->aboutToShow();
-    ASSERT_GE(ui.menuRecent->actions().size(), 2);
-    ui.menuRecent->actions().at(1)->trigger();
+    emit menu("menuRecent").aboutToShow();
+    ASSERT_GE(menu("menuRecent").actions().size(), 2);
+    menu("menuRecent").actions().at(1)->trigger();
     waitUntilIdle();
     EXPECT_EQ(controller.getFilePath(), second);
     EXPECT_TRUE(QFile::remove(first));
     EXPECT_EQ(RecentFiles::list(), QStringList{second}) << "files that are gone are left out";
     EXPECT_EQ(
         RecentFiles::titles({"/a/x.png", "/b/x.png", "/b/y.png"}), QStringList({"x.png (/a)", "x.png (/b)", "y.png"}));
-    ui.menuRecent->actions().last()->trigger();
+    menu("menuRecent").actions().last()->trigger();
     EXPECT_TRUE(RecentFiles::list().isEmpty());
 }
 

@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 
+#include "app/commands/Command.h"
 #include "app/window/HelpPage.h"
 #include "app/window/HelpWindow.h"
 #include "platform/foundation/Appearance.h"
@@ -102,7 +103,7 @@ TEST_F(HelpTest, EveryLanguageHasTheWholeBook)
 {
     EXPECT_EQ(languages(), QStringList({"de", "fr"}));
     for (const QString& language : languages()) {
-        EXPECT_EQ(QDir(book().filePath(language)).entryList(QDir::Files), pages());
+        EXPECT_EQ(QDir(book().filePath(language)).entryList({"*.html"}), pages());
         for (const QString& page : pages()) {
             SCOPED_TRACE((language + '/' + page).toStdString());
             const QString text = textOf(language + '/' + page);
@@ -136,6 +137,14 @@ TEST_F(HelpTest, PagesNameTheKeysOfTheMenus)
         }
     EXPECT_EQ(
         HelpPage::withKeys("a {actionOpen} b {noAction}", window), "a <span class=\"key\">Ctrl+O</span> b {noAction}");
+}
+
+TEST_F(HelpTest, ThePageOfKeysHasEveryCommandThatHasOne)
+{
+    const QStringList named = all("\\{(\\w+)\\}", textOf("keys.html"));
+    for (const Command& menu : Command::all())
+        for (const Command& command : menu.items)
+            EXPECT_EQ(named.count(QLatin1String(command.name)), command.keys.isEmpty() ? 0 : 1) << command.name;
 }
 
 TEST_F(HelpTest, F1OpensTheBookOnceAndListsItsPages)

@@ -1,3 +1,4 @@
+#include "app/commands/Commands.h"
 #include "controls/picture/HistogramView.h"
 
 #include "WindowFixture.h"
@@ -107,7 +108,7 @@ TEST_F(HistogramTest, CanBeHiddenAndStaysSo)
         MainWindow second;
         second.show();
         EXPECT_FALSE(second.interface().histogramView->isVisible());
-        EXPECT_FALSE(second.interface().actionHistogram->isChecked());
+        EXPECT_FALSE(second.commands().action("actionHistogram").isChecked());
     }
     pick("CIColorInvert");
     action("actionHistogram")->trigger();

@@ -40,7 +40,7 @@ protected:
 TEST_F(KeysTest, SpaceMovesThePictureWhereverTheKeyboardIs)
 {
     pick("CIBumpDistortion");
-    controller.zoomTo(4);
+    controller.zooming().zoomTo(4);
     QCoreApplication::processEvents();
     const auto center = [&] { return controller.getCurrentFilter()->valueForKey("inputCenter"); };
     auto* slider = ui.placeCntrlView->findChild<ValueSlider*>();
@@ -63,7 +63,7 @@ TEST_F(KeysTest, SpaceMovesThePictureWhereverTheKeyboardIs)
 
 TEST_F(KeysTest, SpaceIsTextInFieldsAndPressesButtons)
 {
-    controller.zoomTo(4);
+    controller.zooming().zoomTo(4);
     for (QWidget* focused : std::array<QWidget*, 2>{ui.searchField, ui.fitBtn}) {
         focused->setFocus();
         QTest::keyPress(focused, Qt::Key_Space);
@@ -82,7 +82,7 @@ TEST_F(KeysTest, SpaceIsTextInFieldsAndPressesButtons)
 
 TEST_F(KeysTest, SpaceEndsWithTheWindow)
 {
-    controller.zoomTo(4);
+    controller.zooming().zoomTo(4);
     ui.listView->setFocus();
     QTest::keyPress(ui.listView, Qt::Key_Space);
     QWidget other;
@@ -124,7 +124,7 @@ TEST_F(KeysTest, DoubleClickOnTheZoomGoesToActualSizeAndBack)
     EXPECT_EQ(ui.zoomField->text(), "100 %");
     QTest::mouseDClick(ui.zoomField, Qt::LeftButton);
     EXPECT_EQ(view.getZoom(), fitting);
-    controller.zoomTo(3);
+    controller.zooming().zoomTo(3);
     QTest::mouseDClick(ui.zoomField, Qt::LeftButton);
     EXPECT_EQ(view.getZoom(), 1);
 }

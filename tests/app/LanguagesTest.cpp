@@ -103,7 +103,7 @@ protected:
 
 TEST_F(GermanTest, SpeaksOfFiltersInGerman)
 {
-    EXPECT_EQ(ui.menuEdit->title(), "&Bearbeiten");
+    EXPECT_EQ(menu("menuEdit").title(), "&Bearbeiten");
     openPicture(pictureFile("picture.png", 60, 40));
     pick("CIGaussianBlur");
     EXPECT_EQ(ui.filterNameField->text(), "Gaußscher Weichzeichner");
@@ -122,7 +122,7 @@ TEST_F(GermanTest, SpeaksOfFiltersInGerman)
 
 TEST_F(GermanTest, OpensTheGermanHelpBook)
 {
-    ui.actionHelp->trigger();
+    action("actionHelp")->trigger();
     auto* help = window.findChild<HelpWindow*>();
     ASSERT_TRUE(help);
     const auto* contents = help->findChild<QListWidget*>();

@@ -183,7 +183,7 @@ TEST_F(OpeningTest, WorkOnThePictureLeavesTheWindowAlive)
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 3000, 4000}));
     EXPECT_GT(ticksDuring([&] { perform(&Controller::undo); }), 0) << "undo";
     EXPECT_GT(ticksDuring([&] { perform(&Controller::flipHorizont); }), 0) << "flip";
-    ui.actionCustom->trigger();
+    action("actionCustom")->trigger();
     QTest::mouseClick(ui.filterCustomOutlineView->viewport(), Qt::LeftButton, {},
         ui.filterCustomOutlineView->visualRect(ui.filterCustomOutlineView->model()->index(0, 0)).center());
     ASSERT_TRUE(controller.getCurrentCustomEffect());

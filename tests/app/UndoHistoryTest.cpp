@@ -35,8 +35,8 @@ class UndoHistoryTest : public WindowTest {
 protected:
     QMenu& opened()
     {
-        emit ui.menuUndoHistory->aboutToShow();
-        return *ui.menuUndoHistory;
+        emit menu("menuUndoHistory").aboutToShow();
+        return menu("menuUndoHistory");
     }
     QStringList titles()
     {
@@ -61,8 +61,8 @@ protected:
 
 TEST_F(UndoHistoryTest, GoesToAnyStepAndBack)
 {
-    emit ui.menuEdit->aboutToShow();
-    EXPECT_FALSE(ui.menuUndoHistory->isEnabled());
+    emit menu("menuEdit").aboutToShow();
+    EXPECT_FALSE(menu("menuUndoHistory").menuAction()->isEnabled());
     openPicture(pictureFile("plain.png", 60, 40));
     undo.removeAllActions();
     perform(&Controller::rotateLeft);
@@ -71,7 +71,7 @@ TEST_F(UndoHistoryTest, GoesToAnyStepAndBack)
     const double standard = radius();
     setRadius(20);
     setRadius(30);
-    EXPECT_TRUE(ui.menuUndoHistory->isEnabled());
+    EXPECT_TRUE(menu("menuUndoHistory").menuAction()->isEnabled());
     const QStringList all = titles();
     EXPECT_EQ(all.first(), "> Change to Gaussian Blur Radius (2 times)");
     EXPECT_EQ(all.last(), "Before All Changes");

@@ -5,6 +5,7 @@
 #include "app/window/MainWindow.h"
 
 #include <gtest/gtest.h>
+#include <QMenu>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -33,6 +34,7 @@ protected:
     const OutlineItem* groupOf(const QString& className) const;
     void click(const OutlineItem* row);
     QAction* action(const char* name) const { return window.findChild<QAction*>(QLatin1String(name)); }
+    QMenu& menu(const char* name) const { return *window.findChild<QMenu*>(QLatin1String(name)); }
     /// Runs the operation to its end, and presses the button of that text in the sheet that it opens.
     void answering(const QString& button, const std::function<void()>& operation);
     /// The same for several sheets, one after the other.

@@ -1,6 +1,7 @@
 // help_pictures FOLDER: drives the window as a user would and writes the pictures of the help book, light and dark.
 // It fills the whole screen: scripts/in-display build/dev/bin/help_pictures resources/help
 #include "app/catalogue/OutlineView.h"
+#include "app/commands/Commands.h"
 #include "app/Controller.h"
 #include "app/window/MainWindow.h"
 #include "controls/picture/MyImageView.h"
@@ -118,7 +119,7 @@ public:
     }
     bool run()
     {
-        ui.actionThumbnails->trigger();
+        m_window.commands().action("actionThumbnails").trigger();
         takeFavourites();
         takeSearch();
         takeSettings();
@@ -203,21 +204,21 @@ private:
     void takeComparison()
     {
         pick("CIDotScreen");
-        ui.actionSplitView->trigger();
+        m_window.commands().action("actionSplitView").trigger();
         for (int i = 0; i < 4; ++i)
-            ui.actionZoomIn->trigger();
+            m_window.commands().action("actionZoomIn").trigger();
         m_view.waitForFrame();
         const QPoint grip = m_view.findChild<SplitDivider*>()->mask().boundingRect().center();
         QRect part(0, 0, 400, 240);
         part.moveCenter(QPoint(m_view.rect().center().x(), grip.y() - 104));
         m_camera.take("split.jpg", part.translated(m_view.mapToGlobal(QPoint())));
-        ui.actionSplitView->trigger();
-        ui.actionFit->trigger();
+        m_window.commands().action("actionSplitView").trigger();
+        m_window.commands().action("actionFit").trigger();
     }
     void takeHistory()
     {
         undoAll();
-        ui.actionRotateRight->trigger();
+        m_window.commands().action("actionRotateRight").trigger();
         waitUntilIdle();
         pick("CISepiaTone");
         ui.applyBtn->click();
@@ -229,7 +230,7 @@ private:
         pick("CITwirlDistortion");
         dragPoint(0.6, 0.4);
         m_controller.undoManager()->undo();
-        QMenu& menu = *ui.menuUndoHistory;
+        QMenu& menu = *m_window.findChild<QMenu*>(QStringLiteral("menuUndoHistory"));
         menu.popup(m_window.mapToGlobal(QPoint(400, 200)));
         QTest::qWait(kFrameTime);
         m_camera.take("history.png", placeOf(menu));
@@ -238,16 +239,16 @@ private:
     }
     void takeResizing()
     {
-        ui.actionResize->trigger();
+        m_window.commands().action("actionResize").trigger();
         QTest::qWait(kFrameTime);
         for (const QWidget* panel : QApplication::topLevelWidgets())
             if (panel->isVisible() && panel != &m_window)
                 m_camera.take("resize.png", around(*panel, *panel));
-        ui.actionResize->trigger();
+        m_window.commands().action("actionResize").trigger();
     }
     void takeSpace()
     {
-        ui.action3D->trigger();
+        m_window.commands().action("action3D").trigger();
         pickRow(*ui.filter3DOutlineView, ui.filter3DOutlineView->model()->index(0, 0));
         for (ValueSlider* curve : ui.place3DCntrlView->findChildren<ValueSlider*>())
             QTest::mouseClick(curve, Qt::LeftButton, {}, QPoint(curve->width() * 2 / 3, curve->height() / 2));
@@ -258,7 +259,7 @@ private:
     }
     void takeCustom()
     {
-        ui.actionCustom->trigger();
+        m_window.commands().action("actionCustom").trigger();
         pickRow(*ui.filterCustomOutlineView, ui.filterCustomOutlineView->model()->index(4, 0));
         QWidget& view = *ui.customEffectsScrollView->imageView();
         const QPoint sun(view.width() * 35 / 100, view.height() * 40 / 100);

@@ -1,0 +1,99 @@
+#include "app/window/StatusRow.h"
+
+#include "app/document/Document.h"
+#include "widgets/BackgroundWork.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QLabel>
+#include <QProgressBar>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kMessageTime = 8s;
+constexpr auto kTick = 50ms;
+
+QString depthText(CIFormat format)
+{
+    switch (format) {
+    case CIFormat::RGBA16:
+        return StatusRow::tr("sRGB 16-bit");
+    case CIFormat::RGBAf:
+        return StatusRow::tr("sRGB 32-bit float");
+    default:
+        return StatusRow::tr("sRGB 8-bit");
+    }
+}
+
+QString pictureText(const Document& document)
+{
+    if (!document.picture())
+        return document.readFailure().isEmpty() ? StatusRow::tr("No picture") : document.readFailure();
+    const CIRect extent = document.picture().extent();
+    return StatusRow::tr("%1 × %2 px · %3", "width, height, color space and depth")
+        .arg(std::lround(extent.width))
+        .arg(std::lround(extent.height))
+        .arg(depthText(document.format()));
+}
+
+} // namespace
+
+StatusRow::StatusRow(const Document& document, Parts parts)
+    : m_document(document)
+    , m_parts(parts)
+{
+    m_messageEnd.setSingleShot(true);
+    m_messageEnd.callOnTimeout(this, &StatusRow::update);
+    connect(&document, &Document::message, this, &StatusRow::showMessage);
+}
+
+void StatusRow::update() { m_parts.field.setText(m_progressText.isEmpty() ? pictureText(m_document) : m_progressText); }
+
+void StatusRow::showMessage(const QString& text)
+{
+    m_parts.field.setText(text);
+    m_messageEnd.start(kMessageTime);
+    alert();
+}
+
+void StatusRow::showProgress(const QString& text, std::function<double()> progress)
+{
+    m_progressText = text;
+    m_formerFocus = m_parts.window.focusWidget();
+    m_parts.window.setFocus();
+    update();
+    alert();
+    const auto show = [this, progress = std::move(progress)] { showProgressOn(m_parts.bar, progress()); };
+    m_tick.disconnect();
+    m_tick.callOnTimeout(this, show);
+    m_tick.start(kTick);
+    show();
+    m_parts.bar.setAccessibleName(text);
+    m_parts.bar.show();
+    m_parts.cancel.show();
+}
+
+void StatusRow::endProgress()
+{
+    if (m_progressText.isEmpty())
+        return;
+    m_progressText.clear();
+    m_tick.stop();
+    const QWidget* const focus = m_parts.window.focusWidget();
+    const bool isNobodys = !focus || focus == &m_parts.window || focus == &m_parts.cancel;
+    m_parts.bar.hide();
+    m_parts.cancel.hide();
+    if (QWidget* former = std::exchange(m_formerFocus, nullptr); former && isNobodys)
+        former->setFocus();
+}
+
+void StatusRow::alert()
+{
+    QAccessibleEvent event(&m_parts.field, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}

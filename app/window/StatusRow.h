@@ -1,0 +1,46 @@
+// What the window says at its bottom.
+#pragma once
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+
+class Document;
+class QAbstractButton;
+class QLabel;
+class QProgressBar;
+
+/// Tells what picture there is, for a while what has happened, and how far something is that can be cancelled.
+class StatusRow : public QObject {
+    Q_OBJECT
+
+public:
+    struct Parts {
+        QWidget& window;
+        QLabel& field;
+        QProgressBar& bar;
+        QAbstractButton& cancel;
+    };
+
+    /// Shows the document's messages, too.
+    StatusRow(const Document& document, Parts parts);
+
+    /// Tells the present state.
+    void update();
+    void showMessage(const QString& text);
+    /// From now on the window has the keyboard itself. `progress` answers 0 to 1, or 0 when nobody can tell.
+    void showProgress(const QString& text, std::function<double()> progress);
+    /// Who had the keyboard gets it back, unless it is elsewhere meanwhile. Nothing if nothing is shown.
+    void endProgress();
+
+private:
+    void alert();
+
+    const Document& m_document;
+    Parts m_parts;
+    QTimer m_messageEnd, m_tick;
+    QString m_progressText; // empty when nothing is shown
+    QPointer<QWidget> m_formerFocus;
+};

@@ -1,0 +1,93 @@
+// Slider, field and canvas, without the window around them.
+#include "app/window/Zooming.h"
+#include "widgets/CanvasScrollView.h"
+#include "widgets/ZoomedCanvas.h"
+
+#include <gtest/gtest.h>
+#include <QLabel>
+#include <QSlider>
+#include <QTest>
+
+namespace {
+
+class Canvas : public ZoomedCanvas {
+public:
+    using ZoomedCanvas::ZoomedCanvas;
+    CIPoint size{400, 200};
+
+protected:
+    CIPoint pictureSize() const override { return size; }
+    void zoomedByWheel(float) override { }
+    void pinched(double) override { }
+};
+
+class ZoomingTest : public testing::Test {
+protected:
+    ZoomingTest()
+    {
+        scroller.setCanvas(&canvas);
+        scroller.resize(200, 200);
+        scroller.show();
+        field.show();
+    }
+
+    CanvasScrollView scroller;
+    Canvas& canvas = *new Canvas(&scroller); // which the scroll view keeps
+    QSlider slider;
+    QLabel field;
+    QSizeF picture{400, 200};
+    bool isSeen = true;
+    Zooming zooming{slider, field, scroller, {{canvas, {50, 50}}},
+        {[this] { return isSeen ? &canvas : nullptr; }, [this] { return picture; }}};
+};
+
+TEST_F(ZoomingTest, TheSliderTheFieldAndTheCanvasAgree)
+{
+    slider.setValue(slider.maximum() / 2);
+    EXPECT_EQ(canvas.getZoom(), 1);
+    EXPECT_EQ(field.text(), "100 %");
+    zooming.zoomBy(1);
+    EXPECT_NEAR(canvas.getZoom(), 2, 1e-3);
+    EXPECT_EQ(field.text(), "200 %");
+    zooming.step(-1);
+    EXPECT_NEAR(canvas.getZoom(), 1.6, 1e-3);
+    zooming.zoomTo(40);
+    EXPECT_EQ(slider.value(), slider.maximum());
+    EXPECT_EQ(canvas.getZoom(), 10);
+    zooming.setZoom(0.1f);
+    EXPECT_EQ(slider.value(), 0);
+    EXPECT_EQ(canvas.getZoom(), 10) << "the slider alone";
+}
+
+TEST_F(ZoomingTest, FitsThePictureOrWhatIsThereWithoutOne)
+{
+    const auto fitted = [&] {
+        zooming.fit();
+        return canvas.getZoom();
+    };
+    const float wide = fitted();
+    EXPECT_LT(wide, 0.5f);
+    EXPECT_GT(wide, 0.4f) << "room for a scroll bar";
+    picture = {200, 400};
+    EXPECT_EQ(fitted(), wide) << "the area is a square";
+    picture = {};
+    EXPECT_NEAR(fitted(), wide * 8, 1e-4);
+}
+
+TEST_F(ZoomingTest, ADoubleClickGoesToActualSizeAndBack)
+{
+    zooming.fit();
+    const float fitting = canvas.getZoom();
+    QTest::mouseDClick(&field, Qt::LeftButton);
+    EXPECT_EQ(canvas.getZoom(), 1);
+    QTest::mouseDClick(&field, Qt::LeftButton);
+    EXPECT_EQ(canvas.getZoom(), fitting);
+    isSeen = false;
+    QTest::mouseDClick(&field, Qt::LeftButton);
+    zooming.step(1);
+    zooming.zoomBy(1);
+    EXPECT_EQ(canvas.getZoom(), fitting) << "what isn't seen stays as it is";
+    EXPECT_FALSE(zooming.isPossible());
+}
+
+} // namespace
