@@ -202,6 +202,345 @@
     </message>
 </context>
 <context>
+    <name>Command</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>Opens a picture file</source>
+        <translation>Öffnet eine Bilddatei</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Saves the result to the picture&apos;s file</source>
+        <translation>Speichert das Ergebnis in der Datei des Bildes</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Saves the result under another name or in another format</source>
+        <translation>Speichert das Ergebnis unter anderem Namen oder in anderem Format</translation>
+    </message>
+    <message>
+        <source>Image &amp;Information ...</source>
+        <translation>Bild&amp;informationen …</translation>
+    </message>
+    <message>
+        <source>Shows what the picture&apos;s file says about itself</source>
+        <translation>Zeigt, was die Datei des Bildes über sich sagt</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Beendet das Programm</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>Nimmt die letzte Änderung zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation>Führt die Änderung wieder aus</translation>
+    </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation>&amp;Verlauf</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Puts the result on the clipboard</source>
+        <translation>Legt das Ergebnis in die Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Replaces the picture with the one on the clipboard</source>
+        <translation>Ersetzt das Bild durch das in der Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All Inputs</source>
+        <translation>&amp;Alle Werte zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Gives the filter the values that it has when it is chosen</source>
+        <translation>Gibt dem Filter die Werte, die er zu Beginn hat</translation>
+    </message>
+    <message>
+        <source>Rando&amp;mize Inputs</source>
+        <translation>&amp;Zufällige Werte</translation>
+    </message>
+    <message>
+        <source>Tries other values, all by chance</source>
+        <translation>Probiert andere, zufällige Werte aus</translation>
+    </message>
+    <message>
+        <source>&amp;Find Filter</source>
+        <translation>Filter &amp;suchen</translation>
+    </message>
+    <message>
+        <source>Goes to the search field of the catalogue</source>
+        <translation>Geht zum Suchfeld des Katalogs</translation>
+    </message>
+    <message>
+        <source>&amp;Image</source>
+        <translation>B&amp;ild</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>Makes the result the picture</source>
+        <translation>Macht das Ergebnis zum Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Effect</source>
+        <translation>&amp;Effekt verwerfen</translation>
+    </message>
+    <message>
+        <source>Drops the current filter or effect</source>
+        <translation>Verwirft den aktuellen Filter oder Effekt</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Nach &amp;links drehen</translation>
+    </message>
+    <message>
+        <source>Turns the picture counter-clockwise</source>
+        <translation>Dreht das Bild gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Nach &amp;rechts drehen</translation>
+    </message>
+    <message>
+        <source>Turns the picture clockwise</source>
+        <translation>Dreht das Bild im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Horizontal</source>
+        <translation>&amp;Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>Exchanges left and right</source>
+        <translation>Vertauscht links und rechts</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Vertical</source>
+        <translation>&amp;Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>Exchanges top and bottom</source>
+        <translation>Vertauscht oben und unten</translation>
+    </message>
+    <message>
+        <source>Resize &amp;Image ...</source>
+        <translation>Bild&amp;größe ändern …</translation>
+    </message>
+    <message>
+        <source>Changes the size of the picture</source>
+        <translation>Ändert die Größe des Bildes</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Modus</translation>
+    </message>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Standard</translation>
+    </message>
+    <message>
+        <source>Filters from the catalogue</source>
+        <translation>Filter aus dem Katalog</translation>
+    </message>
+    <message>
+        <source>&amp;3D</source>
+        <translation>&amp;3D</translation>
+    </message>
+    <message>
+        <source>Effects in space</source>
+        <translation>Effekte im Raum</translation>
+    </message>
+    <message>
+        <source>&amp;Custom</source>
+        <translation>&amp;Eigene</translation>
+    </message>
+    <message>
+        <source>Generated effects</source>
+        <translation>Erzeugte Effekte</translation>
+    </message>
+    <message>
+        <source>F&amp;avourites</source>
+        <translation>&amp;Favoriten</translation>
+    </message>
+    <message>
+        <source>&amp;Add to the Favourites</source>
+        <translation>Zu den Favoriten &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remembers the current effect with its settings</source>
+        <translation>Merkt sich den aktuellen Effekt mit seinen Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the Favourites</source>
+        <translation>Aus den &amp;Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Forgets the favourite that is switched on</source>
+        <translation>Vergisst den eingeschalteten Favoriten</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Shows the picture larger</source>
+        <translation>Zeigt das Bild größer</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>Shows the picture smaller</source>
+        <translation>Zeigt das Bild kleiner</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>&amp;Originalgröße</translation>
+    </message>
+    <message>
+        <source>Shows each pixel of the picture as one point</source>
+        <translation>Zeigt jedes Pixel des Bildes als einen Punkt</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>&amp;In Fenster einpassen</translation>
+    </message>
+    <message>
+        <source>Shows the whole picture</source>
+        <translation>Zeigt das ganze Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Split View</source>
+        <translation>Ge&amp;teilte Ansicht</translation>
+    </message>
+    <message>
+        <source>Shows the picture without the filter beside the result</source>
+        <translation>Zeigt das Bild ohne den Filter neben dem Ergebnis</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>&amp;Histogramm</translation>
+    </message>
+    <message>
+        <source>Shows how often each brightness is seen in the result</source>
+        <translation>Zeigt, wie oft jede Helligkeit im Ergebnis vorkommt</translation>
+    </message>
+    <message>
+        <source>Filter &amp;Thumbnails</source>
+        <translation>&amp;Filtervorschau</translation>
+    </message>
+    <message>
+        <source>Shows in the list what each filter makes of the picture</source>
+        <translation>Zeigt in der Liste, was jeder Filter aus dem Bild macht</translation>
+    </message>
+    <message>
+        <source>A&amp;ppearance</source>
+        <translation>&amp;Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>&amp;As the Desktop</source>
+        <translation>Wie die &amp;Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Hell oder dunkel wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>Draws the program light</source>
+        <translation>Zeichnet das Programm hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Draws the program dark</source>
+        <translation>Zeichnet das Programm dunkel</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <source>Gives the window the whole screen</source>
+        <translation>Gibt dem Fenster den ganzen Bildschirm</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Lumivex &amp;Help</source>
+        <translation>Lumivex-&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Opens the help</source>
+        <translation>Öffnet die Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About Lumivex</source>
+        <translation>Ü&amp;ber Lumivex</translation>
+    </message>
+    <message>
+        <source>Says which version this is</source>
+        <translation>Sagt, welche Version das ist</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Edits a picture with live filters.</source>
@@ -219,26 +558,6 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Rendering the picture…</source>
-        <translation>Bild wird berechnet …</translation>
-    </message>
-    <message>
-        <source>sRGB 16-bit</source>
-        <translation>sRGB, 16 Bit</translation>
-    </message>
-    <message>
-        <source>sRGB 32-bit float</source>
-        <translation>sRGB, 32 Bit Gleitkomma</translation>
-    </message>
-    <message>
-        <source>sRGB 8-bit</source>
-        <translation>sRGB, 8 Bit</translation>
-    </message>
-    <message>
         <source>%1 can&apos;t be read</source>
         <translation>%1 kann nicht gelesen werden</translation>
     </message>
@@ -246,15 +565,6 @@
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1: %2</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Kein Bild</translation>
-    </message>
-    <message>
-        <source>%1 × %2 px · %3</source>
-        <comment>width, height, color space and depth</comment>
-        <translation>%1 × %2 px · %3</translation>
     </message>
     <message>
         <source>No Pictures Yet</source>
@@ -2755,332 +3065,8 @@
         <translation>Das Bild in Originalgröße zeigen</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message>
-        <source>&amp;Image</source>
-        <translation>B&amp;ild</translation>
-    </message>
-    <message>
-        <source>&amp;Mode</source>
-        <translation>&amp;Modus</translation>
-    </message>
-    <message>
-        <source>F&amp;avourites</source>
-        <translation>&amp;Favoriten</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>&amp;Ansicht</translation>
-    </message>
-    <message>
-        <source>A&amp;ppearance</source>
-        <translation>&amp;Erscheinungsbild</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;Open…</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message>
-        <source>Opens a picture file</source>
-        <translation>Öffnet eine Bilddatei</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Speichern</translation>
-    </message>
-    <message>
-        <source>Saves the result to the picture&apos;s file</source>
-        <translation>Speichert das Ergebnis in der Datei des Bildes</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Speichern &amp;unter …</translation>
-    </message>
-    <message>
-        <source>Saves the result under another name or in another format</source>
-        <translation>Speichert das Ergebnis unter anderem Namen oder in anderem Format</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message>
-        <source>Puts the result on the clipboard</source>
-        <translation>Legt das Ergebnis in die Zwischenablage</translation>
-    </message>
-    <message>
-        <source>Rotate &amp;Left</source>
-        <translation>Nach &amp;links drehen</translation>
-    </message>
-    <message>
-        <source>Turns the picture counter-clockwise</source>
-        <translation>Dreht das Bild gegen den Uhrzeigersinn</translation>
-    </message>
-    <message>
-        <source>Rotate &amp;Right</source>
-        <translation>Nach &amp;rechts drehen</translation>
-    </message>
-    <message>
-        <source>Turns the picture clockwise</source>
-        <translation>Dreht das Bild im Uhrzeigersinn</translation>
-    </message>
-    <message>
-        <source>Flip &amp;Horizontal</source>
-        <translation>&amp;Horizontal spiegeln</translation>
-    </message>
-    <message>
-        <source>Exchanges left and right</source>
-        <translation>Vertauscht links und rechts</translation>
-    </message>
-    <message>
-        <source>Flip &amp;Vertical</source>
-        <translation>&amp;Vertikal spiegeln</translation>
-    </message>
-    <message>
-        <source>Exchanges top and bottom</source>
-        <translation>Vertauscht oben und unten</translation>
-    </message>
-    <message>
-        <source>Resize &amp;Image ...</source>
-        <translation>Bild&amp;größe ändern …</translation>
-    </message>
-    <message>
-        <source>Changes the size of the picture</source>
-        <translation>Ändert die Größe des Bildes</translation>
-    </message>
-    <message>
-        <source>Image &amp;Information ...</source>
-        <translation>Bild&amp;informationen …</translation>
-    </message>
-    <message>
-        <source>Shows what the picture&apos;s file says about itself</source>
-        <translation>Zeigt, was die Datei des Bildes über sich sagt</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Beenden</translation>
-    </message>
-    <message>
-        <source>Ends the program</source>
-        <translation>Beendet das Programm</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Rückgängig</translation>
-    </message>
-    <message>
-        <source>Takes the last change back</source>
-        <translation>Nimmt die letzte Änderung zurück</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Wiederholen</translation>
-    </message>
-    <message>
-        <source>Makes the change again</source>
-        <translation>Führt die Änderung wieder aus</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>&amp;Einfügen</translation>
-    </message>
-    <message>
-        <source>Replaces the picture with the one on the clipboard</source>
-        <translation>Ersetzt das Bild durch das in der Zwischenablage</translation>
-    </message>
-    <message>
-        <source>Reset &amp;All Inputs</source>
-        <translation>&amp;Alle Werte zurücksetzen</translation>
-    </message>
-    <message>
-        <source>Gives the filter the values that it has when it is chosen</source>
-        <translation>Gibt dem Filter die Werte, die er zu Beginn hat</translation>
-    </message>
-    <message>
-        <source>Rando&amp;mize Inputs</source>
-        <translation>&amp;Zufällige Werte</translation>
-    </message>
-    <message>
-        <source>Tries other values, all by chance</source>
-        <translation>Probiert andere, zufällige Werte aus</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Anwenden</translation>
-    </message>
-    <message>
-        <source>Makes the result the picture</source>
-        <translation>Macht das Ergebnis zum Bild</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Effect</source>
-        <translation>&amp;Effekt verwerfen</translation>
-    </message>
-    <message>
-        <source>Drops the current filter or effect</source>
-        <translation>Verwirft den aktuellen Filter oder Effekt</translation>
-    </message>
-    <message>
-        <source>&amp;Standard</source>
-        <translation>&amp;Standard</translation>
-    </message>
-    <message>
-        <source>&amp;3D</source>
-        <translation>&amp;3D</translation>
-    </message>
-    <message>
-        <source>&amp;Custom</source>
-        <translation>&amp;Eigene</translation>
-    </message>
-    <message>
-        <source>&amp;Add to the Favourites</source>
-        <translation>Zu den Favoriten &amp;hinzufügen</translation>
-    </message>
-    <message>
-        <source>Remembers the current effect with its settings</source>
-        <translation>Merkt sich den aktuellen Effekt mit seinen Einstellungen</translation>
-    </message>
-    <message>
-        <source>&amp;Remove from the Favourites</source>
-        <translation>Aus den &amp;Favoriten entfernen</translation>
-    </message>
-    <message>
-        <source>Forgets the favourite that is switched on</source>
-        <translation>Vergisst den eingeschalteten Favoriten</translation>
-    </message>
-    <message>
-        <source>&amp;Find Filter</source>
-        <translation>Filter &amp;suchen</translation>
-    </message>
-    <message>
-        <source>Goes to the search field of the catalogue</source>
-        <translation>Geht zum Suchfeld des Katalogs</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;In</source>
-        <translation>Ver&amp;größern</translation>
-    </message>
-    <message>
-        <source>Shows the picture larger</source>
-        <translation>Zeigt das Bild größer</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;Out</source>
-        <translation>Ver&amp;kleinern</translation>
-    </message>
-    <message>
-        <source>Shows the picture smaller</source>
-        <translation>Zeigt das Bild kleiner</translation>
-    </message>
-    <message>
-        <source>&amp;Actual Size</source>
-        <translation>&amp;Originalgröße</translation>
-    </message>
-    <message>
-        <source>Shows each pixel of the picture as one point</source>
-        <translation>Zeigt jedes Pixel des Bildes als einen Punkt</translation>
-    </message>
-    <message>
-        <source>&amp;Fit in Window</source>
-        <translation>&amp;In Fenster einpassen</translation>
-    </message>
-    <message>
-        <source>Shows the whole picture</source>
-        <translation>Zeigt das ganze Bild</translation>
-    </message>
-    <message>
-        <source>&amp;Split View</source>
-        <translation>Ge&amp;teilte Ansicht</translation>
-    </message>
-    <message>
-        <source>Shows the picture without the filter beside the result</source>
-        <translation>Zeigt das Bild ohne den Filter neben dem Ergebnis</translation>
-    </message>
-    <message>
-        <source>&amp;As the Desktop</source>
-        <translation>Wie die &amp;Arbeitsumgebung</translation>
-    </message>
-    <message>
-        <source>Light or dark as the desktop is</source>
-        <translation>Hell oder dunkel wie die Arbeitsumgebung</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Hell</translation>
-    </message>
-    <message>
-        <source>Draws the program light</source>
-        <translation>Zeichnet das Programm hell</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>&amp;Dunkel</translation>
-    </message>
-    <message>
-        <source>Draws the program dark</source>
-        <translation>Zeichnet das Programm dunkel</translation>
-    </message>
-    <message>
-        <source>F&amp;ull Screen</source>
-        <translation>&amp;Vollbild</translation>
-    </message>
-    <message>
-        <source>Gives the window the whole screen</source>
-        <translation>Gibt dem Fenster den ganzen Bildschirm</translation>
-    </message>
-    <message>
-        <source>Lumivex &amp;Help</source>
-        <translation>Lumivex-&amp;Hilfe</translation>
-    </message>
-    <message>
-        <source>Opens the help</source>
-        <translation>Öffnet die Hilfe</translation>
-    </message>
-    <message>
-        <source>&amp;About Lumivex</source>
-        <translation>Ü&amp;ber Lumivex</translation>
-    </message>
-    <message>
-        <source>Says which version this is</source>
-        <translation>Sagt, welche Version das ist</translation>
-    </message>
-    <message>
         <source>Zoom; double-click for actual size, or the whole picture</source>
         <translation>Zoom; Doppelklick für Originalgröße oder das ganze Bild</translation>
-    </message>
-    <message>
-        <source>Undo &amp;History</source>
-        <translation>&amp;Verlauf</translation>
-    </message>
-    <message>
-        <source>&amp;Histogram</source>
-        <translation>&amp;Histogramm</translation>
-    </message>
-    <message>
-        <source>Shows how often each brightness is seen in the result</source>
-        <translation>Zeigt, wie oft jede Helligkeit im Ergebnis vorkommt</translation>
-    </message>
-    <message>
-        <source>Filter &amp;Thumbnails</source>
-        <translation>&amp;Filtervorschau</translation>
-    </message>
-    <message>
-        <source>Shows in the list what each filter makes of the picture</source>
-        <translation>Zeigt in der Liste, was jeder Filter aus dem Bild macht</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -3805,6 +3791,30 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>Randomize Inputs</source>
         <translation>Zufällige Werte</translation>
+    </message>
+</context>
+<context>
+    <name>StatusRow</name>
+    <message>
+        <source>sRGB 16-bit</source>
+        <translation>sRGB, 16 Bit</translation>
+    </message>
+    <message>
+        <source>sRGB 32-bit float</source>
+        <translation>sRGB, 32 Bit Gleitkomma</translation>
+    </message>
+    <message>
+        <source>sRGB 8-bit</source>
+        <translation>sRGB, 8 Bit</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px · %3</source>
+        <comment>width, height, color space and depth</comment>
+        <translation>%1 × %2 px · %3</translation>
     </message>
 </context>
 <context>

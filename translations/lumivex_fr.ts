@@ -202,6 +202,345 @@
     </message>
 </context>
 <context>
+    <name>Command</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>&amp;Ouvrir…</translation>
+    </message>
+    <message>
+        <source>Opens a picture file</source>
+        <translation>Ouvre un fichier d’image</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Ouvrir un fichier &amp;récent</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Saves the result to the picture&apos;s file</source>
+        <translation>Enregistre le résultat dans le fichier de l’image</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>Saves the result under another name or in another format</source>
+        <translation>Enregistre le résultat sous un autre nom ou dans un autre format</translation>
+    </message>
+    <message>
+        <source>Image &amp;Information ...</source>
+        <translation>&amp;Informations sur l’image…</translation>
+    </message>
+    <message>
+        <source>Shows what the picture&apos;s file says about itself</source>
+        <translation>Montre ce que le fichier dit de lui-même</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>Ends the program</source>
+        <translation>Quitte le programme</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Takes the last change back</source>
+        <translation>Annule la dernière modification</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Makes the change again</source>
+        <translation>Refait la modification</translation>
+    </message>
+    <message>
+        <source>Undo &amp;History</source>
+        <translation>Histori&amp;que</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Puts the result on the clipboard</source>
+        <translation>Place le résultat dans le presse-papiers</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>C&amp;oller</translation>
+    </message>
+    <message>
+        <source>Replaces the picture with the one on the clipboard</source>
+        <translation>Remplace l’image par celle du presse-papiers</translation>
+    </message>
+    <message>
+        <source>Reset &amp;All Inputs</source>
+        <translation>Réinitialiser &amp;tous les réglages</translation>
+    </message>
+    <message>
+        <source>Gives the filter the values that it has when it is chosen</source>
+        <translation>Redonne au filtre ses valeurs de départ</translation>
+    </message>
+    <message>
+        <source>Rando&amp;mize Inputs</source>
+        <translation>Réglages au &amp;hasard</translation>
+    </message>
+    <message>
+        <source>Tries other values, all by chance</source>
+        <translation>Essaie d’autres valeurs, toutes au hasard</translation>
+    </message>
+    <message>
+        <source>&amp;Find Filter</source>
+        <translation>Chercher un &amp;filtre</translation>
+    </message>
+    <message>
+        <source>Goes to the search field of the catalogue</source>
+        <translation>Va au champ de recherche du catalogue</translation>
+    </message>
+    <message>
+        <source>&amp;Image</source>
+        <translation>&amp;Image</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Appliquer</translation>
+    </message>
+    <message>
+        <source>Makes the result the picture</source>
+        <translation>Fait du résultat l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Effect</source>
+        <translation>&amp;Effacer l’effet</translation>
+    </message>
+    <message>
+        <source>Drops the current filter or effect</source>
+        <translation>Abandonne le filtre ou l’effet actuel</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Left</source>
+        <translation>Rotation à &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Turns the picture counter-clockwise</source>
+        <translation>Tourne l’image dans le sens inverse des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>Rotate &amp;Right</source>
+        <translation>Rotation à &amp;droite</translation>
+    </message>
+    <message>
+        <source>Turns the picture clockwise</source>
+        <translation>Tourne l’image dans le sens des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Horizontal</source>
+        <translation>Retourner &amp;horizontalement</translation>
+    </message>
+    <message>
+        <source>Exchanges left and right</source>
+        <translation>Échange la gauche et la droite</translation>
+    </message>
+    <message>
+        <source>Flip &amp;Vertical</source>
+        <translation>Retourner &amp;verticalement</translation>
+    </message>
+    <message>
+        <source>Exchanges top and bottom</source>
+        <translation>Échange le haut et le bas</translation>
+    </message>
+    <message>
+        <source>Resize &amp;Image ...</source>
+        <translation>Redimensionner l’&amp;image…</translation>
+    </message>
+    <message>
+        <source>Changes the size of the picture</source>
+        <translation>Change la taille de l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Mode</translation>
+    </message>
+    <message>
+        <source>&amp;Standard</source>
+        <translation>&amp;Standard</translation>
+    </message>
+    <message>
+        <source>Filters from the catalogue</source>
+        <translation>Filtres du catalogue</translation>
+    </message>
+    <message>
+        <source>&amp;3D</source>
+        <translation>&amp;3D</translation>
+    </message>
+    <message>
+        <source>Effects in space</source>
+        <translation>Effets dans l’espace</translation>
+    </message>
+    <message>
+        <source>&amp;Custom</source>
+        <translation>&amp;Créations</translation>
+    </message>
+    <message>
+        <source>Generated effects</source>
+        <translation>Effets générés</translation>
+    </message>
+    <message>
+        <source>F&amp;avourites</source>
+        <translation>Fa&amp;voris</translation>
+    </message>
+    <message>
+        <source>&amp;Add to the Favourites</source>
+        <translation>A&amp;jouter aux favoris</translation>
+    </message>
+    <message>
+        <source>Remembers the current effect with its settings</source>
+        <translation>Retient l’effet actuel avec ses réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Remove from the Favourites</source>
+        <translation>&amp;Retirer des favoris</translation>
+    </message>
+    <message>
+        <source>Forgets the favourite that is switched on</source>
+        <translation>Oublie le favori activé</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Affi&amp;chage</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Zoom &amp;avant</translation>
+    </message>
+    <message>
+        <source>Shows the picture larger</source>
+        <translation>Affiche l’image en plus grand</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>Shows the picture smaller</source>
+        <translation>Affiche l’image en plus petit</translation>
+    </message>
+    <message>
+        <source>&amp;Actual Size</source>
+        <translation>&amp;Taille réelle</translation>
+    </message>
+    <message>
+        <source>Shows each pixel of the picture as one point</source>
+        <translation>Affiche chaque pixel de l’image comme un point</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>Ajuster à la &amp;fenêtre</translation>
+    </message>
+    <message>
+        <source>Shows the whole picture</source>
+        <translation>Affiche l’image entière</translation>
+    </message>
+    <message>
+        <source>&amp;Split View</source>
+        <translation>Vue &amp;partagée</translation>
+    </message>
+    <message>
+        <source>Shows the picture without the filter beside the result</source>
+        <translation>Affiche l’image sans le filtre à côté du résultat</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>&amp;Histogramme</translation>
+    </message>
+    <message>
+        <source>Shows how often each brightness is seen in the result</source>
+        <translation>Montre la fréquence de chaque luminosité dans le résultat</translation>
+    </message>
+    <message>
+        <source>Filter &amp;Thumbnails</source>
+        <translation>Aperç&amp;us des filtres</translation>
+    </message>
+    <message>
+        <source>Shows in the list what each filter makes of the picture</source>
+        <translation>Montre dans la liste ce que chaque filtre fait de l’image</translation>
+    </message>
+    <message>
+        <source>A&amp;ppearance</source>
+        <translation>Appare&amp;nce</translation>
+    </message>
+    <message>
+        <source>&amp;As the Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>Light or dark as the desktop is</source>
+        <translation>Clair ou sombre comme le bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>Draws the program light</source>
+        <translation>Affiche le programme en clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>Draws the program dark</source>
+        <translation>Affiche le programme en sombre</translation>
+    </message>
+    <message>
+        <source>F&amp;ull Screen</source>
+        <translation>Pl&amp;ein écran</translation>
+    </message>
+    <message>
+        <source>Gives the window the whole screen</source>
+        <translation>Donne tout l’écran à la fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Lumivex &amp;Help</source>
+        <translation>&amp;Aide de Lumivex</translation>
+    </message>
+    <message>
+        <source>Opens the help</source>
+        <translation>Ouvre l’aide</translation>
+    </message>
+    <message>
+        <source>&amp;About Lumivex</source>
+        <translation>À &amp;propos de Lumivex</translation>
+    </message>
+    <message>
+        <source>Says which version this is</source>
+        <translation>Indique la version du programme</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>Edits a picture with live filters.</source>
@@ -219,26 +558,6 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>%1 %</source>
-        <translation>%1&#xa0;%</translation>
-    </message>
-    <message>
-        <source>Rendering the picture…</source>
-        <translation>Calcul de l’image…</translation>
-    </message>
-    <message>
-        <source>sRGB 16-bit</source>
-        <translation>sRVB 16 bits</translation>
-    </message>
-    <message>
-        <source>sRGB 32-bit float</source>
-        <translation>sRVB 32 bits flottants</translation>
-    </message>
-    <message>
-        <source>sRGB 8-bit</source>
-        <translation>sRVB 8 bits</translation>
-    </message>
-    <message>
         <source>%1 can&apos;t be read</source>
         <translation>%1 ne peut pas être lu</translation>
     </message>
@@ -246,15 +565,6 @@
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
-        <source>No picture</source>
-        <translation>Aucune image</translation>
-    </message>
-    <message>
-        <source>%1 × %2 px · %3</source>
-        <comment>width, height, color space and depth</comment>
-        <translation>%1 × %2 px · %3</translation>
     </message>
     <message>
         <source>No Pictures Yet</source>
@@ -2755,332 +3065,8 @@
         <translation>Afficher l’image en taille réelle</translation>
     </message>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Fichier</translation>
-    </message>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>Ouvrir un fichier &amp;récent</translation>
-    </message>
-    <message>
-        <source>&amp;Edit</source>
-        <translation>É&amp;dition</translation>
-    </message>
-    <message>
-        <source>&amp;Image</source>
-        <translation>&amp;Image</translation>
-    </message>
-    <message>
-        <source>&amp;Mode</source>
-        <translation>&amp;Mode</translation>
-    </message>
-    <message>
-        <source>F&amp;avourites</source>
-        <translation>Fa&amp;voris</translation>
-    </message>
-    <message>
-        <source>&amp;View</source>
-        <translation>Affi&amp;chage</translation>
-    </message>
-    <message>
-        <source>A&amp;ppearance</source>
-        <translation>Appare&amp;nce</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Aide</translation>
-    </message>
-    <message>
-        <source>&amp;Open…</source>
-        <translation>&amp;Ouvrir…</translation>
-    </message>
-    <message>
-        <source>Opens a picture file</source>
-        <translation>Ouvre un fichier d’image</translation>
-    </message>
-    <message>
-        <source>&amp;Save</source>
-        <translation>&amp;Enregistrer</translation>
-    </message>
-    <message>
-        <source>Saves the result to the picture&apos;s file</source>
-        <translation>Enregistre le résultat dans le fichier de l’image</translation>
-    </message>
-    <message>
-        <source>Save &amp;As…</source>
-        <translation>Enregistrer &amp;sous…</translation>
-    </message>
-    <message>
-        <source>Saves the result under another name or in another format</source>
-        <translation>Enregistre le résultat sous un autre nom ou dans un autre format</translation>
-    </message>
-    <message>
-        <source>&amp;Copy</source>
-        <translation>&amp;Copier</translation>
-    </message>
-    <message>
-        <source>Puts the result on the clipboard</source>
-        <translation>Place le résultat dans le presse-papiers</translation>
-    </message>
-    <message>
-        <source>Rotate &amp;Left</source>
-        <translation>Rotation à &amp;gauche</translation>
-    </message>
-    <message>
-        <source>Turns the picture counter-clockwise</source>
-        <translation>Tourne l’image dans le sens inverse des aiguilles d’une montre</translation>
-    </message>
-    <message>
-        <source>Rotate &amp;Right</source>
-        <translation>Rotation à &amp;droite</translation>
-    </message>
-    <message>
-        <source>Turns the picture clockwise</source>
-        <translation>Tourne l’image dans le sens des aiguilles d’une montre</translation>
-    </message>
-    <message>
-        <source>Flip &amp;Horizontal</source>
-        <translation>Retourner &amp;horizontalement</translation>
-    </message>
-    <message>
-        <source>Exchanges left and right</source>
-        <translation>Échange la gauche et la droite</translation>
-    </message>
-    <message>
-        <source>Flip &amp;Vertical</source>
-        <translation>Retourner &amp;verticalement</translation>
-    </message>
-    <message>
-        <source>Exchanges top and bottom</source>
-        <translation>Échange le haut et le bas</translation>
-    </message>
-    <message>
-        <source>Resize &amp;Image ...</source>
-        <translation>Redimensionner l’&amp;image…</translation>
-    </message>
-    <message>
-        <source>Changes the size of the picture</source>
-        <translation>Change la taille de l’image</translation>
-    </message>
-    <message>
-        <source>Image &amp;Information ...</source>
-        <translation>&amp;Informations sur l’image…</translation>
-    </message>
-    <message>
-        <source>Shows what the picture&apos;s file says about itself</source>
-        <translation>Montre ce que le fichier dit de lui-même</translation>
-    </message>
-    <message>
-        <source>&amp;Quit</source>
-        <translation>&amp;Quitter</translation>
-    </message>
-    <message>
-        <source>Ends the program</source>
-        <translation>Quitte le programme</translation>
-    </message>
-    <message>
-        <source>&amp;Undo</source>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>Takes the last change back</source>
-        <translation>Annule la dernière modification</translation>
-    </message>
-    <message>
-        <source>&amp;Redo</source>
-        <translation>&amp;Rétablir</translation>
-    </message>
-    <message>
-        <source>Makes the change again</source>
-        <translation>Refait la modification</translation>
-    </message>
-    <message>
-        <source>&amp;Paste</source>
-        <translation>C&amp;oller</translation>
-    </message>
-    <message>
-        <source>Replaces the picture with the one on the clipboard</source>
-        <translation>Remplace l’image par celle du presse-papiers</translation>
-    </message>
-    <message>
-        <source>Reset &amp;All Inputs</source>
-        <translation>Réinitialiser &amp;tous les réglages</translation>
-    </message>
-    <message>
-        <source>Gives the filter the values that it has when it is chosen</source>
-        <translation>Redonne au filtre ses valeurs de départ</translation>
-    </message>
-    <message>
-        <source>Rando&amp;mize Inputs</source>
-        <translation>Réglages au &amp;hasard</translation>
-    </message>
-    <message>
-        <source>Tries other values, all by chance</source>
-        <translation>Essaie d’autres valeurs, toutes au hasard</translation>
-    </message>
-    <message>
-        <source>&amp;Apply</source>
-        <translation>&amp;Appliquer</translation>
-    </message>
-    <message>
-        <source>Makes the result the picture</source>
-        <translation>Fait du résultat l’image</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Effect</source>
-        <translation>&amp;Effacer l’effet</translation>
-    </message>
-    <message>
-        <source>Drops the current filter or effect</source>
-        <translation>Abandonne le filtre ou l’effet actuel</translation>
-    </message>
-    <message>
-        <source>&amp;Standard</source>
-        <translation>&amp;Standard</translation>
-    </message>
-    <message>
-        <source>&amp;3D</source>
-        <translation>&amp;3D</translation>
-    </message>
-    <message>
-        <source>&amp;Custom</source>
-        <translation>&amp;Créations</translation>
-    </message>
-    <message>
-        <source>&amp;Add to the Favourites</source>
-        <translation>A&amp;jouter aux favoris</translation>
-    </message>
-    <message>
-        <source>Remembers the current effect with its settings</source>
-        <translation>Retient l’effet actuel avec ses réglages</translation>
-    </message>
-    <message>
-        <source>&amp;Remove from the Favourites</source>
-        <translation>&amp;Retirer des favoris</translation>
-    </message>
-    <message>
-        <source>Forgets the favourite that is switched on</source>
-        <translation>Oublie le favori activé</translation>
-    </message>
-    <message>
-        <source>&amp;Find Filter</source>
-        <translation>Chercher un &amp;filtre</translation>
-    </message>
-    <message>
-        <source>Goes to the search field of the catalogue</source>
-        <translation>Va au champ de recherche du catalogue</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;In</source>
-        <translation>Zoom &amp;avant</translation>
-    </message>
-    <message>
-        <source>Shows the picture larger</source>
-        <translation>Affiche l’image en plus grand</translation>
-    </message>
-    <message>
-        <source>Zoom &amp;Out</source>
-        <translation>Zoom a&amp;rrière</translation>
-    </message>
-    <message>
-        <source>Shows the picture smaller</source>
-        <translation>Affiche l’image en plus petit</translation>
-    </message>
-    <message>
-        <source>&amp;Actual Size</source>
-        <translation>&amp;Taille réelle</translation>
-    </message>
-    <message>
-        <source>Shows each pixel of the picture as one point</source>
-        <translation>Affiche chaque pixel de l’image comme un point</translation>
-    </message>
-    <message>
-        <source>&amp;Fit in Window</source>
-        <translation>Ajuster à la &amp;fenêtre</translation>
-    </message>
-    <message>
-        <source>Shows the whole picture</source>
-        <translation>Affiche l’image entière</translation>
-    </message>
-    <message>
-        <source>&amp;Split View</source>
-        <translation>Vue &amp;partagée</translation>
-    </message>
-    <message>
-        <source>Shows the picture without the filter beside the result</source>
-        <translation>Affiche l’image sans le filtre à côté du résultat</translation>
-    </message>
-    <message>
-        <source>&amp;As the Desktop</source>
-        <translation>Comme le &amp;bureau</translation>
-    </message>
-    <message>
-        <source>Light or dark as the desktop is</source>
-        <translation>Clair ou sombre comme le bureau</translation>
-    </message>
-    <message>
-        <source>&amp;Light</source>
-        <translation>&amp;Clair</translation>
-    </message>
-    <message>
-        <source>Draws the program light</source>
-        <translation>Affiche le programme en clair</translation>
-    </message>
-    <message>
-        <source>&amp;Dark</source>
-        <translation>&amp;Sombre</translation>
-    </message>
-    <message>
-        <source>Draws the program dark</source>
-        <translation>Affiche le programme en sombre</translation>
-    </message>
-    <message>
-        <source>F&amp;ull Screen</source>
-        <translation>Pl&amp;ein écran</translation>
-    </message>
-    <message>
-        <source>Gives the window the whole screen</source>
-        <translation>Donne tout l’écran à la fenêtre</translation>
-    </message>
-    <message>
-        <source>Lumivex &amp;Help</source>
-        <translation>&amp;Aide de Lumivex</translation>
-    </message>
-    <message>
-        <source>Opens the help</source>
-        <translation>Ouvre l’aide</translation>
-    </message>
-    <message>
-        <source>&amp;About Lumivex</source>
-        <translation>À &amp;propos de Lumivex</translation>
-    </message>
-    <message>
-        <source>Says which version this is</source>
-        <translation>Indique la version du programme</translation>
-    </message>
-    <message>
         <source>Zoom; double-click for actual size, or the whole picture</source>
         <translation>Zoom&#xa0;; double-clic pour la taille réelle ou l’image entière</translation>
-    </message>
-    <message>
-        <source>Undo &amp;History</source>
-        <translation>Histori&amp;que</translation>
-    </message>
-    <message>
-        <source>&amp;Histogram</source>
-        <translation>&amp;Histogramme</translation>
-    </message>
-    <message>
-        <source>Shows how often each brightness is seen in the result</source>
-        <translation>Montre la fréquence de chaque luminosité dans le résultat</translation>
-    </message>
-    <message>
-        <source>Filter &amp;Thumbnails</source>
-        <translation>Aperç&amp;us des filtres</translation>
-    </message>
-    <message>
-        <source>Shows in the list what each filter makes of the picture</source>
-        <translation>Montre dans la liste ce que chaque filtre fait de l’image</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -3805,6 +3791,30 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>Randomize Inputs</source>
         <translation>Réglages au hasard</translation>
+    </message>
+</context>
+<context>
+    <name>StatusRow</name>
+    <message>
+        <source>sRGB 16-bit</source>
+        <translation>sRVB 16 bits</translation>
+    </message>
+    <message>
+        <source>sRGB 32-bit float</source>
+        <translation>sRVB 32 bits flottants</translation>
+    </message>
+    <message>
+        <source>sRGB 8-bit</source>
+        <translation>sRVB 8 bits</translation>
+    </message>
+    <message>
+        <source>No picture</source>
+        <translation>Aucune image</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px · %3</source>
+        <comment>width, height, color space and depth</comment>
+        <translation>%1 × %2 px · %3</translation>
     </message>
 </context>
 <context>
