@@ -1,5 +1,5 @@
-// What can be set on an effect. Each parameter is said once: reading, storing, copying, undo, the control and the redraw
-// follow from its declaration.
+// What can be set on an effect. Each parameter is said once: reading, storing, copying, undo, the control and the
+// redraw follow from its declaration.
 #pragma once
 
 #include "platform/coreimage/CIValue.h"
@@ -47,15 +47,16 @@ public:
     /// `key` is that of stored dictionaries. Rows of numbers are stored as "key0", "key1" …
     template <class Effect, class T>
     EffectParameter(std::string key, T Effect::*member, ParameterText text, ParameterFacts facts)
-        : EffectParameter(std::move(key), text, std::move(facts),
-            [member](auto& effect) -> auto& { return like<Effect>(effect).*member; })
+        : EffectParameter(
+            std::move(key), text,
+            std::move(facts), [member](auto& effect) -> auto& { return like<Effect>(effect).*member; })
     {
     }
     /// One number of a row. The parameter of the row starts, stores and copies it.
     template <class Effect, class T, std::size_t N>
     EffectParameter(std::array<T, N> Effect::*member, std::size_t index, ParameterText text, ParameterFacts facts)
-        : EffectParameter({}, text, std::move(facts),
-            [member, index](auto& effect) -> auto& { return (like<Effect>(effect).*member)[index]; })
+        : EffectParameter(
+            {}, text, std::move(facts), [=](auto& effect) -> auto& { return (like<Effect>(effect).*member)[index]; })
     {
         this->facts.start = CIValue();
         this->facts.storage = ParameterFacts::NotStored;

@@ -63,10 +63,12 @@ TEST_F(DocumentTest, WorkIsDoneElsewhereAndOneAtATime)
             order += "then ";
         });
     EXPECT_EQ(document.state(), Document::State::Working);
-    document.work({}, [](WorkControl&) { return 1; }, [&](std::optional<int>, bool) { ADD_FAILURE() << "refused"; });
+    document.work(
+        {}, [](WorkControl&) { return 1; }, [&](std::optional<int>, bool) { ADD_FAILURE() << "refused"; });
     document.whenIdle([&] {
         order += "next ";
-        document.work({}, [](WorkControl&) { return 1; }, [&](std::optional<int>, bool) { order += "work "; });
+        document.work(
+            {}, [](WorkControl&) { return 1; }, [&](std::optional<int>, bool) { order += "work "; });
     });
     document.whenIdle([&] { order += "last"; });
     EXPECT_EQ(order, "");
@@ -163,8 +165,7 @@ TEST_F(DocumentTest, TheClipboardTakesWhatIsFinished)
 TEST_F(DocumentTest, SavingTellsWhenAFileIsThere)
 {
     int saved = 0, ended = 0;
-    Saving saving(
-        document, &window, [] { return [](CIRenderControl*) { return picture(7, 5); }; },
+    Saving saving(document, &window, [] { return [](CIRenderControl*) { return picture(7, 5); }; },
         {[&] { ++saved; }, [&] { ++ended; }});
     saving.initExportFormats();
     document.setWasChanged(true);

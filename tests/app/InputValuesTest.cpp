@@ -19,8 +19,9 @@ void expectSensible(const CIInputAttributes& input, const CIValue& value)
     if (input.isNumber() && input.kind != InputKind::Boolean) {
         EXPECT_GE(value.toDouble(), input.sliderMin.value_or(input.min.value_or(0)));
         EXPECT_LE(value.toDouble(), input.sliderMax.value_or(input.max.value_or(0)));
-        if (input.kind == InputKind::Integer || input.kind == InputKind::Count)
+        if (input.kind == InputKind::Integer || input.kind == InputKind::Count) {
             EXPECT_EQ(value.toDouble(), std::floor(value.toDouble()));
+        }
     } else if (input.kind == InputKind::Position || input.kind == InputKind::Position3) {
         EXPECT_TRUE(contains(kPicture, value.toVector().point()));
         EXPECT_EQ(value.toVector().count(), input.kind == InputKind::Position ? 2U : 3U);

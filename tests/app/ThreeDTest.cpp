@@ -218,7 +218,7 @@ TEST_F(ThreeDFavouritesTest, AChosenOneLetsTheStripStepTowardsTheFirst)
     const DocPageControl& strip = *ui.m_page3DController;
     while (strip.visibleOrigin() < 100 && strip.pageCount() < 30) {
         press(ui.addFavouriteBtn);
-        QTest::qWaitFor([&] { return !strip.isMoving(); });
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !strip.isMoving(); }));
     }
     const int first = strip.currentPage();
     press(button(first + 1));
