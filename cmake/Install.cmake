@@ -57,7 +57,7 @@ if(LUMIVEX_TESTS)
     find_program(PYTHON3 python3)
     if(PYTHON3)
         add_test(NAME bundle_plist COMMAND ${PYTHON3} ${CMAKE_SOURCE_DIR}/tests/resources/bundle_plist.py
-                                           ${LUMIVEX_PLIST} ${CMAKE_SOURCE_DIR}/files/ExportFormats.h)
+                                           ${LUMIVEX_PLIST} ${CMAKE_SOURCE_DIR}/platform/imageio/FileFormats.cpp)
     endif()
     find_program(DESKTOP_FILE_VALIDATE desktop-file-validate)
     find_program(APPSTREAMCLI appstreamcli)

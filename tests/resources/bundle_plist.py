@@ -1,5 +1,5 @@
 """Whether the list of properties of the macOS bundle can be read, and what is saved can be opened again:
-bundle_plist.py Info.plist ExportFormats.h"""
+bundle_plist.py Info.plist FileFormats.cpp"""
 import plistlib
 import re
 import sys
@@ -12,5 +12,6 @@ kinds = properties["CFBundleDocumentTypes"]
 opened = [name for kind in kinds for name in kind["LSItemContentTypes"]]
 assert len(opened) == len(set(opened)), "a type stands there twice"
 editable = {name for kind in kinds if kind["CFBundleTypeRole"] == "Editor" for name in kind["LSItemContentTypes"]}
-saved = set(re.findall(r'^    \{"[^"]+", "([^"]+)"\}', Path(sys.argv[2]).read_text(), re.MULTILINE))
-assert len(saved) >= 7 and saved | {"com.adobe.pdf"} == editable, saved ^ editable
+rows = Path(sys.argv[2]).read_text().split("{.format = ")[1:]
+saved = {re.search(r'\.typeIdentifier = "([^"]+)"', row).group(1) for row in rows if ".exportName" in row}
+assert len(saved) >= 8 and saved == editable, saved ^ editable
