@@ -24,6 +24,7 @@ std::vector<FileFormat> table()
             .extensions = {"jpg", "jpeg", "jpe", "jfif"},
             .signatures = {"\xff\xd8\xff"},
             .open = openJpeg,
+            .readsReduced = true,
             .encode =
                 [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
                     return vips_jpegsave_target(
@@ -34,10 +35,11 @@ std::vector<FileFormat> table()
         {.format = PictureFormat::Jpeg2000,
             .name = "JPEG 2000",
             .typeIdentifier = "public.jpeg-2000",
-            .mimeTypes = {"image/jp2"},
-            .extensions = {"jp2", "j2k", "jpx", "jpf", "jpeg-2000"},
+            .mimeTypes = {"image/jp2", "image/jpx", "image/x-jp2-codestream"},
+            .extensions = {"jp2", "j2k", "j2c", "jpc", "jpx", "jpf", "jph", "jhc", "jpeg-2000"},
             .signatures = {"\0\0\0\x0cjP  "sv, "\xff\x4f\xff\x51"},
-            .loader = "jp2kload_source",
+            .open = openJpeg2000,
+            .readsReduced = true,
             .encode =
                 [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
                     return vips_jp2ksave_target(image, target, "Q", qualityOf(options), nullptr);

@@ -52,6 +52,7 @@ struct FileFormat {
     bool isDrawing = false; // without pixels of its own: rendered, which may take for ever
     bool isUpright = false; // the decoder has turned the picture, whatever its metadata say
     bool isPremultiplied = false;
+    bool readsReduced = false; // much sooner than as a whole
     bool isRead() const { return loader || open || format == PictureFormat::CameraRaw; }
 
     // Writing; null for formats that are only read. Answers 0, or -1 with a pending libvips error.

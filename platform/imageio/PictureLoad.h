@@ -8,14 +8,15 @@ namespace imageio {
 /// An opened picture and what has to outlive it.
 struct OpenPicture {
     VipsSourcePtr source;
-    std::shared_ptr<const void> temporaryFile;
+    std::shared_ptr<const void> held; // by the image: a temporary file, or the bytes around its own
     VipsImagePtr image; // as stored: neither upright nor in sRGB yet
     int orientation = 1; // EXIF number that still has to be applied
     bool isPremultiplied = false;
+    Reason refusal = Reason::Damaged; // why there is no image
 };
 
-/// Opens what libvips reads, reading the header only. `maxSide` > 0 lets the decoder skip detail, as long as
-/// the longer side stays at least that long. A null image with a pending libvips error when it fails.
+/// Opens what libvips or one of `readers` reads, reading the header only. `maxSide` > 0 lets the decoder skip detail,
+/// as long as the longer side stays at least that long. A null image with a pending libvips error when it fails.
 OpenPicture openPicture(const PictureInput&, int maxSide);
 
 } // namespace imageio

@@ -14,10 +14,10 @@ namespace {
 
 using namespace imageio;
 
-Failure damaged(const PictureInput& input)
+Failure damaged(const PictureInput& input, Reason reason = Reason::Damaged)
 {
     imageLog(input.name() + " (" + input.format()->name + "): " + takeVipsError());
-    return input.failure(Reason::Damaged);
+    return input.failure(reason);
 }
 
 Failure tooLarge(const PictureInput& input, int width, int height)
@@ -65,7 +65,7 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
 {
     OpenPicture picture = openPicture(input, options.maxSide);
     if (!picture.image)
-        return damaged(input);
+        return damaged(input, picture.refusal);
     const int width = vips_image_get_width(picture.image.get()), height = vips_image_get_height(picture.image.get());
     if (std::int64_t(width) * height > options.maxPixels)
         return tooLarge(input, width, height);
@@ -165,7 +165,8 @@ Result<PictureInfo> readPictureInfo(const std::filesystem::path& file)
         if (input->isOf(PictureFormat::CameraRaw))
             return readRawInfo(*input);
         const OpenPicture picture = openPicture(*input, 0);
-        return picture.image ? Result<PictureInfo>(infoOf(picture, input->format()->format)) : damaged(*input);
+        return picture.image ? Result<PictureInfo>(infoOf(picture, input->format()->format))
+                             : damaged(*input, picture.refusal);
     } catch (const std::exception& error) {
         imageLog(input->name() + ": " + error.what());
         return input->failure(Reason::CannotOpen);

@@ -39,7 +39,7 @@ void openExr(OpenPicture& picture, const PictureInput& input, int)
         if (!copy)
             return;
         path = *copy;
-        picture.temporaryFile = copy;
+        picture.held = copy;
     }
     VipsImagePtr image = derive([&](VipsImage** out) {
         return vips_openexrload(

@@ -7,9 +7,15 @@ namespace imageio {
 
 // Each does what openPicture says for its format, with `picture.source` in place.
 void openExr(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openIcns(OpenPicture& picture, const PictureInput& input, int maxSide);
 void openJpeg(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openJpeg2000(OpenPicture& picture, const PictureInput& input, int maxSide);
 void openPdf(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openPnm(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openQoi(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openRadiance(OpenPicture& picture, const PictureInput& input, int maxSide);
 void openSvg(OpenPicture& picture, const PictureInput& input, int maxSide);
+void openTga(OpenPicture& picture, const PictureInput& input, int maxSide);
 void openThroughMagick(OpenPicture& picture, const PictureInput& input, int maxSide);
 void openWebP(OpenPicture& picture, const PictureInput& input, int maxSide);
 
