@@ -34,7 +34,11 @@ enum class PictureFormat {
     Exr,
     Psd,
     Ico,
-    Sgi
+    Sgi,
+    Pnm,
+    Qoi,
+    Radiance,
+    Tga
 };
 
 struct FileFormat {

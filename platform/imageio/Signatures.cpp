@@ -138,6 +138,11 @@ bool isSgi(std::string_view head, const ReadBytes&)
     return head.starts_with("\x01\xda"sv) && (head[2] == 0 || head[2] == 1) && (head[3] == 1 || head[3] == 2);
 }
 
+bool isPnm(std::string_view head, const ReadBytes&)
+{
+    return head[0] == 'P' && "1234567Ff"sv.find(head[1]) != head.npos && " \t\r\n#"sv.find(head[2]) != head.npos;
+}
+
 bool isSvg(std::string_view head, const ReadBytes&)
 {
     if (head.starts_with("\xef\xbb\xbf"sv))

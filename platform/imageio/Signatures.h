@@ -16,8 +16,10 @@ bool isAvif(std::string_view head, const ReadBytes&);
 bool isBmp(std::string_view head, const ReadBytes&);
 bool isCameraRaw(std::string_view head, const ReadBytes&); // in a container that other formats have, too
 bool isHeif(std::string_view head, const ReadBytes&);
+bool isPnm(std::string_view head, const ReadBytes&);
 bool isSgi(std::string_view head, const ReadBytes&);
 bool isSvg(std::string_view head, const ReadBytes&);
+bool isTga(std::string_view head, const ReadBytes&);
 bool isWebP(std::string_view head, const ReadBytes&);
 
 /// The entry of an icon file with the most pixels, of those the one with the most bits.

@@ -25,8 +25,8 @@ void blockUnusedLoaders()
     vips_operation_block_set("VipsForeignLoad", TRUE);
     for (const char* wanted :
         {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadTiff", "VipsForeignLoadNsgif",
-            "VipsForeignLoadWebp", "VipsForeignLoadHeif", "VipsForeignLoadJp2k", "VipsForeignLoadJxl",
-            "VipsForeignLoadSvg", "VipsForeignLoadPdf", "VipsForeignLoadOpenexr", "VipsForeignLoadMagick"})
+            "VipsForeignLoadWebp", "VipsForeignLoadHeif", "VipsForeignLoadJxl", "VipsForeignLoadSvg",
+            "VipsForeignLoadPdf", "VipsForeignLoadOpenexr", "VipsForeignLoadRad", "VipsForeignLoadMagick"})
         vips_operation_block_set(wanted, FALSE);
 }
 

@@ -165,7 +165,6 @@ TEST_F(Reach, ProgramsAreNoPictures)
         "text:@" + red + "\n                ",
         "label:@/etc/passwd    ",
         "ephemeral:" + red,
-        "P6 1 1 255\nabcdefghijk",
         "id=ImageMagick  version=1.0\nclass=DirectClass colors=0 columns=1 rows=1\n:\x1a   ",
         "#!/bin/sh\n" + run + "\n",
         "<html><body><script>1</script></body></html>",

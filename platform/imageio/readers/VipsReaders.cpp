@@ -48,6 +48,13 @@ void openWebP(OpenPicture& picture, const PictureInput&, int maxSide)
         picture.image = load("webpload_source", source, "scale", maxSide / longerSide(picture.image.get()));
 }
 
+void openRadiance(OpenPicture& picture, const PictureInput&, int)
+{
+    const VipsImagePtr packed = load("radload_source", picture.source.get());
+    if (packed)
+        picture.image = derive([&](VipsImage** out) { return vips_rad2float(packed.get(), out, nullptr); });
+}
+
 void openSvg(OpenPicture& picture, const PictureInput&, int maxSide)
 {
     picture.image = loadDrawing("svgload_source", picture.source.get(), maxSide, kSvgDpi);
