@@ -56,6 +56,16 @@ constexpr Sentence kSentences[] = {
     {Reason::CannotWrite, QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written: %2.")},
     {Reason::CannotWrite, QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written.")},
     {Reason::CannotWrite, QT_TRANSLATE_NOOP("PictureMessage", "The picture can't be written.")},
+    {Reason::NoSpace,
+        QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written: there is no space left on the disk.")},
+    {Reason::NoSpace, QT_TRANSLATE_NOOP("PictureMessage", "There is no space left on the disk.")},
+    {Reason::NotPermitted,
+        QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written: you may not write into this folder.")},
+    {Reason::NotPermitted, QT_TRANSLATE_NOOP("PictureMessage", "You may not write into this folder.")},
+    {Reason::ReadOnly, QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written: the disk is read-only.")},
+    {Reason::ReadOnly, QT_TRANSLATE_NOOP("PictureMessage", "The disk is read-only.")},
+    {Reason::NoFolder, QT_TRANSLATE_NOOP("PictureMessage", "“%1” can't be written: there is no such folder.")},
+    {Reason::NoFolder, QT_TRANSLATE_NOOP("PictureMessage", "There is no folder of that name.")},
     {Reason::NoMemoryToSave, QT_TRANSLATE_NOOP("PictureMessage", "There was not enough memory to save the picture.")},
 };
 

@@ -22,6 +22,10 @@ enum class Reason {
     NothingToWrite,
     NotWritten,
     CannotWrite, // detail: the system's reason
+    NoSpace,
+    NotPermitted,
+    ReadOnly,
+    NoFolder,
     NoMemoryToSave,
 };
 

@@ -1,18 +1,39 @@
 #include "platform/imageio/FileFormats.h"
 
 #include "platform/imageio/BmpWriter.h"
+#include "platform/imageio/ExrWriter.h"
 #include "platform/imageio/IconWriter.h"
 #include "platform/imageio/PictureWriter.h"
 #include "platform/imageio/readers/Readers.h"
 
 #include <algorithm>
+#include <map>
+#include <mutex>
 
 namespace {
 
 using namespace imageio;
 using namespace std::string_view_literals;
 
+// The translators' tool finds its texts by the name of this macro.
+#define QT_TRANSLATE_NOOP(context, text) text
+
+constexpr const char* kNone = QT_TRANSLATE_NOOP("ExportPanel", "None");
+
 int qualityOf(const WriteOptions& options) { return std::clamp(int(options.quality * 100 + 0.5), 1, 100); }
+
+VipsForeignSubsample chromaOf(const WriteOptions& options)
+{
+    return options.hasFullChroma ? VIPS_FOREIGN_SUBSAMPLE_OFF : VIPS_FOREIGN_SUBSAMPLE_AUTO;
+}
+
+int writeHeif(VipsImage* image, VipsTarget* target, const WriteOptions& options, VipsForeignHeifCompression compression)
+{
+    const bool isDeep = vips_image_get_format(image) == VIPS_FORMAT_USHORT;
+    return vips_heifsave_target(image, target, "compression", compression, "Q", qualityOf(options), "lossless",
+        gboolean(options.isLossless), "bitdepth", isDeep ? fileFormat(options.format).writtenBits : 8, "subsample_mode",
+        options.isLossless ? VIPS_FOREIGN_SUBSAMPLE_OFF : chromaOf(options), nullptr);
+}
 
 std::vector<FileFormat> table()
 {
@@ -27,10 +48,11 @@ std::vector<FileFormat> table()
             .readsReduced = true,
             .encode =
                 [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
-                    return vips_jpegsave_target(
-                        image, target, "Q", qualityOf(options), "optimize_coding", TRUE, nullptr);
+                    return vips_jpegsave_target(image, target, "Q", qualityOf(options), "optimize_coding", TRUE,
+                        "interlace", gboolean(options.isProgressive), "subsample_mode", chromaOf(options), nullptr);
                 },
             .writesAlpha = false,
+            .options = {.quality = true, .chroma = true, .progressive = true, .resolution = true, .metadata = true},
             .exportName = "JPEG"},
         {.format = PictureFormat::Jpeg2000,
             .name = "JPEG 2000",
@@ -42,9 +64,11 @@ std::vector<FileFormat> table()
             .readsReduced = true,
             .encode =
                 [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
-                    return vips_jp2ksave_target(image, target, "Q", qualityOf(options), nullptr);
+                    return vips_jp2ksave_target(
+                        image, target, "Q", qualityOf(options), "lossless", gboolean(options.isLossless), nullptr);
                 },
             .writtenBits = 16,
+            .options = {.quality = true, .lossless = true, .metadata = true},
             .exportName = "JPEG-2000"},
         {.format = PictureFormat::CameraRaw, // before TIFF, which many of them are, too
             .name = "Camera raw",
@@ -67,11 +91,14 @@ std::vector<FileFormat> table()
             .signatures = {"II*\0"sv, "MM\0*"sv, "II+\0"sv, "MM\0+"sv},
             .loader = "tiffload_source",
             .encode =
-                [](VipsImage* image, VipsTarget* target, const WriteOptions&) {
-                    return vips_tiffsave_target(image, target, "compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW,
+                [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
+                    constexpr VipsForeignTiffCompression kCompressions[] = {VIPS_FOREIGN_TIFF_COMPRESSION_LZW,
+                        VIPS_FOREIGN_TIFF_COMPRESSION_DEFLATE, VIPS_FOREIGN_TIFF_COMPRESSION_NONE};
+                    return vips_tiffsave_target(image, target, "compression", kCompressions[options.compression],
                         "predictor", VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL, nullptr);
                 },
             .writtenBits = 16,
+            .options = {.compressions = {"LZW", "Deflate", kNone}, .resolution = true, .metadata = true},
             .exportName = "TIFF"},
         {.format = PictureFormat::Gif,
             .name = "GIF",
@@ -91,12 +118,18 @@ std::vector<FileFormat> table()
             .signatures = {"\x89PNG\r\n\x1a\n"},
             .loader = "pngload_source",
             .encode =
-                [](VipsImage* image, VipsTarget* target, const WriteOptions&) {
+                [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
                     // A third of the time of the usual level for a seventh more bytes.
-                    return vips_pngsave_target(
-                        image, target, "compression", 2, "filter", VIPS_FOREIGN_PNG_FILTER_SUB, nullptr);
+                    const bool isFast = options.compression == 0;
+                    return vips_pngsave_target(image, target, "compression", isFast ? 2 : 9, "filter",
+                        isFast ? VIPS_FOREIGN_PNG_FILTER_SUB : VIPS_FOREIGN_PNG_FILTER_ALL, "interlace",
+                        gboolean(options.isProgressive), nullptr);
                 },
             .writtenBits = 16,
+            .options = {.progressive = true,
+                .compressions = {QT_TRANSLATE_NOOP("ExportPanel", "Fast"), QT_TRANSLATE_NOOP("ExportPanel", "Small")},
+                .resolution = true,
+                .metadata = true},
             .exportName = "PNG"},
         {.format = PictureFormat::Bmp,
             .name = "BMP",
@@ -107,6 +140,7 @@ std::vector<FileFormat> table()
             .open = openThroughMagick,
             .encode = [](VipsImage* image, VipsTarget* target,
                           const WriteOptions& options) { return writeBmp(image, target, options.dotsPerInch); },
+            .options = {.resolution = true},
             .exportName = "BMP"},
         {.format = PictureFormat::Icns,
             .name = "ICNS",
@@ -137,8 +171,10 @@ std::vector<FileFormat> table()
             .open = openWebP,
             .encode =
                 [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
-                    return vips_webpsave_target(image, target, "Q", qualityOf(options), nullptr);
-                }},
+                    return vips_webpsave_target(
+                        image, target, "Q", qualityOf(options), "lossless", gboolean(options.isLossless), nullptr);
+                },
+            .options = {.quality = true, .lossless = true, .resolution = true, .metadata = true}},
         {.format = PictureFormat::Avif, // before HEIF, whose brands its files have, too
             .name = "AVIF",
             .typeIdentifier = "public.avif",
@@ -146,7 +182,13 @@ std::vector<FileFormat> table()
             .extensions = {"avif"},
             .recognizes = isAvif,
             .loader = "heifload_source",
-            .isUpright = true},
+            .isUpright = true,
+            .encode =
+                [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
+                    return writeHeif(image, target, options, VIPS_FOREIGN_HEIF_COMPRESSION_AV1);
+                },
+            .writtenBits = 12,
+            .options = {.quality = true, .chroma = true, .lossless = true, .resolution = true, .metadata = true}},
         {.format = PictureFormat::Heif,
             .name = "HEIF",
             .typeIdentifier = "public.heic",
@@ -154,7 +196,12 @@ std::vector<FileFormat> table()
             .extensions = {"heic", "heif", "hif"},
             .recognizes = isHeif,
             .loader = "heifload_source",
-            .isUpright = true},
+            .isUpright = true,
+            .encode =
+                [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
+                    return writeHeif(image, target, options, VIPS_FOREIGN_HEIF_COMPRESSION_HEVC);
+                },
+            .options = {.quality = true, .chroma = true, .lossless = true, .resolution = true, .metadata = true}},
         {.format = PictureFormat::JpegXl,
             .name = "JPEG XL",
             .typeIdentifier = "public.jpeg-xl",
@@ -162,7 +209,14 @@ std::vector<FileFormat> table()
             .extensions = {"jxl"},
             .signatures = {"\0\0\0\x0cJXL \r\n\x87\n"sv, "\xff\x0a"},
             .loader = "jxlload_source",
-            .isUpright = true},
+            .isUpright = true,
+            .encode =
+                [](VipsImage* image, VipsTarget* target, const WriteOptions& options) {
+                    return vips_jxlsave_target(
+                        image, target, "Q", qualityOf(options), "lossless", gboolean(options.isLossless), nullptr);
+                },
+            .writtenBits = 16,
+            .options = {.quality = true, .lossless = true}},
         {.format = PictureFormat::Svg,
             .name = "SVG",
             .typeIdentifier = "public.svg-image",
@@ -178,7 +232,10 @@ std::vector<FileFormat> table()
             .extensions = {"exr"},
             .signatures = {"\x76\x2f\x31\x01"},
             .open = openExr,
-            .isPremultiplied = true},
+            .isPremultiplied = true,
+            .encode = writeExr,
+            .writtenBits = 32,
+            .options = {.compressions = {"ZIP", "PIZ", kNone}}},
         {.format = PictureFormat::Psd,
             .name = "PSD",
             .typeIdentifier = "com.adobe.photoshop-image",
@@ -249,6 +306,21 @@ const std::vector<FileFormat>& fileFormats()
 }
 
 const FileFormat& fileFormat(PictureFormat format) { return fileFormats()[std::size_t(format)]; }
+
+bool canWrite(const FileFormat& format)
+{
+    static std::mutex guard;
+    static std::map<PictureFormat, bool> known;
+    const std::lock_guard lock(guard);
+    const auto [entry, isNew] = known.try_emplace(format.format, false);
+    if (isNew && format.encode) {
+        constexpr int kSide = 16; // some encoders refuse the smallest pictures
+        CIBitmap tried(kSide, kSide);
+        tried.setOpaque();
+        entry->second = encodePicture(tried, {.format = format.format}).isOk();
+    }
+    return entry->second;
+}
 
 const FileFormat* formatOfType(std::string_view typeIdentifier)
 {

@@ -41,6 +41,13 @@ enum class PictureFormat {
     Tga
 };
 
+/// What of `WriteOptions` the files of a format heed.
+struct FormatOptions {
+    bool quality = false, chroma = false, progressive = false, lossless = false;
+    std::vector<const char*> compressions{}; // their names; the first is the standard one
+    bool resolution = false, metadata = false;
+};
+
 struct FileFormat {
     PictureFormat format;
     const char* name;
@@ -61,8 +68,9 @@ struct FileFormat {
 
     // Writing; null for formats that are only read. Answers 0, or -1 with a pending libvips error.
     int (*encode)(VipsImage*, VipsTarget*, const WriteOptions&) = nullptr;
-    int writtenBits = 8; // a component, at most
+    int writtenBits = 8; // a component, at most; 32 are floats, and always written
     bool writesAlpha = true;
+    FormatOptions options{};
     bool isIcon = false; // one square picture of a side that the format knows
     /// In the menu of the save panel, whose order is that of the table; in lower case it is the extension. Null for
     /// formats that aren't offered there.
@@ -71,6 +79,9 @@ struct FileFormat {
 
 const std::vector<FileFormat>& fileFormats();
 const FileFormat& fileFormat(PictureFormat);
+
+/// Whether the installed libraries can write such pictures: tries it once, with a small one. Any thread.
+bool canWrite(const FileFormat&);
 
 /// Null when there is none.
 const FileFormat* formatOfType(std::string_view typeIdentifier);

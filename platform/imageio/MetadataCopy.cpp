@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <iterator>
+#include <span>
 #include <string_view>
 
 struct PictureMetadata::Entries {
@@ -68,6 +70,22 @@ bool staysTrue(const Exiv2::Xmpdatum& datum)
     return !isOneOf(key, keys) && !key.starts_with("Xmp.xmp.Thumbnails") && group != "crs";
 }
 
+template <class Datum>
+bool tellsThePlace(const Datum& datum)
+{
+    constexpr std::array<std::string_view, 8> tags{
+        "City", "SubLocation", "ProvinceState", "State", "CountryCode", "CountryName", "Country", "Location"};
+    const std::string group = datum.groupName(), tag = datum.tagName();
+    return group == "GPSInfo" || tag.starts_with("GPS") || tag.starts_with("Location") || isOneOf(tag, tags);
+}
+
+template <class Data>
+void erasePlace(Data& data)
+{
+    for (auto datum = data.begin(); datum != data.end();)
+        datum = tellsThePlace(*datum) ? data.erase(datum) : std::next(datum);
+}
+
 bool takesAnything(const Exiv2::Image& image)
 {
     return std::ranges::any_of(std::array{Exiv2::mdExif, Exiv2::mdIptc, Exiv2::mdXmp},
@@ -108,14 +126,10 @@ std::unique_ptr<PictureMetadata::Entries> entriesOf(const Exiv2::Image& image)
     return isEmpty(*entries) && entries->dotsPerInch == 0 ? nullptr : std::move(entries);
 }
 
-void putExif(const PictureMetadata::Entries& entries, Exiv2::Image& to, int width, int height)
+void putExif(const PictureMetadata::Entries& entries, Exiv2::ExifData& target, int width, int height)
 {
-    if (entries.exif.empty())
-        return;
-    Exiv2::ExifData& target = to.exifData();
     for (const Exiv2::Exifdatum& datum : entries.exif)
         target[datum.key()].setValue(&datum.value());
-    to.setByteOrder(entries.byteOrder);
     target["Exif.Image.Orientation"] = kUpright;
     target["Exif.Photo.ColorSpace"] = kSrgb;
     target["Exif.Photo.PixelXDimension"] = std::uint32_t(width);
@@ -123,6 +137,29 @@ void putExif(const PictureMetadata::Entries& entries, Exiv2::Image& to, int widt
 }
 
 } // namespace
+
+std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height)
+{
+    const PictureMetadata::Entries& entries = metadata.entries();
+    if (entries.exif.empty())
+        return {};
+    prepareExiv2();
+    try {
+        Exiv2::ExifData exif;
+        putExif(entries, exif, width, height);
+        const bool isBig = entries.byteOrder == Exiv2::bigEndian;
+        Exiv2::Blob encoded;
+        Exiv2::ExifParser::encode(encoded, isBig ? Exiv2::bigEndian : Exiv2::littleEndian, exif);
+        constexpr std::string_view kStart("Exif\0\0", 6);
+        const auto start = std::as_bytes(std::span(kStart)), rest = std::as_bytes(std::span(encoded));
+        std::vector<std::byte> block(start.begin(), start.end());
+        block.insert(block.end(), rest.begin(), rest.end());
+        return block;
+    } catch (const std::exception& error) {
+        imageLog("Metadata of " + metadata.file().filename().string() + " are left out: " + error.what());
+        return {};
+    }
+}
 
 std::vector<std::byte> withMetadata(
     const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height)
@@ -136,7 +173,10 @@ std::vector<std::byte> withMetadata(
         if (!takesAnything(*to))
             return encoded;
         to->readMetadata();
-        putExif(metadata.entries(), *to, width, height);
+        if (!metadata.entries().exif.empty()) {
+            putExif(metadata.entries(), to->exifData(), width, height);
+            to->setByteOrder(metadata.entries().byteOrder);
+        }
         for (const Exiv2::Iptcdatum& datum : metadata.entries().iptc)
             to->iptcData().add(datum);
         for (const Exiv2::Xmpdatum& datum : metadata.entries().xmp)
@@ -164,6 +204,15 @@ PictureMetadata::PictureMetadata(std::filesystem::path file, std::unique_ptr<Ent
 PictureMetadata::~PictureMetadata() = default;
 
 double PictureMetadata::dotsPerInch() const { return m_entries->dotsPerInch; }
+
+std::shared_ptr<const PictureMetadata> PictureMetadata::withoutPlace() const
+{
+    auto entries = std::make_unique<Entries>(*m_entries);
+    imageio::erasePlace(entries->exif);
+    imageio::erasePlace(entries->iptc);
+    imageio::erasePlace(entries->xmp);
+    return std::make_shared<const PictureMetadata>(m_file, std::move(entries));
+}
 
 std::shared_ptr<const PictureMetadata> PictureMetadata::ofFile(const std::filesystem::path& file)
 {

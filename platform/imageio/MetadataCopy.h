@@ -20,4 +20,7 @@ std::string plainPath(const std::filesystem::path& file);
 std::vector<std::byte> withMetadata(
     const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height);
 
+/// The Exif entries as a block that starts with "Exif\0\0"; empty when there are none or they don't fit.
+std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height);
+
 } // namespace imageio

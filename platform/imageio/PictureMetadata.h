@@ -17,6 +17,9 @@ public:
     PictureMetadata(std::filesystem::path file, std::unique_ptr<Entries> entries);
     ~PictureMetadata();
 
+    /// All but where the picture was taken, in coordinates and in words.
+    std::shared_ptr<const PictureMetadata> withoutPlace() const;
+
     const Entries& entries() const { return *m_entries; }
     const std::filesystem::path& file() const { return m_file; } // where they come from
     double dotsPerInch() const; // that the file gave for its own pixels; 0 when it gave none

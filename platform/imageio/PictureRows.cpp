@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace imageio {
 
@@ -24,6 +25,11 @@ Pixel loaded(const T* p, CIFormat format)
 float srgbCoded(float linear)
 {
     return linear <= 0.0031308f ? 12.92f * linear : 1.055f * std::pow(linear, 1 / 2.4f) - 0.055f;
+}
+
+float linearLight(float coded)
+{
+    return coded <= 0.04045f ? coded / 12.92f : std::pow((coded + 0.055f) / 1.055f, 2.4f);
 }
 
 template <class Change>
@@ -65,7 +71,9 @@ private:
     void convertFrom(int left, int y, int count, void* target) const
     {
         const Source* source = m_bitmap.row<Source>(y).data() + std::ptrdiff_t(4) * left;
-        if (m_layout.bits == 16)
+        if (m_layout.bits == 32)
+            convertToLight(source, count, static_cast<float*>(target));
+        else if (m_layout.bits == 16)
             convertTo(source, count, static_cast<std::uint16_t*>(target));
         else
             convertTo(source, count, static_cast<std::uint8_t*>(target));
@@ -81,6 +89,33 @@ private:
         else
             for (int i = 0; i < count; ++i)
                 storePixel(straightSrgb(loaded(source + 4 * i, m_bitmap.format())), target + bands * i);
+    }
+
+    template <class Source>
+    void convertToLight(const Source* source, int count, float* target) const
+    {
+        for (int i = 0; i < count; ++i) {
+            const Pixel pixel = premultipliedLight(loaded(source + 4 * i, m_bitmap.format()));
+            for (const float component : {pixel.red, pixel.green, pixel.blue})
+                *target++ = component;
+            if (m_layout.hasAlpha)
+                *target++ = pixel.alpha;
+        }
+    }
+
+    /// Without a detour through codes, which end at 1.
+    Pixel premultipliedLight(Pixel pixel) const
+    {
+        if (m_bitmap.alpha() == CIAlpha::Opaque)
+            pixel.alpha = 1;
+        const bool isPremultiplied = m_bitmap.alpha() == CIAlpha::Premultiplied;
+        if (m_bitmap.colorSpace() == CIColorSpace::SRGB) {
+            const float factor = isPremultiplied ? (pixel.alpha > 0 ? 1 / pixel.alpha : 0) : 1;
+            changeColor(pixel, [factor, &pixel](float c) { return linearLight(c * factor) * pixel.alpha; });
+        } else if (!isPremultiplied) {
+            changeColor(pixel, [&pixel](float c) { return c * pixel.alpha; });
+        }
+        return pixel;
     }
 
     bool isStoredAlready() const
@@ -134,10 +169,11 @@ int generateRows(VipsRegion* region, void*, void* converter, void*, gboolean*)
 VipsImagePtr imageOfBitmap(const CIBitmap& bitmap, RowLayout layout)
 {
     VipsImagePtr image(vips_image_new());
-    const bool isDeep = layout.bits == 16;
-    vips_image_init_fields(image.get(), bitmap.width(), bitmap.height(), layout.hasAlpha ? 4 : 3,
-        isDeep ? VIPS_FORMAT_USHORT : VIPS_FORMAT_UCHAR, VIPS_CODING_NONE,
-        isDeep ? VIPS_INTERPRETATION_RGB16 : VIPS_INTERPRETATION_sRGB, 1, 1);
+    const auto [format, interpretation] = layout.bits == 32 ? std::pair(VIPS_FORMAT_FLOAT, VIPS_INTERPRETATION_scRGB)
+        : layout.bits == 16                                 ? std::pair(VIPS_FORMAT_USHORT, VIPS_INTERPRETATION_RGB16)
+                                                            : std::pair(VIPS_FORMAT_UCHAR, VIPS_INTERPRETATION_sRGB);
+    vips_image_init_fields(image.get(), bitmap.width(), bitmap.height(), layout.hasAlpha ? 4 : 3, format,
+        VIPS_CODING_NONE, interpretation, 1, 1);
     auto* converter = new RowConverter(bitmap, layout);
     g_signal_connect(
         image.get(), "postclose", G_CALLBACK(+[](VipsImage*, RowConverter* done) { delete done; }), converter);

@@ -7,11 +7,11 @@
 namespace imageio {
 
 struct RowLayout {
-    int bits = 8; // 8 or 16
+    int bits = 8; // 8 or 16; 32 are linear, premultiplied floats
     bool hasAlpha = false; // straight; without it transparent pixels come out on white
 };
 
-/// The bitmap in sRGB. It must outlive the image. Null with a pending libvips error when that fails.
+/// The bitmap in sRGB, or as floats. It must outlive the image. Null with a pending libvips error when that fails.
 VipsImagePtr imageOfBitmap(const CIBitmap&, RowLayout);
 
 } // namespace imageio

@@ -30,7 +30,8 @@ RowLayout layoutFor(const CIBitmap& bitmap, const WriteOptions& options)
     const bool isDeepBitmap = bitmap.format() == CIFormat::RGBA16 || bitmap.format() == CIFormat::RGBAf;
     const int wanted = options.bitsPerComponent ? options.bitsPerComponent : (isDeepBitmap ? 16 : 8);
     RowLayout layout;
-    layout.bits = wanted > 8 ? fileFormat(options.format).writtenBits : 8;
+    const int most = fileFormat(options.format).writtenBits;
+    layout.bits = most == 32 ? 32 : wanted > 8 && most > 8 ? 16 : 8;
     layout.hasAlpha = bitmap.alpha() != CIAlpha::Opaque && fileFormat(options.format).writesAlpha;
     return layout;
 }
@@ -48,6 +49,19 @@ void attachSrgbProfile(VipsImage* image)
     vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, bytes, size);
 }
 
+/// Exiv2 doesn't write these files; their encoders take a block of Exif.
+bool isInsideImage(const WriteOptions& options)
+{
+    return options.format == PictureFormat::Avif || options.format == PictureFormat::Heif;
+}
+
+void attachExif(VipsImage* image, const PictureMetadata& metadata)
+{
+    const std::vector<std::byte> block = exifBlock(metadata, vips_image_get_width(image), vips_image_get_height(image));
+    if (!block.empty())
+        vips_image_set_blob_copy(image, VIPS_META_EXIF_NAME, block.data(), block.size());
+}
+
 void reportProgress(VipsImage* image, VipsProgress* progress, CIRenderControl* control)
 {
     control->setProgress(progress->percent / 100.0);
@@ -61,7 +75,10 @@ bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& op
     const auto encode = fileFormat(options.format).encode;
     VipsImagePtr image = target && encode ? imageOfBitmap(bitmap, layoutFor(bitmap, options)) : nullptr;
     if (image) {
-        attachSrgbProfile(image.get());
+        if (fileFormat(options.format).writtenBits < 32)
+            attachSrgbProfile(image.get());
+        if (options.metadata && isInsideImage(options))
+            attachExif(image.get(), *options.metadata);
         if (options.dotsPerInch > 0)
             image = derive([&](VipsImage** out) { // libvips counts dots per millimeter
                 const double resolution = options.dotsPerInch / 25.4;
@@ -138,9 +155,28 @@ private:
     bool m_isCommitted = false;
 };
 
+Reason reasonOf(int error)
+{
+    switch (error) {
+    case ENOSPC:
+    case EDQUOT:
+        return Reason::NoSpace;
+    case EACCES:
+    case EPERM:
+        return Reason::NotPermitted;
+    case EROFS:
+        return Reason::ReadOnly;
+    case ENOENT:
+    case ENOTDIR:
+        return Reason::NoFolder;
+    default:
+        return Reason::CannotWrite;
+    }
+}
+
 Failure cannotWrite(const fs::path& file, int error)
 {
-    const Failure failure{Reason::CannotWrite, file.filename().string(), error ? std::strerror(error) : ""};
+    const Failure failure{reasonOf(error), file.filename().string(), error ? std::strerror(error) : ""};
     imageLog(englishText(failure));
     return failure;
 }
@@ -158,19 +194,13 @@ bool writeAll(int descriptor, std::span<const std::byte> bytes)
     return true;
 }
 
-/// False when it can't be encoded or stored.
-bool encodeWithMetadata(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
-{
-    Result<std::vector<std::byte>> encoded = encodePicture(bitmap, options);
-    errno = 0;
-    return encoded
-        && writeAll(descriptor, withMetadata(*options.metadata, std::move(*encoded), bitmap.width(), bitmap.height()));
-}
-
 bool encodeInto(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
 {
-    if (options.metadata)
-        return encodeWithMetadata(descriptor, bitmap, options);
+    if (options.metadata) {
+        const Result<std::vector<std::byte>> encoded = encodePicture(bitmap, options);
+        errno = 0;
+        return encoded && writeAll(descriptor, *encoded);
+    }
     errno = 0;
     const TargetPtr target(vips_target_new_to_descriptor(descriptor));
     return encodeTo(target.get(), bitmap, options);
@@ -203,6 +233,14 @@ Result<void> writePicture(const CIBitmap& bitmap, const fs::path& file, const Wr
     }
 }
 
+Result<void> writeBytes(std::span<const std::byte> bytes, const fs::path& file)
+{
+    FileBeside beside(file);
+    if (beside.descriptor() < 0 || !writeAll(beside.descriptor(), bytes) || !beside.commit())
+        return cannotWrite(file, errno);
+    return {};
+}
+
 Result<void> writePng(const CIBitmap& bitmap, const fs::path& file) { return writePicture(bitmap, file); }
 
 Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const WriteOptions& options)
@@ -222,7 +260,10 @@ Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const Write
         const auto* first = blob ? static_cast<const std::byte*>(vips_blob_get(blob, &size)) : nullptr;
         if (!first)
             return failure;
-        return std::vector<std::byte>(first, first + size);
+        std::vector<std::byte> bytes(first, first + size);
+        if (options.metadata && !isInsideImage(options))
+            return withMetadata(*options.metadata, std::move(bytes), bitmap.width(), bitmap.height());
+        return bytes;
     } catch (const std::exception& error) {
         imageLog(error.what());
         return failure;

@@ -103,6 +103,29 @@ TEST_F(MetadataCopy, WritesThePictureWhereThereIsNothingToCarry)
     EXPECT_EQ(readPictureInfo(photo)->width, 9);
 }
 
+TEST_F(MetadataCopy, CanLeaveOutThePlace)
+{
+    const auto all = PictureMetadata::ofFile(photograph());
+    const CIBitmap bitmap = noiseBitmap(40, 30, CIFormat::RGBA8, CIAlpha::Opaque);
+    for (const PictureFormat format : {PictureFormat::Jpeg, PictureFormat::Avif}) {
+        if (!canWrite(fileFormat(format)))
+            continue;
+        SCOPED_TRACE(fileFormat(format).name);
+        const fs::path file = folder.path() / "placed", elsewhere = folder.path() / "elsewhere";
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = format, .metadata = all}));
+        ASSERT_TRUE(writePicture(bitmap, elsewhere, {.format = format, .metadata = all->withoutPlace()}));
+        EXPECT_NE(valueOf(file, "{GPS}", "GPSLatitude"), "");
+        EXPECT_EQ(valueOf(elsewhere, "{GPS}", "GPSLatitude"), "");
+        EXPECT_EQ(valueOf(elsewhere, "{IPTC}", "City"), "");
+        EXPECT_EQ(valueOf(elsewhere, "{TIFF}", "Model"), "Camera");
+        EXPECT_EQ(readPicture(file)->width(), 40) << "nobody turns it once more";
+    }
+    if (canWrite(fileFormat(PictureFormat::Heif))) { // whose files Exiv2 doesn't read everywhere
+        const Bytes heif = *encodePicture(bitmap, {.format = PictureFormat::Heif, .metadata = all});
+        EXPECT_FALSE(std::ranges::search(heif, bytesOf("Camera")).empty());
+    }
+}
+
 TEST_F(MetadataCopy, LeavesPreviewsBehind)
 {
     const fs::path photo = photograph();

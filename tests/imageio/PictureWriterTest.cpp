@@ -81,6 +81,66 @@ TEST(PictureWriter, PutsTransparentPicturesOnWhiteWhereThereIsNoAlpha)
     EXPECT_NEAR(pixelAt(*back, 8, 8)[1], 204, 2);
 }
 
+TEST(PictureWriter, HeedsTheOptionsThatAFormatHas)
+{
+    CIBitmap noise = noiseBitmap(64, 64, CIFormat::RGBA8, CIAlpha::Opaque);
+    for (int y = 0; y < 64; ++y)
+        for (std::size_t x = 0; x < 64; ++x)
+            noise.mutableRow(y)[4 * x + 3] = std::byte(255);
+    const auto size = [&](const WriteOptions& options) { return encodePicture(noise, options)->size(); };
+    for (const FileFormat& format : fileFormats()) {
+        if (!canWrite(format) || format.isIcon)
+            continue;
+        SCOPED_TRACE(format.name);
+        const WriteOptions plain{.format = format.format};
+        const auto differs = [&](auto change) {
+            WriteOptions changed = plain;
+            change(changed);
+            return *encodePicture(noise, changed) != *encodePicture(noise, plain);
+        };
+        EXPECT_EQ(differs([](WriteOptions& o) { o.quality = 0.2; }), format.options.quality);
+        EXPECT_EQ(differs([](WriteOptions& o) { o.isProgressive = true; }), format.options.progressive);
+        EXPECT_EQ(differs([](WriteOptions& o) { o.hasFullChroma = true, o.quality = 0.5; }),
+            format.options.chroma || format.options.quality);
+        EXPECT_EQ(differs([&](WriteOptions& o) { o.compression = !format.options.compressions.empty(); }),
+            !format.options.compressions.empty());
+        EXPECT_EQ(differs([](WriteOptions& o) { o.dotsPerInch = 300; }), format.options.resolution);
+        WriteOptions exact = plain;
+        exact.isLossless = true;
+        if (format.options.lossless && format.format != PictureFormat::Avif && format.format != PictureFormat::Heif) {
+            EXPECT_EQ(largestDifference(*readPicture(*encodePicture(noise, exact)), noise), 0);
+        }
+    }
+    EXPECT_GT(size({.format = PictureFormat::Jpeg, .quality = 0.5, .hasFullChroma = true}),
+        size({.format = PictureFormat::Jpeg, .quality = 0.5}));
+}
+
+TEST(PictureWriter, KeepsTheRangeOfLightInFloatFiles)
+{
+    CIBitmap light(2, 1, CIFormat::RGBAf, CIAlpha::Premultiplied, CIColorSpace::LinearSRGB);
+    std::ranges::copy(floatsOf({0.25f, 0.125f, 9.0f, 0.5f, 0.0f, -1.0f, 0.5f, 1.0f}), light.mutableRow(0));
+    const Result<CIBitmap> back = readPicture(*encodePicture(light, {.format = PictureFormat::Exr}));
+    ASSERT_TRUE(back) << back.message();
+    EXPECT_THAT(pixelAt(*back, 0, 0), ElementsAre(0.25, 0.125, 9, 0.5));
+    EXPECT_THAT(pixelAt(*back, 1, 0), ElementsAre(0, -1, 0.5, 1));
+
+    CIBitmap glass(1, 1);
+    std::ranges::copy(bytesOf({188, 0, 0, 51}), glass.mutableRow(0));
+    EXPECT_NEAR(pixelAt(*readPicture(*encodePicture(glass, {.format = PictureFormat::Exr})), 0, 0)[0], 0.1, 0.001);
+}
+
+TEST(PictureWriter, SaysWhyAFileCantBeWritten)
+{
+    setImageLog([](std::string_view) {});
+    const TemporaryFolder folder;
+    const auto bytes = bytesOf({1, 2, 3});
+    EXPECT_EQ(writeBytes(bytes, folder.path() / "no folder" / "x").failure().reason, Reason::NoFolder);
+    const fs::path system = "/sys/kernel/x"; // even for the administrator
+    const Reason reason = writeBytes(bytes, system).failure().reason;
+    EXPECT_TRUE(reason == Reason::ReadOnly || reason == Reason::NotPermitted) << int(reason);
+    setImageLog({});
+}
+
 TEST(PictureWriter, ReplacesFilesWholeOrNotAtAll)
 {
     setImageLog([](std::string_view) {});
