@@ -940,6 +940,21 @@
     </message>
 </context>
 <context>
+    <name>ExportPanel</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Klein</translation>
+    </message>
+</context>
+<context>
     <name>Filter</name>
     <message>
         <source>3 by 3 Convolution</source>
@@ -3372,6 +3387,38 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>There was not enough memory to save the picture.</source>
         <translation>Der Speicher reichte nicht, um das Bild zu speichern.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: there is no space left on the disk.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Auf dem Datenträger ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Auf dem Datenträger ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: you may not write into this folder.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Sie dürfen in diesen Ordner nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>You may not write into this folder.</source>
+        <translation>Sie dürfen in diesen Ordner nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: the disk is read-only.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Der Datenträger ist schreibgeschützt.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: there is no such folder.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Es gibt keinen solchen Ordner.</translation>
+    </message>
+    <message>
+        <source>There is no folder of that name.</source>
+        <translation>Es gibt keinen Ordner dieses Namens.</translation>
     </message>
 </context>
 <context>

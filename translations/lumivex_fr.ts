@@ -940,6 +940,21 @@
     </message>
 </context>
 <context>
+    <name>ExportPanel</name>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Rapide</translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Petite</translation>
+    </message>
+</context>
+<context>
     <name>Filter</name>
     <message>
         <source>3 by 3 Convolution</source>
@@ -3372,6 +3387,38 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>There was not enough memory to save the picture.</source>
         <translation>Mémoire insuffisante pour enregistrer l’image.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: there is no space left on the disk.</source>
+        <translation>« %1 » ne peut pas être écrit : il n’y a plus de place sur le disque.</translation>
+    </message>
+    <message>
+        <source>There is no space left on the disk.</source>
+        <translation>Il n’y a plus de place sur le disque.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: you may not write into this folder.</source>
+        <translation>« %1 » ne peut pas être écrit : vous n’avez pas le droit d’écrire dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>You may not write into this folder.</source>
+        <translation>Vous n’avez pas le droit d’écrire dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: the disk is read-only.</source>
+        <translation>« %1 » ne peut pas être écrit : le disque est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>The disk is read-only.</source>
+        <translation>Le disque est en lecture seule.</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be written: there is no such folder.</source>
+        <translation>« %1 » ne peut pas être écrit : ce dossier n’existe pas.</translation>
+    </message>
+    <message>
+        <source>There is no folder of that name.</source>
+        <translation>Il n’y a pas de dossier de ce nom.</translation>
     </message>
 </context>
 <context>
