@@ -113,7 +113,9 @@ void prepareExiv2()
                 locks ? guard.lock() : guard.unlock();
             },
             &oneAtATime);
-        Exiv2::enableBMFF(); // HEIF, AVIF
+#if !EXIV2_TEST_VERSION(0, 28, 0)
+        Exiv2::enableBMFF(); // HEIF and AVIF, which newer ones read unasked
+#endif
     });
 }
 
