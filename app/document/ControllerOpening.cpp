@@ -33,8 +33,8 @@ void Controller::connectOpening()
         for (const Sight& sight : std::exchange(m_sights, {}))
             sight.restore();
         m_zooming.show();
-        m_status.update();
         hideOpening();
+        m_status.update();
     });
     connect(&m_opening, &Opening::finished, this, [this] {
         m_sights.clear();
