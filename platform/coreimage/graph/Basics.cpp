@@ -115,6 +115,11 @@ public:
         , m_dy(dy)
     {
     }
+    Opened open(const Render& render, const GridRect& area, Form accepts, Scratch& scratch) const override
+    {
+        // A copy would be counted as the source's grid counts.
+        return accepts == Form::Copy ? Opened() : WrapperNode::open(render, area, accepts, scratch);
+    }
 
 protected:
     Grid sourceGrid(const Grid& grid) const override
