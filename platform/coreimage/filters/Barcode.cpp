@@ -87,8 +87,8 @@ const RecipeFilter qrCodeGenerator{
         return encode(symbol, message(in)) ? drawn(*symbol, 1, 1) : CIImage();
     }};
 
-/// The correction level is the least share of the symbol, in percent, that is spent on correction; without a number of
-/// layers the smallest symbol is taken.
+/// The quiet zone is two modules. The correction level is the least share of the symbol, in percent, that is spent on
+/// correction; without a number of layers the smallest symbol is taken.
 const RecipeFilter aztecCodeGenerator{
     barcode("CIAztecCodeGenerator", "Aztec Code Generator", StillOnly,
         {messageInput(),
@@ -117,12 +117,13 @@ const RecipeFilter aztecCodeGenerator{
             else
                 symbol->option_1 = percent < 17 ? 1 : percent < 30 ? 2 : percent < 43 ? 3 : 4;
             if (encode(symbol, bytes))
-                return drawn(*symbol, 0, 1);
+                return drawn(*symbol, 2, 1);
         }
         return CIImage();
     }};
 
-/// Rows are three modules high, the quiet zone is two modules.
+/// Rows are three modules high, the quiet zone is two modules. Limits of the size choose among numbers of columns;
+/// those that no number meets are ignored.
 const RecipeFilter pdf417BarcodeGenerator{
     barcode("CIPDF417BarcodeGenerator", "PDF417 Barcode Generator", Video,
         {messageInput(),
@@ -146,18 +147,18 @@ const RecipeFilter pdf417BarcodeGenerator{
         const auto tried = [&](int columns) {
             Symbol symbol = symbolOf(in.flag("inputCompactStyle") ? BARCODE_PDF417COMP : BARCODE_PDF417);
             if (!symbol)
-                return symbol;
+                return Symbol();
             if (in.has("inputCorrectionLevel"))
                 symbol->option_1 = int(in.number("inputCorrectionLevel"));
             if (in.has("inputRows"))
                 symbol->option_3 = int(in.number("inputRows"));
             symbol->option_2 = columns;
-            if (!encode(symbol, bytes))
-                return Symbol();
-            const int width = symbol->width + 2 * kQuiet, height = symbol->rows * kRowHeight + 2 * kQuiet;
-            const bool fits = width >= wanted("inputMinWidth", 0) && width <= wanted("inputMaxWidth", 1e9)
-                && height >= wanted("inputMinHeight", 0) && height <= wanted("inputMaxHeight", 1e9);
-            return fits ? std::move(symbol) : Symbol();
+            return encode(symbol, bytes) ? std::move(symbol) : Symbol();
+        };
+        const auto violated = [&](const zint_symbol& symbol) {
+            const int width = symbol.width + 2 * kQuiet, height = symbol.rows * kRowHeight + 2 * kQuiet;
+            return (width < wanted("inputMinWidth", 0)) + (width > wanted("inputMaxWidth", 1e9))
+                + (height < wanted("inputMinHeight", 0)) + (height > wanted("inputMaxHeight", 1e9));
         };
         Symbol best;
         double nearest = 1e9;
@@ -165,7 +166,7 @@ const RecipeFilter pdf417BarcodeGenerator{
         for (int columns = given ? given : 1; columns <= (given ? given : 30); ++columns)
             if (Symbol symbol = tried(columns)) {
                 const double ratio = double(symbol->width) / (symbol->rows * kRowHeight);
-                const double off = std::abs(std::log(ratio / preferred));
+                const double off = std::abs(std::log(ratio / preferred)) + 1e3 * violated(*symbol);
                 if (off < nearest)
                     nearest = off, best = std::move(symbol);
             }

@@ -220,14 +220,16 @@ const ColorFilter<MaskToAlpha> maskToAlpha{{.name = "CIMaskToAlpha",
     .usage = AnyVideo,
     .inputs = {image()}}};
 
-/// How far the two pictures are apart, component by component.
+/// How far the two pictures are apart, component by component, where the first is.
 template <class V>
 struct ColorAbsoluteDifference {
+    static constexpr bool opaque = true;
     explicit ColorAbsoluteDifference(const Inputs<V>&) { }
     Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& q) const
     {
-        return {abs(V(p.r - q.r)), abs(V(p.g - q.g)), abs(V(p.b - q.b)), max(p.a, q.a)};
+        return {abs(V(p.r - q.r)), abs(V(p.g - q.g)), abs(V(p.b - q.b)), V(1.0f)};
     }
+    static CIRect extent(const Values& in) { return in.image().extent(); }
 };
 
 const ColorFilter<ColorAbsoluteDifference> colorAbsoluteDifference{{.name = "CIColorAbsoluteDifference",

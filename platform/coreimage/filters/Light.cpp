@@ -152,26 +152,37 @@ struct Sun {
     Striations<V> striations;
 };
 
+/// A glow that falls with the square of the distance, in the color, and white rays (measured). Both end at
+/// inputMaxStriationRadius radii of the sun.
 template <class V>
 struct Sunbeams {
     explicit Sunbeams(const Inputs<V>& in)
         : center(in.point("inputCenter"))
-        , color(in.color("inputColor"))
-        , sun(in.scalar("inputSunRadius"), in.scalar("inputMaxStriationRadius"),
-              {in.scalar("inputStriationStrength"), in.scalar("inputStriationContrast"), in.scalar("inputTime")})
+        , color(in.straightColor("inputColor"))
+        , radius2(in.scalar("inputSunRadius") * in.scalar("inputSunRadius"))
+        , perReach(1.0f / max(V(float(reach(in.values()))), 1e-3f))
+        , striations(in.scalar("inputStriationStrength"), in.scalar("inputStriationContrast"), in.scalar("inputTime"))
     {
     }
+    static double reach(const Values& in) { return in.number("inputSunRadius") * in.number("inputMaxStriationRadius"); }
     Pixel<V> operator()(const Point<V>& here) const
     {
-        const auto light = sun(here - center);
-        // The disc is too bright for its color: it turns white.
-        const V white = 0.8f * light.disc * color.a, all = max(light.beams, light.disc);
-        const auto channel = [&](const V& c) { return min(V(c * all + white), color.a); };
-        return {channel(color.r), channel(color.g), channel(color.b), color.a * all};
+        const Point<V> from = here - center;
+        const V away2 = dot(from, from), left = max(V(1.0f - sqrt(away2) * perReach), 0.0f);
+        const V glow = min(V(radius2 / max(away2, 1e-3f)), 1e4f), rays = saturate(V(0.5f * striations(from)));
+        const auto channel = [&](const V& c) { return min(V(left * (glow * c + rays)), 1.0f); };
+        return Pixel<V>{channel(color.r), channel(color.g), channel(color.b), channel(V(1.0f))} * color.a;
+    }
+    static CIRect extent(const Values& in)
+    {
+        const double side = reach(in);
+        const CIPoint c = in.point("inputCenter");
+        return CIRect{c.x - side, c.y - side, 2 * side, 2 * side}.roundedOut();
     }
     Point<V> center;
     Pixel<V> color;
-    Sun<V> sun;
+    V radius2, perReach;
+    Striations<V> striations;
 };
 
 const GeneratorFilter<Sunbeams> sunbeamsGenerator{{.name = "CISunbeamsGenerator",
@@ -183,8 +194,9 @@ const GeneratorFilter<Sunbeams> sunbeamsGenerator{{.name = "CISunbeamsGenerator"
             {.standard = 40, .min = 0, .sliderMin = 0, .sliderMax = 800, .identity = 40}),
         striationRadius(2.58), striationStrength(0.5), striationContrast(1.375, 1.375), striationTime()}}};
 
-/// A sun that grows out of the center until it covers the extent, under which the pictures change. Up to the fade
-/// threshold of the time it grows, then it fades and shows the target.
+/// A sun that grows out of the center until it covers the extent, under which the pictures change at the fade threshold
+/// of the time. From then on the target shows through a white veil that thins evenly (measured), with rays of the color
+/// in it from 500 px outwards.
 template <class V>
 struct Flash {
     explicit Flash(const Inputs<V>& in)
@@ -210,10 +222,20 @@ struct Flash {
     }
     Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& target, const Point<V>& here) const
     {
-        const auto light = sun(here - center);
-        const V glow = max(V(max(light.beams, light.disc) * min(V(4.0f * growing), 1.0f)), growing * growing * growing);
-        return mix(mix(p, target, changed), color, V(min(glow, left)));
+        const Point<V> from = here - center;
+        const auto light = sun(from);
+        const V grown = growing * growing * growing;
+        const V glow = max(V(max(light.beams, light.disc) * min(V(4.0f * growing), 1.0f)), grown);
+        // The disc is too bright for its color: it turns white.
+        const V far = saturate(V(length(from) * (1 / kPlain) - 1.0f));
+        const V tint =
+            mix(V(1.0f - max(light.disc, grown)), V(kTint * far * (1.0f - left) * sun.striations(from)), changed);
+        const Pixel<V> white{color.a, color.a, color.a, color.a};
+        return mix(mix(p, target, changed), mix(white, color, saturate(tint)), V(min(glow, left)));
     }
+    static constexpr float kPlain = 500; // px without rays in the veil
+    static constexpr float kTint =
+        0.24f; // of the color in the mean ray far out: takes up to 15 % of the usual color's green
     Point<V> center;
     Pixel<V> color;
     Sun<V> sun;

@@ -71,16 +71,14 @@ const RecipeFilter morphologyGradient{
             source.extent());
     }};
 
+/// All is transparent around a picture: of opaque ones the corners become so, too (measured).
 const RecipeFilter medianFilter{{.name = "CIMedianFilter",
                                     .displayName = "Median",
                                     .category = kCICategoryBlur,
                                     .usage = Video | HighDynamicRange,
                                     .inputs = {image()},
                                     .boundToPixelGrid = true},
-    [](const Values& in) {
-        const CIImage source = in.image();
-        return medianOfNine(source.clampedToExtent()).cropped(source.extent());
-    }};
+    [](const Values& in) { return medianOfNine(in.image()); }};
 
 } // namespace
 } // namespace ci

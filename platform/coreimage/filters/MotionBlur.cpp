@@ -5,7 +5,7 @@
 namespace ci {
 namespace {
 
-/// The mean along the angle, inputRadius to both sides.
+/// A Gaussian along the angle, of which inputRadius is the standard deviation (measured).
 const RecipeFilter motionBlur{
     {.name = "CIMotionBlur",
         .displayName = "Motion Blur",

@@ -40,6 +40,7 @@ struct Checkerboard {
     Pixel<V> color0, color1;
 };
 
+/// Unlike the checks, they begin with the second color (measured).
 template <class V>
 struct Stripes {
     explicit Stripes(const Inputs<V>& in)
@@ -51,7 +52,7 @@ struct Stripes {
     }
     Pixel<V> operator()(const Point<V>& here) const
     {
-        return mix(color1, color0, V(0.5f + 0.5f * bands(here.x - left)));
+        return mix(color0, color1, V(0.5f + 0.5f * bands(here.x - left)));
     }
     V left;
     Bands<V> bands;

@@ -67,26 +67,37 @@ const BlendFilter<Swipe> swipeTransition{{.name = "CISwipeTransition",
         distance("inputWidth", "Width", {.standard = 300, .min = 0.1, .sliderMin = 0.1, .sliderMax = 800}),
         scalar("inputOpacity", "Opacity", {.standard = 0, .min = 0, .sliderMin = 0, .sliderMax = 1, .identity = 0})}}};
 
-/// A tube of light passes over the picture and leaves the target behind. The pictures change under its middle.
+/// A tube of light passes over the picture and leaves the target behind. Within its width the target shows already,
+/// under light that grows towards the picture (measured, as far as a third of the width): that of the color, and what
+/// the picture throws back of it.
 template <class V>
 struct CopyMachine {
     explicit CopyMachine(const Inputs<V>& in)
-        : edge(in)
-        , color(in.color("inputColor"))
-        , opacity(in.scalar("inputOpacity"))
+        : width(max(in.scalar("inputWidth"), 0.1f))
         , cell(in.step())
+        , strength(2.7f * in.scalar("inputOpacity"))
+        , direction{cos(in.scalar("inputAngle")), sin(in.scalar("inputAngle"))}
     {
+        const Values& values = in.values();
+        const CIColor c = values.color("inputColor"); // its codes count as light
+        color = {V(float(c.red())), V(float(c.green())), V(float(c.blue())), V(1.0f)};
+        const Span span(bounded(values.rect("inputExtent")), values.number("inputAngle"));
+        const double wide = std::max(values.number("inputWidth"), 0.1), time = values.number("inputTime");
+        // In the first tenth of the time it comes in.
+        start = V(float(span.low + time * (span.length() + wide / 2) - wide * std::max(1 - 10 * time, 0.0)));
     }
     Pixel<V> operator()(const Pixel<V>& p, const Pixel<V>& target, const Point<V>& here) const
     {
-        const V ahead = edge(here);
-        const V changed = saturate(V((ahead - 0.5f) * edge.width / cell + 0.5f));
-        const V light = saturate(V(opacity * (1.0f - abs(V(2.0f * ahead - 1.0f)))));
-        return mix(mix(target, p, changed), color, light * light * (3.0f - 2.0f * light));
+        const V across = dot(here, direction) - start, part = saturate(V(across / width));
+        const V light = strength * part * sqrt(part);
+        const auto lit = [&](const V& t, const V& c, const V& thrown) { return mulAdd(light, c + 0.84f * thrown, t); };
+        const Pixel<V> bright{lit(target.r, color.r, p.r), lit(target.g, color.g, p.g), lit(target.b, color.b, p.b),
+            min(V(target.a + light), 1.0f)};
+        return mix(bright, p, saturate(V((across - width) / cell + 0.5f)));
     }
-    Edge<V> edge;
+    V width, cell, strength, start; // px
+    Point<V> direction;
     Pixel<V> color;
-    V opacity, cell;
 };
 
 const BlendFilter<CopyMachine> copyMachineTransition{{.name = "CICopyMachineTransition",
@@ -121,7 +132,7 @@ struct BarMotion {
             const double inside = std::min(u, across.length() - u);
             return slope > 1e-6 ? longest * std::clamp(inside / slope, 0.0, 1.0) : longest;
         };
-        const int bars = int(std::min(1e5, std::ceil(across.length() / width)));
+        const int bars = int(std::min(1e5, std::ceil(across.length() / width - 1e-6))); // rounding makes no bar
         double end = 0;
         for (int n = 0; n < bars; ++n) {
             const double from = n * width, to = std::min(from + width, across.length());

@@ -270,12 +270,12 @@ private:
     Bundles m_bundles;
 };
 
-Bundles parallels(double dx, double dy, double reach)
+Bundles parallels(double dx, double dy, double sigma)
 {
     return [=](const Grid& grid, const GridRect& block, const UseLines& use) {
         const bool upright = std::abs(dy) > std::abs(dx);
         const double slope = upright ? dx / dy : dy / dx;
-        const double cells = reach * grid.scale * std::max(std::abs(dx), std::abs(dy));
+        const double cells = sigma * grid.scale * std::max(std::abs(dx), std::abs(dy));
         // The lines pass through the picture's origin: tiles must agree on where they run.
         const Frame frame{upright, upright ? -grid.phaseY : -grid.phaseX, upright ? -grid.phaseX : -grid.phaseY};
         const Span x{block.x0 + grid.phaseX, block.x1 + grid.phaseX};
@@ -301,15 +301,16 @@ Bundles rays(CIPoint center, double farthestOut)
 
 } // namespace
 
-CIImage blurAlong(const CIImage& image, double angle, double reach)
+CIImage blurAlong(const CIImage& image, double angle, double sigma)
 {
-    constexpr double kFarthest = 1000; // px
-    reach = std::min(reach, kFarthest);
-    if (image.isNull() || reach < 0.05)
+    constexpr double kWidest = 500; // px
+    sigma = std::min(sigma, kWidest);
+    if (image.isNull() || sigma < 0.05)
         return image;
     const double dx = std::cos(angle), dy = std::sin(angle);
-    const CIRect extent = image.extent().grown(std::ceil(reach * std::abs(dx)), std::ceil(reach * std::abs(dy)));
-    return CIImage(std::make_shared<LineBlurNode>(image.node(), extent, reach, parallels(dx, dy, reach)));
+    const auto grow = [sigma](double part) { return std::ceil(6 * sigma * std::abs(part) - 1e-6); };
+    return CIImage(std::make_shared<LineBlurNode>(
+        image.node(), image.extent().grown(grow(dx), grow(dy)), 3 * sigma, parallels(dx, dy, sigma)));
 }
 
 CIImage blurToward(const CIImage& image, CIPoint center, double farthest)

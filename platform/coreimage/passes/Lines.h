@@ -12,11 +12,40 @@ namespace ci::lines {
 struct Box {
     double from, to, weight;
 };
-inline constexpr int kMostBoxes = 5;
+inline constexpr int kMostBoxes = 6;
 /// What a mean is taken over.
 struct Window {
     std::array<Box, kMostBoxes> boxes;
     int count = 0;
+};
+
+/// A bell exp(-steepness t²) as a stack of boxes around 0: their half widths in t, and what each adds to the wider
+/// ones.
+template <std::size_t N>
+struct Bell {
+    std::array<double, N> sides, heights{};
+    Bell(const std::array<double, N>& sides_, double steepness)
+        : sides(sides_)
+    {
+        double below = 0, total = 0;
+        for (std::size_t i = 0; i < N; ++i) {
+            const double t = (sides[i] + (i + 1 < N ? sides[i + 1] : 0)) / 2, level = std::exp(-steepness * t * t);
+            heights[i] = level - below;
+            total += heights[i] * 2 * sides[i];
+            below = level;
+        }
+        for (double& height : heights)
+            height /= total;
+    }
+    /// As weights of a mean around `middle`, `unit` cells for each t.
+    Window around(double middle, double unit) const
+    {
+        Window window;
+        for (std::size_t i = 0; i < N; ++i)
+            window.boxes[i] = {middle - sides[i] * unit, middle + sides[i] * unit, heights[i] / unit};
+        window.count = int(N);
+        return window;
+    }
 };
 
 struct Span {
@@ -39,9 +68,9 @@ public:
 /// Lines a cell apart, as many as the block needs that `u` and `v` span.
 class ParallelLines : public Lines {
 public:
-    ParallelLines(double slope, double reach, Span u, Span v)
+    ParallelLines(double slope, double sigma, Span u, Span v)
         : m_slope(slope)
-        , m_reach(reach)
+        , m_sigma(sigma)
     {
         const double a = slope * u.low, b = slope * u.high;
         // At u = 0 they run through the centers of cells: level lines lose nothing.
@@ -52,13 +81,15 @@ public:
     double spread(double) const override { return 1; }
     Window windowAt(double u) const override
     {
-        const double half = m_reach + 0.5; // cells reach half a step beyond their centers
-        return {{Box{u - half, u + half, 0.5 / half}}, 1};
+        // Boxes that differ least from the bell; a little wider, so that their variance is right.
+        static const Bell<6> bell({2.6, 1.95, 1.52, 1.17, 0.86, 0.54}, 0.5);
+        return bell.around(u, kWiden * m_sigma);
     }
     Span covered(double) const override { return {-1e9, 1e9}; }
 
 private:
-    double m_slope, m_reach, m_first;
+    static constexpr double kWiden = 1.031;
+    double m_slope, m_sigma, m_first;
 };
 
 /// Rays from the origin. Each place takes the mean of what lies between it and `farthest` times as far out.
@@ -87,22 +118,8 @@ public:
     double spread(double u) const override { return m_step * u; }
     Window windowAt(double u) const override
     {
-        // The bell as a stack of boxes: what each adds to the ones around it.
-        static constexpr Sides kSides{1, 0.86, 0.7, 0.52, 0.3, 0};
-        static const std::array<double, kMostBoxes> heights = bellHeights(kSides);
-        const double middle = u * (1 + m_farthest) / 2;
-        const double half = std::max(std::abs(u * (1 - m_farthest)) / 2, 0.25);
-        Window window;
-        double total = 0;
-        for (const double side : kSides)
-            if (window.count < kMostBoxes) {
-                const auto i = std::size_t(window.count++);
-                window.boxes[i] = {middle - side * half, middle + side * half, heights[i]};
-                total += heights[i] * 2 * side * half;
-            }
-        for (Box& box : window.boxes)
-            box.weight /= total;
-        return window;
+        static const Bell<5> bell({1, 0.86, 0.7, 0.52, 0.3}, 0.55);
+        return bell.around(u * (1 + m_farthest) / 2, std::max(std::abs(u * (1 - m_farthest)) / 2, 0.25));
     }
     Span covered(double u) const override
     {
@@ -111,18 +128,6 @@ public:
     }
 
 private:
-    using Sides = std::array<double, kMostBoxes + 1>;
-    static std::array<double, kMostBoxes> bellHeights(const Sides& sides)
-    {
-        std::array<double, kMostBoxes> heights{};
-        double below = 0;
-        for (std::size_t i = 0; i < kMostBoxes; ++i) {
-            const double t = (sides[i] + sides[i + 1]) / 2, level = std::exp(-0.55 * t * t);
-            heights[i] = level - below;
-            below = level;
-        }
-        return heights;
-    }
     double m_farthest, m_step, m_first;
     bool m_withDiagonal;
 };
