@@ -40,35 +40,6 @@ TEST(DiscBlur, IsTheMeanOverTheDisc)
     EXPECT_NEAR(at(ring, 38, 30, 0), 1.5 * double(at(ring, 30, 30, 0)), 0.1 * level);
 }
 
-TEST(MaskedVariableBlur, BlursByTheLightOfTheMask)
-{
-    const CIBitmap source = noise(60, 50);
-    const auto under = [&](double gray) {
-        return result("CIMaskedVariableBlur", source,
-            {{"inputRadius", 5}, {"inputMask", CIImage::fromColor(CIColor(gray, gray, gray))}});
-    };
-    EXPECT_EQ(difference(under(0), source).largest, 0);
-    const CIBitmap soft = result("CIGaussianBlur", source, {{"inputRadius", 5.85}});
-    EXPECT_LT(difference(under(1), soft).largest, 1e-5);
-    EXPECT_LT(difference(under(0.8), soft).mean, difference(under(0.5), soft).mean);
-}
-
-TEST(NoiseReduction, SmoothsNoiseAndKeepsEdges)
-{
-    CIBitmap step(40, 20, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < 20; ++y)
-        for (int x = 0; x < 40; ++x)
-            for (std::size_t c = 0; c < 4; ++c)
-                step.mutableRow<float>(y)[std::size_t(4 * x) + c] =
-                    c == 3 ? 1 : (x < 20 ? 0.2f : 0.8f) + ((x + y) % 2 ? 0.005f : -0.005f);
-    const CIBitmap out = result("CINoiseReduction", step, {{"inputSharpness", 0}});
-    EXPECT_NEAR(at(out, 10, 10, 0), 0.2, 1e-3);
-    EXPECT_NEAR(at(out, 19, 10, 0), 0.2, 0.006);
-    EXPECT_NEAR(at(out, 20, 10, 0), 0.8, 0.006);
-    EXPECT_EQ(
-        difference(result("CINoiseReduction", step, {{"inputNoiseLevel", 0}, {"inputSharpness", 0}}), step).largest, 0);
-}
-
 TEST(Canny, DrawsAStepAsOneLine)
 {
     CIBitmap step(40, 30, CIFormat::RGBA8, CIAlpha::Opaque);
@@ -103,49 +74,6 @@ TEST(Canny, DrawsAStepAsOneLine)
     EXPECT_EQ(length(4) - length(0), 4);
 }
 
-TEST(Drawings, AreInkOnNothing)
-{
-    const CIBitmap flat = result("CILineOverlay", noise8(40, 30), {{"inputEdgeIntensity", 0}});
-    EXPECT_EQ(difference(flat, CIBitmap(40, 30, CIFormat::RGBAf)).largest, 0);
-    const CIBitmap lines = result("CILineOverlay", dot(30, 30, 15, 15), {});
-    EXPECT_EQ(at(lines, 14, 15, 0), 0);
-    EXPECT_GT(at(lines, 14, 15, 3), 0.9f);
-    EXPECT_EQ(at(lines, 5, 5, 3), 0);
-}
-
-TEST(HighlightShadowAdjust, DefaultsKeepEveryBitAndAmountsActWhereTheyShould)
-{
-    const CIBitmap source = smooth(50, 40);
-    EXPECT_EQ(difference(result("CIHighlightShadowAdjust", source, {}), source).largest, 0);
-    const CIBitmap lifted = result("CIHighlightShadowAdjust", source, {{"inputShadowAmount", 1}});
-    const CIBitmap lowered = result("CIHighlightShadowAdjust", source, {{"inputHighlightAmount", 0.3}});
-    for (int y = 0; y < 40; ++y)
-        for (int x = 0; x < 50; ++x) {
-            const auto luminance = [&](const CIBitmap& b) {
-                return 0.2126f * at(b, x, y, 0) + 0.7152f * at(b, x, y, 1) + 0.0722f * at(b, x, y, 2);
-            };
-            const float light = luminance(source);
-            if (std::abs(light - 0.319f) > 0.02f) { // coded 0.6
-                EXPECT_EQ(luminance(lifted) > light + 1e-5f, light < 0.319f);
-            }
-            if (std::abs(light - 0.133f) > 0.02f) { // coded 0.4
-                EXPECT_EQ(luminance(lowered) < light - 1e-5f, light > 0.133f);
-            }
-        }
-}
-
-TEST(SpotLight, IsBrightestWhereItPoints)
-{
-    const auto f = filter("CISpotLight", CIImage::fromColor(CIColor(0.5, 0.5, 0.5)));
-    const CIBitmap lit = rendered(f->outputImage(), {0, 0, 400, 400});
-    const double base = 0.21404;
-    EXPECT_NEAR(at(lit, 200, 200, 0), 3 * base, 3e-3);
-    EXPECT_LT(at(lit, 300, 100, 0), at(lit, 200, 200, 0));
-    f->setValueForKey(1, "inputBrightness");
-    f->setValueForKey(1e6, "inputConcentration");
-    EXPECT_NEAR(at(rendered(f->outputImage(), {0, 0, 400, 400}), 390, 5, 1), base, 1e-4);
-}
-
 TEST(SampleNearest, ShowsSquaresWhenEnlarged)
 {
     const CIBitmap source = noise8(9, 7);
@@ -155,31 +83,4 @@ TEST(SampleNearest, ShowsSquaresWhenEnlarged)
     const CIBitmap large = rendered(image, image.extent(), 4);
     for (int x = 0; x < 36; ++x)
         EXPECT_NEAR(at(large, x, 9, 0), at(large, x / 4 * 4, 10, 0), 1e-5) << x;
-}
-
-TEST(DepthOfField, IsSharpAlongTheLine)
-{
-    const CIBitmap source = noise8(120, 120);
-    const CIBitmap out = result("CIDepthOfField", source,
-        {{"inputPoint0", CIVector{0, 60}}, {"inputPoint1", CIVector{120, 60}}, {"inputSaturation", 1},
-            {"inputUnsharpMaskIntensity", 0}, {"inputRadius", 10}});
-    const CIBitmap plain = rendered(CIImage::fromBitmap(source), {0, 0, 120, 120});
-    for (int x = 0; x < 120; ++x) {
-        EXPECT_NEAR(at(out, x, 60, 0), at(plain, x, 60, 0), 1e-5);
-        EXPECT_NEAR(at(out, x, 2, 0), 0.35, 0.2); // the mean of the noise, in light
-    }
-}
-
-TEST(HeightFieldFromMask, RisesFromTheRimInwards)
-{
-    CIBitmap mask(100, 100, CIFormat::RGBA8, CIAlpha::Opaque);
-    for (int y = 0; y < 100; ++y)
-        for (int x = 0; x < 100; ++x)
-            std::fill_n(mask.mutableRow<std::uint8_t>(y).data() + 4 * x, 3, x >= 20 && x < 80 ? 255 : 0);
-    const CIBitmap out = result("CIHeightFieldFromMask", mask, {});
-    EXPECT_EQ(at(out, 15, 50, 0), 0);
-    EXPECT_NEAR(at(out, 20, 50, 0), 0.08, 0.04);
-    for (int x = 21; x < 50; ++x)
-        EXPECT_GE(at(out, x, 50, 0), at(out, x - 1, 50, 0) - 1e-4f);
-    EXPECT_GT(at(out, 35, 50, 0), 0.98f);
 }

@@ -51,18 +51,6 @@ TEST_F(Reductions, FindMeansAndExtremes)
     EXPECT_EQ(at(of("CIAreaMinimumAlpha"), 0, 0, 3), 0);
 }
 
-TEST_F(Reductions, BoundWhatIsRed)
-{
-    picture = CIBitmap(67, 43, CIFormat::RGBAf, CIAlpha::Premultiplied, CIColorSpace::LinearSRGB);
-    for (const auto& [x, y] : {std::pair{15, 9}, {24, 20}})
-        picture.mutableRow<float>(42 - y)[std::size_t(4 * x)] = 0.2f;
-    const CIBitmap bounds = of("CIAreaBoundsRed");
-    EXPECT_NEAR(at(bounds, 0, 0, 0), 10 / 40.0, 1e-6);
-    EXPECT_NEAR(at(bounds, 0, 0, 1), 6 / 30.0, 1e-6);
-    EXPECT_NEAR(at(bounds, 0, 0, 2), 10 / 40.0, 1e-6);
-    EXPECT_NEAR(at(bounds, 0, 0, 3), 12 / 30.0, 1e-6);
-}
-
 TEST_F(Reductions, CountEveryPixelInOneBin)
 {
     for (const std::string name : {"CIAreaHistogram", "CIAreaLogarithmicHistogram"}) {
@@ -88,19 +76,6 @@ TEST_F(Reductions, CountEveryPixelInOneBin)
         for (int x = 0; x < 40; ++x)
             whole += double(at(pixels, x, y, 3)) / 1200;
     EXPECT_NEAR(weight, whole, 1e-4);
-}
-
-TEST_F(Reductions, ChartTheHighestBinAtFullHeight)
-{
-    CIBitmap bins(3, 1, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    const float red[3] = {0.1f, 0.4f, 0.2f};
-    for (std::size_t x = 0; x < 3; ++x)
-        bins.mutableRow<float>(0)[4 * x] = red[x], bins.mutableRow<float>(0)[4 * x + 3] = 1;
-    const auto f = filter("CIHistogramDisplayFilter", CIImage::fromBitmap(bins));
-    f->setValueForKey(8.0, "inputHeight");
-    const CIBitmap chart = rendered(f->outputImage(), {0, 0, 3, 8});
-    for (const auto& [x, y, lit] : {std::tuple{0, 1, true}, {0, 2, false}, {1, 7, true}, {2, 3, true}, {2, 4, false}})
-        EXPECT_EQ(at(chart, x, y, 0) > 0, lit) << x << ", " << y;
 }
 
 TEST_F(Reductions, GatherColorsIntoAPalette)
