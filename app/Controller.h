@@ -5,6 +5,7 @@
 #include "app/catalogue/FilterMaker.h"
 #include "app/document/Clipboard.h"
 #include "app/document/Document.h"
+#include "app/document/Exporting.h"
 #include "app/document/Opening.h"
 #include "app/document/Resizing.h"
 #include "app/document/Saving.h"
@@ -204,6 +205,7 @@ public:
     void initExportFormats() { m_saving.initExportFormats(); }
     void saveImg() { m_saving.save(); }
     void saveImgAs() { runSavePanel(); }
+    void exportImg() { m_exporting.run(); }
     void runSavePanel() { m_saving.runPanel(); }
     void savePanelDidEnd(int returnCode, const QString& path) { m_saving.panelDidEnd(returnCode, path); }
     bool saveExistFile() { return m_saving.saveExistFile(); }
@@ -317,6 +319,7 @@ private:
     Resizing m_resizing;
     Clipboard m_clipboard;
     Saving m_saving;
+    Exporting m_exporting;
     Session m_session;
     UndoManager& m_undoManager; // the document's
 

@@ -9,10 +9,10 @@
 #include <QFile>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace {
 
@@ -36,20 +36,24 @@ QByteArray pdfOf(const CIBitmap& plain)
 
 } // namespace
 
-Result<void> writePdf(const CIBitmap& picture, const QString& path, CIRenderControl* control)
+Result<std::vector<std::byte>> encodePdf(const CIBitmap& picture)
 {
     const CIBitmap bitmap = picture.isNull() ? CIBitmap() : plainBitmap(picture);
     if (bitmap.isNull())
         return Failure{Reason::NothingToWrite};
     const QByteArray document = pdfOf(bitmap);
+    const auto bytes = std::as_bytes(std::span(document.constData(), std::size_t(document.size())));
+    return std::vector<std::byte>(bytes.begin(), bytes.end());
+}
+
+Result<void> writePdf(const CIBitmap& picture, const QString& path, CIRenderControl* control)
+{
+    const Result<std::vector<std::byte>> document = encodePdf(picture);
+    if (!document)
+        return document.failure();
     if (control && control->isCancelled())
         return Failure{Reason::NotWritten};
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(document) == document.size() && file.commit();
-    if (isWritten)
-        return {};
-    return Failure{
-        Reason::CannotWrite, path.section(QLatin1Char('/'), -1).toStdString(), file.errorString().toStdString()};
+    return writeBytes(*document, QFile::encodeName(path).toStdString());
 }
 
 QTransform imageTransformToFitViewSize(QSizeF picture, QSizeF view)

@@ -8,8 +8,12 @@
 #include <QSizeF>
 #include <QTransform>
 
-/// A PDF whose page is as many points wide and high as the picture has pixels. No detail is lost. The file appears
-/// under its name only when it is complete. May be called from any thread.
+#include <vector>
+
+/// A PDF whose page is as many points wide and high as the picture has pixels. No detail is lost. May be called from
+/// any thread.
+Result<std::vector<std::byte>> encodePdf(const CIBitmap& picture);
+/// The file appears under its name only when it is complete.
 Result<void> writePdf(const CIBitmap& picture, const QString& path, CIRenderControl* control = nullptr);
 
 /// Uniformly scaled so that a picture of `picture` pixels just fits into `view`.

@@ -134,11 +134,13 @@ void AlertPanel::setButtons(int flags)
         m_first->setText(tr("OK"));
     if (flags & FirstSave)
         m_first->setText(tr("Save..."));
+    if (flags & FirstReplace)
+        m_first->setText(tr("Replace"));
     if (flags & SecondCancel)
         m_second->setText(tr("Cancel"));
     if (flags & ThirdDontSave)
         m_three->setText(tr("Don't Save"));
-    m_first->setVisible(flags & (FirstOK | First | FirstSave));
+    m_first->setVisible(flags & (FirstOK | First | FirstSave | FirstReplace));
     m_second->setVisible(flags & (Second | SecondCancel));
     m_three->setVisible(flags & (Third | ThirdDontSave));
 }

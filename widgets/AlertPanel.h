@@ -25,7 +25,8 @@ public:
         SecondCancel = 8,
         Third = 16,
         FirstSave = 32,
-        ThirdDontSave = 64
+        ThirdDontSave = 64,
+        FirstReplace = 128
     };
 
     static int Alert_OKMsgText(QWidget* window, const QString& message, const QString& text);

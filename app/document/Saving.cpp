@@ -61,6 +61,7 @@ void Saving::save()
     } else {
         quitAfterSave = false; // or the next request would quit without a question
         AlertPanel::Alert_OKMsgText(m_window, tr("Couldn't save file."), tr("File I/O error occured."));
+        m_listener.impossible();
     }
 }
 

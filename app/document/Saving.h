@@ -18,6 +18,7 @@ class Saving {
 public:
     struct Listener {
         std::function<void()> saved; // a file has been written
+        std::function<void()> impossible; // the document's file can't be written in its format; the user has been told
         std::function<void()> terminate; // the user wanted to save and quit, and has saved
     };
 

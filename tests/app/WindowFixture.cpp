@@ -85,8 +85,8 @@ void WindowTest::answering(QStringList buttons, const std::function<void()>& ope
     QTimer asked;
     QObject::connect(&asked, &QTimer::timeout, [&] {
         auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (!sheet || sheet->objectName() == "ProgressSheet")
-            return;
+        if (!sheet || sheet->objectName() == "ProgressSheet" || sheet->objectName() == "ExportPanel")
+            return; // they ask nothing
         const QList<QAbstractButton*> candidates = sheet->findChildren<QAbstractButton*>();
         for (QAbstractButton* candidate : candidates)
             if (!buttons.isEmpty() && candidate->text() == buttons.first() && candidate->isVisible()) {
