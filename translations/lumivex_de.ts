@@ -98,6 +98,10 @@
         <source>Don&apos;t Save</source>
         <translation>Nicht speichern</translation>
     </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
 </context>
 <context>
     <name>BaseEffect</name>
@@ -180,6 +184,25 @@
     <message>
         <source>3D Objects Texuture</source>
         <translation>Das Bild auf 3D-Objekten</translation>
+    </message>
+</context>
+<context>
+    <name>BeforeAfterView</name>
+    <message>
+        <source>Before and after</source>
+        <translation>Vorher und nachher</translation>
+    </message>
+    <message>
+        <source>A part of the picture as it is and as the file shows it, pixel by pixel. Drag it to see another part</source>
+        <translation>Ein Teil des Bildes, wie es ist und wie die Datei es zeigt, Pixel für Pixel. Ziehen zeigt einen anderen Teil</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Nachher</translation>
     </message>
 </context>
 <context>
@@ -538,6 +561,14 @@
     <message>
         <source>Says which version this is</source>
         <translation>Sagt, welche Version das ist</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>Writes the result into a file of any format, under any name</source>
+        <translation>Schreibt das Ergebnis in eine Datei beliebigen Formats und Namens</translation>
     </message>
 </context>
 <context>
@@ -952,6 +983,252 @@
     <message>
         <source>Small</source>
         <translation>Klein</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 Byte</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>rounded size, exact size</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 dpi</translation>
+    </message>
+    <message>
+        <source>Working out the size…</source>
+        <translation>Die Größe wird ermittelt …</translation>
+    </message>
+    <message>
+        <source>%1 bits</source>
+        <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px · %3</source>
+        <comment>width, height, size of the file</comment>
+        <translation>%1 × %2 px · %3</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>“%1” is a folder.</source>
+        <translation>„%1“ ist ein Ordner.</translation>
+    </message>
+    <message>
+        <source>Replace “%1”?</source>
+        <translation>„%1“ ersetzen?</translation>
+    </message>
+    <message>
+        <source>There is a file of that name in this folder already. What is in it will be lost.</source>
+        <translation>In diesem Ordner gibt es schon eine Datei dieses Namens. Ihr Inhalt geht verloren.</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Größe der Datei</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Exports nothing</source>
+        <translation>Exportiert nichts</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exportieren</translation>
+    </message>
+    <message>
+        <source>Writes the file</source>
+        <translation>Schreibt die Datei</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name, written as it is typed</source>
+        <translation>Der Name der Datei, geschrieben wie getippt</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>The folder in which the file is written</source>
+        <translation>Der Ordner, in den die Datei geschrieben wird</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Wählen …</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Ordner wählen</translation>
+    </message>
+    <message>
+        <source>Chooses the folder</source>
+        <translation>Wählt den Ordner</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>O&amp;rdner:</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>&amp;Format:</translation>
+    </message>
+    <message>
+        <source>What kind of file is written</source>
+        <translation>Welche Art von Datei geschrieben wird</translation>
+    </message>
+    <message>
+        <source>&amp;Lossless</source>
+        <translation>Ohne &amp;Verlust</translation>
+    </message>
+    <message>
+        <source>Keeps every pixel exactly; the file becomes larger</source>
+        <translation>Erhält jedes Pixel genau; die Datei wird größer</translation>
+    </message>
+    <message>
+        <source>C&amp;hroma:</source>
+        <translation>Far&amp;bauflösung:</translation>
+    </message>
+    <message>
+        <source>How sharp colors are stored</source>
+        <translation>Wie scharf Farben gespeichert werden</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Full (4:4:4)</source>
+        <translation>Voll (4:4:4)</translation>
+    </message>
+    <message>
+        <source>&amp;Progressive</source>
+        <translation>&amp;Progressiv</translation>
+    </message>
+    <message>
+        <source>Browsers show the whole picture early, and sharpen it while it loads</source>
+        <translation>Browser zeigen früh das ganze Bild und schärfen es beim Laden</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpression:</source>
+        <translation>&amp;Kompression:</translation>
+    </message>
+    <message>
+        <source>How the pixels are packed; none is lost</source>
+        <translation>Wie die Pixel gepackt werden; keines geht verloren</translation>
+    </message>
+    <message>
+        <source>&amp;Depth:</source>
+        <translation>Farb&amp;tiefe:</translation>
+    </message>
+    <message>
+        <source>Bits of each color component</source>
+        <translation>Bit je Farbanteil</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>A&amp;uflösung:</translation>
+    </message>
+    <message>
+        <source>Dots per inch, stored for printing; the pixels stay the same</source>
+        <translation>Punkte je Zoll, für den Druck gespeichert; die Pixel bleiben gleich</translation>
+    </message>
+    <message>
+        <source>Me&amp;tadata:</source>
+        <translation>&amp;Metadaten:</translation>
+    </message>
+    <message>
+        <source>What the opened file says about camera, date, author and place</source>
+        <translation>Was die geöffnete Datei über Kamera, Datum, Urheber und Ort sagt</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>All but the place</source>
+        <translation>Alle außer dem Ort</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Less makes a smaller file</source>
+        <translation>Weniger ergibt eine kleinere Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualität:</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Width of the exported picture in pixels</source>
+        <translation>Breite des exportierten Bildes in Pixeln</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Height of the exported picture in pixels</source>
+        <translation>Höhe des exportierten Bildes in Pixeln</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>&amp;Größe:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep proportions</source>
+        <translation>&amp;Proportionen erhalten</translation>
+    </message>
+    <message>
+        <source>The other side follows the one that is typed</source>
+        <translation>Die andere Seite folgt der getippten</translation>
+    </message>
+</context>
+<context>
+    <name>Exporting</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Das Bild wird gezeichnet …</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>„%1“ wird exportiert …</translation>
+    </message>
+    <message>
+        <source>Exported “%1”: %2</source>
+        <comment>file name, its size</comment>
+        <translation>„%1“ exportiert: %2</translation>
     </message>
 </context>
 <context>
@@ -3094,6 +3371,10 @@
     <message>
         <source>Cancel opening</source>
         <translation>Öffnen abbrechen</translation>
+    </message>
+    <message>
+        <source>Export the picture into a file of any format</source>
+        <translation>Das Bild in eine Datei beliebigen Formats exportieren</translation>
     </message>
 </context>
 <context>

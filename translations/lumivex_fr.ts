@@ -98,6 +98,10 @@
         <source>Don&apos;t Save</source>
         <translation>Ne pas enregistrer</translation>
     </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
 </context>
 <context>
     <name>BaseEffect</name>
@@ -180,6 +184,25 @@
     <message>
         <source>3D Objects Texuture</source>
         <translation>L’image sur des objets 3D</translation>
+    </message>
+</context>
+<context>
+    <name>BeforeAfterView</name>
+    <message>
+        <source>Before and after</source>
+        <translation>Avant et après</translation>
+    </message>
+    <message>
+        <source>A part of the picture as it is and as the file shows it, pixel by pixel. Drag it to see another part</source>
+        <translation>Une partie de l’image telle qu’elle est et telle que le fichier la montre, pixel par pixel. Faites-la glisser pour en voir une autre</translation>
+    </message>
+    <message>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>After</source>
+        <translation>Après</translation>
     </message>
 </context>
 <context>
@@ -538,6 +561,14 @@
     <message>
         <source>Says which version this is</source>
         <translation>Indique la version du programme</translation>
+    </message>
+    <message>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>Writes the result into a file of any format, under any name</source>
+        <translation>Écrit le résultat dans un fichier de n’importe quel format, sous n’importe quel nom</translation>
     </message>
 </context>
 <context>
@@ -952,6 +983,252 @@
     <message>
         <source>Small</source>
         <translation>Petite</translation>
+    </message>
+    <message>
+        <source>%1 bytes</source>
+        <translation>%1 octets</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>rounded size, exact size</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exporter</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>%1 dpi</source>
+        <translation>%1 ppp</translation>
+    </message>
+    <message>
+        <source>Working out the size…</source>
+        <translation>Calcul de la taille…</translation>
+    </message>
+    <message>
+        <source>%1 bits</source>
+        <translation>%1 bits</translation>
+    </message>
+    <message>
+        <source>%1 × %2 px · %3</source>
+        <comment>width, height, size of the file</comment>
+        <translation>%1 × %2 px · %3</translation>
+    </message>
+    <message>
+        <source>Choose a Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>“%1” is a folder.</source>
+        <translation>« %1 » est un dossier.</translation>
+    </message>
+    <message>
+        <source>Replace “%1”?</source>
+        <translation>Remplacer « %1 » ?</translation>
+    </message>
+    <message>
+        <source>There is a file of that name in this folder already. What is in it will be lost.</source>
+        <translation>Ce dossier contient déjà un fichier de ce nom. Son contenu sera perdu.</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Taille du fichier</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Exports nothing</source>
+        <translation>N’exporte rien</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>&amp;Exporter</translation>
+    </message>
+    <message>
+        <source>Writes the file</source>
+        <translation>Écrit le fichier</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>The file&apos;s name, written as it is typed</source>
+        <translation>Le nom du fichier, écrit tel qu’il est tapé</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>The folder in which the file is written</source>
+        <translation>Le dossier dans lequel le fichier est écrit</translation>
+    </message>
+    <message>
+        <source>&amp;Choose…</source>
+        <translation>&amp;Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose a folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Chooses the folder</source>
+        <translation>Choisit le dossier</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Folder:</source>
+        <translation>&amp;Dossier :</translation>
+    </message>
+    <message>
+        <source>F&amp;ormat:</source>
+        <translation>&amp;Format :</translation>
+    </message>
+    <message>
+        <source>What kind of file is written</source>
+        <translation>Quel genre de fichier est écrit</translation>
+    </message>
+    <message>
+        <source>&amp;Lossless</source>
+        <translation>&amp;Sans perte</translation>
+    </message>
+    <message>
+        <source>Keeps every pixel exactly; the file becomes larger</source>
+        <translation>Garde chaque pixel exactement ; le fichier devient plus gros</translation>
+    </message>
+    <message>
+        <source>C&amp;hroma:</source>
+        <translation>C&amp;hrominance :</translation>
+    </message>
+    <message>
+        <source>How sharp colors are stored</source>
+        <translation>Avec quelle finesse les couleurs sont stockées</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Full (4:4:4)</source>
+        <translation>Complète (4:4:4)</translation>
+    </message>
+    <message>
+        <source>&amp;Progressive</source>
+        <translation>&amp;Progressif</translation>
+    </message>
+    <message>
+        <source>Browsers show the whole picture early, and sharpen it while it loads</source>
+        <translation>Les navigateurs montrent tôt l’image entière et l’affinent pendant le chargement</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpression:</source>
+        <translation>Co&amp;mpression :</translation>
+    </message>
+    <message>
+        <source>How the pixels are packed; none is lost</source>
+        <translation>Comment les pixels sont compressés ; aucun n’est perdu</translation>
+    </message>
+    <message>
+        <source>&amp;Depth:</source>
+        <translation>P&amp;rofondeur :</translation>
+    </message>
+    <message>
+        <source>Bits of each color component</source>
+        <translation>Bits par composante de couleur</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution:</source>
+        <translation>Réso&amp;lution :</translation>
+    </message>
+    <message>
+        <source>Dots per inch, stored for printing; the pixels stay the same</source>
+        <translation>Points par pouce, stockés pour l’impression ; les pixels restent les mêmes</translation>
+    </message>
+    <message>
+        <source>Me&amp;tadata:</source>
+        <translation>Mé&amp;tadonnées :</translation>
+    </message>
+    <message>
+        <source>What the opened file says about camera, date, author and place</source>
+        <translation>Ce que le fichier ouvert dit de l’appareil, de la date, de l’auteur et du lieu</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>All but the place</source>
+        <translation>Toutes sauf le lieu</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Less makes a smaller file</source>
+        <translation>Moins donne un fichier plus petit</translation>
+    </message>
+    <message>
+        <source>&amp;Quality:</source>
+        <translation>&amp;Qualité :</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Width of the exported picture in pixels</source>
+        <translation>Largeur de l’image exportée en pixels</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Height of the exported picture in pixels</source>
+        <translation>Hauteur de l’image exportée en pixels</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>&amp;Size:</source>
+        <translation>T&amp;aille :</translation>
+    </message>
+    <message>
+        <source>&amp;Keep proportions</source>
+        <translation>&amp;Garder les proportions</translation>
+    </message>
+    <message>
+        <source>The other side follows the one that is typed</source>
+        <translation>L’autre côté suit celui qui est tapé</translation>
+    </message>
+</context>
+<context>
+    <name>Exporting</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Dessin de l’image…</translation>
+    </message>
+    <message>
+        <source>Exporting “%1”…</source>
+        <translation>Exportation de « %1 »…</translation>
+    </message>
+    <message>
+        <source>Exported “%1”: %2</source>
+        <comment>file name, its size</comment>
+        <translation>« %1 » exporté : %2</translation>
     </message>
 </context>
 <context>
@@ -3094,6 +3371,10 @@
     <message>
         <source>Cancel opening</source>
         <translation>Annuler l’ouverture</translation>
+    </message>
+    <message>
+        <source>Export the picture into a file of any format</source>
+        <translation>Exporter l’image dans un fichier de n’importe quel format</translation>
     </message>
 </context>
 <context>
