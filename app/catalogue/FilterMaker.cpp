@@ -4,6 +4,19 @@
 
 #include <optional>
 
+namespace {
+
+/// Rectangles without an end have no corners that could be dragged.
+void boundRectangles(CIFilter& filter, const CIRect& picture)
+{
+    for (const std::string& key : filter.inputKeys())
+        if (filter.attributesForKey(key)->kind == InputKind::Rectangle
+            && filter.valueForKey(key).toVector().rect().isInfinite())
+            filter.setValueForKey(CIVector(picture), key);
+}
+
+} // namespace
+
 std::shared_ptr<CIFilter> FilterMaker::newFilter(const std::string& name, const CIImage& picture, const CIRect& view)
 {
     const std::shared_ptr<CIFilter> filter = CIFilter::filterWithName(name);
@@ -11,6 +24,8 @@ std::shared_ptr<CIFilter> FilterMaker::newFilter(const std::string& name, const 
         filter->setDefaults();
         setupAllImageInputsToNotNil(*filter, picture);
         setAutomaticDefaults(*filter, view);
+        if (picture)
+            boundRectangles(*filter, picture.extent());
     }
     return filter;
 }

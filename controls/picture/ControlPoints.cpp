@@ -54,7 +54,7 @@ std::vector<ControlPoint> controlPoints(const CIFilter& filter)
     std::vector<ControlPoint> points;
     for (const std::string& key : filter.inputKeys()) {
         const CIInputAttributes* input = filter.attributesForKey(key);
-        if (!input || !hasControlPoint(*input))
+        if (!input || !hasControlPoint(*input) || key == "inputExtent") // which the chain overwrites
             continue;
         const QString label = shownFilterName(CIFilter::localizedNameForFilterName(filter.name())) + QLatin1Char(' ')
             + shownInputName(input->displayName);

@@ -33,8 +33,8 @@ struct ControlPoint {
 /// True for an input that has points on the picture.
 bool hasControlPoint(const CIInputAttributes& input);
 
-/// The points of all inputs, in the order in which they are tried for a click: by input, a rectangle's corners as
-/// top right, top left, bottom right, bottom left.
+/// The points of all inputs that can be set, in the order in which they are tried for a click: by input, a rectangle's
+/// corners as top right, top left, bottom right, bottom left.
 std::vector<ControlPoint> controlPoints(const CIFilter& filter);
 
 /// The index of the point nearest to `p`, the earlier of equally near ones; nothing when there are no points.
