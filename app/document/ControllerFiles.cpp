@@ -19,7 +19,8 @@ void Controller::updateWinTitle()
 {
     QString title = QStringLiteral("Lumivex");
     if (!m_document.filePath().isEmpty())
-        title += QStringLiteral("::%1").arg(QFileInfo(m_document.filePath()).fileName());
+        title += QStringLiteral("::%1").arg(
+            QFileInfo(m_document.filePath()).fileName().replace("[*]", "[*][*]")); // twice stands for itself
     if (m_document.wasChanged())
         title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
