@@ -27,6 +27,9 @@ public:
     virtual void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) = 0;
     /// Names the newest undo step after the filter and the input.
     virtual void setActionNameForFilterKey(const CIFilter& filter, const std::string& key) = 0;
+    /// What is set from here to `endChange` is one step of undo: all of a drag.
+    virtual void beginChange() = 0;
+    virtual void endChange() = 0;
     /// The menu for a right click on the picture; null for none. The master keeps it.
     virtual QMenu* contextMenu() = 0;
     /// Adds to the zoom, as a pinch does. (The double m is on purpose.)

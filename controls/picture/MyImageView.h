@@ -65,7 +65,9 @@ protected:
     void paintEvent(QPaintEvent*) override;
     void enterEvent(QEnterEvent*) override;
     void leaveEvent(QEvent*) override;
+    void hideEvent(QHideEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void keyReleaseEvent(QKeyEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
     bool focusNextPrevChild(bool next) override; // Tab goes from point to point
     void contextMenuEvent(QContextMenuEvent*) override;
@@ -88,6 +90,8 @@ private:
     void mouseExited();
     void hover(const QPointF& position);
     void dragGrabbedPoint(CIPoint to);
+    void beginChange();
+    void endChange();
     void selectPoint(std::optional<std::size_t> index);
     bool moveSelectedPoint(int key, bool far);
     void showDropHighlight(bool shown);

@@ -4,6 +4,7 @@
 #include "widgets/PictureMenu.h"
 
 #include <cmath>
+#include <utility>
 
 #include <QContextMenuEvent>
 #include <QCoreApplication>
@@ -89,6 +90,28 @@ void MyImageView::hover(const QPointF& position)
 
 // --- dragging ---
 
+/// From press to release: one step of undo.
+void MyImageView::beginChange()
+{
+    endChange();
+    d->isChanging = controller;
+    if (controller)
+        controller->beginChange();
+}
+
+void MyImageView::endChange()
+{
+    if (std::exchange(d->isChanging, false) && controller)
+        controller->endChange();
+}
+
+/// Nobody hears of a release then.
+void MyImageView::hideEvent(QHideEvent* event)
+{
+    endChange();
+    ZoomedCanvas::hideEvent(event);
+}
+
 void MyImageView::pressed(CIPoint point)
 {
     movingNow = true;
@@ -103,6 +126,7 @@ void MyImageView::pressed(CIPoint point)
         parmMode = points[*nearest].mode;
         if (d->selected)
             d->selected = nearest;
+        beginChange();
     }
     update();
 }
@@ -112,6 +136,7 @@ void MyImageView::dragged(CIPoint point) { dragGrabbedPoint(point); }
 void MyImageView::released(CIPoint point)
 {
     movingNow = false;
+    endChange();
     hover(toWidget(point));
     update();
 }
@@ -155,6 +180,8 @@ void MyImageView::selectPoint(std::optional<std::size_t> index)
 
 void MyImageView::focusOutEvent(QFocusEvent* event)
 {
+    if (!movingNow)
+        endChange();
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         selectPoint({});
     ZoomedCanvas::focusOutEvent(event);
@@ -185,6 +212,8 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
     default:
         return false;
     }
+    if (!d->isChanging)
+        beginChange(); // until the key is released
     const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(point.key), point.mode, to);
     controller->setFilterValueForKey(*filter, dragged->value, point.key);
     controller->setActionNameForFilterKey(*filter, point.key);
@@ -213,6 +242,13 @@ void MyImageView::keyPressEvent(QKeyEvent* event)
         selectPoint({});
     else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
         ZoomedCanvas::keyPressEvent(event);
+}
+
+void MyImageView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!event->isAutoRepeat() && !movingNow)
+        endChange();
+    ZoomedCanvas::keyReleaseEvent(event);
 }
 
 // --- menu ---

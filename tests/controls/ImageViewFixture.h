@@ -33,6 +33,8 @@ struct FakeMaster : ImageViewMaster {
         sent.push_back(value);
     }
     void setActionNameForFilterKey(const CIFilter&, const std::string& key) override { named.push_back(key); }
+    void beginChange() override { log.push_back("begin"); }
+    void endChange() override { log.push_back("end"); }
     QMenu* contextMenu() override { return &menu; }
     void updateZoommWithDelta(double delta) override { zooms.push_back(float(delta)); }
     void setZoom(float zoom) override { zooms.push_back(zoom); }
