@@ -52,6 +52,8 @@ protected:
     {
         auto* found = window.findChild<ExportPanel*>();
         if (!found) {
+            window.activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
             QTest::keySequence(&window, QKeySequence("Ctrl+Shift+E"));
             EXPECT_TRUE(QTest::qWaitFor([&] { return (found = window.findChild<ExportPanel*>()); }, kPatience));
         }
@@ -254,8 +256,9 @@ TEST_F(ExportPanelTest, EveryFormatThatIsOfferedIsWritten)
         const Result<PictureInfo> info = readPictureInfo(file.toStdString());
         ASSERT_TRUE(info) << info.message();
         EXPECT_EQ(QLatin1String(fileFormat(info->format).name), format);
-        if (format != "ICO")
+        if (format != "ICO") {
             EXPECT_EQ(readPicture(file.toStdString())->width(), 120);
+        }
     }
 }
 
