@@ -42,7 +42,8 @@ Controller::Controller(MainWindow& window)
     , m_clipboard(m_document, [this] { return laterEffectedImage(); })
     , m_saving(m_document, &window, [this] { return laterEffectedImage(); },
           {[this] { m_session.markClean(); }, [this] { exportImg(); }, [this] { terminate(); }})
-    , m_exporting(m_document, &window, [this] { return laterEffectedImage(); }, [this] { m_session.markClean(); })
+    , m_exporting(
+          m_document, &window, [this] { return laterEffectedImage(); }, [this] { m_session.markClean(); })
     , m_session(m_document, m_opening, &window,
           {[this](SessionState& state, const CIImage& picture) { saveEdits(state, picture); },
               [this](const SessionState& state) { restoreEdits(state); }})

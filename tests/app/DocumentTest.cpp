@@ -166,7 +166,7 @@ TEST_F(DocumentTest, SavingTellsWhenAFileIsThere)
 {
     int saved = 0, ended = 0;
     Saving saving(document, &window, [] { return [](CIRenderControl*) { return picture(7, 5); }; },
-        {[&] { ++saved; }, [&] { ++ended; }});
+        {.saved = [&] { ++saved; }, .impossible = [] {}, .terminate = [&] { ++ended; }});
     saving.initExportFormats();
     document.setWasChanged(true);
     saving.panelDidEnd(1, folder.filePath("no folder/a.jpeg"));

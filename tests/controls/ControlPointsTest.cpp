@@ -32,7 +32,8 @@ TEST(ControlPoints, StandForPositionsRectanglesAndTransforms)
     EXPECT_EQ(controlPoints(*turned)[0].mode, kOrigin);
     EXPECT_EQ(controlPoints(*turned)[0].position, (CIPoint{7, 8}));
     EXPECT_TRUE(controlPoints(*filter("CIGaussianBlur", "inputRadius", 3)).empty());
-    EXPECT_TRUE(controlPoints(*filter("CIAreaAverage", "inputExtent", CIVector{0, 0, 9, 9})).empty()) << "not the user's";
+    EXPECT_TRUE(controlPoints(*filter("CIAreaAverage", "inputExtent", CIVector{0, 0, 9, 9})).empty())
+        << "not the user's";
 }
 
 TEST(ControlPoints, TheNearestIsTakenAndTheEarlierOfTwo)
