@@ -290,6 +290,13 @@ TEST(Jpeg2000, RefusesWhatCantBeRight)
     EXPECT_FALSE(readPicture(boxed(dot({0}), {palette, box("cmap", bytesOf({0, 0, 1, 3})), enumerated(kGrey)})));
     EXPECT_FALSE(readPicture(boxed(dot({0}), {box("pclr", bytesOf({4, 0, 3, 7})), enumerated(kGrey)})));
     EXPECT_FALSE(readPicture(boxed(dot({0}), {enumerated(kSrgb)}))) << "two colors are missing";
+    const Bytes wide = codestream({0, 0, 1, 1}, {{{5}}});
+    for (const int side : {0x00ffff, 0x7fffff}) { // of the grid, and of its one tile
+        Bytes claimed = wide;
+        for (const std::size_t place : {8, 24})
+            std::ranges::copy(number(std::size_t(side) << 8, 4), claimed.begin() + std::ptrdiff_t(place));
+        EXPECT_FALSE(readPicture(claimed)) << side;
+    }
     const Bytes whole = codestream({0, 0, 64, 64}, {{std::vector<int>(64 * 64, 5)}});
     for (std::size_t size = 1; size < whole.size() - 2; size += 7)
         EXPECT_FALSE(readPicture(std::span(whole).first(size))) << size;

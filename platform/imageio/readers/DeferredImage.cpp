@@ -47,6 +47,11 @@ int generate(VipsRegion* region, void*, void* argument, void*, gboolean*)
 
 VipsImagePtr deferredImage(const PixelLayout& layout, std::function<bool(std::span<std::byte>)> decode)
 {
+    const auto isSide = [](int side) { return side > 0 && side <= VIPS_MAX_COORD; };
+    if (!isSide(layout.width) || !isSide(layout.height)) { // libvips would take another size, and too little memory
+        vips_error("lumivex", "there are no pictures of %d x %d pixels", layout.width, layout.height);
+        return nullptr;
+    }
     VipsImagePtr image(vips_image_new());
     auto* decoder = new Decoder;
     decoder->decode = std::move(decode);

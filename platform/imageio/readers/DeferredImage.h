@@ -19,7 +19,8 @@ struct PixelLayout {
 };
 
 /// `decode` fills the rows, which are packed and come from top to bottom, once, on any thread. It answers false or
-/// throws when it can't; that becomes an error of libvips. Null with a pending libvips error when memory runs out.
+/// throws when it can't; that becomes an error of libvips. Null with a pending libvips error for a size that libvips
+/// lacks.
 VipsImagePtr deferredImage(const PixelLayout& layout, std::function<bool(std::span<std::byte> pixels)> decode);
 
 /// Whether so many pixels, at least one, can be meant by a file of that many bytes, of which each stands for so many at

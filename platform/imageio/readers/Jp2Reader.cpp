@@ -175,7 +175,7 @@ void openJpeg2000(OpenPicture& picture, const PictureInput& input, int maxSide)
     const int reduce = reductionFor(*header, maxSide);
     std::string refusal;
     const std::optional<Jp2Channels> channels = channelsOf(*header->image(), *boxes, reduce, refusal);
-    if (!channels || channels->width <= 0 || channels->height <= 0) {
+    if (!channels) {
         vips_error("lumivex", "%s", refusal.c_str());
         picture.refusal = Reason::StrangePixels;
         return;
