@@ -118,7 +118,7 @@ std::vector<Jp2Definition> definitionsOf(Reader box)
     return definitions;
 }
 
-/// The first specification that can be used counts.
+/// The first "colr" box that can be used counts.
 void addColor(Reader box, Jp2Boxes& boxes)
 {
     constexpr std::uint64_t kEnumerated = 1, kRestrictedProfile = 2, kAnyProfile = 3;
