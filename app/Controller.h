@@ -129,6 +129,7 @@ public:
     void setFilterValueForKey(CIFilter& filter, const CIValue& value, const std::string& key) override
     {
         m_changes.setFilterValueForKey(filter, value, key);
+        m_document.setUnsaved();
     }
     void setDictValueForKey(
         const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key) override
@@ -194,6 +195,7 @@ public:
 
     // Opening: ControllerOpening.cpp
     void openFile(const QString& path) { m_opening.open(path); }
+    void revertToOpenedFile() { m_opening.revert(); }
     void openDroppedFile(const QString& path) { m_opening.openDropped(path, true); }
     void takeDroppedFile(const QString& path) override { m_opening.openDropped(path, false); }
     void cancelOpening() { m_opening.cancel(); }
@@ -274,6 +276,7 @@ public:
 
     // Window and application: ControllerWindow.cpp
     bool windowShouldClose() const;
+    bool closesWindow(); // or says why not, or asks
     void windowWillClose();
     void windowDidResize();
     void windowDidUpdate() { m_standard.rebuildPanelIfNeeded(); }

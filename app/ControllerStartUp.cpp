@@ -109,6 +109,7 @@ void Controller::awakeFromNib()
     theController = this;
     EffectMaster::setMainController(this);
     setFilePath({});
+    m_document.setSaved();
     adjustViewsAndTabs();
     clearControls();
     updateMainBtnState();
@@ -127,5 +128,8 @@ void Controller::applicationWillTerminate()
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     defaults.setObjectForKey(m_window.saveGeometry(), kWindowFrameName);
     defaults.synchronize();
-    m_session.end();
+    if (m_saving.isQuitting() && m_document.mayLoseWork())
+        m_session.keepNow(); // the save was declined or cancelled, not the changes
+    else
+        m_session.end();
 }

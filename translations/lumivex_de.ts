@@ -243,6 +243,14 @@
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
+        <source>Re&amp;vert to Opened File</source>
+        <translation>Zur geöffneten &amp;Datei zurückkehren</translation>
+    </message>
+    <message>
+        <source>Brings back the picture as its file has it</source>
+        <translation>Holt das Bild zurück, wie es in seiner Datei steht</translation>
+    </message>
+    <message>
         <source>&amp;Save</source>
         <translation>&amp;Speichern</translation>
     </message>
@@ -596,6 +604,14 @@
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved have been replaced.</source>
+        <translation>Nicht gespeicherte Änderungen wurden ersetzt.</translation>
+    </message>
+    <message>
+        <source>The window stays open: the picture has changes that are not saved.</source>
+        <translation>Das Fenster bleibt offen: Das Bild hat Änderungen, die nicht gespeichert sind.</translation>
     </message>
     <message>
         <source>No Pictures Yet</source>
@@ -3447,8 +3463,20 @@
         <translation>Alle Dateien (*)</translation>
     </message>
     <message>
+        <source>Open in New Window</source>
+        <translation>In neuem Fenster öffnen</translation>
+    </message>
+    <message>
+        <source>Leaves this window&apos;s picture as it is</source>
+        <translation>Lässt das Bild in diesem Fenster, wie es ist</translation>
+    </message>
+    <message>
         <source>Open</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Revert to Opened File</source>
+        <translation>Zur geöffneten Datei zurückkehren</translation>
     </message>
 </context>
 <context>

@@ -243,6 +243,14 @@
         <translation>Ouvrir un fichier &amp;récent</translation>
     </message>
     <message>
+        <source>Re&amp;vert to Opened File</source>
+        <translation>Revenir au fichier ou&amp;vert</translation>
+    </message>
+    <message>
+        <source>Brings back the picture as its file has it</source>
+        <translation>Rétablit l’image telle que son fichier la contient</translation>
+    </message>
+    <message>
         <source>&amp;Save</source>
         <translation>&amp;Enregistrer</translation>
     </message>
@@ -596,6 +604,14 @@
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Changes that were not saved have been replaced.</source>
+        <translation>Des modifications non enregistrées ont été remplacées.</translation>
+    </message>
+    <message>
+        <source>The window stays open: the picture has changes that are not saved.</source>
+        <translation>La fenêtre reste ouverte&#xa0;: l’image a des modifications non enregistrées.</translation>
     </message>
     <message>
         <source>No Pictures Yet</source>
@@ -3447,8 +3463,20 @@
         <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
+        <source>Open in New Window</source>
+        <translation>Ouvrir dans une nouvelle fenêtre</translation>
+    </message>
+    <message>
+        <source>Leaves this window&apos;s picture as it is</source>
+        <translation>Laisse l’image de cette fenêtre telle quelle</translation>
+    </message>
+    <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Revert to Opened File</source>
+        <translation>Revenir au fichier ouvert</translation>
     </message>
 </context>
 <context>

@@ -19,12 +19,17 @@ void Controller::connectInterface()
     connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
     connect(&m_window, &MainWindow::compareHeld, this, &Controller::compare);
     connect(&m_undoManager, &UndoManager::stateChanged, this, &Controller::validateMenuItems);
+    connect(&m_undoManager, &UndoManager::stateChanged, &m_status, &StatusRow::endOffer); // it was about another step
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
 }
 
 void Controller::connectDocument()
 {
-    connect(&m_document, &Document::pictureChanged, this, &Controller::showPicture);
+    connect(&m_document, &Document::pictureChanged, this, [this] {
+        showPicture();
+        if (!isOpening())
+            updateWinTitle();
+    });
     connect(&m_document, &Document::pathChanged, this, &Controller::pathChanged);
     connect(&m_document, &Document::changedMarkChanged, this, &Controller::updateWinTitle);
 }

@@ -21,10 +21,10 @@ void Controller::updateWinTitle()
     if (!m_document.filePath().isEmpty())
         title += QStringLiteral("::%1").arg(
             QFileInfo(m_document.filePath()).fileName().replace("[*]", "[*][*]")); // twice stands for itself
-    if (m_document.wasChanged())
+    if (m_document.mayLoseWork())
         title += QStringLiteral("[*]"); // where the platform puts its mark
     m_window.setWindowTitle(title);
-    m_window.setWindowModified(m_document.wasChanged());
+    m_window.setWindowModified(m_document.mayLoseWork());
 }
 
 void Controller::showReadFailure(const QString& path)

@@ -1,4 +1,5 @@
 // What is seen of a picture file on its way.
+#include "app/commands/Commands.h"
 #include "app/Controller.h"
 #include "app/document/PictureOpening.h"
 #include "app/window/MainWindow.h"
@@ -42,6 +43,12 @@ void Controller::connectOpening()
     });
     connect(&m_opening, &Opening::opened, this, [this] { m_session.markClean(); });
     connect(&m_opening, &Opening::notRead, this, &Controller::showReadFailure);
+    connect(&m_opening, &Opening::newWindowWanted, this, &Session::openInNewWindow);
+    connect(&m_opening, &Opening::unsavedReplaced, this, [this] {
+        m_status.offer(
+            m_document.picture() ? tr("Changes that were not saved have been replaced.") : m_document.readFailure(),
+            {&m_window.commands().action("actionUndo")});
+    });
 }
 
 /// What the window has room for; before it is on the screen, what the screen has.

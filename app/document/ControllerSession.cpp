@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QSessionManager>
 
 void Controller::saveEdits(SessionState& state, const CIImage& picture)
@@ -27,9 +28,10 @@ void Controller::restoreEdits(const SessionState& state)
 /// The desktop's session ends: the same question as when the window closes.
 void Controller::commitData(QSessionManager& session)
 {
-    if (!m_document.wasChanged())
+    if (!m_document.mayLoseWork())
         return;
-    if (!session.allowsInteraction()) {
+    // A sheet that is open waits for an answer of its own, and can't be asked another question.
+    if (QApplication::activeModalWidget() || !session.allowsInteraction()) {
         m_session.keepNow();
         return;
     }

@@ -30,6 +30,8 @@ void Document::setPicture(const CIImage& picture)
     m_picture = picture;
     m_format = m_formats.formatOf(picture, m_format); // an edited picture is as deep as it was
     m_formats.remember(picture, m_format);
+    if (m_state != State::Opening) // what stands in for a picture that is being read is nobody's work
+        m_isFilesPicture = picture.node() == m_filesPicture.lock();
     emit pictureChanged();
 }
 
@@ -61,6 +63,44 @@ void Document::keepForUndo()
     });
 }
 
+void Document::becomeFile(const QString& path, const CIImage& picture, const QString& actionName)
+{
+    keepFileForUndo(actionName);
+    m_pictureFailure = m_readFailure;
+    setFilePath(path);
+    m_filesPicture = picture.node();
+    setForeignPicture(picture);
+    setSaved();
+}
+
+void Document::keepFileForUndo(const QString& actionName)
+{
+    emit aboutToKeepPicture();
+    m_undoManager.registerUndoWithTarget(this,
+        [this, actionName, wasSaved = !isUnsaved(),
+            state = FileState{m_history.keep(m_picture), m_format, m_metadata, m_pictureFailure, m_filePath,
+                m_filesPicture, m_hasEdits}] {
+            keepFileForUndo(actionName);
+            restore(state);
+            if (wasSaved) // perhaps with an image of its own: the history keeps pixels
+                setSaved();
+        });
+    m_undoManager.setActionName(actionName);
+}
+
+void Document::restore(const FileState& state)
+{
+    const CIImage image = restored(*state.picture);
+    m_formats.remember(image, state.format);
+    m_metadata = state.metadata;
+    m_readFailure = m_pictureFailure = state.readFailure;
+    m_filesPicture = state.filesPicture;
+    m_hasEdits = state.hasEdits;
+    setFilePath(state.path);
+    setPicture(image);
+    emit changedMarkChanged();
+}
+
 CIImage Document::restored(KeptPicture& kept)
 {
     const CIImage image = kept.image();
@@ -89,6 +129,22 @@ void Document::setFilePath(const QString& path)
 void Document::setWasChanged(bool changed)
 {
     m_wasChanged = changed;
+    m_hasEdits = m_hasEdits || changed; // the mark goes before the file is written
+    emit changedMarkChanged();
+}
+
+void Document::setUnsaved()
+{
+    if (std::exchange(m_hasEdits, true))
+        return;
+    emit changedMarkChanged();
+}
+
+void Document::setSaved()
+{
+    m_filesPicture = m_picture.node();
+    m_isFilesPicture = true;
+    m_hasEdits = false;
     emit changedMarkChanged();
 }
 

@@ -47,6 +47,11 @@ public:
     void replaceByForeignPicture(const CIImage& picture);
     /// Makes the present picture an undo step.
     void keepForUndo();
+    /// The whole document becomes that of the file, null for one without a picture, as an undo step: what undoing
+    /// brings back is all of the former document, its path and what of it was unsaved, too.
+    void becomeFile(const QString& path, const CIImage& picture, const QString& actionName);
+    /// The picture for which another stood in is there again, just before the next one comes: nobody is told.
+    void endStandIn(const CIImage& former) { m_picture = former; }
 
     /// How the picture's pixels are stored; results that replace the picture are stored alike.
     CIFormat format() const { return m_format; }
@@ -68,6 +73,15 @@ public:
     void setFolder(const QString& folder) { m_folder = folder; }
     bool wasChanged() const { return m_wasChanged; }
     void setWasChanged(bool changed);
+    /// Whether something would be lost without the document. `wasChanged` knows neither turned, flipped and pasted
+    /// pictures nor files that could not be written.
+    bool isUnsaved() const { return m_hasEdits || !m_isFilesPicture; }
+    /// What the title's mark says, and whether quitting asks.
+    bool mayLoseWork() const { return m_wasChanged || isUnsaved(); }
+    /// An edit that makes no picture of its own yet, or a file that could not be written.
+    void setUnsaved();
+    /// What there is now is in a file.
+    void setSaved();
 
     UndoManager& undoManager() { return m_undoManager; }
     /// Pictures that undo steps go back to; beyond a quarter of the computer's memory they wait on the disk.
@@ -104,6 +118,17 @@ private:
     void startWork(const WorkOptions& options, BackgroundWork::Work work, std::function<void(bool isCancelled)> then);
     void doWhatWaits();
     CIImage restored(KeptPicture& kept);
+    /// All of the document that belongs to its file.
+    struct FileState {
+        std::shared_ptr<KeptPicture> picture;
+        CIFormat format;
+        std::shared_ptr<const PictureMetadata> metadata;
+        QString readFailure, path;
+        std::weak_ptr<const ci::Node> filesPicture;
+        bool hasEdits;
+    };
+    void keepFileForUndo(const QString& actionName);
+    void restore(const FileState& state);
 
     QWidget* m_window;
     PictureHistory m_history;
@@ -119,7 +144,10 @@ private:
         std::shared_ptr<const PictureMetadata> metadata;
     } m_lastRead;
     QString m_readFailure, m_filePath, m_folder;
+    QString m_pictureFailure; // why the document's own file could not be read
     bool m_wasChanged = false;
+    std::weak_ptr<const ci::Node> m_filesPicture; // the picture when it was read or written last
+    bool m_isFilesPicture = true, m_hasEdits = false;
     std::unique_ptr<BackgroundWork> m_work; // while it goes on
     std::vector<std::function<void()>> m_waiting;
 };

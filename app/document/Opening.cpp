@@ -8,11 +8,15 @@
 #include "widgets/HeldInput.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QPushButton>
 #include <QScopedPointer>
 #include <QTimer>
 
 #include <chrono>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -25,7 +29,7 @@ constexpr auto kPatience = 300ms; // most pictures are there before
 
 struct Opening::Job {
     std::unique_ptr<PictureOpening, QScopedPointerDeleteLater> reader; // it may be its own signal that ends us
-    Take take; // what is to be done with the picture
+    Order order;
     QTimer patience;
     std::unique_ptr<HeldInput> input = std::make_unique<HeldInput>(); // until the user is told
     std::optional<CIImage> former = {}; // while a reduced picture stands in for the new one
@@ -48,6 +52,8 @@ void Opening::runPanel(QWidget& window)
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilters(nameFilters());
+    panel->setOption(QFileDialog::DontUseNativeDialog); // the desktop's has no place for our button
+    addNewWindowButton(*panel);
     dressFilePanel(*panel);
     if (!m_document.folder().isEmpty())
         panel->setDirectory(m_document.folder());
@@ -56,6 +62,23 @@ void Opening::runPanel(QWidget& window)
         panelDidEnd(code, panel->selectedFiles());
     });
     panel->open();
+}
+
+void Opening::addNewWindowButton(QFileDialog& panel)
+{
+    auto* buttons = panel.findChild<QDialogButtonBox*>();
+    if (!buttons)
+        return;
+    QPushButton* button = buttons->addButton(tr("Open in New Window"), QDialogButtonBox::ActionRole);
+    button->setToolTip(tr("Leaves this window's picture as it is"));
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, &panel] {
+        const QString path = panel.selectedFiles().value(0);
+        if (!QFileInfo(path).isFile())
+            return;
+        panel.reject();
+        emit newWindowWanted(path);
+    });
 }
 
 void Opening::panelDidEnd(int returnCode, const QStringList& files)
@@ -68,43 +91,47 @@ QStringList Opening::nameFilters() { return {tr("Pictures (%1)").arg(pictureFile
 
 void Opening::open(const QString& path)
 {
-    start(path, m_reducedSide(), [this, path](const CIImage& image) {
-        m_document.setFilePath(path);
-        m_document.setForeignPicture(image);
-        if (image) {
-            RecentFiles::remember(path);
-            emit opened();
-        }
-    });
+    start({.path = path, .actionName = tr("Open"), .reducedSide = m_reducedSide(), .mustBePicture = false});
 }
 
 void Opening::openDropped(const QString& path, bool mustBePicture)
 {
-    if (path.isEmpty() || QApplication::activeModalWidget())
+    if (!path.isEmpty() && !QApplication::activeModalWidget())
+        start({.path = path, .actionName = tr("Open"), .mustBePicture = mustBePicture});
+}
+
+void Opening::revert()
+{
+    if (!m_document.filePath().isEmpty())
+        start({.path = m_document.filePath(), .actionName = tr("Revert to Opened File")});
+}
+
+void Opening::take(const Order& order, const CIImage& image)
+{
+    if (!image && order.mustBePicture) {
+        emit notRead(order.path);
         return;
-    start(path, 0, [this, path, mustBePicture](const CIImage& image) {
-        if (!image && mustBePicture) {
-            emit notRead(path);
-            return;
-        }
-        m_document.setFilePath(path);
-        m_document.replaceByForeignPicture(image);
-        m_document.undoManager().setActionName(tr("Open"));
-        if (mustBePicture)
-            RecentFiles::remember(path);
-    });
+    }
+    const bool wasUnsaved = m_document.isUnsaved();
+    m_document.becomeFile(order.path, image, order.actionName);
+    if (image) {
+        RecentFiles::remember(order.path);
+        emit opened();
+    }
+    if (wasUnsaved)
+        emit unsavedReplaced();
 }
 
 // --- how ---
 
-void Opening::start(const QString& path, int reducedSide, Take take)
+void Opening::start(const Order& order)
 {
     if (m_document.state() == Document::State::Working)
         return;
     cancel();
     m_job = std::make_unique<Job>();
-    m_job->reader.reset(new PictureOpening(path, reducedSide, this));
-    m_job->take = std::move(take);
+    m_job->reader.reset(new PictureOpening(order.path, order.reducedSide, this));
+    m_job->order = order;
     m_document.setState(Document::State::Opening);
     connect(m_job->reader.get(), &PictureOpening::reducedRead, this, &Opening::showStandIn);
     connect(m_job->reader.get(), &PictureOpening::finished, this, &Opening::end);
@@ -127,7 +154,9 @@ void Opening::showStandIn(const CIImage& picture)
 void Opening::end(const PictureRead& read)
 {
     const std::unique_ptr<Job> job = takeJob();
-    job->take(m_document.take(read));
+    if (job->former)
+        m_document.endStandIn(*job->former);
+    take(job->order, m_document.take(read));
     emit finished();
 }
 

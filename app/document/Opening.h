@@ -8,9 +8,9 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
 class Document;
+class QFileDialog;
 class QWidget;
 struct PictureRead;
 
@@ -29,10 +29,12 @@ public:
     void panelDidEnd(int returnCode, const QStringList& files);
     static QStringList nameFilters();
 
-    /// The whole document becomes that of the file, also when there is no picture in it.
+    /// The whole document becomes that of the file as an undo step, also when there is no picture in it.
     void open(const QString& path);
-    /// As an undo step. What can't be read replaces nothing, and is told, if it `mustBePicture`.
+    /// The same. What can't be read replaces nothing, and is told, if it `mustBePicture`.
     void openDropped(const QString& path, bool mustBePicture);
+    /// The document's file as it is on the disk, as an undo step. Nothing without a file.
+    void revert();
     /// Leaves everything as it was before.
     void cancel();
 
@@ -53,12 +55,22 @@ signals:
     /// What is in the document is what is in its file.
     void opened();
     void notRead(const QString& path);
+    /// Undoing the opening is the only way back to what was not saved.
+    void unsavedReplaced();
+    void newWindowWanted(const QString& path);
 
 private:
-    using Take = std::function<void(const CIImage&)>;
+    /// What is to become of the file.
+    struct Order {
+        QString path, actionName;
+        int reducedSide = 0; // px; 0 for no picture that stands in for a slow one
+        bool mustBePicture = true;
+    };
     struct Job;
 
-    void start(const QString& path, int reducedSide, Take take);
+    void addNewWindowButton(QFileDialog& panel);
+    void start(const Order& order);
+    void take(const Order& order, const CIImage& image);
     void showStandIn(const CIImage& picture);
     void end(const PictureRead& read);
     std::unique_ptr<Job> takeJob();

@@ -197,9 +197,12 @@ void Saving::write(const QString& path, Writer writer, Then then)
             else
                 quitAfterSave = false; // the picture would end with the program
             const bool isStopped = !isWritten && isCancelled;
-            if (!isWritten && !isStopped)
-                emit m_document.message(shownText(result ? result->failure() : Failure{Reason::NoMemoryToSave}));
             if (then)
                 then(isStopped);
+            if (isWritten || isStopped)
+                return;
+            m_document.setUnsaved();
+            AlertPanel::Alert_OKMsgText(m_window, tr("Couldn't save file."),
+                shownText(result ? result->failure() : Failure{Reason::NoMemoryToSave}));
         });
 }

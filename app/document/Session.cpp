@@ -36,7 +36,7 @@ SessionState Session::state()
 {
     SessionState state;
     state.values = {{"path", m_document.filePath().toStdString()}, {"wasChanged", m_document.wasChanged()},
-        {"format", double(m_document.format())}};
+        {"unsaved", m_document.isUnsaved()}, {"format", double(m_document.format())}};
     if (m_document.metadata())
         state.values["metadataOf"] = m_document.metadata()->file().string();
     const CIImage picture = m_opening.lastingPicture();
@@ -60,7 +60,10 @@ void Session::restore(const SessionState& state)
     m_document.setMetadata(described.empty() ? nullptr : PictureMetadata::ofFile(described));
     m_edits.restore(state);
     m_document.undoManager().removeAllActions();
+    m_document.setSaved();
     m_document.setWasChanged(state.value("wasChanged").toBool());
+    if (state.value("unsaved").toBool())
+        m_document.setUnsaved();
 }
 
 // --- unexpected ends ---
@@ -72,6 +75,7 @@ void Session::startJournal(const QString& home)
 
 void Session::markClean()
 {
+    m_document.setSaved();
     if (m_journal)
         m_journal->markClean();
 }
@@ -165,7 +169,7 @@ void Session::openFilesFromOutside(const QStringList& paths)
         return;
     if (m_document.state() == Document::State::Working || QApplication::activeModalWidget())
         openInNewWindow(paths.first());
-    else if (!m_document.wasChanged()
+    else if (!m_document.mayLoseWork()
         || AlertPanel::Alert_OKCancelMsgText(m_window,
                tr("Do you want to open “%1” here?").arg(QFileInfo(paths.first()).fileName()),
                tr("Your changes will be lost if you did not save them."))

@@ -152,7 +152,7 @@ void MainWindow::focusNextPane()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(!m_controller || m_controller->windowShouldClose());
+    event->setAccepted(!m_controller || m_controller->closesWindow());
     if (m_controller && event->isAccepted())
         m_controller->windowWillClose();
 }

@@ -5,8 +5,11 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
+#include <QBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
+#include <QToolButton>
 
 #include <chrono>
 #include <utility>
@@ -16,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kMessageTime = 8s;
+constexpr auto kOfferTime = 10s;
 constexpr auto kTick = 50ms;
 
 QString depthText(CIFormat format)
@@ -52,13 +56,53 @@ StatusRow::StatusRow(const Document& document, Parts parts)
     connect(&document, &Document::message, this, &StatusRow::showMessage);
 }
 
-void StatusRow::update() { m_parts.field.setText(m_progressText.isEmpty() ? pictureText(m_document) : m_progressText); }
+void StatusRow::update()
+{
+    removeButtons();
+    m_parts.field.setText(m_progressText.isEmpty() ? pictureText(m_document) : m_progressText);
+}
 
 void StatusRow::showMessage(const QString& text)
 {
+    removeButtons();
     m_parts.field.setText(text);
     m_messageEnd.start(kMessageTime);
     alert();
+}
+
+void StatusRow::offer(const QString& text, const QList<QAction*>& actions)
+{
+    showMessage(text);
+    m_messageEnd.start(kOfferTime);
+    auto* row = qobject_cast<QBoxLayout*>(m_parts.field.parentWidget()->layout());
+    int place = row ? row->indexOf(&m_parts.field) : 0;
+    for (QAction* action : actions) {
+        auto* button = new QToolButton(m_parts.field.parentWidget());
+        button->setDefaultAction(action);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QToolButton::clicked, this, &StatusRow::endOffer);
+        m_offered.push_back(button);
+        if (row)
+            row->insertWidget(++place, button);
+        button->show();
+    }
+}
+
+void StatusRow::endOffer()
+{
+    if (!m_offered.isEmpty())
+        update();
+}
+
+/// One of them may be what is just being pressed.
+void StatusRow::removeButtons()
+{
+    for (const QPointer<QWidget>& button : std::exchange(m_offered, {}))
+        if (button) {
+            button->hide();
+            button->deleteLater();
+        }
 }
 
 void StatusRow::showProgress(const QString& text, std::function<double()> progress)

@@ -9,6 +9,7 @@
 
 class Document;
 class QAbstractButton;
+class QAction;
 class QLabel;
 class QProgressBar;
 
@@ -30,6 +31,9 @@ public:
     /// Tells the present state.
     void update();
     void showMessage(const QString& text);
+    /// The message stays for ten seconds, with a button for each action, one of which ends it.
+    void offer(const QString& text, const QList<QAction*>& actions);
+    void endOffer();
     /// From now on the window has the keyboard itself. `progress` answers 0 to 1, or 0 when nobody can tell.
     void showProgress(const QString& text, std::function<double()> progress);
     /// Who had the keyboard gets it back, unless it is elsewhere meanwhile. Nothing if nothing is shown.
@@ -37,10 +41,12 @@ public:
 
 private:
     void alert();
+    void removeButtons();
 
     const Document& m_document;
     Parts m_parts;
     QTimer m_messageEnd, m_tick;
     QString m_progressText; // empty when nothing is shown
     QPointer<QWidget> m_formerFocus;
+    QList<QPointer<QWidget>> m_offered; // the buttons
 };

@@ -10,10 +10,13 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <gtest/gtest.h>
+#include <QApplication>
+#include <QDialog>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 
 #include <new>
@@ -169,9 +172,17 @@ TEST_F(DocumentTest, SavingTellsWhenAFileIsThere)
         {.saved = [&] { ++saved; }, .impossible = [] {}, .terminate = [&] { ++ended; }});
     saving.initExportFormats();
     document.setWasChanged(true);
+    QTimer answer;
+    answer.callOnTimeout([] {
+        if (auto* sheet = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+            sheet->reject();
+    });
+    answer.start(0);
     saving.panelDidEnd(1, folder.filePath("no folder/a.jpeg"));
     waitUntilIdle();
     EXPECT_EQ(saved, 0);
+    EXPECT_FALSE(document.wasChanged());
+    EXPECT_TRUE(document.isUnsaved());
 
     const QString target = QDir::tempPath() + "/lumivex-saving-" + QString::number(QCoreApplication::applicationPid());
     document.setWasChanged(true);
@@ -203,7 +214,7 @@ TEST_F(DocumentTest, AnOpeningReplacesTheDocumentOrAddsAStep)
     EXPECT_EQ(size(), QSize(9, 4));
     EXPECT_EQ(document.filePath(), file) << "the newest wins";
     EXPECT_EQ(opened.size(), 1);
-    EXPECT_FALSE(undo().canUndo());
+    EXPECT_EQ(undo().undoActionNames(), QStringList("Open"));
 
     opening.openDropped(folder.filePath("missing.png"), true);
     waitUntilIdle();
@@ -215,11 +226,12 @@ TEST_F(DocumentTest, AnOpeningReplacesTheDocumentOrAddsAStep)
     EXPECT_EQ(undo().undoActionName(), "Open");
     undo().undo();
     EXPECT_EQ(size(), QSize(9, 4));
+    EXPECT_EQ(document.filePath(), file);
 
     opening.open(other);
     opening.cancel();
     EXPECT_TRUE(document.isIdle());
-    EXPECT_EQ(document.filePath(), other);
+    EXPECT_EQ(document.filePath(), file);
     opening.open(folder.filePath("missing.png"));
     waitUntilIdle();
     EXPECT_FALSE(document.picture());

@@ -220,8 +220,15 @@ TEST_F(ExportTest, ReportsAnUnwritableFolderAndKeepsTheFile)
     setImageLog([](std::string_view) {});
     openNoise("noise.png");
     chooseFormat("PNG");
-    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x"));
-    EXPECT_TRUE(ui.pictureInfoField->text().contains("x.png")) << ui.pictureInfoField->text().toStdString();
+    QString told;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (const QWidget* sheet = QApplication::activeModalWidget(); sheet && sheet->objectName() == "AlertPanel")
+            told = sheet->accessibleDescription();
+    });
+    look.start(0);
+    answering("OK", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x")); });
+    EXPECT_TRUE(told.contains("x.png")) << told.toStdString();
     setImageLog({});
 }
 
@@ -293,7 +300,7 @@ TEST_F(ExportTest, AFileThatCantBeWrittenStopsTheQuitting)
     answering("Save...", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
     delete window.findChild<SavePanel*>();
     chooseFormat("PNG");
-    perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x"));
+    answering("OK", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x")); });
     pick("CIColorPosterize");
     answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
     setImageLog({});

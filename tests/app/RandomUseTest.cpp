@@ -110,7 +110,7 @@ protected:
         EXPECT_EQ(action("actionUndo")->isEnabled(), undo.canUndo());
         EXPECT_EQ(action("actionRedo")->isEnabled(), undo.canRedo());
         EXPECT_EQ(action("actionCopy")->isEnabled(), bool(controller.backImage()));
-        EXPECT_EQ(window.isWindowModified(), controller.wasChanged());
+        EXPECT_EQ(window.isWindowModified(), controller.document().mayLoseWork());
         const bool hasRows = !ui.placeCntrlView->findChildren<QWidget*>(Qt::FindDirectChildrenOnly).isEmpty();
         EXPECT_EQ(hasRows, controller.getCurrentFilter() != nullptr);
         qsizetype on = 0;
