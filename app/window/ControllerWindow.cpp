@@ -70,7 +70,8 @@ bool Controller::closesWindow()
     if (!windowShouldClose()) {
         if (m_document.isIdle())
             m_status.offer(tr("The window stays open: the picture has changes that are not saved."),
-                {&m_window.commands().action("actionSave"), &m_window.commands().action("actionQuit")});
+                {&m_window.commands().action("actionSave"), &m_window.commands().action("actionExport"),
+                    &m_window.commands().action("actionQuit")});
         return false;
     }
     if (!m_document.isUnsaved())
