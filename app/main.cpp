@@ -43,7 +43,7 @@ int main(int argc, char** argv)
     Controller controller(window);
     controller.awakeFromNib();
     if (!pictures.isEmpty())
-        controller.openFile(pictures.takeFirst());
+        controller.opening().openFirst(pictures.takeFirst());
     for (const QString& picture : pictures)
         Session::openInNewWindow(picture);
     controller.applicationDidFinishLaunching();

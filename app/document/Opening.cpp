@@ -94,6 +94,13 @@ void Opening::open(const QString& path)
     start({.path = path, .actionName = tr("Open"), .reducedSide = m_reducedSide(), .mustBePicture = false});
 }
 
+void Opening::openFirst(const QString& path)
+{
+    open(path);
+    if (m_job)
+        m_job->order.isFirst = true;
+}
+
 void Opening::openDropped(const QString& path, bool mustBePicture)
 {
     if (!path.isEmpty() && !QApplication::activeModalWidget())
@@ -114,6 +121,8 @@ void Opening::take(const Order& order, const CIImage& image)
     }
     const bool wasUnsaved = m_document.isUnsaved();
     m_document.becomeFile(order.path, image, order.actionName);
+    if (order.isFirst)
+        m_document.undoManager().removeAllActions();
     if (image) {
         RecentFiles::remember(order.path);
         emit opened();

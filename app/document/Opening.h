@@ -31,7 +31,9 @@ public:
 
     /// The whole document becomes that of the file as an undo step, also when there is no picture in it.
     void open(const QString& path);
-    /// The same. What can't be read replaces nothing, and is told, if it `mustBePicture`.
+    /// The same for what the program starts with: there is nothing to go back to.
+    void openFirst(const QString& path);
+    /// The same as `open`. What can't be read replaces nothing, and is told, if it `mustBePicture`.
     void openDropped(const QString& path, bool mustBePicture);
     /// The document's file as it is on the disk, as an undo step. Nothing without a file.
     void revert();
@@ -64,7 +66,7 @@ private:
     struct Order {
         QString path, actionName;
         int reducedSide = 0; // px; 0 for no picture that stands in for a slow one
-        bool mustBePicture = true;
+        bool mustBePicture = true, isFirst = false;
     };
     struct Job;
 

@@ -79,10 +79,14 @@ class Standard(Journey):
         self.assertQuarters(program, inverted((GREY, BLUE, GREEN, RED)))
         program.press("Turn right")
         wait(lambda: program.seen("label", "300 × 400 px.*"), "the picture to be turned")
-        for _ in range(20):  # steps between come and go
-            keys("ctrl+z")
-            if not program.find("push button", "Undo.*").has(State.ENABLED):
-                break
+        keys("ctrl+z")
+        wait(lambda: program.seen("label", "400 × 300 px.*"), "the picture to be turned back")
+        keys("ctrl+z")
+        self.assertQuarters(program, (GREY, BLUE, GREEN, RED))
+        keys("ctrl+z")  # the opening, too, but not the one that the program has started with
+        self.assertQuarters(program, (RED, GREEN, BLUE, GREY))
+        wait(lambda: not program.find("push button", "Undo").has(State.ENABLED), "nothing more to take back")
+        keys("ctrl+y")
         self.assertQuarters(program, (GREY, BLUE, GREEN, RED))
         keys("ctrl+y", "ctrl+y", "ctrl+y")
         self.discard_changes(program)
