@@ -1,5 +1,6 @@
 // Resizing: sums of shares, the rim, and what a plain double loop makes of a window.
 #include "platform/coreimage/passes/Resample.h"
+#include "platform/coreimage/passes/Rotation.h"
 #include "tests/coreimage/Pictures.h"
 
 #include <gtest/gtest.h>
@@ -93,4 +94,31 @@ TEST(Resample, CubicWindowsReproduceARamp)
     const CIBitmap out = rendered(ci::cubicScaled(CIImage::fromBitmap(ramp), 2, 1, 1 / 3.0, 1 / 3.0), {0, 0, 80, 1});
     for (int x = 8; x < 72; ++x)
         EXPECT_NEAR(at(out, x, 0, 0), (float(x) + 0.5f) / 2, 1e-4f);
+}
+
+TEST(Turning, LeavesSmoothPicturesAsTheyAreAtTheirNewPlaces)
+{
+    const CIImage waves = CIImage::fromBitmap(smooth(120, 90));
+    const CIRect whole{0, 0, 120, 90};
+    EXPECT_LT(difference(rendered(ci::turned(waves, {}), whole), rendered(waves, whole)).largest, 1e-6)
+        << "no turn changes nothing";
+    for (const double degrees : {3.0, -17.5, 45.0}) {
+        SCOPED_TRACE(degrees);
+        const auto motion =
+            CIAffineTransform::rotation(degrees * M_PI / 180).then(CIAffineTransform::translation(40, 5));
+        const CIPoint middle = motion.map({60, 45});
+        const CIRect part{std::floor(middle.x) - 20, std::floor(middle.y) - 20, 40, 40};
+        const CIBitmap out = rendered(ci::turned(waves, motion), part);
+        const CIAffineTransform back = *motion.inverted();
+        for (int y = 0; y < 40; ++y)
+            for (int x = 0; x < 40; ++x) {
+                const CIPoint from = back.map({part.x + x + 0.5, part.y + y + 0.5});
+                for (int c = 0; c < 3; ++c) {
+                    const double wave =
+                        0.5 + 0.4 * std::sin(0.031 * (from.x - 0.5) * (c + 1) + 0.023 * (89.5 - from.y) * (3 - c));
+                    ASSERT_NEAR(double(at(out, x, y, c)), wave, 1e-4);
+                }
+                ASSERT_EQ(at(out, x, y, 3), 1) << "what is opaque stays it";
+            }
+    }
 }
