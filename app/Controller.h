@@ -4,6 +4,7 @@
 #include "app/catalogue/FilterCatalogue.h"
 #include "app/catalogue/FilterMaker.h"
 #include "app/document/Clipboard.h"
+#include "app/document/Cropping.h"
 #include "app/document/Document.h"
 #include "app/document/Exporting.h"
 #include "app/document/Opening.h"
@@ -171,6 +172,9 @@ public:
     void rotateImage(bool left) { m_turning.rotate(left); }
     void flipImage(bool vertical) { m_turning.flip(vertical); }
     void resizeImageHeight(float width, float height) override { m_resizing.resize(width, height); }
+    void cropImage() { m_cropping.askForCrop(); }
+    void straightenImage() { m_cropping.askForAngle(); }
+    bool canCropImage() const { return m_cropping.canAsk(); }
     void copy() { m_clipboard.copy(); }
     void paste() { m_clipboard.paste(); }
     void undoPaste(const CIImage& image) { m_document.replaceByForeignPicture(image); }
@@ -320,6 +324,7 @@ private:
     Opening m_opening;
     Turning m_turning;
     Resizing m_resizing;
+    Cropping m_cropping;
     Clipboard m_clipboard;
     Saving m_saving;
     Exporting m_exporting;

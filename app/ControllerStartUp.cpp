@@ -39,6 +39,7 @@ Controller::Controller(MainWindow& window)
     , m_opening(m_document, [this] { return reducedSide(); })
     , m_turning(m_document)
     , m_resizing(m_document, &window)
+    , m_cropping(m_document, window.centralWidget(), [this] { updateMainBtnState(); })
     , m_clipboard(m_document, [this] { return laterEffectedImage(); })
     , m_saving(m_document, &window, [this] { return laterEffectedImage(); },
           {[this] { m_session.markClean(); }, [this] { exportImg(); }, [this] { terminate(); }})

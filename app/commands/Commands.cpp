@@ -2,6 +2,7 @@
 
 #include "app/Controller.h"
 #include "platform/foundation/TintedIcon.h"
+#include "widgets/Overlay.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -105,7 +106,7 @@ bool Commands::validate(QAction& item)
         item.setText(command->title(*m_controller));
     if (command->checked)
         item.setChecked(command->checked(*m_controller));
-    const bool isFree = command->whileOpening || !m_controller->opening().isShown();
+    const bool isFree = command->whileOpening || (!m_controller->opening().isShown() && !Overlay::openIn(m_window));
     item.setEnabled(isFree && (!command->enabled || command->enabled(*m_controller)));
     return item.isEnabled();
 }

@@ -117,6 +117,16 @@ CIBitmap flippedBitmap(const CIBitmap& source, bool vertical)
     return target.bitmapLike(source);
 }
 
+CIBitmap croppedBitmap(const CIBitmap& source, const CIRect& rect)
+{
+    const Canvas target(int(rect.width), int(rect.height), bytesPerPixel(source.format()));
+    const int top = source.height() - int(rect.top());
+    const std::size_t left = std::size_t(rect.left()) * bytesPerPixel(source.format());
+    forRows(target.height,
+        [&](int y) { std::copy_n(source.row(top + y) + left, target.bytesPerRow, target.row<std::byte>(y)); });
+    return target.bitmapLike(source);
+}
+
 CIImage transformedToOrigin(const CIImage& picture, const CIAffineTransform& transform)
 {
     const CIImage image = picture.transformed(transform);
@@ -140,4 +150,11 @@ CIImage flippedPicture(const CIImage& picture, bool vertical)
         return CIImage::fromBitmap(flippedBitmap(*bitmap, vertical));
     return transformedToOrigin(
         picture, vertical ? CIAffineTransform{1, 0, 0, -1, 0, 0} : CIAffineTransform{-1, 0, 0, 1, 0, 0});
+}
+
+CIImage croppedPicture(const CIImage& picture, const CIRect& rect)
+{
+    if (const CIBitmap* bitmap = bitmapOf(picture))
+        return CIImage::fromBitmap(croppedBitmap(*bitmap, rect));
+    return picture.cropped(rect).transformed(CIAffineTransform::translation(-rect.x, -rect.y));
 }

@@ -1,4 +1,4 @@
-// Quarter turns and mirror flips of pictures.
+// Pictures whose pixels change places, or are left out.
 #pragma once
 
 #include "platform/coreimage/CIImage.h"
@@ -9,3 +9,7 @@ CIImage rotatedPicture(const CIImage& picture, bool left);
 
 /// Upside down when `vertical`, else with left and right exchanged.
 CIImage flippedPicture(const CIImage& picture, bool vertical);
+
+/// What lies in `rect`, of whole pixels and inside the picture, with its lower left corner at the origin. The pixels of
+/// bitmaps are copied as they are stored.
+CIImage croppedPicture(const CIImage& picture, const CIRect& rect);

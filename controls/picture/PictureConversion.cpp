@@ -25,10 +25,10 @@ CIImage imageOfPicture(const QImage& picture)
     return CIImage::fromBitmap(bitmap);
 }
 
-QImage pictureOfImage(const CIImage& image, const CIRect& rect)
+QImage pictureOfImage(const CIImage& image, const CIRect& rect, double scale)
 {
     const CIRect whole{std::floor(rect.x), std::floor(rect.y), std::round(rect.width), std::round(rect.height)};
-    const CIBitmap bitmap = CIContext().render(image, whole, 1, CIFormat::RGBA8, CIAlpha::Premultiplied);
+    const CIBitmap bitmap = CIContext().render(image, whole, scale, CIFormat::RGBA8, CIAlpha::Premultiplied);
     if (bitmap.isNull())
         return {};
     QImage picture(bitmap.width(), bitmap.height(), QImage::Format_RGBA8888_Premultiplied);

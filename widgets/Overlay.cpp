@@ -1,0 +1,153 @@
+#include "widgets/Overlay.h"
+
+#include "platform/foundation/Appearance.h"
+
+#include <utility>
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kMargin = 12, kSpacing = 8, kAfterTitle = 16; // points
+
+} // namespace
+
+Overlay::Overlay(QWidget* page, const QString& title, const QString& acceptText)
+    : QWidget(page)
+    , m_page(page)
+    , m_formerFocus(page->window()->focusWidget())
+    , m_row(new QWidget(this))
+    , m_content(new QVBoxLayout)
+    , m_bar(new QHBoxLayout)
+    , m_accept(new QPushButton(acceptText))
+{
+    hide(); // until `open`
+    setAccessibleName(title);
+    m_row->setObjectName("overlayBar");
+    m_row->setAttribute(Qt::WA_StyledBackground);
+    auto* heading = new QLabel(title);
+    QFont bold = heading->font();
+    bold.setWeight(QFont::DemiBold);
+    heading->setFont(bold);
+    auto* cancel = new QPushButton(tr("Cancel"));
+    cancel->setObjectName("overlayCancelBtn");
+    cancel->setToolTip(tr("Leaves everything as it was (Esc)"));
+    m_accept->setObjectName("overlayAcceptBtn");
+    m_accept->setProperty("prominent", true);
+    connect(cancel, &QPushButton::clicked, this, &Overlay::cancel);
+    connect(m_accept, &QPushButton::clicked, this, &Overlay::accept);
+
+    auto* row = new QHBoxLayout(m_row);
+    row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+    row->setSpacing(kSpacing);
+    m_bar->setSpacing(kSpacing);
+    row->addWidget(heading);
+    row->addSpacing(kAfterTitle);
+    row->addLayout(m_bar, 1);
+    row->addSpacing(kAfterTitle);
+    row->addWidget(cancel);
+    row->addWidget(m_accept);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->setSpacing(0);
+    all->addLayout(m_content, 1);
+    all->addWidget(m_row);
+    dress();
+    connect(&Appearance::shared(), &Appearance::changed, this, &Overlay::dress);
+}
+
+Overlay::~Overlay() = default;
+
+Overlay* Overlay::openIn(const QWidget& window)
+{
+    for (auto* overlay : window.findChildren<Overlay*>())
+        if (overlay->m_isOpen)
+            return overlay;
+    return nullptr;
+}
+
+void Overlay::open()
+{
+    for (QWidget* child : m_page->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (child != this && child->isEnabledTo(m_page)) {
+            child->setEnabled(false);
+            m_covered << child;
+        }
+    m_isOpen = true;
+    m_page->installEventFilter(this);
+    setGeometry(m_page->rect());
+    raise();
+    show();
+    if (!isAncestorOf(window()->focusWidget()))
+        m_accept->setFocus();
+}
+
+/// Answers whether it was open.
+bool Overlay::end()
+{
+    if (!std::exchange(m_isOpen, false))
+        return false;
+    hide();
+    for (const QPointer<QWidget>& child : std::exchange(m_covered, {}))
+        if (child)
+            child->setEnabled(true);
+    if (m_formerFocus)
+        m_formerFocus->setFocus();
+    deleteLater();
+    emit closed();
+    return true;
+}
+
+void Overlay::accept()
+{
+    if (end())
+        emit accepted();
+}
+
+void Overlay::cancel() { end(); }
+
+bool Overlay::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_page && event->type() == QEvent::Resize)
+        setGeometry(m_page->rect());
+    return QWidget::eventFilter(watched, event);
+}
+
+/// Nothing of the mouse reaches what lies under the panel.
+bool Overlay::event(QEvent* event)
+{
+    const bool isMouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease
+        || event->type() == QEvent::MouseMove || event->type() == QEvent::Wheel;
+    return QWidget::event(event) || isMouse;
+}
+
+void Overlay::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        return cancel();
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (auto* button = qobject_cast<QPushButton*>(window()->focusWidget()))
+            button->click();
+        else
+            accept();
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void Overlay::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Appearance::shared().look().surround); }
+
+void Overlay::dress()
+{
+    const Look& look = Appearance::shared().look();
+    m_row->setStyleSheet(QStringLiteral("#overlayBar { background: %1; border: none; border-top: 1px solid %2; }")
+                             .arg(look.window.name(), look.separator.name()));
+}
