@@ -578,6 +578,22 @@
         <source>Writes the result into a file of any format, under any name</source>
         <translation>Schreibt das Ergebnis in eine Datei beliebigen Formats und Namens</translation>
     </message>
+    <message>
+        <source>Cro&amp;p…</source>
+        <translation>&amp;Zuschneiden…</translation>
+    </message>
+    <message>
+        <source>Keeps a part of the picture</source>
+        <translation>Behält einen Ausschnitt des Bildes</translation>
+    </message>
+    <message>
+        <source>&amp;Straighten…</source>
+        <translation>Gerade ausGe&amp;rade ausrichten…amp;richten…</translation>
+    </message>
+    <message>
+        <source>Turns the picture until its horizon is level</source>
+        <translation>Dreht das Bild, bis sein Horizont waagerecht ist</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -656,6 +672,127 @@
     <message>
         <source>Opening “%1”…</source>
         <translation>„%1“ wird geöffnet …</translation>
+    </message>
+</context>
+<context>
+    <name>CropCanvas</name>
+    <message>
+        <source>What is kept of the picture</source>
+        <translation>Was vom Bild bleibt</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the frame, with Ctrl its upper right corner, with Shift by ten pixels.</source>
+        <translation>Die Pfeiltasten verschieben den Rahmen, mit Strg seine rechte obere Ecke, mit Umschalt um zehn Pixel.</translation>
+    </message>
+    <message>
+        <source>Drag the frame, its corners or its edges</source>
+        <translation>Ziehen Sie den Rahmen, seine Ecken oder seine Kanten</translation>
+    </message>
+</context>
+<context>
+    <name>CropPanel</name>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Keeps what lies in the frame (Return)</source>
+        <translation>Behält, was im Rahmen liegt (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Picture</source>
+        <translation>&amp;Ganzes Bild</translation>
+    </message>
+    <message>
+        <source>Makes the frame as large as it can be</source>
+        <translation>Macht den Rahmen so groß wie möglich</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Frei</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>3 : 2</source>
+        <translation>3 : 2</translation>
+    </message>
+    <message>
+        <source>4 : 3</source>
+        <translation>4 : 3</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>Golden Ratio</source>
+        <translation>Goldener Schnitt</translation>
+    </message>
+    <message>
+        <source>As the Picture</source>
+        <translation>Wie das Bild</translation>
+    </message>
+    <message>
+        <source>Proportions</source>
+        <translation>Proportionen</translation>
+    </message>
+    <message>
+        <source>Proportions that the frame keeps</source>
+        <translation>Proportionen, die der Rahmen behält</translation>
+    </message>
+    <message>
+        <source>The frame is higher than wide</source>
+        <translation>Der Rahmen ist höher als breit</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Width of the frame in pixels</source>
+        <translation>Breite des Rahmens in Pixel</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Height of the frame in pixels</source>
+        <translation>Höhe des Rahmens in Pixel</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+</context>
+<context>
+    <name>Cropping</name>
+    <message>
+        <source>Cropping the picture…</source>
+        <translation>Das Bild wird zugeschnitten…</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Zuschneiden</translation>
+    </message>
+    <message>
+        <source>Straightening the picture…</source>
+        <translation>Das Bild wird gerade ausgerichtet…</translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Gerade ausrichten</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to crop the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zuzuschneiden</translation>
     </message>
 </context>
 <context>
@@ -3480,6 +3617,17 @@
     </message>
 </context>
 <context>
+    <name>Overlay</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Leaves everything as it was (Esc)</source>
+        <translation>Lässt alles, wie es war (Esc)</translation>
+    </message>
+</context>
+<context>
     <name>ParameterView</name>
     <message>
         <source>%1
@@ -4171,6 +4319,68 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>%1 × %2 px · %3</source>
         <comment>width, height, color space and depth</comment>
         <translation>%1 × %2 px · %3</translation>
+    </message>
+</context>
+<context>
+    <name>StraightenCanvas</name>
+    <message>
+        <source>The turned picture</source>
+        <translation>Das gedrehte Bild</translation>
+    </message>
+    <message>
+        <source>Arrow keys turn it by a tenth of a degree, with Shift by a whole one.</source>
+        <translation>Die Pfeiltasten drehen es um ein Zehntelgrad, mit Umschalt um ein ganzes.</translation>
+    </message>
+    <message>
+        <source>Drag along the horizon, or along what is to be upright</source>
+        <translation>Ziehen Sie entlang dem Horizont oder entlang dem, was senkrecht werden soll</translation>
+    </message>
+</context>
+<context>
+    <name>StraightenPanel</name>
+    <message>
+        <source>Straighten</source>
+        <translation>Gerade ausrichten</translation>
+    </message>
+    <message>
+        <source>Fine</source>
+        <translation>Fein</translation>
+    </message>
+    <message>
+        <source>Crop to Fill</source>
+        <translation>Füllend zuschneiden</translation>
+    </message>
+    <message>
+        <source>Turns the picture (Return)</source>
+        <translation>Dreht das Bild (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Turns the picture; Shift makes it finer</source>
+        <translation>Dreht das Bild; mit Umschalt feiner</translation>
+    </message>
+    <message>
+        <source>Degrees, counterclockwise</source>
+        <translation>Grad, gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>The slider turns by up to five degrees from here</source>
+        <translation>Der Regler dreht von hier aus um bis zu fünf Grad</translation>
+    </message>
+    <message>
+        <source>Cuts the empty corners off</source>
+        <translation>Schneidet die leeren Ecken ab</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Shows the picture as it is</source>
+        <translation>Zeigt das Bild, wie es ist</translation>
     </message>
 </context>
 <context>

@@ -578,6 +578,22 @@
         <source>Writes the result into a file of any format, under any name</source>
         <translation>Écrit le résultat dans un fichier de n’importe quel format, sous n’importe quel nom</translation>
     </message>
+    <message>
+        <source>Cro&amp;p…</source>
+        <translation>Recad&amp;rer…</translation>
+    </message>
+    <message>
+        <source>Keeps a part of the picture</source>
+        <translation>Garde une partie de l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Straighten…</source>
+        <translation>Redre&amp;sser…</translation>
+    </message>
+    <message>
+        <source>Turns the picture until its horizon is level</source>
+        <translation>Tourne l’image jusqu’à ce que son horizon soit droit</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -656,6 +672,127 @@
     <message>
         <source>Opening “%1”…</source>
         <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+</context>
+<context>
+    <name>CropCanvas</name>
+    <message>
+        <source>What is kept of the picture</source>
+        <translation>Ce qui reste de l’image</translation>
+    </message>
+    <message>
+        <source>Arrow keys move the frame, with Ctrl its upper right corner, with Shift by ten pixels.</source>
+        <translation>Les flèches déplacent le cadre, avec Ctrl son coin supérieur droit, avec Maj de dix pixels.</translation>
+    </message>
+    <message>
+        <source>Drag the frame, its corners or its edges</source>
+        <translation>Faites glisser le cadre, ses coins ou ses bords</translation>
+    </message>
+</context>
+<context>
+    <name>CropPanel</name>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>Upright</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Keeps what lies in the frame (Return)</source>
+        <translation>Garde ce qui est dans le cadre (Entrée)</translation>
+    </message>
+    <message>
+        <source>&amp;Whole Picture</source>
+        <translation>&amp;Toute l’image</translation>
+    </message>
+    <message>
+        <source>Makes the frame as large as it can be</source>
+        <translation>Rend le cadre aussi grand que possible</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Libre</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Carré</translation>
+    </message>
+    <message>
+        <source>3 : 2</source>
+        <translation>3 : 2</translation>
+    </message>
+    <message>
+        <source>4 : 3</source>
+        <translation>4 : 3</translation>
+    </message>
+    <message>
+        <source>16 : 9</source>
+        <translation>16 : 9</translation>
+    </message>
+    <message>
+        <source>Golden Ratio</source>
+        <translation>Nombre d’or</translation>
+    </message>
+    <message>
+        <source>As the Picture</source>
+        <translation>Comme l’image</translation>
+    </message>
+    <message>
+        <source>Proportions</source>
+        <translation>Proportions</translation>
+    </message>
+    <message>
+        <source>Proportions that the frame keeps</source>
+        <translation>Proportions que garde le cadre</translation>
+    </message>
+    <message>
+        <source>The frame is higher than wide</source>
+        <translation>Le cadre est plus haut que large</translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation>Largeur</translation>
+    </message>
+    <message>
+        <source>Width of the frame in pixels</source>
+        <translation>Largeur du cadre en pixels</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>Hauteur</translation>
+    </message>
+    <message>
+        <source>Height of the frame in pixels</source>
+        <translation>Hauteur du cadre en pixels</translation>
+    </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+</context>
+<context>
+    <name>Cropping</name>
+    <message>
+        <source>Cropping the picture…</source>
+        <translation>Recadrage de l’image…</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Recadrer</translation>
+    </message>
+    <message>
+        <source>Straightening the picture…</source>
+        <translation>Redressement de l’image…</translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation>Redresser</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to crop the picture</source>
+        <translation>Il n’y avait pas assez de mémoire pour recadrer l’image</translation>
     </message>
 </context>
 <context>
@@ -3480,6 +3617,17 @@
     </message>
 </context>
 <context>
+    <name>Overlay</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Leaves everything as it was (Esc)</source>
+        <translation>Laisse tout en l’état (Échap)</translation>
+    </message>
+</context>
+<context>
     <name>ParameterView</name>
     <message>
         <source>%1
@@ -4171,6 +4319,68 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>%1 × %2 px · %3</source>
         <comment>width, height, color space and depth</comment>
         <translation>%1 × %2 px · %3</translation>
+    </message>
+</context>
+<context>
+    <name>StraightenCanvas</name>
+    <message>
+        <source>The turned picture</source>
+        <translation>L’image tournée</translation>
+    </message>
+    <message>
+        <source>Arrow keys turn it by a tenth of a degree, with Shift by a whole one.</source>
+        <translation>Les flèches la tournent d’un dixième de degré, avec Maj d’un degré entier.</translation>
+    </message>
+    <message>
+        <source>Drag along the horizon, or along what is to be upright</source>
+        <translation>Tracez un trait le long de l’horizon, ou de ce qui doit être d’aplomb</translation>
+    </message>
+</context>
+<context>
+    <name>StraightenPanel</name>
+    <message>
+        <source>Straighten</source>
+        <translation>Redresser</translation>
+    </message>
+    <message>
+        <source>Fine</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Crop to Fill</source>
+        <translation>Recadrer pour remplir</translation>
+    </message>
+    <message>
+        <source>Turns the picture (Return)</source>
+        <translation>Tourne l’image (Entrée)</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Turns the picture; Shift makes it finer</source>
+        <translation>Tourne l’image ; plus finement avec Maj</translation>
+    </message>
+    <message>
+        <source>Degrees, counterclockwise</source>
+        <translation>Degrés, dans le sens inverse des aiguilles d’une montre</translation>
+    </message>
+    <message>
+        <source>The slider turns by up to five degrees from here</source>
+        <translation>Le curseur tourne de cinq degrés au plus à partir d’ici</translation>
+    </message>
+    <message>
+        <source>Cuts the empty corners off</source>
+        <translation>Coupe les coins vides</translation>
+    </message>
+    <message>
+        <source>&amp;Reset</source>
+        <translation>&amp;Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Shows the picture as it is</source>
+        <translation>Montre l’image telle quelle</translation>
     </message>
 </context>
 <context>
