@@ -588,7 +588,7 @@
     </message>
     <message>
         <source>&amp;Straighten…</source>
-        <translation>Gerade ausGe&amp;rade ausrichten…amp;richten…</translation>
+        <translation>Gera&amp;de ausrichten…</translation>
     </message>
     <message>
         <source>Turns the picture until its horizon is level</source>
