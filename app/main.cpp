@@ -2,7 +2,7 @@
 #include "app/Controller.h"
 #include "app/document/OneInstance.h"
 #include "app/document/SessionFolder.h"
-#include "app/TextRenderer.h"
+#include "platform/quartz/TextRenderer.h"
 #include "app/window/MainWindow.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Log.h"

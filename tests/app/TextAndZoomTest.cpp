@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 #include "app/document/UndoNames.h"
-#include "app/TextRenderer.h"
+#include "platform/quartz/TextRenderer.h"
 #include "app/window/ZoomScale.h"
 #include "platform/coreimage/CIFilter.h"
 

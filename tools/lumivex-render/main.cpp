@@ -5,7 +5,11 @@
 #include "tools/lumivex-render/Render.h"
 
 #include "platform/imageio/ImageLog.h"
+#include "platform/quartz/TextRenderer.h"
 
+#include <QGuiApplication>
+
+#include <clocale>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -83,13 +87,37 @@ int run(const Arguments& arguments)
     return 0;
 }
 
+/// The system's fonts, without a display.
+class Fonts {
+public:
+    Fonts(int& count, char** words)
+        : m_application((qputenv("QT_QPA_PLATFORM", "offscreen"), count), words)
+    {
+        std::setlocale(LC_NUMERIC, "C"); // it brought the user's commas
+        CITextRenderer::install(std::make_shared<TextRenderer>());
+    }
+
+private:
+    QGuiApplication m_application;
+};
+
+/// Fonts take longer to find than most pictures to make. A favourite may draw text, too.
+bool needsFonts(const Arguments& arguments)
+{
+    return arguments.task == Task::Batch || arguments.filter.ends_with("TextImageGenerator");
+}
+
 } // namespace
 
 int main(int count, char** words)
 {
     setImageLog([](std::string_view) {}); // the message below says it in one line
     try {
-        return run(parseArguments(std::vector<std::string>(words + 1, words + count)));
+        const Arguments arguments = parseArguments(std::vector<std::string>(words + 1, words + count));
+        std::optional<Fonts> fonts;
+        if (needsFonts(arguments))
+            fonts.emplace(count, words);
+        return run(arguments);
     } catch (const std::exception& error) {
         std::cerr << "lumivex-render: " << error.what() << '\n';
         return 2;

@@ -93,6 +93,22 @@ TEST_F(RenderProgram, RendersTheExtentOrWhatIsAskedFor)
     EXPECT_EQ(out.row<std::uint8_t>(7)[2], 0x99);
 }
 
+TEST_F(RenderProgram, DrawsTextWithoutADisplay)
+{
+    unsetenv("DISPLAY");
+    unsetenv("WAYLAND_DISPLAY");
+    ASSERT_EQ(run("CITextImageGenerator --set inputText=Ink --set inputFontSize=40 -o out.png").errors, "");
+    const CIBitmap out = rendered();
+    EXPECT_GT(out.width(), out.height());
+    EXPECT_GE(out.height(), 40);
+    double ink = 0;
+    for (int y = 0; y < out.height(); ++y)
+        for (std::size_t i = 3; i < out.row<std::uint8_t>(y).size(); i += 4)
+            ink += out.row<std::uint8_t>(y)[i] / 255.0;
+    EXPECT_GT(ink / (out.width() * out.height()), 0.05);
+    EXPECT_LT(ink / (out.width() * out.height()), 0.6);
+}
+
 TEST_F(RenderProgram, TimesRenders)
 {
     const Outcome timed = run("CIGaussianBlur --image inputImage=in.png --repeat 4 -o out.png");

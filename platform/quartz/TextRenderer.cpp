@@ -1,4 +1,4 @@
-#include "app/TextRenderer.h"
+#include "platform/quartz/TextRenderer.h"
 
 #include <QImage>
 #include <QPainter>
