@@ -184,7 +184,9 @@ public:
     void updateZoommWithDelta(double delta) override { m_zooming.zoomBy(delta); }
 
     // Before and after
-    bool canCompare() const { return m_standard.isEdited(); }
+    bool canCompare() const { return m_standard.canCompare(); }
+    CIImage comparedImage() override { return m_standard.comparedImage(); }
+    void compareOpened(); // or no longer, as the menu item says
     void compare(bool held) { m_standard.compare(held); }
     void splitView(); // as the menu item says
 
@@ -291,6 +293,8 @@ public:
     TerminateReply applicationShouldTerminate();
     void applicationWillTerminate();
     void terminate();
+    /// The same question as when the window closes, if it may be asked; false when the desktop's session is to go on.
+    bool desktopSessionEnds(const std::function<bool()>& mayAsk);
 
     Document& document() { return m_document; }
     bool wasChanged() const { return m_document.wasChanged(); }

@@ -594,6 +594,14 @@
         <source>Turns the picture until its horizon is level</source>
         <translation>Dreht das Bild, bis sein Horizont waagerecht ist</translation>
     </message>
+    <message>
+        <source>&amp;Compare with Opened File</source>
+        <translation>Mit der geöffneten &amp;Datei vergleichen</translation>
+    </message>
+    <message>
+        <source>Before and after show the file as it was opened, not the picture without the filter</source>
+        <translation>Vorher und nachher zeigen die Datei, wie sie geöffnet wurde, nicht das Bild ohne den Filter</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -4178,6 +4186,40 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     </message>
 </context>
 <context>
+    <name>SavePanel</name>
+    <message>
+        <source>Will be written to %1</source>
+        <translation>Wird nach %1 geschrieben</translation>
+    </message>
+    <message>
+        <source>Will be written to %1, where there is no folder yet</source>
+        <translation>Wird nach %1 geschrieben, wo es noch keinen Ordner gibt</translation>
+    </message>
+</context>
+<context>
+    <name>SaveTarget</name>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Den Ordner „%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Save As writes the whole path in lower case. You chose the folder “%1”. Export writes names as they are typed.</source>
+        <translation>„Speichern unter“ schreibt den ganzen Pfad klein. Gewählt ist der Ordner „%1“. Der Export schreibt Namen, wie sie eingegeben werden.</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Gewählten Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>Don&apos;t ask again</source>
+        <translation>Nicht mehr fragen</translation>
+    </message>
+</context>
+<context>
     <name>Saving</name>
     <message>
         <source>Couldn&apos;t save file.</source>
@@ -4202,6 +4244,14 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>Saving “%1”…</source>
         <translation>„%1“ wird gespeichert …</translation>
+    </message>
+    <message>
+        <source>The “%1” that was there is in the trash.</source>
+        <translation>Die vorherige Datei „%1“ liegt im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>The “%1” that was there is kept for 30 days in %2.</source>
+        <translation>Die vorherige Datei „%1“ bleibt 30 Tage lang in %2.</translation>
     </message>
 </context>
 <context>

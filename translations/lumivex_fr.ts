@@ -594,6 +594,14 @@
         <source>Turns the picture until its horizon is level</source>
         <translation>Tourne l’image jusqu’à ce que son horizon soit droit</translation>
     </message>
+    <message>
+        <source>&amp;Compare with Opened File</source>
+        <translation>&amp;Comparer avec le fichier ouvert</translation>
+    </message>
+    <message>
+        <source>Before and after show the file as it was opened, not the picture without the filter</source>
+        <translation>Avant et après montrent le fichier tel qu’il a été ouvert, non l’image sans le filtre</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -4178,6 +4186,40 @@ Un double-clic rétablit la valeur par défaut</translation>
     </message>
 </context>
 <context>
+    <name>SavePanel</name>
+    <message>
+        <source>Will be written to %1</source>
+        <translation>Sera écrit dans %1</translation>
+    </message>
+    <message>
+        <source>Will be written to %1, where there is no folder yet</source>
+        <translation>Sera écrit dans %1, dont le dossier n’existe pas encore</translation>
+    </message>
+</context>
+<context>
+    <name>SaveTarget</name>
+    <message>
+        <source>There is no folder “%1”.</source>
+        <translation>Le dossier « %1 » n’existe pas.</translation>
+    </message>
+    <message>
+        <source>Save As writes the whole path in lower case. You chose the folder “%1”. Export writes names as they are typed.</source>
+        <translation>« Enregistrer sous » écrit tout le chemin en minuscules. Vous avez choisi le dossier « %1 ». L’export écrit les noms tels qu’ils sont saisis.</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Créer le dossier</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Utiliser le dossier choisi</translation>
+    </message>
+    <message>
+        <source>Don&apos;t ask again</source>
+        <translation>Ne plus demander</translation>
+    </message>
+</context>
+<context>
     <name>Saving</name>
     <message>
         <source>Couldn&apos;t save file.</source>
@@ -4202,6 +4244,14 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>Saving “%1”…</source>
         <translation>Enregistrement de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+    <message>
+        <source>The “%1” that was there is in the trash.</source>
+        <translation>L’ancien fichier « %1 » est dans la corbeille.</translation>
+    </message>
+    <message>
+        <source>The “%1” that was there is kept for 30 days in %2.</source>
+        <translation>L’ancien fichier « %1 » est gardé 30 jours dans %2.</translation>
     </message>
 </context>
 <context>

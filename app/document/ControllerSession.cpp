@@ -25,19 +25,24 @@ void Controller::restoreEdits(const SessionState& state)
     validateMenuItems();
 }
 
-/// The desktop's session ends: the same question as when the window closes.
 void Controller::commitData(QSessionManager& session)
 {
+    if (!desktopSessionEnds([&] { return session.allowsInteraction(); }))
+        session.cancel();
+    session.release();
+}
+
+bool Controller::desktopSessionEnds(const std::function<bool()>& mayAsk)
+{
     if (!m_document.mayLoseWork())
-        return;
+        return true;
     // A sheet that is open waits for an answer of its own, and can't be asked another question.
-    if (QApplication::activeModalWidget() || !session.allowsInteraction()) {
+    if (QApplication::activeModalWidget() || !mayAsk()) {
         m_session.keepNow();
-        return;
+        return true;
     }
     if (applicationShouldTerminate() == TerminateReply::Cancel)
-        session.cancel();
-    else
-        m_session.markClean();
-    session.release();
+        return false;
+    m_session.markClean();
+    return true;
 }

@@ -68,6 +68,7 @@ void Document::becomeFile(const QString& path, const CIImage& picture, const QSt
     keepFileForUndo(actionName);
     m_pictureFailure = m_readFailure;
     setFilePath(path);
+    m_opened = picture ? m_history.keep(picture) : nullptr;
     m_filesPicture = picture.node();
     setForeignPicture(picture);
     setSaved();
@@ -78,7 +79,7 @@ void Document::keepFileForUndo(const QString& actionName)
     emit aboutToKeepPicture();
     m_undoManager.registerUndoWithTarget(this,
         [this, actionName, wasSaved = !isUnsaved(),
-            state = FileState{m_history.keep(m_picture), m_format, m_metadata, m_pictureFailure, m_filePath,
+            state = FileState{m_history.keep(m_picture), m_format, m_metadata, m_pictureFailure, m_filePath, m_opened,
                 m_filesPicture, m_hasEdits}] {
             keepFileForUndo(actionName);
             restore(state);
@@ -94,6 +95,7 @@ void Document::restore(const FileState& state)
     m_formats.remember(image, state.format);
     m_metadata = state.metadata;
     m_readFailure = m_pictureFailure = state.readFailure;
+    m_opened = state.opened;
     m_filesPicture = state.filesPicture;
     m_hasEdits = state.hasEdits;
     setFilePath(state.path);

@@ -50,6 +50,10 @@ public:
     /// The whole document becomes that of the file, null for one without a picture, as an undo step: what undoing
     /// brings back is all of the former document, its path and what of it was unsaved, too.
     void becomeFile(const QString& path, const CIImage& picture, const QString& actionName);
+    /// The picture of the document's file as it was read, which may have to come back from the disk; null without one.
+    CIImage openedPicture() const { return m_opened ? m_opened->image() : CIImage(); }
+    bool hasOpened() const { return m_opened != nullptr; }
+    void forgetOpened() { m_opened.reset(); }
     /// The picture for which another stood in is there again, just before the next one comes: nobody is told.
     void endStandIn(const CIImage& former) { m_picture = former; }
 
@@ -124,6 +128,7 @@ private:
         CIFormat format;
         std::shared_ptr<const PictureMetadata> metadata;
         QString readFailure, path;
+        std::shared_ptr<KeptPicture> opened;
         std::weak_ptr<const ci::Node> filesPicture;
         bool hasEdits;
     };
@@ -145,6 +150,7 @@ private:
     } m_lastRead;
     QString m_readFailure, m_filePath, m_folder;
     QString m_pictureFailure; // why the document's own file could not be read
+    std::shared_ptr<KeptPicture> m_opened; // null without a file
     bool m_wasChanged = false;
     std::weak_ptr<const ci::Node> m_filesPicture; // the picture when it was read or written last
     bool m_isFilesPicture = true, m_hasEdits = false;

@@ -2,6 +2,9 @@
 
 #include "app/document/Document.h"
 #include "app/document/RecentFiles.h"
+#include "app/document/ReplacedFiles.h"
+#include "app/document/SaveTarget.h"
+#include "app/document/SessionFolder.h"
 #include "files/ExportFormats.h"
 #include "files/ImageDestination.h"
 #include "files/PictureMessages.h"
@@ -104,6 +107,9 @@ void Saving::runPanel()
         panel->setDirectory(m_document.folder());
     if (QComboBox* formats = formatMenu(saveObjectOutlet))
         formats->setCurrentIndex(formats->findData(format_type));
+    panel->setTarget([this](const QString& chosen) { return SaveTarget::of(chosen, chosenFormat()); });
+    if (QComboBox* formats = formatMenu(saveObjectOutlet))
+        QObject::connect(formats, &QComboBox::currentIndexChanged, panel, &SavePanel::showTarget);
     QObject::connect(panel, &QFileDialog::finished, &m_document, [this, panel](int code) {
         m_document.setFolder(panel->directory().absolutePath());
         // When the panel has gone: alerts would find its end still to come.
@@ -121,23 +127,43 @@ void Saving::panelDidEnd(int returnCode, const QString& path)
     m_document.whenIdle([this] { quitIfWanted(); });
 }
 
+QString Saving::chosenFormat() const
+{
+    const QComboBox* formats = formatMenu(saveObjectOutlet);
+    return QLatin1String(exportFormats()[std::size_t(formats ? formats->currentData().toInt() : 0)]->exportName);
+}
+
 /// In the format of the menu.
 void Saving::saveAs(const QString& path)
 {
-    const QComboBox* formats = formatMenu(saveObjectOutlet);
-    format_type = formats ? formats->currentData().toInt() : 0;
-    const QString name = QLatin1String(exportFormats()[std::size_t(format_type)]->exportName);
-    const QString target = exportPath(path, name);
-    // Whatever the answer, the file is overwritten. The new one takes the old one's place when it is complete; taking
-    // the old one away before could lose both.
-    if (QFile::exists(target))
-        static_cast<void>(asksToReplace());
-    const Then then = changesSaved(m_document.filePath());
+    const QString name = chosenFormat();
+    const std::optional<QString> asked = SaveTarget::asked(m_window, path, name);
+    if (!asked) {
+        quitAfterSave = false; // who goes back to the picture stays there
+        return;
+    }
+    const QString target = *asked;
+    format_type = getRealExportIndex(name);
+    Writer writer = name == QLatin1String("PDF") ? pdfWriter(target) : bitmapWriter(format_type, target);
+    const auto kept = std::make_shared<std::optional<ReplacedFile>>();
+    // Whatever the answer, the file is overwritten; but what the user wanted to keep can be had back. The new one takes
+    // the old one's place when it is complete; taking the old one away before could lose both.
+    if (QFile::exists(target) && !asksToReplace())
+        writer = [kept, target, write = std::move(writer)](const CIBitmap& bitmap, CIRenderControl& control) {
+            *kept = keepReplacedFile(target, SessionFolder::stateHome());
+            return *kept ? write(bitmap, control)
+                         : Result<void>(Failure{Reason::NoSpace, QFileInfo(target).fileName().toStdString()});
+        };
+    const auto saved = changesSaved(m_document.filePath());
     m_document.setFilePath(target);
-    if (name == QLatin1String("PDF"))
-        createPDFFile(target, then);
-    else
-        simplySave(format_type, target, then);
+    write(target, std::move(writer), [this, saved, kept, target](bool isStopped) {
+        saved(isStopped);
+        const QString file = QFileInfo(target).fileName();
+        if (*kept)
+            emit m_document.message((*kept)->isInTrash ? tr("The “%1” that was there is in the trash.").arg(file)
+                                                       : tr("The “%1” that was there is kept for 30 days in %2.")
+                                                             .arg(file, QFileInfo((*kept)->path).path()));
+    });
 }
 
 /// From now on nothing is unsaved; what a save does that ends so. When it is stopped, the picture is that of `oldPath`
@@ -159,23 +185,25 @@ Saving::Then Saving::changesSaved(const QString& oldPath)
 
 bool Saving::simplySave(int index, const QString& path, Then then)
 {
-    const PictureFormat format =
-        bitmapFormatForType(QLatin1String(exportFormats()[std::size_t(index)]->typeIdentifier));
-    write(
-        path,
-        [format, path, metadata = m_document.metadata()](const CIBitmap& bitmap, CIRenderControl& control) {
-            return writePicture(bitmap, QFile::encodeName(path).toStdString(),
-                {.format = format, .metadata = metadata, .control = &control});
-        },
-        std::move(then));
+    write(path, bitmapWriter(index, path), std::move(then));
     return true;
 }
 
-void Saving::createPDFFile(const QString& path, Then then)
+void Saving::createPDFFile(const QString& path, Then then) { write(path, pdfWriter(path), std::move(then)); }
+
+Saving::Writer Saving::bitmapWriter(int index, const QString& path) const
 {
-    write(
-        path, [path](const CIBitmap& bitmap, CIRenderControl& control) { return writePdf(bitmap, path, &control); },
-        std::move(then));
+    const PictureFormat format =
+        bitmapFormatForType(QLatin1String(exportFormats()[std::size_t(index)]->typeIdentifier));
+    return [format, path, metadata = m_document.metadata()](const CIBitmap& bitmap, CIRenderControl& control) {
+        return writePicture(bitmap, QFile::encodeName(path).toStdString(),
+            {.format = format, .metadata = metadata, .control = &control});
+    };
+}
+
+Saving::Writer Saving::pdfWriter(const QString& path) const
+{
+    return [path](const CIBitmap& bitmap, CIRenderControl& control) { return writePdf(bitmap, path, &control); };
 }
 
 /// Renders the finished picture and has `writer` make a file of it.

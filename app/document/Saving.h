@@ -45,6 +45,9 @@ private:
     using Writer = std::function<Result<void>(const CIBitmap&, CIRenderControl&)>;
 
     bool asksToReplace();
+    QString chosenFormat() const; // its export name
+    Writer bitmapWriter(int index, const QString& path) const;
+    Writer pdfWriter(const QString& path) const;
     void saveAs(const QString& path);
     void write(const QString& path, Writer writer, Then then);
     Then changesSaved(const QString& oldPath);

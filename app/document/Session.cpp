@@ -2,6 +2,7 @@
 
 #include "app/document/Document.h"
 #include "app/document/Opening.h"
+#include "app/document/ReplacedFiles.h"
 #include "app/document/SessionJournal.h"
 #include "platform/foundation/Log.h"
 #include "platform/imageio/PictureMetadata.h"
@@ -54,6 +55,7 @@ void Session::restore(const SessionState& state)
     if (image && format >= 0 && format <= int(CIFormat::RGBAf))
         m_document.rememberFormat(image, CIFormat(format));
     m_document.clearReadFailure();
+    m_document.forgetOpened();
     m_document.setFilePath(QString::fromStdString(state.value("path").toString()));
     m_document.setPicture(image);
     const std::string described = state.value("metadataOf").toString();
@@ -70,6 +72,7 @@ void Session::restore(const SessionState& state)
 
 void Session::startJournal(const QString& home)
 {
+    forgetReplacedFiles(home);
     m_journal = std::make_unique<SessionJournal>(home, [this] { return state(); });
 }
 

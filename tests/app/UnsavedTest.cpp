@@ -256,4 +256,26 @@ TEST_F(UnsavedTest, TheEndOfTheProgramIsNoAnswer)
         sheet->hide();
 }
 
+TEST_F(UnsavedTest, TheEndOfTheDesktopsSessionAsksOnlyWhereItMay)
+{
+    const QString home = folder.filePath("state");
+    const auto sessions = [&] { return QDir(home).entryList({"session-*"}, QDir::Dirs).size(); };
+    controller.session().startJournal(home);
+    const auto mayAsk = [] { return true; };
+    EXPECT_TRUE(controller.desktopSessionEnds(mayAsk)) << "nothing is unsaved";
+    pick("CIColorInvert");
+    answering("Cancel", [&] { EXPECT_FALSE(controller.desktopSessionEnds(mayAsk)); });
+    EXPECT_EQ(sessions(), 0);
+    QDialog sheet(&window);
+    sheet.setModal(true);
+    sheet.show();
+    EXPECT_TRUE(controller.desktopSessionEnds([] {
+        ADD_FAILURE() << "no two questions at once";
+        return true;
+    }));
+    EXPECT_EQ(sessions(), 1) << "for the next start";
+    sheet.hide();
+    answering("Don't Save", [&] { EXPECT_TRUE(controller.desktopSessionEnds(mayAsk)); });
+}
+
 } // namespace
