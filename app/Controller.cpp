@@ -60,6 +60,12 @@ CIImage Controller::coreImageResult(bool overBlack)
     return overBlack && !hasMissingImage() ? ::overBlack(result) : result;
 }
 
+void Controller::compareOpened()
+{
+    m_standard.setComparesOpened(m_window.commands().action("actionCompareOpened").isChecked());
+    updateMainBtnState();
+}
+
 void Controller::splitView() { m_standard.split(m_window.commands().action("actionSplitView").isChecked()); }
 
 void Controller::addFavourite()

@@ -58,9 +58,12 @@ public:
     void updateLayout();
     void rebuildPanelIfNeeded();
 
-    // --- before and after, if the filter is edited ---
+    // --- before and after ---
 
-    /// Shows the picture without the filter.
+    /// With the file as it was opened, or, at first, with the picture without the filter.
+    void setComparesOpened(bool opened);
+    bool canCompare() const;
+    CIImage comparedImage() const;
     void compare(bool held);
     void split(bool wanted);
 
@@ -89,5 +92,6 @@ private:
 
     Tools m_tools;
     std::shared_ptr<CIFilter> currentFilter;
+    bool m_comparesOpened = false;
     bool needsUpdate = false;
 };

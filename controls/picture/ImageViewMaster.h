@@ -17,6 +17,8 @@ public:
 
     /// The source picture, for its size; null when none is open.
     virtual CIImage backImage() = 0;
+    /// What the result is compared with; it has the place of the source picture.
+    virtual CIImage comparedImage() { return backImage(); }
     /// The picture to show, null to show nothing; with `overBlack`, laid over opaque black.
     virtual CIImage coreImageResult(bool overBlack) = 0;
     /// The filter being edited, or null.

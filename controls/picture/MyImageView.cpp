@@ -131,7 +131,7 @@ void MyImageView::refresh(Layer& layer)
     if (std::exchange(layer.changed, false)) {
         layer.picture = {};
         if (controller)
-            layer.picture = &layer == &d->original ? controller->backImage() : controller->coreImageResult(false);
+            layer.picture = &layer == &d->original ? controller->comparedImage() : controller->coreImageResult(false);
     }
     const std::optional<FrameRequest> request = frameRequest(layer.picture);
     if (!request) {

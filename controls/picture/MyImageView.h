@@ -26,11 +26,11 @@ public:
     /// The picture has changed: asks the controller for it again when next drawn. (`update` only repaints.)
     void setNeedsDisplay();
 
-    /// Shows the source picture in place of the filter's result, without the filter's points.
+    /// Shows what the filter's result is compared with in its place, without the filter's points.
     void setShowsOriginal(bool shows);
     bool showsOriginal() const;
 
-    /// Shows the source picture left of a divider that can be moved, and the filter's result right of it.
+    /// Shows what the result is compared with left of a divider that can be moved, and the filter's result right of it.
     void setSplit(bool split);
     bool isSplit() const;
 

@@ -62,6 +62,33 @@ TEST_F(CompareTest, HoldingKeyOrButtonShowsThePictureWithoutTheFilter)
     EXPECT_EQ(controller.getCurrentFilter(), filter);
 }
 
+TEST_F(CompareTest, TheFileAsItWasOpenedCanBeTheOtherSide)
+{
+    const QColor inverted = shown();
+    perform(&Controller::applyBtn);
+    perform(&Controller::rotateLeft);
+    EXPECT_FALSE(ui.compareBtn->isEnabled()) << "without a filter there is nothing before";
+    QAction& opened = *action("actionCompareOpened");
+    opened.trigger();
+    ASSERT_TRUE(ui.compareBtn->isEnabled());
+    EXPECT_EQ(shown(), inverted);
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_EQ(shown(), kPictureColor) << "two steps back, and turned";
+    const QImage frame = view.shownFrame();
+    EXPECT_EQ(frame.width(), 80);
+    EXPECT_NEAR(frame.height(), 53.3, 1) << "it keeps its proportions";
+    QTest::keyRelease(&window, Qt::Key_F7);
+    EXPECT_EQ(shown(), inverted);
+
+    openPicture(pictureFile("other.png", 60, 40));
+    perform(&Controller::undo);
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_EQ(shown(), kPictureColor) << "the file of the document that has come back";
+    QTest::keyRelease(&window, Qt::Key_F7);
+    opened.trigger();
+    EXPECT_FALSE(ui.compareBtn->isEnabled());
+}
+
 TEST_F(CompareTest, WhatHappensMeanwhileIsSeenAfterwards)
 {
     QTest::keyPress(&window, Qt::Key_F7);
