@@ -1,5 +1,6 @@
 #include "platform/chain/FilterChain.h"
 
+#include "platform/coreimage/Fitting.h"
 #include "platform/foundation/Log.h"
 
 #include <algorithm>
@@ -44,6 +45,13 @@ void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture)
     for (const std::string& key : filter.inputKeys())
         if (hasImage(filter, key))
             filter.setValueForKey(picture, key);
+}
+
+void fitToPicture(CIFilter& filter, const CIImage& picture)
+{
+    for (const auto& [key, value] : ci::fittedValues(filter, picture))
+        if (key != pictureKey(filter))
+            filter.setValueForKey(value, key);
 }
 
 bool filterHasMissingImage(const CIFilter& filter)

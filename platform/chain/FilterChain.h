@@ -13,6 +13,10 @@ const char* pictureKey(const CIFilter& filter);
 /// Puts the picture into every image input.
 void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture);
 
+/// Gives the filter the values that suit the picture (`ci::fittedValues`). The input that receives the picture is left
+/// as it is, and so are pictures that depend on the editor.
+void fitToPicture(CIFilter& filter, const CIImage& picture);
+
 /// True if an image input other than the one that receives the picture is empty.
 bool filterHasMissingImage(const CIFilter& filter);
 

@@ -96,6 +96,10 @@ enum class InputKind {
 /// What an editor puts into an input when the filter is chosen, if that depends on the editor.
 enum class Automatic { None, Texture, AlphaEMap, ShadingEMap, Ramp, Mask, ViewCenter };
 
+/// What an input says about the picture, where that doesn't follow from its kind: there, places and areas are parts of
+/// the picture, distances grow with it, other numbers don't, and a picture is another one.
+enum class Meaning { ByKind, Amount, Length, SamePicture, SmallPicture, SpotMask, Palette };
+
 /// One input of a filter, in C++ types; the same facts as its dictionary in `CIFilter::attributes`.
 struct CIInputAttributes {
     std::string key; // "inputRadius"
@@ -106,6 +110,9 @@ struct CIInputAttributes {
     /// What an editor puts in instead of the default when the filter is chosen.
     CIValue automaticValue = {};
     Automatic automatic = Automatic::None;
+    /// What shows better than the value above what the filter is for; as on a picture of 300 x 300 pixels.
+    CIValue tellingValue = {};
+    Meaning meaning = Meaning::ByKind;
 
     bool isNumber() const { return kind <= InputKind::Boolean; }
     bool isVector() const { return kind >= InputKind::Vector && kind <= InputKind::Rectangle; }

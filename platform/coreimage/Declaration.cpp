@@ -80,7 +80,11 @@ CIInputAttributes color(std::string key, std::string displayName, std::optional<
 CIInputAttributes transform(std::string key, std::string displayName)
 {
     const CIAffineTransform identity;
-    return {std::move(key), std::move(displayName), InputKind::Transform, identity, identity};
+    const auto tilted = CIAffineTransform::translation(-150, -150)
+                            .then(CIAffineTransform::rotation(0.3))
+                            .then(CIAffineTransform::scaling(0.6, 0.6))
+                            .then(CIAffineTransform::translation(150, 150));
+    return fitted({std::move(key), std::move(displayName), InputKind::Transform, identity, identity}, tilted);
 }
 
 CIInputAttributes object(std::string key, std::string displayName, InputKind kind, CIValue standard)
@@ -97,6 +101,18 @@ CIInputAttributes automatic(CIInputAttributes input, CIValue value)
 CIInputAttributes automatic(CIInputAttributes input, Automatic automatic)
 {
     input.automatic = automatic;
+    return input;
+}
+
+CIInputAttributes fitted(CIInputAttributes input, CIValue tellingValue, Meaning meaning)
+{
+    input.tellingValue = std::move(tellingValue);
+    return fitted(std::move(input), meaning);
+}
+
+CIInputAttributes fitted(CIInputAttributes input, Meaning meaning)
+{
+    input.meaning = meaning;
     return input;
 }
 

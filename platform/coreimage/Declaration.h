@@ -70,6 +70,9 @@ CIInputAttributes object(std::string key, std::string displayName, InputKind, CI
 /// The same input with a mark for editors.
 CIInputAttributes automatic(CIInputAttributes, CIValue);
 CIInputAttributes automatic(CIInputAttributes, Automatic);
+/// The same input with what `fittedValues` can't know from its kind.
+CIInputAttributes fitted(CIInputAttributes, CIValue tellingValue, Meaning = Meaning::ByKind);
+CIInputAttributes fitted(CIInputAttributes, Meaning);
 
 inline CIInputAttributes scalar(std::string k, std::string n, const Range& r)
 {

@@ -77,6 +77,8 @@ void takeRenderOption(Arguments& arguments, const std::string& word, Words& word
         arguments.repeat = parseRepeat(words.takeValueOf(word));
     else if (word == "--favourite")
         arguments.favourite = words.takeValueOf(word);
+    else if (word == "--fit")
+        arguments.isFitted = true;
     else if (word == "--quiet")
         arguments.isQuiet = true;
     else if (word == "-o")
@@ -106,7 +108,7 @@ std::optional<Task> taskNamed(const std::string& word)
 void checkBatch(const Arguments& arguments)
 {
     if (!arguments.values.empty() || !arguments.images.empty() || arguments.rect || arguments.scale != 1
-        || arguments.repeat != 0)
+        || arguments.repeat != 0 || arguments.isFitted)
         throw UsageError("a favourite has its own values: only -o and --quiet go with --favourite");
     if (arguments.files.empty())
         throw UsageError("no files named; --help shows how");
@@ -188,13 +190,14 @@ std::string usageText()
 
   lumivex-render --list                  name, display name and categories of every filter
   lumivex-render --describe NAME         the filter's attributes as JSON
-  lumivex-render NAME [--set key=value]... [--image key=file]... [--rect x,y,w,h] [--scale s] -o out.png
+  lumivex-render NAME [--set key=value]... [--image key=file]... [--fit] [--rect x,y,w,h] [--scale s] -o out.png
   lumivex-render NAME ... --repeat N     also prints 'median_ms<TAB>min_ms<TAB>max_ms' of N renders
   lumivex-render --list-favourites       names of the editor's favourites of standard mode, in their order
   lumivex-render --favourite NAME [--quiet] FILE... -o FOLDER
 
 Values: 10 or 0.5 for numbers; 150,150 for vectors; 1,0,0,0.5 or #rrggbbaa for colors (sRGB);
-six numbers a,b,c,d,tx,ty for transforms; text as it stands. Inputs that are not set have their defaults.
+six numbers a,b,c,d,tx,ty for transforms; text as it stands. Inputs that are not set have their defaults,
+or with --fit values that suit inputImage (or inputBackgroundImage, or the rectangle), and second pictures made of it.
 Without --rect the filter's whole extent is rendered; where that is infinite, the extent of inputImage,
 or else 512 x 512 pixels at the origin. y points up. --scale is output pixels per picture pixel.
 The output has 16 bits where an input picture has more than 8, else 8.

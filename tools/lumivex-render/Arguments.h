@@ -24,6 +24,7 @@ struct Arguments {
     std::vector<std::pair<std::string, std::string>> images; // key and file
     std::optional<CIRect> rect; // picture pixels
     double scale = 1;
+    bool isFitted = false; // inputs that aren't set suit the picture
     int repeat = 0; // timed renders; 0 times none
     std::string output; // may be empty when only times are wanted; the folder of a batch
     std::string favourite; // of a batch

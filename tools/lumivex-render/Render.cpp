@@ -3,6 +3,7 @@
 #include "tools/lumivex-render/InputValues.h"
 
 #include "platform/coreimage/CIContext.h"
+#include "platform/coreimage/Fitting.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
 
@@ -23,13 +24,26 @@ const CIInputAttributes& inputNamed(const CIFilter& filter, const std::string& k
     throw UsageError(filter.name() + " has no input '" + key + "'");
 }
 
-/// Sets every input that was given; answers the format that keeps the precision of the pictures.
+/// What the command line leaves open suits the picture; without one it suits the rectangle, and pictures stay missing.
+void fit(CIFilter& filter, const CIRect& otherwise)
+{
+    CIImage picture = filter.valueForKey("inputImage").toImage();
+    if (picture.isNull())
+        picture = filter.valueForKey("inputBackgroundImage").toImage();
+    const bool isPictureGiven = !picture.isNull();
+    if (!isPictureGiven)
+        picture = CIImage::fromColor(CIColor(0, 0, 0, 1)).cropped(otherwise);
+    for (const auto& [key, value] : ci::fittedValues(filter, picture))
+        if (!value.isImage() || (isPictureGiven && !filter.valueForKey(key).isImage()))
+            filter.setValueForKey(value, key);
+}
+
+/// Sets every input that was given, and the others if they are to fit; answers the format that keeps the precision of
+/// the pictures.
 CIFormat setInputs(CIFilter& filter, const Arguments& arguments)
 {
     CIFormat format = CIFormat::RGBA8;
     filter.setDefaults();
-    for (const auto& [key, text] : arguments.values)
-        filter.setValueForKey(inputValue(inputNamed(filter, key), text), key);
     for (const auto& [key, file] : arguments.images) {
         if (!inputNamed(filter, key).isImage())
             throw UsageError(key + " is not a picture; use --set " + key + "=value");
@@ -40,6 +54,10 @@ CIFormat setInputs(CIFilter& filter, const Arguments& arguments)
             format = CIFormat::RGBA16;
         filter.setValueForKey(CIImage::fromBitmap(*bitmap), key);
     }
+    if (arguments.isFitted)
+        fit(filter, arguments.rect.value_or(kFallbackRect));
+    for (const auto& [key, text] : arguments.values)
+        filter.setValueForKey(inputValue(inputNamed(filter, key), text), key);
     return format;
 }
 

@@ -62,7 +62,7 @@ Symbol symbolOf(int symbology)
     return symbol;
 }
 
-CIInputAttributes messageInput() { return object("inputMessage", "Message", InputKind::Data); }
+CIInputAttributes messageInput() { return fitted(object("inputMessage", "Message", InputKind::Data), "Lumivex"); }
 
 Declaration barcode(std::string name, std::string displayName, unsigned usage, std::vector<CIInputAttributes> inputs)
 {

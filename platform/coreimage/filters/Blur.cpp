@@ -11,8 +11,9 @@ const RecipeFilter gaussianBlurFilter{
         .category = kCICategoryBlur,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            scalar(
-                "inputRadius", "Radius", {.standard = 10, .min = 0, .sliderMin = 0, .sliderMax = 100, .identity = 0})}},
+            fitted(scalar("inputRadius", "Radius",
+                       {.standard = 10, .min = 0, .sliderMin = 0, .sliderMax = 100, .identity = 0}),
+                Meaning::Length)}},
     [](const Values& in) { return gaussianBlur(in.image(), in.number("inputRadius")); }};
 
 /// The radius is the full width, made odd: 40 acts as 39.

@@ -98,10 +98,10 @@ const RecipeFilter cannyEdgeDetector{
         .displayName = "Canny Edge Detector",
         .category = kCICategoryStylize,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), scalar("inputGaussianSigma", "Gaussian Sigma", {.standard = 1.6, .min = 0}),
+        .inputs = {image(), fitted(scalar("inputGaussianSigma", "Gaussian Sigma", {.standard = 1.6, .min = 0}), 3),
             number("inputPerceptual", "Perceptual", InputKind::Boolean, {.standard = 0}),
-            scalar("inputThresholdHigh", "Threshold High", {.standard = 0.05, .min = 0}),
-            scalar("inputThresholdLow", "Threshold Low", {.standard = 0.02, .min = 0}),
+            fitted(scalar("inputThresholdHigh", "Threshold High", {.standard = 0.05, .min = 0}), 0.01),
+            fitted(scalar("inputThresholdLow", "Threshold Low", {.standard = 0.02, .min = 0}), 0.005),
             integer("inputHysteresisPasses", "Hysteresis Passes", {.standard = 1, .min = 0, .max = 20})},
         .tolerance = 5e-3f, // a ridge is all or nothing
         .boundToPixelGrid = true},

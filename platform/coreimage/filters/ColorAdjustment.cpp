@@ -28,12 +28,14 @@ const ColorFilter<ColorControls> colorControls{{.name = "CIColorControls",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
     .inputs = {image(),
-        scalar(
-            "inputSaturation", "Saturation", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 2, .identity = 1}),
+        fitted(scalar("inputSaturation", "Saturation",
+                   {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 2, .identity = 1}),
+            1.4),
         scalar("inputBrightness", "Brightness",
             {.standard = 0, .min = -1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
-        scalar("inputContrast", "Contrast",
-            {.standard = 1, .min = 0, .sliderMin = 0.25, .sliderMax = 4, .identity = 1})}}};
+        fitted(scalar("inputContrast", "Contrast",
+                   {.standard = 1, .min = 0, .sliderMin = 0.25, .sliderMax = 4, .identity = 1}),
+            1.2)}}};
 
 /// Light times two to the power of EV.
 template <class V>
@@ -51,7 +53,8 @@ const ColorFilter<ExposureAdjust> exposureAdjust{{.name = "CIExposureAdjust",
     .displayName = "Exposure Adjust",
     .category = kCICategoryColorAdjustment,
     .usage = Anything | XMPSerializable,
-    .inputs = {image(), scalar("inputEV", "EV", {.standard = 0, .sliderMin = -10, .sliderMax = 10, .identity = 0})}}};
+    .inputs = {image(),
+        fitted(scalar("inputEV", "EV", {.standard = 0, .sliderMin = -10, .sliderMax = 10, .identity = 0}), 0.8)}}};
 
 } // namespace
 } // namespace ci

@@ -105,7 +105,7 @@ const RecipeFilter temperatureAndTint{
         .category = kCICategoryColorAdjustment,
         .usage = Anything,
         .inputs = {image(), offset("inputNeutral", "Neutral", {6500, 0}, CIVector{6500, 0}),
-            offset("inputTargetNeutral", "Target Neutral", {6500, 0}, CIVector{6500, 0})}},
+            fitted(offset("inputTargetNeutral", "Target Neutral", {6500, 0}, CIVector{6500, 0}), CIVector{4500, 0})}},
     [](const Values& in) {
         const CIImage source = in.image();
         return in.point("inputNeutral") == in.point("inputTargetNeutral")
@@ -140,8 +140,9 @@ const ColorFilter<Vibrance> vibrance{{.name = "CIVibrance",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
     .inputs = {image(),
-        scalar("inputAmount", "Amount",
-            {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0})}}};
+        fitted(scalar("inputAmount", "Amount",
+                   {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
+            0.8)}}};
 
 /// Brings light up to the source's headroom under the target's. Unchanged up to a knee at half the target; from there
 /// x / (1 + c x), which leaves the knee at slope 1 and reaches the target where the source ends. The brightest
@@ -172,7 +173,7 @@ const RecipeFilter toneMapHeadroom{
         .displayName = "Tone Map Headroom",
         .category = kCICategoryColorAdjustment,
         .usage = Anything,
-        .inputs = {image(), scalar("inputSourceHeadroom", "Source Headroom", {.min = 1, .max = 32}),
+        .inputs = {image(), fitted(scalar("inputSourceHeadroom", "Source Headroom", {.min = 1, .max = 32}), 4),
             scalar("inputTargetHeadroom", "Target Headroom", {.standard = 1, .min = 1, .max = 32})}},
     [](const Values& in) {
         const CIImage image = in.image();

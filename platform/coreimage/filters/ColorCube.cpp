@@ -27,6 +27,16 @@ CIData identityCube()
     return tableData(pixels);
 }
 
+/// Pale and warm, as of a print that hung in the sun.
+CIData fadedCube()
+{
+    std::vector<float> pixels;
+    for (int i = 0; i < 8; ++i)
+        pixels.insert(pixels.end(),
+            {0.1f + 0.9f * float(i & 1), 0.06f + 0.88f * float(i >> 1 & 1), 0.16f + 0.62f * float(i >> 2), 1});
+    return tableData(pixels);
+}
+
 template <class V>
 Cube<V> cubeOf(const Values& in, std::string_view key)
 {
@@ -109,7 +119,7 @@ CIInputAttributes cubeData(std::string key, std::string displayName)
 {
     CIInputAttributes input = object(std::move(key), std::move(displayName), InputKind::Data, identityCube());
     input.identity = input.defaultValue;
-    return input;
+    return fitted(std::move(input), fadedCube());
 }
 CIInputAttributes extrapolate()
 {
@@ -138,9 +148,9 @@ const RecipeFilter colorCubesMixedWithMask{
         .displayName = "Color Cubes Mixed With Mask",
         .category = kCICategoryColorEffect,
         .usage = Anything,
-        .inputs = {image(), image("inputMaskImage", "Mask Image"), cubeDimension(),
-            cubeData("inputCube0Data", "Cube 0 Data"), cubeData("inputCube1Data", "Cube 1 Data"), colorSpace(),
-            extrapolate()}},
+        .inputs = {image(), fitted(image("inputMaskImage", "Mask Image"), Meaning::SpotMask), cubeDimension(),
+            cubeData("inputCube0Data", "Cube 0 Data"),
+            fitted(cubeData("inputCube1Data", "Cube 1 Data"), identityCube()), colorSpace(), extrapolate()}},
     [](const Values& in) {
         return lookedUp<ColorCubesMixedWithMask>(
             in, {in.image(), in.image("inputMaskImage")}, {"inputCube0Data", "inputCube1Data"});
@@ -172,14 +182,16 @@ struct ColorCurves {
     V start, perSpan;
 };
 
-const RecipeFilter colorCurves{{.name = "CIColorCurves",
-                                   .displayName = "Color Curves",
-                                   .category = kCICategoryColorEffect,
-                                   .usage = AnyVideo,
-                                   .inputs = {image(),
-                                       object("inputCurvesData", "Curves Data", InputKind::Data,
-                                           tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
-                                       vector("inputCurvesDomain", "Curves Domain", CIVector{0, 1}), colorSpace()}},
+const RecipeFilter colorCurves{
+    {.name = "CIColorCurves",
+        .displayName = "Color Curves",
+        .category = kCICategoryColorEffect,
+        .usage = AnyVideo,
+        .inputs = {image(),
+            fitted(object("inputCurvesData", "Curves Data", InputKind::Data,
+                       tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
+                tableData(std::vector<float>{0.06f, 0, 0.12f, 0.56f, 0.5f, 0.46f, 1, 0.97f, 0.88f})),
+            vector("inputCurvesDomain", "Curves Domain", CIVector{0, 1}), colorSpace()}},
     [](const Values& in) {
         const CIImage source = in.image();
         const auto triples = tableOf(in, "inputCurvesData");

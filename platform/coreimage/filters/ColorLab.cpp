@@ -37,7 +37,11 @@ struct ConvertLabToRGB {
     bool normalize;
 };
 
-CIInputAttributes normalize() { return number("inputNormalize", "Normalize", InputKind::Boolean, {.standard = 0}); }
+/// Only normalized colors can be shown.
+CIInputAttributes normalize()
+{
+    return fitted(number("inputNormalize", "Normalize", InputKind::Boolean, {.standard = 0}), true);
+}
 
 const ColorFilter<ConvertRGBtoLab> convertRGBtoLab{{.name = "CIConvertRGBtoLab",
     .displayName = "Convert RGB to Lab",

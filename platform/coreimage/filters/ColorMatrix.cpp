@@ -30,9 +30,12 @@ const ColorFilter<ColorMatrix> colorMatrix{{.name = "CIColorMatrix",
     .displayName = "Color Matrix",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(), vector("inputRVector", "Red Vector", CIVector{1, 0, 0, 0}, CIVector{1, 0, 0, 0}),
+    .inputs = {image(),
+        fitted(vector("inputRVector", "Red Vector", CIVector{1, 0, 0, 0}, CIVector{1, 0, 0, 0}),
+            CIVector{1.05, 0.2, 0, 0}),
         vector("inputGVector", "Green Vector", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputBVector", "Blue Vector", CIVector{0, 0, 1, 0}, CIVector{0, 0, 1, 0}),
+        fitted(vector("inputBVector", "Blue Vector", CIVector{0, 0, 1, 0}, CIVector{0, 0, 1, 0}),
+            CIVector{0, 0.1, 0.7, 0}),
         vector("inputAVector", "Alpha Vector", CIVector{0, 0, 0, 1}, CIVector{0, 0, 0, 1}),
         vector("inputBiasVector", "Bias Vector", CIVector{0, 0, 0, 0}, CIVector{0, 0, 0, 0})}}};
 
@@ -63,8 +66,9 @@ const ColorFilter<HueAdjust> hueAdjust{{.name = "CIHueAdjust",
     .displayName = "Hue Adjust",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {
-        image(), angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0})}}};
+    .inputs = {image(),
+        fitted(angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0}),
+            1.0)}}};
 
 /// Makes white the color, and all between accordingly.
 template <class V>
@@ -80,7 +84,7 @@ struct WhitePointAdjust {
 
 CIInputAttributes whiteColor()
 {
-    CIInputAttributes input = color("inputColor", "Color", CIColor{1, 1, 1, 1});
+    CIInputAttributes input = fitted(color("inputColor", "Color", CIColor{1, 1, 1, 1}), CIColor{1, 0.85, 0.65, 1});
     input.identity = input.defaultValue;
     return input;
 }

@@ -82,11 +82,12 @@ CIInputAttributes perceptual()
     return number("inputPerceptual", "Perceptual", InputKind::Boolean, {.standard = 0, .min = 0, .max = 1});
 }
 
-const RecipeFilter palettize{{.name = "CIPalettize",
-                                 .displayName = "Palettize",
-                                 .category = kCICategoryColorEffect,
-                                 .usage = Video,
-                                 .inputs = {image(), image("inputPaletteImage", "Palette Image"), perceptual()}},
+const RecipeFilter palettize{
+    {.name = "CIPalettize",
+        .displayName = "Palettize",
+        .category = kCICategoryColorEffect,
+        .usage = Video,
+        .inputs = {image(), fitted(image("inputPaletteImage", "Palette Image"), Meaning::Palette), perceptual()}},
     [](const Values& in) {
         const CIImage source = in.image();
         return measured(in.image("inputPaletteImage"), kMostColors, source.extent(),
@@ -138,13 +139,14 @@ CIImage rowOfPixels(const std::vector<float>& pixels)
     return CIImage::fromBitmap(row);
 }
 
-const RecipeFilter paletteCentroid{{.name = "CIPaletteCentroid",
-                                       .displayName = "Palette Centroid",
-                                       .category = kCICategoryColorEffect,
-                                       .usage = Video,
-                                       .inputs = {image(), image("inputPaletteImage", "Palette Image"), perceptual()},
-                                       .tolerance = 0.1f, // places of hundreds of pixels
-                                       .boundToPixelGrid = true},
+const RecipeFilter paletteCentroid{
+    {.name = "CIPaletteCentroid",
+        .displayName = "Palette Centroid",
+        .category = kCICategoryColorEffect,
+        .usage = Video,
+        .inputs = {image(), fitted(image("inputPaletteImage", "Palette Image"), Meaning::Palette), perceptual()},
+        .tolerance = 0.1f, // places of hundreds of pixels
+        .boundToPixelGrid = true},
     [](const Values& in) {
         constexpr double kMostCells = 1 << 18; // pixels looked at
         const CIImage source = in.image(), colors = in.image("inputPaletteImage");

@@ -38,8 +38,9 @@ const ColorFilter<GammaAdjust> gammaAdjust{{.name = "CIGammaAdjust",
     .displayName = "Gamma Adjust",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {
-        image(), scalar("inputPower", "Power", {.standard = 1, .sliderMin = 0.25, .sliderMax = 4, .identity = 1})}}};
+    .inputs = {image(),
+        fitted(
+            scalar("inputPower", "Power", {.standard = 1, .sliderMin = 0.25, .sliderMax = 4, .identity = 1}), 0.7)}}};
 
 /// As many values a component as there are levels, evenly spread over what the display shows.
 template <class V>
@@ -141,8 +142,9 @@ const ColorFilter<ColorClamp> colorClamp{{.name = "CIColorClamp",
     .displayName = "Color Clamp",
     .category = kCICategoryColorAdjustment,
     .usage = AnyVideo,
-    .inputs = {image(), vector("inputMinComponents", "Min Components", CIVector{0, 0, 0, 0}),
-        vector("inputMaxComponents", "Max Components", CIVector{1, 1, 1, 1})}}};
+    .inputs = {image(),
+        fitted(vector("inputMinComponents", "Min Components", CIVector{0, 0, 0, 0}), CIVector{0.1, 0.1, 0.1, 0}),
+        fitted(vector("inputMaxComponents", "Max Components", CIVector{1, 1, 1, 1}), CIVector{0.6, 0.6, 0.6, 1})}}};
 
 /// A cubic of each component: the four coefficients belong to 1, c, c squared and c cubed.
 template <class V>
@@ -169,9 +171,12 @@ const ColorFilter<ColorPolynomial> colorPolynomial{{.name = "CIColorPolynomial",
     .displayName = "Color Polynomial",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(), vector("inputRedCoefficients", "Red Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+    .inputs = {image(),
+        fitted(vector("inputRedCoefficients", "Red Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+            CIVector{0, 1.5, -0.5, 0}),
         vector("inputGreenCoefficients", "Green Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+        fitted(vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
+            CIVector{0, 0.7, 0.3, 0}),
         vector("inputAlphaCoefficients", "Alpha Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0})}}};
 
 /// Each component is a quadratic of all three: coefficients of r, g, b, r², g², b², rg, gb, br and 1.
@@ -206,12 +211,14 @@ const ColorFilter<ColorCrossPolynomial> colorCrossPolynomial{{.name = "CIColorCr
     .category = kCICategoryColorEffect,
     .usage = Anything,
     .inputs = {image(),
-        vector("inputRedCoefficients", "Red Coefficients", CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0},
-            CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+        fitted(vector("inputRedCoefficients", "Red Coefficients", CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0},
+                   CIVector{1, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+            CIVector{1, 0, 0, 0, 0, 0, 0.6, 0, 0, 0}),
         vector("inputGreenCoefficients", "Green Coefficients", CIVector{0, 1, 0, 0, 0, 0, 0, 0, 0, 0},
             CIVector{0, 1, 0, 0, 0, 0, 0, 0, 0, 0}),
-        vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0},
-            CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0})}}};
+        fitted(vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0},
+                   CIVector{0, 0, 1, 0, 0, 0, 0, 0, 0, 0}),
+            CIVector{0, 0, 0.6, 0, 0, 0.2, 0, 0, 0, 0.02})}}};
 
 } // namespace
 } // namespace ci

@@ -17,6 +17,14 @@ struct ConvolutionFilter : RecipeFilter {
     }
 
 private:
+    /// Light from the lower left on a picture in relief: what lies before the middle is taken away, the rest added.
+    static CIVector relief(std::size_t count)
+    {
+        std::vector<double> weights(count, 8.0 / double(count - 1));
+        std::fill_n(weights.begin(), count / 2, -weights.front());
+        weights[count / 2] = 1;
+        return CIVector(weights);
+    }
     static Declaration declared(const std::string& shape, const std::string& displayName, int count)
     {
         std::vector<double> nothing(std::size_t(count), 0.0);
@@ -25,7 +33,9 @@ private:
             .displayName = displayName,
             .category = kCICategoryStylize,
             .usage = Video | HighDynamicRange,
-            .inputs = {image(), vector("inputWeights", "Weights", CIVector(nothing), CIVector(nothing)),
+            .inputs = {image(),
+                fitted(vector("inputWeights", "Weights", CIVector(nothing), CIVector(nothing)),
+                    relief(std::size_t(count))),
                 scalar("inputBias", "Bias", {.standard = 0, .identity = 0})}};
     }
 };

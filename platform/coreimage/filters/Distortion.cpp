@@ -288,7 +288,9 @@ const WarpFilter<LightTunnel> lightTunnel{{.name = "CILightTunnel",
     .category = kCICategoryDistortionEffect,
     .usage = Video | HighDynamicRange,
     .inputs = {image(), center(),
-        angle("inputRotation", "Rotation", {.standard = 0, .sliderMin = 0, .sliderMax = M_PI / 2, .identity = 0}),
+        fitted(
+            angle("inputRotation", "Rotation", {.standard = 0, .sliderMin = 0, .sliderMax = M_PI / 2, .identity = 0}),
+            0.7),
         distance("inputRadius", "Radius", {.standard = 100, .sliderMin = 1, .sliderMax = 500, .identity = 0})}}};
 
 } // namespace

@@ -62,7 +62,8 @@ struct NinePartStretched {
 std::vector<CIInputAttributes> ninePartInputs()
 {
     return {image(), position("inputBreakpoint0", "Breakpoint0", {50, 50}),
-        position("inputBreakpoint1", "Breakpoint1", {150, 150}), offset("inputGrowAmount", "Grow Amount", {100, 100})};
+        position("inputBreakpoint1", "Breakpoint1", {150, 150}),
+        fitted(offset("inputGrowAmount", "Grow Amount", {100, 100}), Meaning::Length)};
 }
 
 /// Corners stay, edges grow along themselves, the middle both ways.
@@ -185,15 +186,16 @@ struct StretchCrop {
     Axis x, y;
 };
 
-const RecipeFilter stretchCrop{{.name = "CIStretchCrop",
-                                   .displayName = "Stretch Crop",
-                                   .category = kCICategoryDistortionEffect,
-                                   .usage = Video | HighDynamicRange,
-                                   .inputs = {image(), position("inputSize", "Size", {1280, 720}),
-                                       scalar("inputCropAmount", "Crop Amount",
-                                           {.standard = 0.25, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1}),
-                                       scalar("inputCenterStretchAmount", "Center Stretch Amount",
-                                           {.standard = 0.25, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1})}},
+const RecipeFilter stretchCrop{
+    {.name = "CIStretchCrop",
+        .displayName = "Stretch Crop",
+        .category = kCICategoryDistortionEffect,
+        .usage = Video | HighDynamicRange,
+        .inputs = {image(), fitted(position("inputSize", "Size", {1280, 720}), CIVector{360, 200}, Meaning::Length),
+            scalar("inputCropAmount", "Crop Amount",
+                {.standard = 0.25, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1}),
+            scalar("inputCenterStretchAmount", "Center Stretch Amount",
+                {.standard = 0.25, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1})}},
     [](const Values& in) {
         const CIImage source = in.image();
         if (source.extent().isInfinite() || source.extent().isEmpty())
@@ -272,8 +274,8 @@ const RecipeFilter droste{
         .displayName = "Droste",
         .category = kCICategoryDistortionEffect,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), position("inputInsetPoint0", "Inset Point 0", {200, 200}),
-            position("inputInsetPoint1", "Inset Point 1", {400, 400}),
+        .inputs = {image(), fitted(position("inputInsetPoint0", "Inset Point 0", {200, 200}), CIVector{100, 100}),
+            fitted(position("inputInsetPoint1", "Inset Point 1", {400, 400}), CIVector{200, 200}),
             scalar("inputStrands", "Strands", {.standard = 1, .min = -10, .max = 10, .sliderMin = -2, .sliderMax = 2}),
             scalar("inputPeriodicity", "Periodicity", {.standard = 1, .min = 1, .sliderMin = 1, .sliderMax = 5}),
             angle("inputRotation", "Rotation", {.standard = 0, .sliderMin = 0, .sliderMax = 2 * M_PI}),

@@ -42,9 +42,11 @@ const WarpFilter<GlassLozenge> glassLozenge{{.name = "CIGlassLozenge",
     .displayName = "Glass Lozenge",
     .category = kCICategoryDistortionEffect,
     .usage = Video | HighDynamicRange,
-    .inputs = {image(), position("inputPoint0", "Point 0", {150, 150}), position("inputPoint1", "Point 1", {350, 150}),
-        distance(
-            "inputRadius", "Radius", {.standard = 100, .min = 0, .sliderMin = 0, .sliderMax = 1000, .identity = 100}),
+    .inputs = {image(), fitted(position("inputPoint0", "Point 0", {150, 150}), CIVector{90, 150}),
+        fitted(position("inputPoint1", "Point 1", {350, 150}), CIVector{210, 150}),
+        fitted(distance("inputRadius", "Radius",
+                   {.standard = 100, .min = 0, .sliderMin = 0, .sliderMax = 1000, .identity = 100}),
+            60),
         scalar("inputRefraction", "Refraction",
             {.standard = 1.7, .min = 0, .sliderMin = 0, .sliderMax = 5, .identity = 1})},
     .tolerance = 1e-3f}}; // steep at the rim
@@ -77,8 +79,12 @@ const WarpFilter<TorusLens> torusLensDistortion{{.name = "CITorusLensDistortion"
     .category = kCICategoryDistortionEffect,
     .usage = Video | HighDynamicRange,
     .inputs = {image(), center(),
-        distance("inputRadius", "Radius", {.standard = 160, .min = 0, .sliderMin = 0, .sliderMax = 500, .identity = 0}),
-        distance("inputWidth", "Width", {.standard = 80, .min = 0, .sliderMin = 0, .sliderMax = 200, .identity = 0}),
+        fitted(distance("inputRadius", "Radius",
+                   {.standard = 160, .min = 0, .sliderMin = 0, .sliderMax = 500, .identity = 0}),
+            110),
+        fitted(distance(
+                   "inputWidth", "Width", {.standard = 80, .min = 0, .sliderMin = 0, .sliderMax = 200, .identity = 0}),
+            45),
         scalar("inputRefraction", "Refraction",
             {.standard = 1.7, .min = 0, .sliderMin = 0, .sliderMax = 5, .identity = 1})},
     .tolerance = 1e-3f}}; // steep at the rim
@@ -189,7 +195,7 @@ const RecipeFilter displacementDistortion{
         .displayName = "Displacement Distortion",
         .category = kCICategoryDistortionEffect,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputDisplacementImage", "Displacement Image"),
+        .inputs = {image(), fitted(image("inputDisplacementImage", "Displacement Image"), Meaning::SamePicture),
             distance(
                 "inputScale", "Scale", {.standard = 50, .min = 0, .sliderMin = 0, .sliderMax = 200, .identity = 0})},
         .tolerance = 1e-3f}, // last bits of the map times the scale

@@ -51,14 +51,16 @@ const RecipeFilter depthOfField{
         .displayName = "Depth of Field",
         .category = kCICategoryStylize,
         .usage = Video,
-        .inputs = {image(), position("inputPoint0", "Point 0", {0, 300}),
-            position("inputPoint1", "Point 1", {300, 300}),
+        .inputs = {image(), fitted(position("inputPoint0", "Point 0", {0, 300}), CIVector{0, 120}),
+            fitted(position("inputPoint1", "Point 1", {300, 300}), CIVector{300, 120}),
             scalar("inputSaturation", "Saturation", {.standard = 1.5, .min = 0, .sliderMin = 0, .sliderMax = 10}),
-            scalar("inputUnsharpMaskRadius", "Unsharp Mask Radius",
-                {.standard = 2.5, .min = 0, .sliderMin = 0, .sliderMax = 10}),
+            fitted(scalar("inputUnsharpMaskRadius", "Unsharp Mask Radius",
+                       {.standard = 2.5, .min = 0, .sliderMin = 0, .sliderMax = 10}),
+                Meaning::Length),
             scalar("inputUnsharpMaskIntensity", "Unsharp Mask Intensity",
                 {.standard = 0.5, .min = 0, .sliderMin = 0, .sliderMax = 10}),
-            scalar("inputRadius", "Radius", {.standard = 6, .min = 0, .sliderMin = 0, .sliderMax = 30})}},
+            fitted(scalar("inputRadius", "Radius", {.standard = 6, .min = 0, .sliderMin = 0, .sliderMax = 30}),
+                Meaning::Length)}},
     [](const Values& in) {
         const CIImage source = in.image();
         const double radius = in.number("inputRadius");
@@ -125,10 +127,12 @@ const RecipeFilter highlightShadowAdjust{
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
             scalar("inputRadius", "Radius", {.standard = 0, .min = 0, .sliderMin = 0, .sliderMax = 10, .identity = 0}),
-            scalar("inputShadowAmount", "Shadow Amount",
-                {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
-            scalar("inputHighlightAmount", "Highlight Amount",
-                {.standard = 1, .min = 0, .max = 1, .sliderMin = 0.3, .sliderMax = 1, .identity = 1})}},
+            fitted(scalar("inputShadowAmount", "Shadow Amount",
+                       {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
+                0.7),
+            fitted(scalar("inputHighlightAmount", "Highlight Amount",
+                       {.standard = 1, .min = 0, .max = 1, .sliderMin = 0.3, .sliderMax = 1, .identity = 1}),
+                0.5)}},
     [](const Values& in) {
         const CIImage source = in.image();
         return pointwise<HighlightShadow>(

@@ -9,8 +9,9 @@ const RecipeFilter crop{{.name = "CICrop",
                             .category = kCICategoryGeometryAdjustment,
                             .usage = Video | HighDynamicRange,
                             .inputs = {image(),
-                                vector("inputRectangle", "Rectangle", CIVector(CIRect::infinite()),
-                                    CIVector(CIRect::infinite()), InputKind::Rectangle)}},
+                                fitted(vector("inputRectangle", "Rectangle", CIVector(CIRect::infinite()),
+                                           CIVector(CIRect::infinite()), InputKind::Rectangle),
+                                    CIVector{30, 30, 240, 240})}},
     [](const Values& in) { return in.image().cropped(in.rect("inputRectangle")); }};
 
 const RecipeFilter affineTransform{{.name = "CIAffineTransform",
@@ -27,7 +28,8 @@ const RecipeFilter straighten{
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0})}},
+            fitted(angle("inputAngle", "Angle", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0}),
+                0.1)}},
     [](const Values& in) {
         const CIImage source = in.image();
         const CIRect frame = source.extent();

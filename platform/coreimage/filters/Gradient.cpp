@@ -50,7 +50,8 @@ Declaration linear(std::string name, std::string displayName, CIValue automatic0
         .displayName = std::move(displayName),
         .category = kCICategoryGradient,
         .usage = Video | HighDynamicRange,
-        .inputs = {position("inputPoint0", "Point 0", {0, 0}), position("inputPoint1", "Point 1", {200, 200}),
+        .inputs = {position("inputPoint0", "Point 0", {0, 0}),
+            fitted(position("inputPoint1", "Point 1", {200, 200}), CIVector{300, 300}),
             automatic(color("inputColor0", "Color 1", CIColor{1, 1, 1, 1}), std::move(automatic0)),
             automatic(color("inputColor1", "Color 2", CIColor{0, 0, 0, 1}), std::move(automatic1))}};
 }

@@ -50,7 +50,7 @@ const GeneratorFilter<HueSaturationValue> hueSaturationValueGradient{{.name = "C
     .category = kCICategoryGradient,
     .usage = Video,
     .inputs = {scalar("inputValue", "Value", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 1}),
-        distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 800}),
+        fitted(distance("inputRadius", "Radius", {.standard = 300, .min = 0, .sliderMin = 0, .sliderMax = 800}), 120),
         scalar("inputSoftness", "Softness", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 1}),
         scalar("inputDither", "Dither", {.standard = 1, .min = 0, .sliderMin = 0, .sliderMax = 3}),
         object("inputColorSpace", "Color Space", InputKind::Object, "sRGB")},

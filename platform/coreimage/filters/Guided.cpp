@@ -94,9 +94,11 @@ const RecipeFilter guidedFilter{
         .displayName = "Guided Filter",
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputGuideImage", "A larger image to use as a guide."),
-            scalar("inputRadius", "Radius", {.standard = 1, .sliderMin = 1, .sliderMax = 10}),
-            scalar("inputEpsilon", "Epsilon", {.standard = 0.0001, .sliderMin = 1e-09, .sliderMax = 0.1})},
+        .inputs = {image(), fitted(image("inputGuideImage", "A larger image to use as a guide."), Meaning::SamePicture),
+            fitted(
+                scalar("inputRadius", "Radius", {.standard = 1, .sliderMin = 1, .sliderMax = 10}), 3, Meaning::Length),
+            fitted(
+                scalar("inputEpsilon", "Epsilon", {.standard = 0.0001, .sliderMin = 1e-09, .sliderMax = 0.1}), 0.02)},
         .tolerance = 2e-2f}, // differences of nearly equal means, divided by a small variance
     [](const Values& in) {
         const double width = 2 * std::clamp(std::round(in.number("inputRadius")), 0.0, 1e3) + 1;
@@ -109,7 +111,7 @@ const RecipeFilter edgePreserveUpsampleFilter{
         .displayName = "Edge Preserve Upsample Filter",
         .category = kCICategoryGeometryAdjustment,
         .usage = Anything,
-        .inputs = {image(), image("inputSmallImage", "Small Image"),
+        .inputs = {image(), fitted(image("inputSmallImage", "Small Image"), Meaning::SmallPicture),
             scalar("inputSpatialSigma", "Spatial Sigma",
                 {.standard = 3, .min = 0, .max = 5, .sliderMin = 0, .sliderMax = 5}),
             scalar("inputLumaSigma", "Luma Sigma",

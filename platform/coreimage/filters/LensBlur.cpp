@@ -68,9 +68,10 @@ const RecipeFilter maskedVariableBlur{
         .displayName = "Masked Variable Blur",
         .category = kCICategoryBlur,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputMask", "Mask"),
-            scalar(
-                "inputRadius", "Radius", {.standard = 5, .min = 0, .sliderMin = 0, .sliderMax = 10, .identity = 0})}},
+        .inputs = {image(), fitted(image("inputMask", "Mask"), Meaning::SpotMask),
+            fitted(scalar("inputRadius", "Radius",
+                       {.standard = 5, .min = 0, .sliderMin = 0, .sliderMax = 10, .identity = 0}),
+                15, Meaning::Length)}},
     [](const Values& in) {
         constexpr double kMeasured = 1.17; // sigma for each radius, under a white mask
         constexpr double kFinest = 0.4; // px

@@ -10,7 +10,8 @@ Declaration maskBlend(std::string name, std::string displayName)
         .displayName = std::move(displayName),
         .category = kCICategoryStylize,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), image("inputBackgroundImage", "Background Image"), image("inputMaskImage", "Mask Image")},
+        .inputs = {image(), image("inputBackgroundImage", "Background Image"),
+            fitted(image("inputMaskImage", "Mask Image"), Meaning::SpotMask)},
         .optional = {"inputBackgroundImage"}};
 }
 
@@ -86,7 +87,7 @@ const BlendFilter<Mix> mixFilter{{.name = "CIMix",
     .category = kCICategoryStylize,
     .usage = Video | HighDynamicRange,
     .inputs = {image(), image("inputBackgroundImage", "Background Image"),
-        scalar("inputAmount", "Amount", {.standard = 1, .sliderMin = 0, .sliderMax = 1, .identity = 1})},
+        fitted(scalar("inputAmount", "Amount", {.standard = 1, .sliderMin = 0, .sliderMax = 1, .identity = 1}), 0.5)},
     .optional = {"inputBackgroundImage"}}};
 
 } // namespace

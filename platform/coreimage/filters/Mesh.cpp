@@ -115,13 +115,22 @@ private:
     Pixel<float> m_color;
 };
 
+CIArray fan()
+{
+    CIArray lines;
+    for (int i = 0; i <= 8; ++i)
+        lines.emplace_back(CIVector{150.0, 60.0, 60 + 22.5 * i, 240.0});
+    return lines;
+}
+
 const RecipeFilter meshGenerator{
     {.name = "CIMeshGenerator",
         .displayName = "Mesh Generator",
         .category = kCICategoryGenerator,
         .usage = Video | HighDynamicRange,
         .inputs = {distance("inputWidth", "Width", {.standard = 1.5, .min = 0, .sliderMin = 1, .sliderMax = 10}),
-            color("inputColor", "Color", CIColor{1, 1, 1, 1}), object("inputMesh", "Mesh", InputKind::Array)}},
+            color("inputColor", "Color", CIColor{1, 1, 1, 1}),
+            fitted(object("inputMesh", "Mesh", InputKind::Array), fan())}},
     [](const Values& in) {
         std::vector<Segment> mesh = segments(in.value("inputMesh").toArray());
         if (mesh.empty())

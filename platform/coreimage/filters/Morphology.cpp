@@ -12,7 +12,8 @@ Declaration ofDisc(std::string name, std::string displayName)
         .category = kCICategoryBlur,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            distance("inputRadius", "Radius", {.standard = 0, .sliderMin = 0, .sliderMax = 50, .identity = 0})}};
+            fitted(distance("inputRadius", "Radius", {.standard = 0, .sliderMin = 0, .sliderMax = 50, .identity = 0}),
+                10)}};
 }
 
 const RecipeFilter morphologyMaximum{ofDisc("CIMorphologyMaximum", "Morphology Maximum"),
@@ -28,7 +29,8 @@ Declaration ofRectangle(std::string name, std::string displayName)
         .displayName = std::move(displayName),
         .category = kCICategoryBlur,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), integer("inputWidth", "Width", side), integer("inputHeight", "Height", side)}};
+        .inputs = {image(), fitted(integer("inputWidth", "Width", side), 10, Meaning::Length),
+            fitted(integer("inputHeight", "Height", side), 10, Meaning::Length)}};
 }
 
 CIImage rectangleImage(const Values& in, Extreme which)

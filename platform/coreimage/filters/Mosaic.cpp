@@ -14,8 +14,9 @@ Declaration scatteredPatches(std::string name, std::string displayName)
         .category = kCICategoryStylize,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            distance(
-                "inputRadius", "Radius", {.standard = 20, .min = 1, .sliderMin = 1, .sliderMax = 100, .identity = 1}),
+            fitted(distance("inputRadius", "Radius",
+                       {.standard = 20, .min = 1, .sliderMin = 1, .sliderMax = 100, .identity = 1}),
+                8),
             center()}};
 }
 

@@ -5,6 +5,9 @@
 namespace ci {
 namespace {
 
+// What leans in every direction, inside a picture of 300 x 300 px.
+const CIVector kTopLeft{60, 270}, kTopRight{270, 240}, kBottomRight{240, 60}, kBottomLeft{30, 30};
+
 Quadrilateral cornersOf(const Values& in)
 {
     return {
@@ -13,10 +16,10 @@ Quadrilateral cornersOf(const Values& in)
 
 std::vector<CIInputAttributes> withCorners(std::vector<CIInputAttributes> inputs)
 {
-    inputs.push_back(position("inputTopLeft", "Top Left", {118, 484}));
-    inputs.push_back(position("inputTopRight", "Top Right", {646, 507}));
-    inputs.push_back(position("inputBottomRight", "Bottom Right", {548, 140}));
-    inputs.push_back(position("inputBottomLeft", "Bottom Left", {155, 153}));
+    inputs.push_back(fitted(position("inputTopLeft", "Top Left", {118, 484}), kTopLeft));
+    inputs.push_back(fitted(position("inputTopRight", "Top Right", {646, 507}), kTopRight));
+    inputs.push_back(fitted(position("inputBottomRight", "Bottom Right", {548, 140}), kBottomRight));
+    inputs.push_back(fitted(position("inputBottomLeft", "Bottom Left", {155, 153}), kBottomLeft));
     return inputs;
 }
 
@@ -133,8 +136,12 @@ const RecipeFilter perspectiveRotate{
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange,
         .inputs = {image(), focalLength(),
-            angle("inputPitch", "Pitch", {.standard = 0, .sliderMin = -M_PI / 4, .sliderMax = M_PI / 4, .identity = 0}),
-            angle("inputYaw", "Yaw", {.standard = 0, .sliderMin = -M_PI / 4, .sliderMax = M_PI / 4, .identity = 0}),
+            fitted(angle("inputPitch", "Pitch",
+                       {.standard = 0, .sliderMin = -M_PI / 4, .sliderMax = M_PI / 4, .identity = 0}),
+                0.15),
+            fitted(
+                angle("inputYaw", "Yaw", {.standard = 0, .sliderMin = -M_PI / 4, .sliderMax = M_PI / 4, .identity = 0}),
+                0.25),
             angle("inputRoll", "Roll", {.standard = 0, .sliderMin = -M_PI, .sliderMax = M_PI, .identity = 0})}},
     [](const Values& in) {
         const CIImage source = in.image();
@@ -199,9 +206,10 @@ struct KeystoneFilter : RecipeFilter {
                            .displayName = std::move(displayName),
                            .category = kCICategoryGeometryAdjustment,
                            .usage = Video | HighDynamicRange,
-                           .inputs = {image(), focalLength(), corner("inputTopLeft", "Top Left"),
-                               corner("inputTopRight", "Top Right"), corner("inputBottomRight", "Bottom Right"),
-                               corner("inputBottomLeft", "Bottom Left")}},
+                           .inputs = {image(), focalLength(), corner("inputTopLeft", "Top Left", kTopLeft),
+                               corner("inputTopRight", "Top Right", kTopRight),
+                               corner("inputBottomRight", "Bottom Right", kBottomRight),
+                               corner("inputBottomLeft", "Bottom Left", kBottomLeft)}},
             [which](const Values& in) {
                 const CIImage source = in.image();
                 if (source.extent().isInfinite() || source.extent().isEmpty() || !in.has("inputTopLeft")
@@ -215,9 +223,9 @@ struct KeystoneFilter : RecipeFilter {
     }
 
 private:
-    static CIInputAttributes corner(std::string key, std::string displayName)
+    static CIInputAttributes corner(std::string key, std::string displayName, const CIVector& telling)
     {
-        return vector(std::move(key), std::move(displayName), {}, {}, InputKind::Position);
+        return fitted(vector(std::move(key), std::move(displayName), {}, {}, InputKind::Position), telling);
     }
 };
 

@@ -14,8 +14,9 @@ const RecipeFilter lanczosScaleTransform{
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            scalar(
-                "inputScale", "Scale", {.standard = 1, .min = 0, .sliderMin = 0.05, .sliderMax = 1.5, .identity = 1}),
+            fitted(scalar("inputScale", "Scale",
+                       {.standard = 1, .min = 0, .sliderMin = 0.05, .sliderMax = 1.5, .identity = 1}),
+                0.5),
             scalar("inputAspectRatio", "Aspect Ratio",
                 {.standard = 1, .min = 0, .sliderMin = 0.5, .sliderMax = 2, .identity = 1})}},
     [](const Values& in) { return lanczosScaled(in.image(), scaleX(in), scaleY(in)); }};
@@ -26,8 +27,9 @@ const RecipeFilter bicubicScaleTransform{
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange | NonSquarePixels,
         .inputs = {image(),
-            scalar(
-                "inputScale", "Scale", {.standard = 1, .min = 0, .sliderMin = 0.05, .sliderMax = 100, .identity = 1}),
+            fitted(scalar("inputScale", "Scale",
+                       {.standard = 1, .min = 0, .sliderMin = 0.05, .sliderMax = 100, .identity = 1}),
+                0.5),
             scalar("inputAspectRatio", "Aspect Ratio",
                 {.standard = 1, .min = 0, .sliderMin = 0.5, .sliderMax = 2, .identity = 1}),
             scalar("inputB", "B", {.standard = 0, .min = 0, .max = 1, .sliderMin = 0, .sliderMax = 1}),
@@ -41,7 +43,7 @@ const RecipeFilter maximumScaleTransform{
         .displayName = "Maximum Scale Transform",
         .category = kCICategoryGeometryAdjustment,
         .usage = Video | HighDynamicRange,
-        .inputs = {image(), scalar("inputScale", "Scale", {.standard = 1, .min = 0}),
+        .inputs = {image(), fitted(scalar("inputScale", "Scale", {.standard = 1, .min = 0}), 0.5),
             scalar("inputAspectRatio", "Aspect Ratio", {.standard = 1, .min = 0})},
         .boundToPixelGrid = true}, // the largest of fewer, averaged pixels is smaller
     [](const Values& in) { return maximumScaled(in.image(), scaleX(in), scaleY(in)); }};

@@ -10,6 +10,12 @@ CIRect shapeExtent(const Values& in)
     return CIRect::fromCorners({r.left(), r.bottom()}, {r.right(), r.top()});
 }
 
+/// One through which the picture is seen, where the shape covers much of it.
+CIInputAttributes shapeColor()
+{
+    return fitted(color("inputColor", "Color", CIColor{1, 1, 1, 1}), CIColor{1, 1, 1, 0.5});
+}
+
 /// The distance to the outline, negative inside.
 template <class V>
 struct RoundedOutline {
@@ -58,9 +64,9 @@ const GeneratorFilter<RoundedRectangle> roundedRectangleGenerator{{.name = "CIRo
     .displayName = "Rounded Rectangle Generator",
     .category = kCICategoryGenerator,
     .usage = HighDynamicRange,
-    .inputs = {rectangle("inputExtent", "Extent", {0, 0, 100, 100}),
+    .inputs = {fitted(rectangle("inputExtent", "Extent", {0, 0, 100, 100}), CIVector{60, 60, 180, 180}),
         distance("inputRadius", "Radius", {.standard = 10, .min = 0, .sliderMin = 0, .sliderMax = 100}),
-        color("inputColor", "Color", CIColor{1, 1, 1, 1})}}};
+        shapeColor()}}};
 
 /// A line of inputWidth along the outline, half of it on each side.
 template <class V>
@@ -92,9 +98,8 @@ const GeneratorFilter<RoundedRectangleStroke> roundedRectangleStrokeGenerator{
         .displayName = "Rounded Rectangle Stroke Generator",
         .category = kCICategoryGenerator,
         .usage = HighDynamicRange,
-        .inputs = {rectangle("inputExtent", "Extent", {0, 0, 100, 100}),
-            distance("inputRadius", "Radius", {.standard = 10, .min = 0}),
-            color("inputColor", "Color", CIColor{1, 1, 1, 1}),
+        .inputs = {fitted(rectangle("inputExtent", "Extent", {0, 0, 100, 100}), CIVector{60, 60, 180, 180}),
+            distance("inputRadius", "Radius", {.standard = 10, .min = 0}), shapeColor(),
             distance("inputWidth", "Width", {.standard = 10, .min = 0})}}};
 
 inline float errorFunction(float v) { return std::erf(v); }
@@ -132,9 +137,8 @@ const GeneratorFilter<BlurredRectangle> blurredRectangleGenerator{{.name = "CIBl
     .displayName = "Blurred Rectangle Generator",
     .category = kCICategoryGenerator,
     .usage = HighDynamicRange,
-    .inputs = {rectangle("inputExtent", "Extent", {0, 0, 100, 100}),
-        distance("inputSigma", "Sigma", {.standard = 10, .min = 0}),
-        color("inputColor", "Color", CIColor{1, 1, 1, 1})}}};
+    .inputs = {fitted(rectangle("inputExtent", "Extent", {0, 0, 100, 100}), CIVector{60, 60, 180, 180}),
+        distance("inputSigma", "Sigma", {.standard = 10, .min = 0}), shapeColor()}}};
 
 } // namespace
 } // namespace ci

@@ -58,8 +58,11 @@ const RecipeFilter sharpenLuminance{
         .category = kCICategorySharpen,
         .usage = Video | HighDynamicRange,
         .inputs = {image(),
-            scalar("inputSharpness", "Sharpness", {.standard = 0.4, .sliderMin = 0, .sliderMax = 2, .identity = 0}),
-            scalar("inputRadius", "Radius", {.standard = 1.69, .sliderMin = 0, .sliderMax = 20, .identity = 0})}},
+            fitted(
+                scalar("inputSharpness", "Sharpness", {.standard = 0.4, .sliderMin = 0, .sliderMax = 2, .identity = 0}),
+                1.0),
+            fitted(scalar("inputRadius", "Radius", {.standard = 1.69, .sliderMin = 0, .sliderMax = 20, .identity = 0}),
+                Meaning::Length)}},
     [](const Values& in) {
         const CIImage source = in.image();
         return pointwise<SharpenLuminance>(

@@ -23,7 +23,8 @@ CIImage painted(const Values& in, std::vector<CITextRun> runs)
 
 CIInputAttributes scaleFactor()
 {
-    return scalar("inputScaleFactor", "Scale Factor", {.standard = 1, .min = 0, .sliderMin = 1, .sliderMax = 4});
+    return fitted(scalar("inputScaleFactor", "Scale Factor", {.standard = 1, .min = 0, .sliderMin = 1, .sliderMax = 4}),
+        6, Meaning::Length);
 }
 CIInputAttributes padding() { return integer("inputPadding", "Padding", {.standard = 0, .min = 0, .max = 200}); }
 
@@ -32,7 +33,7 @@ const RecipeFilter textImageGenerator{
         .displayName = "Text Image Generator",
         .category = kCICategoryGenerator,
         .usage = Video,
-        .inputs = {object("inputText", "Text", InputKind::String),
+        .inputs = {fitted(object("inputText", "Text", InputKind::String), "Lumivex"),
             object("inputFontName", "Font Name", InputKind::String, "HelveticaNeue"),
             scalar("inputFontSize", "Font Size", {.standard = 12, .min = 0, .sliderMin = 9, .sliderMax = 128}),
             scaleFactor(), padding()},
@@ -66,7 +67,8 @@ const RecipeFilter attributedTextImageGenerator{
         .displayName = "Attributed Text Image Generator",
         .category = kCICategoryGenerator,
         .usage = Video,
-        .inputs = {object("inputText", "Text", InputKind::AttributedString), scaleFactor(), padding()},
+        .inputs = {fitted(object("inputText", "Text", InputKind::AttributedString), "Lumivex"), scaleFactor(),
+            padding()},
         .boundToPixelGrid = true},
     [](const Values& in) {
         const CIValue& text = in.value("inputText");

@@ -121,15 +121,16 @@ const RecipeFilter opTile{
     }};
 
 /// The picture repeated without end on a plane, of which one tile lies between the four points.
-const RecipeFilter perspectiveTile{{.name = "CIPerspectiveTile",
-                                       .displayName = "Perspective Tile",
-                                       .category = kCICategoryTileEffect,
-                                       .usage = Video | HighDynamicRange,
-                                       .inputs = {image(), position("inputTopLeft", "Top Left", {118, 484}),
-                                           position("inputTopRight", "Top Right", {646, 507}),
-                                           position("inputBottomRight", "Bottom Right", {548, 140}),
-                                           position("inputBottomLeft", "Bottom Left", {155, 153})},
-                                       .tolerance = 5e-3f}, // last bits of places beside a seam, far away
+const RecipeFilter perspectiveTile{
+    {.name = "CIPerspectiveTile",
+        .displayName = "Perspective Tile",
+        .category = kCICategoryTileEffect,
+        .usage = Video | HighDynamicRange,
+        .inputs = {image(), fitted(position("inputTopLeft", "Top Left", {118, 484}), CIVector{90, 200}),
+            fitted(position("inputTopRight", "Top Right", {646, 507}), CIVector{210, 200}),
+            fitted(position("inputBottomRight", "Bottom Right", {548, 140}), CIVector{240, 100}),
+            fitted(position("inputBottomLeft", "Bottom Left", {155, 153}), CIVector{60, 100})},
+        .tolerance = 5e-3f}, // last bits of places beside a seam, far away
     [](const Values& in) {
         const CIImage source = in.image();
         if (source.extent().isInfinite() || source.extent().isEmpty())
@@ -141,11 +142,12 @@ const RecipeFilter perspectiveTile{{.name = "CIPerspectiveTile",
     }};
 
 /// The pixels at the rectangle's edges repeated without end.
-const RecipeFilter clampFilter{{.name = "CIClamp",
-                                   .displayName = "Clamp",
-                                   .category = kCICategoryTileEffect,
-                                   .usage = Video | HighDynamicRange,
-                                   .inputs = {image(), rectangle("inputExtent", "Extent", {0, 0, 640, 80})}},
+const RecipeFilter clampFilter{
+    {.name = "CIClamp",
+        .displayName = "Clamp",
+        .category = kCICategoryTileEffect,
+        .usage = Video | HighDynamicRange,
+        .inputs = {image(), fitted(rectangle("inputExtent", "Extent", {0, 0, 640, 80}), CIVector{75, 75, 150, 150})}},
     [](const Values& in) { return in.image().cropped(in.rect("inputExtent")).clampedToExtent(); }};
 
 /// Transformed, and the edge pixels repeated without end.

@@ -252,8 +252,9 @@ CIInputAttributes turn()
 }
 CIInputAttributes tileWidth(std::optional<double> identity = 100)
 {
-    return distance(
-        "inputWidth", "Width", {.standard = 100, .min = 0, .sliderMin = 1, .sliderMax = 200, .identity = identity});
+    return fitted(distance("inputWidth", "Width",
+                      {.standard = 100, .min = 0, .sliderMin = 1, .sliderMax = 200, .identity = identity}),
+        75);
 }
 CIInputAttributes acuteAngle()
 {
@@ -323,7 +324,8 @@ const RecipeFilter triangleKaleidoscope{
         .category = kCICategoryTileEffect,
         .usage = Video | HighDynamicRange,
         .inputs = {image(), position("inputPoint", "Point", {150, 150}),
-            scalar("inputSize", "Size", {.standard = 700, .sliderMin = 0, .sliderMax = 1000}),
+            fitted(scalar("inputSize", "Size", {.standard = 700, .sliderMin = 0, .sliderMax = 1000}), 120,
+                Meaning::Length),
             angle("inputRotation", "Rotation", {.standard = 5.924285296593801, .sliderMin = 0, .sliderMax = 2 * M_PI}),
             scalar("inputDecay", "Decay", {.standard = 0.85, .sliderMin = 0, .sliderMax = 1})},
         .tolerance = 2e-3f}, // as the other tiles

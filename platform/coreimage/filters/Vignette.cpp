@@ -36,8 +36,9 @@ const RecipeFilter vignette{
         .category = kCICategoryColorEffect,
         .usage = Video | HighDynamicRange | Interlaced,
         .inputs = {image(),
-            scalar("inputIntensity", "Intensity",
-                {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
+            fitted(scalar("inputIntensity", "Intensity",
+                       {.standard = 0, .min = -1, .max = 1, .sliderMin = -1, .sliderMax = 1, .identity = 0}),
+                1),
             scalar("inputRadius", "Radius", {.standard = 1, .min = 0, .max = 2, .sliderMin = 0, .sliderMax = 2})}},
     [](const Values& in) {
         const CIImage source = in.image();

@@ -109,6 +109,20 @@ TEST_F(RenderProgram, DrawsTextWithoutADisplay)
     EXPECT_LT(ink / (out.width() * out.height()), 0.6);
 }
 
+TEST_F(RenderProgram, FitsWhatIsNotSetToThePicture)
+{
+    ASSERT_EQ(run("CIColorAbsoluteDifference --image inputImage=in.png --fit -o out.png").errors, "");
+    const CIBitmap out = rendered();
+    EXPECT_EQ(out.row<std::uint8_t>(0)[1], 255) << "magenta from white: the second picture is the first upside down";
+    EXPECT_EQ(out.row<std::uint8_t>(0)[0], 0);
+
+    ASSERT_EQ(run("CIVignette --image inputImage=in.png --fit --set inputIntensity=0 -o out.png").errors, "");
+    EXPECT_EQ(rendered().row<std::uint8_t>(1)[0], 255) << "what is set stays";
+    EXPECT_THAT(run("CIMix --fit -o none.png").errors, HasSubstr("missing: inputImage"));
+    EXPECT_EQ(run("CICheckerboardGenerator --fit -o out.png").status, 0);
+    EXPECT_EQ(run("--favourite Some --fit in.png -o .").status, 2);
+}
+
 TEST_F(RenderProgram, TimesRenders)
 {
     const Outcome timed = run("CIGaussianBlur --image inputImage=in.png --repeat 4 -o out.png");
