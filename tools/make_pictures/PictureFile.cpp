@@ -47,9 +47,3 @@ void writePng(const Raster& picture, const std::string& file)
 {
     quantised(picture, Depth::Eight).pngsave(file.c_str(), VImage::option()->set("compression", 9)->set("strip", true));
 }
-
-void writeJpeg(const Raster& picture, int quality, const std::string& file)
-{
-    quantised(picture, Depth::Eight)
-        .jpegsave(file.c_str(), VImage::option()->set("Q", quality)->set("optimize_coding", true)->set("strip", true));
-}

@@ -13,6 +13,3 @@ void writeTiff(const Raster& picture, Depth depth, const std::string& file);
 
 /// The same, 8 bits a sample, as PNG. Throws as above.
 void writePng(const Raster& picture, const std::string& file);
-
-/// Writes three sRGB bands as JPEG without metadata. Throws as above.
-void writeJpeg(const Raster& picture, int quality, const std::string& file);

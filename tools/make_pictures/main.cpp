@@ -1,7 +1,6 @@
 // Makes the program's pictures: make_pictures FOLDER [name...]; without names, all of them.
 
 #include "tools/make_pictures/Controls.h"
-#include "tools/make_pictures/landscape/Landscape.h"
 #include "tools/make_pictures/PictureFile.h"
 #include "tools/make_pictures/Textures.h"
 
@@ -38,7 +37,6 @@ std::vector<Product> products()
         {"colormap.tiff", [](const std::string& file) { writeTiff(colorMap(), Depth::Eight, file); }},
         {"mask.tiff", [](const std::string& file) { writeTiff(disintegrateMask(), Depth::Sixteen, file); }},
         {"16x16c.tif", [](const std::string& file) { writeTiff(controlPointMarker(), Depth::Eight, file); }},
-        {"main_img.jpg", [](const std::string& file) { writeJpeg(landscape(1), 90, file); }},
     };
     addControlPictures(products);
     return products;
