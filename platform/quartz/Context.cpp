@@ -39,8 +39,6 @@ void Context::restoreGState()
     m_saved.pop_back();
 }
 
-void Context::rotate(double radians) { m_state.transform.rotateRadians(radians); }
-
 void Context::setRGBFillColor(double red, double green, double blue, double alpha)
 {
     m_state.fill = color(red, green, blue, alpha);
@@ -77,10 +75,10 @@ void Context::addEllipseInRect(const QRectF& rect, const QTransform& transform)
     m_path.addPath(transform.map(ellipse));
 }
 
-void Context::fill(Qt::FillRule rule)
+void Context::fillPath()
 {
     QPainterPath path = std::exchange(m_path, {});
-    path.setFillRule(rule);
+    path.setFillRule(Qt::WindingFill);
     fill(std::move(path));
 }
 

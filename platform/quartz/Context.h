@@ -5,9 +5,9 @@
 
 namespace quartz {
 
-/// Draws on a Drawing. Positions are canvas units, y up, seen through the current transform; angles are radians,
-/// counterclockwise. Color components are sRGB-coded, 0 to 1, not multiplied by alpha.
-/// Rectangles may have negative sizes: they are standardised, that is, measured from the other corner.
+/// Draws on a Drawing. Positions are canvas units, y up, seen through the current transform. Color components are
+/// sRGB-coded, 0 to 1, not multiplied by alpha. Rectangles may have negative sizes: they are standardised, that is,
+/// measured from the other corner.
 class Context {
 public:
     explicit Context(Drawing& drawing)
@@ -19,7 +19,6 @@ public:
     void saveGState() { m_saved.push_back(m_state); }
     void restoreGState(); // nothing without a saved one
     void translate(double dx, double dy) { m_state.transform.translate(dx, dy); }
-    void rotate(double radians);
     /// Comes before the present transform: what is drawn from now on is mapped by `transform` first.
     void concatenate(const QTransform& transform) { m_state.transform = transform * m_state.transform; }
     void setRGBFillColor(double red, double green, double blue, double alpha);
@@ -36,8 +35,7 @@ public:
     /// The ellipse in `rect`, mapped by `transform`, as a part of its own.
     void addEllipseInRect(const QRectF& rect, const QTransform& transform = {});
     void closePath() { m_path.closeSubpath(); }
-    void fillPath() { fill(Qt::WindingFill); } // by winding number
-    void eoFillPath() { fill(Qt::OddEvenFill); }
+    void fillPath(); // by winding number
     void strokePath();
 
     // Whole figures; the current path stays out of it.
@@ -58,7 +56,6 @@ private:
     };
 
     Figure figure(Figure::Kind kind) const;
-    void fill(Qt::FillRule rule);
     void fill(QPainterPath path);
     void stroke(QPainterPath path);
 
