@@ -292,37 +292,19 @@ void DocPageControl::showItem(int index)
 
 void DocPageControl::keyPressEvent(QKeyEvent* event)
 {
-    const int last = int(m_items.size()) - 1;
-    int index = indexOf(qobject_cast<QAbstractButton*>(focusWidget()));
-    if (index < 0) {
-        QWidget::keyPressEvent(event);
-        return;
-    }
-    const int forward = isRightToLeft() ? -1 : 1;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        index -= forward;
-        break;
-    case Qt::Key_Right:
-        index += forward;
-        break;
-    case Qt::Key_Home:
-        index = 0;
-        break;
-    case Qt::Key_End:
-        index = last;
-        break;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    const int index = indexOf(qobject_cast<QAbstractButton*>(focusWidget()));
+    const int last = int(m_items.size()) - 1, forward = isRightToLeft() ? -1 : 1, key = event->key();
+    const QHash<int, int> places = {
+        {Qt::Key_Left, index - forward}, {Qt::Key_Right, index + forward}, {Qt::Key_Home, 0}, {Qt::Key_End, last}};
+    if (index >= 0 && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
         m_items[index]->click();
-        return;
-    default:
+    } else if (index >= 0 && places.contains(key)) {
+        const int next = std::clamp(places[key], 0, last);
+        m_items[next]->setFocus(Qt::TabFocusReason);
+        showItem(next);
+    } else {
         QWidget::keyPressEvent(event);
-        return;
     }
-    index = std::clamp(index, 0, last);
-    m_items[index]->setFocus(Qt::TabFocusReason);
-    showItem(index);
 }
 
 void DocPageControl::wheelEvent(QWheelEvent* event)
