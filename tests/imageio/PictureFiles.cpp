@@ -2,7 +2,6 @@
 
 #include "platform/imageio/PictureRows.h"
 
-#include <algorithm>
 #include <bit>
 #include <cstdlib>
 #include <cstring>
@@ -10,68 +9,6 @@
 #include <map>
 
 namespace {
-
-void put(Bytes& target, std::uint32_t value, int size, bool isBigEndian = false)
-{
-    for (int i = 0; i < size; ++i)
-        target.push_back(std::byte(value >> 8 * (isBigEndian ? size - 1 - i : i)));
-}
-
-std::uint32_t crc32(const Bytes& bytes)
-{
-    std::uint32_t crc = ~0u;
-    for (const std::byte b : bytes) {
-        crc ^= std::to_integer<std::uint32_t>(b);
-        for (int i = 0; i < 8; ++i)
-            crc = crc >> 1 ^ (crc & 1 ? 0xedb88320u : 0);
-    }
-    return ~crc;
-}
-
-/// A zlib stream of stored blocks.
-Bytes zlibStored(const Bytes& content)
-{
-    Bytes stream = bytesOf({0x78, 0x01});
-    std::uint32_t a = 1, b = 0;
-    for (std::size_t start = 0; start == 0 || start < content.size(); start += 65535) {
-        const std::size_t size = std::min<std::size_t>(65535, content.size() - start);
-        stream.push_back(std::byte(start + size == content.size()));
-        put(stream, std::uint32_t(size), 2);
-        put(stream, ~std::uint32_t(size), 2);
-        stream.insert(
-            stream.end(), content.begin() + std::ptrdiff_t(start), content.begin() + std::ptrdiff_t(start + size));
-    }
-    for (const std::byte byte : content) {
-        a = (a + std::to_integer<std::uint32_t>(byte)) % 65521;
-        b = (b + a) % 65521;
-    }
-    put(stream, b << 16 | a, 4, true);
-    return stream;
-}
-
-void putChunk(Bytes& png, const std::string& name, const Bytes& content)
-{
-    Bytes checked = bytesOf(name);
-    append(checked, content);
-    put(png, std::uint32_t(content.size()), 4, true);
-    append(png, checked);
-    put(png, crc32(checked), 4, true);
-}
-
-int sizeOfType(int type)
-{
-    switch (type) {
-    case 3:
-        return 2;
-    case 4:
-        return 4;
-    case 5:
-    case 10:
-        return 4; // a rational is two of these
-    default:
-        return 1;
-    }
-}
 
 Bytes bmpHeader(int width, int height, int storedHeight)
 {
@@ -133,85 +70,13 @@ Bytes floatsOf(std::initializer_list<float> values)
     return bytes;
 }
 
+void put(Bytes& target, std::uint32_t value, int size, bool isBigEndian)
+{
+    for (int i = 0; i < size; ++i)
+        target.push_back(std::byte(value >> 8 * (isBigEndian ? size - 1 - i : i)));
+}
+
 void append(Bytes& target, const Bytes& more) { target.insert(target.end(), more.begin(), more.end()); }
-
-Bytes pngFile(int width, int height, int bits, int colorType, const Bytes& rows,
-    const std::vector<std::pair<std::string, Bytes>>& chunks)
-{
-    Bytes png = bytesOf("\x89PNG\r\n\x1a\n");
-    Bytes header;
-    put(header, std::uint32_t(width), 4, true);
-    put(header, std::uint32_t(height), 4, true);
-    append(header, bytesOf({bits, colorType, 0, 0, 0}));
-    putChunk(png, "IHDR", header);
-    for (const auto& [name, content] : chunks)
-        putChunk(png, name, content);
-    const int samples = colorType == 2 ? 3 : colorType == 6 ? 4 : colorType == 4 ? 2 : 1;
-    const std::size_t rowSize = (std::size_t(width) * std::size_t(samples * bits) + 7) / 8;
-    Bytes filtered;
-    for (std::size_t at = 0; at + rowSize <= rows.size(); at += rowSize) {
-        filtered.push_back(std::byte(0)); // no filter
-        filtered.insert(filtered.end(), rows.begin() + std::ptrdiff_t(at), rows.begin() + std::ptrdiff_t(at + rowSize));
-    }
-    putChunk(png, "IDAT", zlibStored(filtered));
-    putChunk(png, "IEND", {});
-    return png;
-}
-
-std::pair<std::string, Bytes> profileChunk(const Bytes& profile)
-{
-    Bytes content = bytesOf(std::string_view("test\0\0", 6));
-    append(content, zlibStored(profile));
-    return {"iCCP", content};
-}
-
-Bytes tiffFile(int width, int height, int samples, int bits, int photometric, const Bytes& pixels,
-    const std::vector<TiffEntry>& entries)
-{
-    std::map<int, TiffEntry> all;
-    const auto set = [&all](TiffEntry entry) { all[entry.tag] = std::move(entry); };
-    set({256, 4, {width}});
-    set({257, 4, {height}});
-    set({258, 3, std::vector<std::int64_t>(std::size_t(samples), bits)});
-    set({259, 3, {1}});
-    set({262, 3, {photometric}});
-    set({273, 4, {8}});
-    set({277, 3, {samples}});
-    set({278, 4, {height}});
-    set({279, 4, {std::int64_t(pixels.size())}});
-    for (const TiffEntry& entry : entries)
-        set(entry);
-
-    Bytes tiff = bytesOf(std::string_view("II*\0", 4));
-    Bytes outside, directory;
-    const std::size_t start = 8 + pixels.size() + pixels.size() % 2;
-    const std::size_t outsideStart = start + 2 + 12 * all.size() + 4;
-    put(tiff, std::uint32_t(start), 4);
-    append(tiff, pixels);
-    tiff.resize(start);
-    put(directory, std::uint32_t(all.size()), 2);
-    for (const auto& [tag, entry] : all) {
-        Bytes values;
-        for (const std::int64_t value : entry.values)
-            put(values, std::uint32_t(value), sizeOfType(entry.type));
-        const bool isRational = entry.type == 5 || entry.type == 10;
-        put(directory, std::uint32_t(tag), 2);
-        put(directory, std::uint32_t(entry.type), 2);
-        put(directory, std::uint32_t(entry.values.size() / (isRational ? 2 : 1)), 4);
-        if (values.size() > 4) {
-            put(directory, std::uint32_t(outsideStart + outside.size()), 4);
-            append(outside, values);
-            outside.resize((outside.size() + 1) / 2 * 2);
-        } else {
-            values.resize(4);
-            append(directory, values);
-        }
-    }
-    put(directory, 0, 4);
-    append(tiff, directory);
-    append(tiff, outside);
-    return tiff;
-}
 
 Bytes gifFile()
 {
@@ -304,23 +169,6 @@ Bytes exrFile()
     put(exr, 16, 4);
     append(exr, wordsOf({0x3c00, 0x3800, 0x3400, 0x3400, 0x3800, 0x3400, 0x4000, 0x3400})); // A, B, G, R of both
     return exr;
-}
-
-Bytes rawFile()
-{
-    constexpr int kWidth = 64, kHeight = 48;
-    Bytes pixels;
-    for (int y = 0; y < kHeight; ++y)
-        for (int x = 0; x < kWidth; ++x)
-            put(pixels, x < kWidth / 2 ? 3000 : 500, 2);
-    const std::vector<std::int64_t> model = {'T', 'e', 's', 't', 0};
-    return tiffFile(kWidth, kHeight, 1, 16, 32803, pixels,
-        {{254, 4, {0}}, {271, 2, model}, {272, 2, model},
-            {33421, 3, {2, 2}}, // color filter array: red green, green blue
-            {33422, 1, {0, 1, 1, 2}}, {50706, 1, {1, 4, 0, 0}}, {50708, 2, model}, {50717, 4, {4095}}, // white level
-            {50721, 10, {1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 0, 1, 0, 1, 0, 1, 1, 1}}, // XYZ to camera
-            {50728, 5, {1, 1, 1, 1, 1, 1}}, // neutral
-            {50778, 3, {21}}}); // daylight
 }
 
 Bytes pdfFile()

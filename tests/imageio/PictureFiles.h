@@ -20,6 +20,8 @@ Bytes bytesOf(std::initializer_list<int> values);
 Bytes wordsOf(std::initializer_list<int> values);
 Bytes floatsOf(std::initializer_list<float> values);
 void append(Bytes& target, const Bytes& more);
+/// The lowest `size` bytes of the value, lowest first unless asked otherwise.
+void put(Bytes& target, std::uint32_t value, int size, bool isBigEndian = false);
 
 /// `rows` holds the packed rows without filter bytes; further chunks go before the pixels.
 Bytes pngFile(int width, int height, int bits, int colorType, const Bytes& rows,
