@@ -3,6 +3,8 @@
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/ParameterView.h"
 
+#include <map>
+
 #include <QPainter>
 
 namespace {
@@ -12,6 +14,23 @@ constexpr int kFilterHeader = 10; // points above the first row
 constexpr int kMeasuredHeader = 46; // above the first row while measuring, and below a caption
 constexpr int kTrim = 3;
 constexpr int kBottomMargin = 12;
+
+using Builder = void (ParameterView::*)(const ParameterView::Filter&, const std::string&, ParameterMaster&);
+
+/// What builds the row of a kind.
+Builder builderOf(RowKind kind)
+{
+    static const std::map<RowKind, Builder> builders = {
+        {RowKind::Slider, &ParameterView::addSliderForFilterKeyMaster},
+        {RowKind::CheckBox, &ParameterView::addCheckBoxForFilterKeyMaster},
+        {RowKind::ColorWell, &ParameterView::addColorWellForFilterKeyMaster},
+        {RowKind::ImageWell, &ParameterView::addImageWellForFilterKeyMaster},
+        {RowKind::Transform, &ParameterView::addTransformForFilterKeyMaster},
+        {RowKind::Vector, &ParameterView::addVectorForFilterKeyMaster},
+        {RowKind::Offset, &ParameterView::addOffsetForFilterKeyMaster},
+    };
+    return builders.at(kind);
+}
 
 } // namespace
 
@@ -60,18 +79,7 @@ FilterView::FilterView(QWidget* parent)
 
 // --- measuring ---
 
-void FilterView::tryFilterHeader(const Filter&) { controlTopPosition = height() - kMeasuredHeader; }
-void FilterView::trySliderForFilterKey(const Filter&, const std::string&) { place(RowKind::Slider, width()); }
-void FilterView::tryCheckBoxForFilterKey(const Filter&, const std::string&) { place(RowKind::CheckBox, width()); }
-void FilterView::tryColorWellForFilterKey(const Filter&, const std::string&) { place(RowKind::ColorWell, width()); }
-void FilterView::tryImageWellForFilterKey(const Filter&, const std::string&) { place(RowKind::ImageWell, width()); }
-void FilterView::tryTransformForFilterKey(const Filter&, const std::string&) { place(RowKind::Transform, width()); }
-void FilterView::tryVectorForFilterKey(const Filter&, const std::string&) { place(RowKind::Vector, width()); }
-void FilterView::tryOffsetForFilterKey(const Filter&, const std::string&) { place(RowKind::Offset, width()); }
-void FilterView::tryImageWellForImageTag(const CIImage&, int) { place(RowKind::ImageWell, width()); }
-void FilterView::tryImageHeader(const CIImage&) { controlTopPosition = height() - kMeasuredHeader; }
-void FilterView::tryTextHeader(const QString&) { controlTopPosition = height() - kMeasuredHeader; }
-void FilterView::trySliderForText() { place(RowKind::Slider, width()); }
+void FilterView::measureHeader() { controlTopPosition = height() - kMeasuredHeader; }
 
 void FilterView::trimBox()
 {
@@ -96,50 +104,15 @@ void FilterView::addRow(RowKind kind, const std::function<void(ParameterView&)>&
     row->show();
 }
 
-void FilterView::addRow(RowKind kind, const Filter& rowFilter, const std::string& key, Builder builder)
+void FilterView::addRow(RowKind kind, const Filter& of, const std::string& key)
 {
-    addRow(kind, [&](ParameterView& row) { (row.*builder)(rowFilter, key, *master); });
+    addRow(kind, [&](ParameterView& row) { (row.*builderOf(kind))(of, key, *master); });
 }
 
 void FilterView::addFilterHeaderTagEnabled(const Filter&, int, bool)
 {
     m_headerHeight = kFilterHeader;
     controlTopPosition = height() - m_headerHeight;
-}
-
-void FilterView::addSliderForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::Slider, rowFilter, key, &ParameterView::addSliderForFilterKeyMaster);
-}
-
-void FilterView::addCheckBoxForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::CheckBox, rowFilter, key, &ParameterView::addCheckBoxForFilterKeyMaster);
-}
-
-void FilterView::addColorWellForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::ColorWell, rowFilter, key, &ParameterView::addColorWellForFilterKeyMaster);
-}
-
-void FilterView::addImageWellForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::ImageWell, rowFilter, key, &ParameterView::addImageWellForFilterKeyMaster);
-}
-
-void FilterView::addTransformForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::Transform, rowFilter, key, &ParameterView::addTransformForFilterKeyMaster);
-}
-
-void FilterView::addVectorForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::Vector, rowFilter, key, &ParameterView::addVectorForFilterKeyMaster);
-}
-
-void FilterView::addOffsetForFilterKey(const Filter& rowFilter, const std::string& key)
-{
-    addRow(RowKind::Offset, rowFilter, key, &ParameterView::addOffsetForFilterKeyMaster);
 }
 
 void FilterView::addImageWellForImageTag(const CIImage& image, int imageTag)
@@ -155,8 +128,6 @@ void FilterView::addSliderForTextKeyLoHi(
         [&](ParameterView& row) { row.addSliderForTextKeyLoHiMaster(dictionary, key, lo, hi, *master); });
 }
 
-void FilterView::addTextViewForStringKey(const QString&, const std::string&) { }
-
 void FilterView::addHeaderCaption(const QString& text)
 {
     auto* caption = new CaptionLabel(text, this);
@@ -167,13 +138,6 @@ void FilterView::addHeaderCaption(const QString& text)
     caption->show();
     controlTopPosition = height() - m_headerHeight;
 }
-
-void FilterView::addImageHeaderFilenameTagEnabled(const CIImage&, const QString& filename, int, bool)
-{
-    addHeaderCaption(filename);
-}
-
-void FilterView::addTextHeaderTagEnabled(const QString&, int, bool) { addHeaderCaption(tr("Text")); }
 
 void FilterView::resizeEvent(QResizeEvent*)
 {
@@ -187,37 +151,24 @@ void FilterView::resizeEvent(QResizeEvent*)
 
 // --- the rows of a filter ---
 
-struct FilterView::Pass {
-    RowKind kind;
-    RowOperation attempt, add;
-};
-
-void FilterView::forEachRow(RowOperation Pass::*operation)
+void FilterView::forEachRow(const std::function<void(RowKind kind, const std::string& key)>& act)
 {
-    static constexpr Pass passes[] = {
-        {RowKind::Slider, &FilterView::trySliderForFilterKey, &FilterView::addSliderForFilterKey},
-        {RowKind::CheckBox, &FilterView::tryCheckBoxForFilterKey, &FilterView::addCheckBoxForFilterKey},
-        {RowKind::ColorWell, &FilterView::tryColorWellForFilterKey, &FilterView::addColorWellForFilterKey},
-        {RowKind::ImageWell, &FilterView::tryImageWellForFilterKey, &FilterView::addImageWellForFilterKey},
-        {RowKind::Transform, &FilterView::tryTransformForFilterKey, &FilterView::addTransformForFilterKey},
-        {RowKind::Vector, &FilterView::tryVectorForFilterKey, &FilterView::addVectorForFilterKey},
-        {RowKind::Offset, &FilterView::tryOffsetForFilterKey, &FilterView::addOffsetForFilterKey},
-    };
     const bool background = hasBackgroundImage(*filter);
-    for (const std::string& key : filter->inputKeys()) {
-        const CIInputAttributes* input = filter->attributesForKey(key);
-        if (!input)
-            continue;
-        const RowKind kind = rowKindOf(*input, background);
-        for (const Pass& pass : passes)
-            if (pass.kind == kind)
-                (this->*(pass.*operation))(filter, key);
-    }
+    for (const std::string& key : filter->inputKeys())
+        if (const CIInputAttributes* input = filter->attributesForKey(key))
+            if (const RowKind kind = rowKindOf(*input, background); kind != RowKind::None)
+                act(kind, key);
 }
 
-void FilterView::tryRows() { forEachRow(&Pass::attempt); }
+void FilterView::tryRows()
+{
+    forEachRow([this](RowKind kind, const std::string&) { measure(kind); });
+}
 
-void FilterView::addRows() { forEachRow(&Pass::add); }
+void FilterView::addRows()
+{
+    forEachRow([this](RowKind kind, const std::string& key) { addRow(kind, filter, key); });
+}
 
 int FilterView::contentHeight() const { return height() - controlTopPosition + kBottomMargin; }
 

@@ -57,32 +57,32 @@ public:
     void setTag(int newTag) { tag = newTag; }
 
     using Filter = std::shared_ptr<CIFilter>;
-    void tryFilterHeader(const Filter& filter);
-    void trySliderForFilterKey(const Filter& filter, const std::string& key);
-    void tryCheckBoxForFilterKey(const Filter& filter, const std::string& key);
-    void tryColorWellForFilterKey(const Filter& filter, const std::string& key);
-    void tryImageWellForFilterKey(const Filter& filter, const std::string& key);
-    void tryTransformForFilterKey(const Filter& filter, const std::string& key);
-    void tryVectorForFilterKey(const Filter& filter, const std::string& key);
-    void tryOffsetForFilterKey(const Filter& filter, const std::string& key);
-    void tryImageWellForImageTag(const CIImage& image, int tag);
-    void tryImageHeader(const CIImage& image);
-    void tryTextHeader(const QString& text);
+    void tryFilterHeader(const Filter&) { measureHeader(); }
+    void tryImageHeader(const CIImage&) { measureHeader(); }
+    void tryTextHeader(const QString&) { measureHeader(); }
+    void trySliderForFilterKey(const Filter&, const std::string&) { measure(RowKind::Slider); }
+    void tryCheckBoxForFilterKey(const Filter&, const std::string&) { measure(RowKind::CheckBox); }
+    void tryColorWellForFilterKey(const Filter&, const std::string&) { measure(RowKind::ColorWell); }
+    void tryImageWellForFilterKey(const Filter&, const std::string&) { measure(RowKind::ImageWell); }
+    void tryTransformForFilterKey(const Filter&, const std::string&) { measure(RowKind::Transform); }
+    void tryVectorForFilterKey(const Filter&, const std::string&) { measure(RowKind::Vector); }
+    void tryOffsetForFilterKey(const Filter&, const std::string&) { measure(RowKind::Offset); }
+    void tryImageWellForImageTag(const CIImage&, int) { measure(RowKind::ImageWell); }
     void tryTextViewForString() { } // how a text is edited is open
-    void trySliderForText();
+    void trySliderForText() { measure(RowKind::Slider); }
 
     void addFilterHeaderTagEnabled(const Filter& filter, int tag, bool enabled);
-    void addSliderForFilterKey(const Filter& filter, const std::string& key);
-    void addCheckBoxForFilterKey(const Filter& filter, const std::string& key);
-    void addColorWellForFilterKey(const Filter& filter, const std::string& key);
-    void addImageWellForFilterKey(const Filter& filter, const std::string& key);
-    void addTransformForFilterKey(const Filter& filter, const std::string& key);
-    void addVectorForFilterKey(const Filter& filter, const std::string& key);
-    void addOffsetForFilterKey(const Filter& filter, const std::string& key);
+    void addSliderForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::Slider, of, key); }
+    void addCheckBoxForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::CheckBox, of, key); }
+    void addColorWellForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::ColorWell, of, key); }
+    void addImageWellForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::ImageWell, of, key); }
+    void addTransformForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::Transform, of, key); }
+    void addVectorForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::Vector, of, key); }
+    void addOffsetForFilterKey(const Filter& of, const std::string& key) { addRow(RowKind::Offset, of, key); }
     void addImageWellForImageTag(const CIImage& image, int tag);
-    void addImageHeaderFilenameTagEnabled(const CIImage& image, const QString& filename, int tag, bool enabled);
-    void addTextHeaderTagEnabled(const QString& text, int tag, bool enabled);
-    void addTextViewForStringKey(const QString& string, const std::string& key);
+    void addImageHeaderFilenameTagEnabled(const CIImage&, const QString& name, int, bool) { addHeaderCaption(name); }
+    void addTextHeaderTagEnabled(const QString&, int, bool) { addHeaderCaption(tr("Text")); }
+    void addTextViewForStringKey(const QString&, const std::string&) { }
     void addSliderForTextKeyLoHi(
         const std::shared_ptr<CIDictionary>& dictionary, const std::string& key, float lo, float hi);
 
@@ -103,16 +103,15 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
-    using RowOperation = void (FilterView::*)(const Filter&, const std::string&);
-    struct Pass;
-    using Builder = void (ParameterView::*)(const Filter&, const std::string&, ParameterMaster&);
     struct Row {
         RowKind kind;
         QWidget* widget;
     };
 
-    void forEachRow(RowOperation Pass::*operation);
-    void addRow(RowKind kind, const Filter& filter, const std::string& key, Builder builder);
+    void forEachRow(const std::function<void(RowKind kind, const std::string& key)>& act);
+    void measure(RowKind kind) { place(kind, width()); }
+    void measureHeader();
+    void addRow(RowKind kind, const Filter& of, const std::string& key);
     void addRow(RowKind kind, const std::function<void(ParameterView&)>& build);
     void addHeaderCaption(const QString& text);
     void setTopFrame(QWidget& widget, const QRect& frame) const; // y up
