@@ -1,27 +1,13 @@
 // What the view of generated effects needs from the controller.
 #pragma once
 
-#include "platform/coreimage/CIImage.h"
+#include "widgets/CanvasMaster.h"
 
 class BaseEffect;
-class QMenu;
-class QString;
 
 /// In tests, a ten-line fake. Everything is called on the main thread.
-class CustomViewMaster {
+class CustomViewMaster : public CanvasMaster {
 public:
-    virtual ~CustomViewMaster() = default;
-
     /// The effect to show, or null for the plain picture.
     virtual BaseEffect* getCurrentCustomEffect() = 0;
-    /// The source picture; null when none is open.
-    virtual CIImage backImage() = 0;
-    /// The menu for a right click; null for none. The master keeps it.
-    virtual QMenu* contextMenu() = 0;
-    /// Adds to the zoom, as a pinch does.
-    virtual void updateZoommWithDelta(double delta) = 0;
-    /// Tells the zoom control what the view's zoom is now; doesn't come back to the view.
-    virtual void setZoom(float zoom) = 0;
-    /// Makes it the current file, and what can be read of it the picture, undoably. May take effect later.
-    virtual void takeDroppedFile(const QString& path) = 0;
 };

@@ -1,29 +1,18 @@
 #include "effects2d/customEffImageView.h"
 
 #include "effects2d/AnchoredEffect.h"
-#include "platform/foundation/Look.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "platform/imageio/PictureReader.h"
 #include "widgets/DropFileTypes.h"
-#include "widgets/PictureDrop.h"
 #include "widgets/PictureLayout.h"
-#include "widgets/PictureMenu.h"
 
 #include <cmath>
 
-#include <QContextMenuEvent>
-#include <QDragEnterEvent>
-#include <QMenu>
-#include <QMimeData>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
-
-QColor surround(const QPalette& palette)
-{
-    return (palette.color(QPalette::Window).lightness() < 128 ? Look::dark() : Look::light()).surround;
-}
 
 /// Empty when it can't be read: the anchor is then without a marker.
 QImage loadMarker()
@@ -52,7 +41,7 @@ CustomEffectsScrollView::CustomEffectsScrollView(QWidget* parent)
 }
 
 customEffImageView::customEffImageView(CanvasScrollView* scrollView)
-    : ZoomedCanvas(scrollView)
+    : PictureCanvas(scrollView, {firstDroppedFile, isAcceptableEffectPicture})
 {
     setAccessibleName(tr("Generated picture"));
     setAccessibleDescription(tr("Arrow keys move the anchor of effects that have one; the wheel zooms."));
@@ -69,13 +58,12 @@ void customEffImageView::awakeFromNib()
         &NotificationCenter::defaultCenter(), &NotificationCenter::UpdateCustomView, this, &customEffImageView::redraw);
     zoom = prev_zoom = 1;
     cursorImg = loadMarker();
-    setAcceptDrops(true);
 }
 
 void customEffImageView::setController(CustomViewMaster* master)
 {
     controller = master;
-    resizeViewBoundCenter(true, int(PictureCenter::None));
+    setMaster(master);
 }
 
 void customEffImageView::redraw() { update(); }
@@ -94,8 +82,7 @@ CIPoint customEffImageView::pictureSize() const
         const QSizeF size = current->drawImageSize();
         return {size.width(), size.height()};
     }
-    const CIRect extent = controller ? controller->backImage().extent() : CIRect();
-    return {extent.width, extent.height};
+    return PictureCanvas::pictureSize();
 }
 
 // --- drawing ---
@@ -123,12 +110,12 @@ void customEffImageView::paintEvent(QPaintEvent*)
     }
     QPainter painter(this);
     setSubpixel(painter);
-    painter.fillRect(rect(), surround(palette()));
+    painter.fillRect(rect(), surround());
     drawPicture(painter);
     if (isMousing() && (drawCursor || hasFocus()))
         drawMarker(painter);
     if (dragEnter)
-        drawCGRect(painter, rect());
+        drawCGRect(painter, QRectF(rect()).adjusted(2, 2, -2, -2));
 }
 
 void customEffImageView::drawPicture(QPainter& painter)
@@ -164,25 +151,7 @@ void customEffImageView::drawMarker(QPainter& painter) const
     painter.drawImage(anchor - QPointF(cursorImg.width() / 2.0, cursorImg.height() / 2.0), cursorImg);
 }
 
-void customEffImageView::drawCGRect(QPainter& painter, const QRectF& rect) const
-{
-    painter.setPen(QPen(QColor::fromRgbF(0.99f, 0.94f, 0.74f, 0.8f), 4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(rect.adjusted(2, 2, -2, -2));
-}
-
-// --- zoom, mouse and keys ---
-
-void customEffImageView::zoomedByWheel(float newZoom)
-{
-    if (controller)
-        controller->setZoom(newZoom);
-}
-
-void customEffImageView::pinched(double delta)
-{
-    if (controller)
-        controller->updateZoommWithDelta(delta);
-}
+// --- mouse and keys ---
 
 void customEffImageView::enterEvent(QEnterEvent*) { mouseEntered(); }
 
@@ -235,14 +204,14 @@ bool customEffImageView::event(QEvent* event)
         event->accept();
         return true;
     }
-    return ZoomedCanvas::event(event);
+    return PictureCanvas::event(event);
 }
 
 void customEffImageView::keyPressEvent(QKeyEvent* event)
 {
     auto* anchored = dynamic_cast<AnchoredEffect*>(effect());
     if (!anchored || !isArrow(event->key())) {
-        ZoomedCanvas::keyPressEvent(event);
+        PictureCanvas::keyPressEvent(event);
         return;
     }
     const double step = event->modifiers() & Qt::ShiftModifier ? 10 : 1; // picture pixels
@@ -250,39 +219,4 @@ void customEffImageView::keyPressEvent(QKeyEvent* event)
     to.x += event->key() == Qt::Key_Right ? step : event->key() == Qt::Key_Left ? -step : 0;
     to.y += event->key() == Qt::Key_Up ? step : event->key() == Qt::Key_Down ? -step : 0;
     anchored->setPositionUNDO(to);
-}
-
-void customEffImageView::contextMenuEvent(QContextMenuEvent* event)
-{
-    mouseContentMenu(pictureMenuPlace(*this, *event));
-}
-
-void customEffImageView::mouseContentMenu(const QPoint& globalPosition)
-{
-    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
-}
-
-// --- drops ---
-
-void customEffImageView::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!takeDrag(*event, firstDroppedFile(*event->mimeData()), isAcceptableEffectPicture))
-        return;
-    dragEnter = true;
-    redraw();
-}
-
-void customEffImageView::dragLeaveEvent(QDragLeaveEvent*)
-{
-    dragEnter = false;
-    redraw();
-}
-
-void customEffImageView::dropEvent(QDropEvent* event)
-{
-    dragEnter = false;
-    redraw();
-    const QString path = takeDroppedPicture(*event);
-    if (controller && !path.isEmpty())
-        controller->takeDroppedFile(path);
 }

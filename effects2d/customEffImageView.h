@@ -4,11 +4,11 @@
 #include "effects2d/CustomViewMaster.h"
 #include "platform/quartz/Drawing.h"
 #include "widgets/CanvasScrollView.h"
-#include "widgets/ZoomedCanvas.h"
+#include "widgets/PictureCanvas.h"
 
 /// Shows the current effect, or the plain picture without one, at the screen's resolution. The mouse places the anchor
 /// of effects that have one; the arrow keys move it by one picture pixel, with Shift by ten.
-class customEffImageView : public ZoomedCanvas {
+class customEffImageView : public PictureCanvas {
     Q_OBJECT
 public:
     explicit customEffImageView(CanvasScrollView* scrollView);
@@ -23,8 +23,6 @@ public:
 
 protected:
     CIPoint pictureSize() const override;
-    void zoomedByWheel(float newZoom) override;
-    void pinched(double delta) override;
     void pressed(CIPoint point) override;
     void dragged(CIPoint point) override;
     void released(CIPoint point) override;
@@ -35,27 +33,20 @@ protected:
     void enterEvent(QEnterEvent*) override;
     void leaveEvent(QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
-    void contextMenuEvent(QContextMenuEvent*) override;
-    void dragEnterEvent(QDragEnterEvent*) override;
-    void dragLeaveEvent(QDragLeaveEvent*) override;
-    void dropEvent(QDropEvent*) override;
 
 private:
     BaseEffect* effect() const;
     bool isMousing() const;
     void mouseEntered();
     void mouseExited();
-    void mouseContentMenu(const QPoint& globalPosition);
     quartz::Part visiblePart() const;
     void drawPicture(QPainter&);
     void drawMarker(QPainter&) const;
-    void drawCGRect(QPainter&, const QRectF& rect) const;
 
     CustomViewMaster* controller = nullptr;
     bool m_inited = false;
     QImage cursorImg; // the cross hair
     bool drawCursor = false; // the pointer is over the view and the effect takes the mouse
-    bool dragEnter = false; // a file that would be taken is dragged over the view
 
     CIPoint m_laidOutSize; // picture pixels that the layout was made for
     struct {

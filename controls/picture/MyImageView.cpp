@@ -3,8 +3,7 @@
 #include "controls/picture/MyImageViewPrivate.h"
 #include "controls/picture/PictureScrollView.h"
 #include "controls/picture/PointMark.h"
-#include "platform/foundation/Look.h"
-#include "widgets/PictureLayout.h"
+#include "widgets/DropFileTypes.h"
 
 #include <cmath>
 
@@ -15,22 +14,15 @@ namespace {
 
 constexpr int kPaintPatience = 12; // ms that a repaint waits for a frame that is likely to be ready by then
 
-/// Constant and neutral, so that colors are judged rightly.
-QColor surround(const QPalette& palette)
-{
-    return (palette.color(QPalette::Window).lightness() < 128 ? Look::dark() : Look::light()).surround;
-}
-
 /// Grid steps per picture pixel: the screen's resolution, but never finer than the picture.
 double gridScale(double pixelsPerPicturePixel) { return std::min(pixelsPerPicturePixel, 1.0); }
 
 } // namespace
 
 MyImageView::MyImageView(PictureScrollView* scrollView)
-    : ZoomedCanvas(scrollView)
+    : PictureCanvas(scrollView, {onlyDroppedFile, isAcceptablePictureFile})
     , d(new Private)
 {
-    setAcceptDrops(true);
     setAccessibleName(tr("Picture"));
     setAccessibleDescription(
         tr("Tab goes from point to point of the filter, arrow keys move the point; the wheel zooms."));
@@ -46,7 +38,7 @@ MyImageView::~MyImageView() { delete d->dropHighlight; }
 void MyImageView::setController(ImageViewMaster* master)
 {
     controller = master;
-    resizeViewBoundCenter(true, int(PictureCenter::None));
+    setMaster(master);
     setNeedsDisplay();
 }
 
@@ -84,12 +76,6 @@ void MyImageView::setSplit(bool split)
 bool MyImageView::isSplit() const { return !d->divider->isHidden(); }
 
 // --- layout ---
-
-CIPoint MyImageView::pictureSize() const
-{
-    const CIRect extent = controller ? controller->backImage().extent() : CIRect();
-    return {extent.width, extent.height};
-}
 
 void MyImageView::boundsResized() { d->result.changed = true; } // some results fill the bounds
 
@@ -178,7 +164,7 @@ void MyImageView::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     setSubpixel(painter);
-    painter.fillRect(rect(), surround(palette()));
+    painter.fillRect(rect(), surround());
     refreshFrames();
     drawFrames(painter);
     const bool byKeyboard = d->selected && hasFocus();

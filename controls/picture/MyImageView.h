@@ -4,7 +4,7 @@
 #include "controls/picture/ControlPoints.h"
 #include "controls/picture/FrameRenderer.h"
 #include "controls/picture/ImageViewMaster.h"
-#include "widgets/ZoomedCanvas.h"
+#include "widgets/PictureCanvas.h"
 
 #include <QPointer>
 
@@ -13,7 +13,7 @@ class PictureScrollView;
 /// Shows the controller's picture, lets points be dragged on it, and takes a dropped picture file.
 ///
 /// Points of parameters are view coordinates: picture pixels, y up.
-class MyImageView : public ZoomedCanvas {
+class MyImageView : public PictureCanvas {
     Q_OBJECT
 public:
     explicit MyImageView(PictureScrollView* scrollView);
@@ -51,9 +51,6 @@ signals:
     void frameShown();
 
 protected:
-    CIPoint pictureSize() const override;
-    void zoomedByWheel(float newZoom) override;
-    void pinched(double delta) override;
     void boundsResized() override;
     void pressed(CIPoint point) override;
     void dragged(CIPoint point) override;
@@ -70,10 +67,7 @@ protected:
     void keyReleaseEvent(QKeyEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
     bool focusNextPrevChild(bool next) override; // Tab goes from point to point
-    void contextMenuEvent(QContextMenuEvent*) override;
-    void dragEnterEvent(QDragEnterEvent*) override;
-    void dragLeaveEvent(QDragLeaveEvent*) override;
-    void dropEvent(QDropEvent*) override;
+    void draggedOver(bool over) override;
 
 private:
     struct Private;
@@ -85,7 +79,6 @@ private:
     void drawFrames(QPainter&) const;
     void drawFrame(QPainter&, const Layer& layer) const;
     void drawPoints(QPainter&) const;
-    void mouseContentMenu(const QPoint& globalPosition);
     void mouseEntered();
     void mouseExited();
     void hover(const QPointF& position);
@@ -94,7 +87,6 @@ private:
     void endChange();
     void selectPoint(std::optional<std::size_t> index);
     bool moveSelectedPoint(int key, bool far);
-    void showDropHighlight(bool shown);
 
     ImageViewMaster* controller = nullptr;
     bool movingNow = false;
@@ -102,7 +94,6 @@ private:
     std::int32_t parmIndex = -1; // 0 while a point is grabbed
     std::string parmKey;
     std::uint32_t parmMode = ParmMode::kNothing;
-    bool dragEnter = false;
 
     std::unique_ptr<Private> d;
 };

@@ -1,12 +1,8 @@
-// A picture file dropped on the picture view.
+// The frame around the window while a picture file is dragged over the view.
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/MyImageViewPrivate.h"
 #include "controls/picture/PictureScrollView.h"
-#include "controls/picture/PointMark.h"
-#include "widgets/DropFileTypes.h"
-#include "widgets/PictureDrop.h"
 
-#include <QDragEnterEvent>
 #include <QPainter>
 
 namespace {
@@ -26,7 +22,8 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        drawCGRect(painter, dropHighlightRect(rect()));
+        // Inset by 10; then the top another 8 lower, the bottom 10 higher, the right edge 15 to the left.
+        PictureCanvas::drawCGRect(painter, rect().adjusted(10, 18, -25, -20));
     }
 };
 
@@ -41,36 +38,11 @@ QWidget* highlightedArea(QWidget* widget)
 
 } // namespace
 
-void MyImageView::showDropHighlight(bool shown)
+void MyImageView::draggedOver(bool over)
 {
     delete d->dropHighlight;
-    if (!shown)
+    if (!over)
         return;
     d->dropHighlight = new DropHighlight(highlightedArea(scrollView()));
     d->dropHighlight->show();
-}
-
-void MyImageView::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!takeDrag(*event, onlyDroppedFile(*event->mimeData()), isAcceptablePictureFile))
-        return;
-    if (!dragEnter)
-        showDropHighlight(true);
-    dragEnter = true;
-}
-
-void MyImageView::dragLeaveEvent(QDragLeaveEvent*)
-{
-    dragEnter = false;
-    showDropHighlight(false);
-    update();
-}
-
-void MyImageView::dropEvent(QDropEvent* event)
-{
-    dragEnter = false;
-    showDropHighlight(false);
-    const QString path = takeDroppedPicture(*event);
-    if (controller && !path.isEmpty())
-        controller->takeDroppedFile(path);
 }

@@ -1,16 +1,13 @@
 // Mouse, wheel, pinch and keys on the picture view.
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/MyImageViewPrivate.h"
-#include "widgets/PictureMenu.h"
 
 #include <cmath>
 #include <utility>
 
-#include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QEnterEvent>
 #include <QKeyEvent>
-#include <QMenu>
 
 namespace {
 
@@ -22,20 +19,6 @@ std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
 
 } // namespace
 
-// --- zoom ---
-
-void MyImageView::zoomedByWheel(float newZoom)
-{
-    if (controller)
-        controller->setZoom(newZoom);
-}
-
-void MyImageView::pinched(double delta)
-{
-    if (controller)
-        controller->updateZoommWithDelta(delta);
-}
-
 bool MyImageView::event(QEvent* event)
 {
     if (event->type() == QEvent::ShortcutOverride) {
@@ -46,7 +29,7 @@ bool MyImageView::event(QEvent* event)
             return true;
         }
     }
-    return ZoomedCanvas::event(event);
+    return PictureCanvas::event(event);
 }
 
 // --- hover ---
@@ -109,7 +92,7 @@ void MyImageView::endChange()
 void MyImageView::hideEvent(QHideEvent* event)
 {
     endChange();
-    ZoomedCanvas::hideEvent(event);
+    PictureCanvas::hideEvent(event);
 }
 
 void MyImageView::pressed(CIPoint point)
@@ -184,7 +167,7 @@ void MyImageView::focusOutEvent(QFocusEvent* event)
         endChange();
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         selectPoint({});
-    ZoomedCanvas::focusOutEvent(event);
+    PictureCanvas::focusOutEvent(event);
 }
 
 bool MyImageView::moveSelectedPoint(int key, bool far)
@@ -241,21 +224,12 @@ void MyImageView::keyPressEvent(QKeyEvent* event)
     else if (event->key() == Qt::Key_Escape && d->selected)
         selectPoint({});
     else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
-        ZoomedCanvas::keyPressEvent(event);
+        PictureCanvas::keyPressEvent(event);
 }
 
 void MyImageView::keyReleaseEvent(QKeyEvent* event)
 {
     if (!event->isAutoRepeat() && !movingNow)
         endChange();
-    ZoomedCanvas::keyReleaseEvent(event);
-}
-
-// --- menu ---
-
-void MyImageView::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
-
-void MyImageView::mouseContentMenu(const QPoint& globalPosition)
-{
-    popUpPictureMenu(controller ? controller->contextMenu() : nullptr, globalPosition);
+    PictureCanvas::keyReleaseEvent(event);
 }

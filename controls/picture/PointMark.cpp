@@ -9,7 +9,6 @@
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
-#include <QRect>
 
 namespace {
 
@@ -68,16 +67,4 @@ void drawPointLabel(QPainter& painter, QPointF where, const QString& label)
     painter.setPen(Qt::white);
     painter.drawText(where + QPointF(3, -3) + baseline, label);
     painter.restore();
-}
-
-QRect dropHighlightRect(const QRect& area)
-{
-    // Inset by 10; then the top another 8 lower, the bottom 10 higher, the right edge 15 to the left.
-    return area.adjusted(10, 18, -25, -20);
-}
-
-void drawCGRect(QPainter& painter, const QRect& rect)
-{
-    painter.setPen(QPen(QColor::fromRgbF(0.99f, 0.94f, 0.74f, 0.8f), 4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(rect);
 }

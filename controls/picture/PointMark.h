@@ -4,7 +4,6 @@
 #include <QPointF>
 
 class QPainter;
-class QRect;
 class QString;
 
 enum class PointEmphasis {
@@ -18,7 +17,3 @@ void drawPointMark(QPainter&, QPointF where, float zoom, PointEmphasis);
 
 /// Draws the name of a point beside its mark.
 void drawPointLabel(QPainter&, QPointF where, const QString& label);
-
-/// The frame around what takes a dropped file, in a widget that is `area`.
-QRect dropHighlightRect(const QRect& area);
-void drawCGRect(QPainter&, const QRect&);
