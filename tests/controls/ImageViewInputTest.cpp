@@ -21,15 +21,6 @@ TEST_F(ImageViewTest, WheelZoomsAndTellsTheController)
     EXPECT_EQ(view.getZoom(), 10.0f);
 }
 
-TEST_F(ImageViewTest, WheelPullsTheCenterTowardTheMouse)
-{
-    open(pattern(1000, 800), 2);
-    window.setScrollPosition({600, 500}); // 300 ... 500, 250 ... 400: center 400, 325
-    wheel(120, {300, 150}); // 50 picture pixels right of the center
-    EXPECT_NEAR(view.visibleRect().center().x, 400 + 0.4 * 50, 0.01);
-    EXPECT_NEAR(view.visibleRect().center().y, 325, 0.01);
-}
-
 TEST_F(ImageViewTest, ClickGrabsTheNearestPointAndDraggingSendsValues)
 {
     open(pattern(200, 200));
@@ -126,12 +117,9 @@ TEST_F(ImageViewTest, ScrollBarsComeAndGoWithTheZoom)
     open(pattern(390, 290));
     EXPECT_EQ(view.size(), QSize(400, 300));
     view.setZoom(2);
-    QTest::qWait(20);
-    EXPECT_LT(view.width(), 400);
-    EXPECT_LT(view.height(), 300);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.width() < 400 && view.height() < 300; }));
     view.setZoom(1);
-    QTest::qWait(20);
-    EXPECT_EQ(view.size(), QSize(400, 300)) << "two bars that nothing needs don't keep each other";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.size() == QSize(400, 300); })) << "two bars that nothing needs don't keep each other";
     EXPECT_EQ(view.bounds(), (CIRect{-5, -5, 400, 300}));
 }
 
@@ -162,16 +150,6 @@ TEST_F(ImageViewTest, RightClickOpensTheMenuOfTheController)
     QApplication::sendEvent(&view, &event);
     EXPECT_TRUE(master.menu.isVisible());
     master.menu.close();
-}
-
-TEST_F(ImageViewTest, IsACanvasToAssistiveTechnology)
-{
-    view.setZoom(0.5);
-    QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(&view);
-    ASSERT_TRUE(accessible);
-    EXPECT_EQ(accessible->role(), QAccessible::Canvas);
-    EXPECT_EQ(accessible->text(QAccessible::Name), "Picture");
-    EXPECT_EQ(accessible->text(QAccessible::Value), "50 %");
 }
 
 TEST_F(ImageViewTest, ItsPointsAreThereForAssistiveTechnology)

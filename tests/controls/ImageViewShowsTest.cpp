@@ -109,7 +109,7 @@ TEST_F(ImageViewTest, AsksForThePictureOnlyAfterAChange)
     shown();
     const int asked = master.asked;
     shown();
-    QTest::qWait(100);
+    QCoreApplication::processEvents();
     EXPECT_EQ(master.asked, asked);
     view.setNeedsDisplay();
     view.setNeedsDisplay();

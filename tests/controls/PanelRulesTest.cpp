@@ -121,28 +121,6 @@ TEST(Readout, OfAFactorStandsAtItsPowerOfTen)
     EXPECT_EQ(factor.numberAt(1), 10);
 }
 
-TEST(Panel, GivesEachInputTheRowOfItsKind)
-{
-    const auto row = [](InputKind kind, const char* key = "inputThing", bool background = false) {
-        CIInputAttributes input = inputOf(key, "");
-        input.kind = kind;
-        return rowKindOf(input, background);
-    };
-    EXPECT_EQ(row(InputKind::Number), RowKind::Slider);
-    EXPECT_EQ(row(InputKind::Boolean), RowKind::CheckBox);
-    EXPECT_EQ(row(InputKind::OpaqueColor), RowKind::ColorWell);
-    EXPECT_EQ(row(InputKind::Transform), RowKind::Transform);
-    EXPECT_EQ(row(InputKind::Vector), RowKind::Vector);
-    EXPECT_EQ(row(InputKind::Offset), RowKind::Offset);
-    for (const InputKind onThePicture : {InputKind::Position, InputKind::Position3, InputKind::Rectangle})
-        EXPECT_EQ(row(onThePicture), RowKind::None);
-    EXPECT_EQ(row(InputKind::String), RowKind::None);
-    EXPECT_EQ(row(InputKind::Image), RowKind::ImageWell);
-    EXPECT_EQ(row(InputKind::Image, "inputImage"), RowKind::None);
-    EXPECT_EQ(row(InputKind::Image, "inputImage", true), RowKind::ImageWell);
-    EXPECT_EQ(row(InputKind::Image, "inputBackgroundImage", true), RowKind::None);
-}
-
 TEST(Panel, StacksRowsFromTheTopAndColorsInTwoColumns)
 {
     RowStack stack{.controlTopPosition = 490};

@@ -50,64 +50,6 @@ TEST_F(RowTest, AnglesAreShownInDegrees)
     EXPECT_TRUE(part<ValueSlider>("slider").valueText().endsWith("°"));
 }
 
-TEST_F(RowTest, DoubleClickOnTheCaptionBringsTheStandardValueBack)
-{
-    const auto blur = filterNamed("CIGaussianBlur");
-    row.addSliderForFilterKeyMaster(blur, "inputRadius", master);
-    master.standard["inputRadius"] = 10;
-    auto& caption = part<CaptionLabel>("labelTextField");
-    QTest::mouseDClick(&caption, Qt::LeftButton);
-    EXPECT_TRUE(master.log.empty()) << "it is there";
-    part<ValueSlider>("slider").moveTo(40);
-    master.log.clear();
-    QTest::mouseDClick(&caption, Qt::LeftButton);
-    EXPECT_EQ(master.log, kSentRadius);
-    EXPECT_EQ(part<ValueSlider>("slider").value(), 10);
-    EXPECT_EQ(part<ReadoutField>("readoutTextField").text(), "10.00");
-}
-
-TEST_F(RowTest, NumbersBesideEachOtherKeepTheirPlaces)
-{
-    const int field = (288 - 5 - 95) / 4;
-    row.addVectorForFilterKeyMaster(filterNamed("CIColorMatrix"), "inputGVector", master);
-    EXPECT_EQ(part<ReadoutField>("readout2TextField").text(), "1.000");
-    EXPECT_EQ(
-        part<ReadoutField>("readout4TextField").geometry(), QRect(3 * (field + 5) + 80, row.height() - 16, field, 16));
-    type(part<ReadoutField>("readout2TextField"), "2");
-    EXPECT_EQ(master.log.front(), "begin") << "all keys until Return";
-    EXPECT_EQ(master.log.back(), "end");
-}
-
-TEST_F(RowTest, TransformsAreFourLines)
-{
-    const auto filter = filterNamed("CIAffineTransform");
-    row.addTransformForFilterKeyMaster(filter, "inputTransform", master);
-    EXPECT_EQ(part<ValueSlider>("skewSlider").geometry(), QRect(80, row.height() - 16, 288 - 133, 16));
-    EXPECT_EQ(part<ReadoutField>("angleReadoutTextField").text(), "0.0");
-    part<ValueSlider>("scaleSlider").moveTo(1);
-    EXPECT_EQ(filter->valueForKey("inputTransform").toTransform(), (CIAffineTransform{10, 0, 0, 10, 0, 0}));
-    EXPECT_EQ(part<ReadoutField>("scaleReadoutTextField").text(), "10.00");
-    master.standard["inputTransform"] = CIAffineTransform();
-    QTest::keyClick(&part<ValueSlider>("skewSlider"), Qt::Key_Delete);
-    EXPECT_EQ(part<ReadoutField>("scaleReadoutTextField").text(), "1.00") << "all parts";
-}
-
-TEST_F(RowTest, TriedColorsAreSeenAndNoStep)
-{
-    const auto filter = filterNamed("CIConstantColorGenerator");
-    const CIValue before = filter->valueForKey("inputColor");
-    row.addColorWellForFilterKeyMaster(filter, "inputColor", master);
-    auto& well = part<ColorWell>("colorWell");
-    well.openPanel();
-    well.panel()->setCurrentColor(QColor(0, 255, 0, 128));
-    EXPECT_EQ(filter->valueForKey("inputColor").toColor().green(), 1);
-    const std::vector<std::string> updates(master.log.size(), "update");
-    EXPECT_TRUE(!updates.empty() && master.log == updates);
-    delete &row; // the panel may be built anew at any time
-    EXPECT_EQ(filter->valueForKey("inputColor"), before);
-    EXPECT_EQ(master.log, updates) << "the master may have gone";
-}
-
 TEST_F(RowTest, ActionsAreKnownByName)
 {
     row.addOffsetForFilterKeyMaster(filterNamed("CIColorMatrix"), "inputGVector", master);
@@ -118,19 +60,6 @@ TEST_F(RowTest, ActionsAreKnownByName)
     QMetaObject::invokeMethod(&row, "readout1DidChange");
     ASSERT_EQ(master.sent.size(), 1u);
     EXPECT_EQ(master.sent[0].toVector(), (CIVector{3, 1, 0, 0}));
-}
-
-TEST_F(RowTest, CheckBoxSendsBooleans)
-{
-    const auto filter = filterNamed("CIColorMatrix"); // any filter will do: the row asks only for the value
-    filter->setValueForKey(true, "inputRVector");
-    row.addCheckBoxForFilterKeyMaster(filter, "inputRVector", master);
-    auto& box = part<PanelCheckBox>("checkBox");
-    EXPECT_TRUE(box.isChecked());
-    QTest::mouseClick(&box, Qt::LeftButton, {}, {5, 8});
-    ASSERT_EQ(master.sent.size(), 1u);
-    EXPECT_TRUE(master.sent[0].isBoolean());
-    EXPECT_FALSE(master.sent[0].toBool());
 }
 
 TEST_F(RowTest, ImageWellTakesFilesAndKeepsItsPictureForBadOnes)

@@ -47,14 +47,6 @@ const PictureLayoutRequest kBigPicture{.clip = {300, 200, 400, 300},
 
 }
 
-TEST(LayOutPicture, KeepsTheCenterWithoutAMouse)
-{
-    const PictureLayout layout = layOutPicture(kBigPicture);
-    EXPECT_EQ(layout.frameSize, (CIPoint{2000, 1800}));
-    ASSERT_TRUE(layout.scrollTo);
-    EXPECT_EQ(*layout.scrollTo, (CIPoint{500 - 100, 350 - 75}));
-}
-
 TEST(LayOutPicture, PullsTheCenterTowardTheMouseByTheDifferenceOfTheZooms)
 {
     PictureLayoutRequest r = kBigPicture;

@@ -32,28 +32,3 @@ TEST(Halftones, KeepTheMeanLightOfGrays)
         }
 }
 
-TEST(Halftones, AreBlackAndWhiteAtFullSharpness)
-{
-    const auto f = filter("CIDotScreen", flat({0.4, 0.4, 0.4, 1}, 120, 120));
-    f->setValueForKey(1.0, "inputSharpness");
-    f->setValueForKey(40.0, "inputWidth");
-    const CIBitmap out = rendered(f->outputImage(), {0, 0, 120, 120});
-    int between = 0;
-    for (int y = 0; y < 120; ++y)
-        for (int x = 0; x < 120; ++x)
-            between += at(out, x, y, 0) > 0.01f && at(out, x, y, 0) < 0.99f;
-    EXPECT_LT(between, 120 * 120 / 8); // the smoothed rims alone
-}
-
-TEST(Halftones, LeaveBlackAndWhiteAlone)
-{
-    for (const std::string& name : kScreens) {
-        SCOPED_TRACE(name);
-        for (const double gray : {0.0, 1.0}) {
-            const auto f = filter(name, flat({gray, gray, gray, 1}, 60, 60));
-            f->setValueForKey(1.0, "inputSharpness");
-            f->setValueForKey(12.0, "inputWidth");
-            EXPECT_NEAR(meanLight(rendered(f->outputImage(), {0, 0, 60, 60})), gray, 0.03);
-        }
-    }
-}

@@ -22,43 +22,6 @@ int difference(QRgb a, QRgb b)
         std::abs(qAlpha(a) - qAlpha(b))});
 }
 
-TEST(EffectsList, HasEightEffectsInOrder)
-{
-    const auto list = customEffectPrototypes();
-    const std::vector<std::array<std::string, 3>> expected{
-        {"simpleEffects", "Simple Objects", "Simple Objects Generator"},
-        {"linesEffect", "Lines Effect", "Lines Effect Generator"},
-        {"hilbertLinesEffect", "Hilbert Lines", "Hilbert Lines Effect Generator"},
-        {"patchWorkEffect", "Patch Works", "Patch Works Effect Generator"},
-        {"flareEffect", "Flare Effect", "Flare Effect Generator"},
-        {"plasmaEffect", "Plasma Effect", "Plasma Effect Generator"},
-        {"patMorphingEffect", "Pattern Morphing", "Pattern Morphing Effect Generator"},
-        {"sketchEffect", "Sketch Effect", "Sketch Effect Generator"}};
-    ASSERT_EQ(list.size(), expected.size());
-    for (std::size_t i = 0; i < list.size(); ++i) {
-        EXPECT_EQ(list[i]->className(), expected[i][0]);
-        EXPECT_EQ(list[i]->myname(), expected[i][1]);
-        EXPECT_EQ(list[i]->tips(), expected[i][2]);
-        EXPECT_EQ(list[i]->isMousing(), i == kLines || i == kFlare || i == kMorphing);
-    }
-}
-
-TEST(BaseEffect, StoresItsNameAnchorAndClass)
-{
-    auto effect = std::make_shared<BaseEffect>();
-    effect->read({{"Name", "one"}, {"startPT.x", 0.1}, {"startPT.y", -7.5}, {"other", 3}});
-    effect->setTips("two");
-    const CIDictionary saved = effect->save();
-    EXPECT_EQ(saved,
-        (CIDictionary{
-            {"Name", "one"}, {"Tips", "two"}, {"startPT.x", 0.1f}, {"startPT.y", -7.5f}, {"class", "BaseEffect"}}));
-    const auto copy = effect->mycopy();
-    EXPECT_EQ(copy->myname(), "one");
-    EXPECT_EQ(copy->tips(), "two");
-    EXPECT_EQ(copy->startPoint(), CIPoint());
-    EXPECT_TRUE(copy->getDrawImage().isNull());
-}
-
 TEST(EffectsList, MakesEffectsFromWhatTheyStored)
 {
     const auto list = customEffectPrototypes();

@@ -108,22 +108,6 @@ TEST_F(CustomViewTest, IsDrawnAnewWhenAnEffectSaysSo)
     EXPECT_NE(shown(), before);
 }
 
-TEST_F(CustomViewTest, StepsTheZoomWithTheWheel)
-{
-    master.picture = plainPicture(1000, 800, 0xff204060);
-    view.resizeViewBoundCenter(true, 3);
-    wheel(120, {200, 150});
-    EXPECT_EQ(view.getZoom(), 1.05f);
-    wheel(120, {200, 150});
-    EXPECT_FLOAT_EQ(view.getZoom(), 1.26f);
-    view.setZoom(0.12f);
-    wheel(-120, {200, 150});
-    EXPECT_EQ(view.getZoom(), 0.1f);
-    EXPECT_EQ(master.zooms.size(), 3u);
-    view.setZoom(50);
-    EXPECT_EQ(view.getZoom(), 10);
-}
-
 TEST_F(CustomViewTest, PlacesTheAnchorInPicturePixelsAtAnyZoom)
 {
     master.picture = plainPicture(800, 600, 0xff204060);
@@ -178,20 +162,6 @@ TEST_F(CustomViewTest, MarksTheAnchorWhileTheMouseIsThere)
     select(kPlasma);
     enter();
     EXPECT_FALSE(view.drawsCursor());
-}
-
-TEST_F(CustomViewTest, MovesThePictureWithTheMiddleButton)
-{
-    master.picture = plainPicture(2000, 1000, 0xff204060);
-    select(kLines);
-    shown();
-    const CIRect before = view.visibleRect();
-    QTest::mousePress(&view, Qt::MiddleButton, {}, {200, 150});
-    moveMouse({150, 170}, Qt::MiddleButton);
-    QTest::mouseRelease(&view, Qt::MiddleButton, {}, {150, 170});
-    EXPECT_EQ(view.visibleRect().x, before.x + 50);
-    EXPECT_EQ(view.visibleRect().y, before.y + 20);
-    EXPECT_FALSE(master.undo.canUndo());
 }
 
 TEST_F(CustomViewTest, TakesDroppedPictures)

@@ -85,29 +85,6 @@ TEST(Pasteboard, OffersAPictureOfAnyTypeButNoText)
     EXPECT_TRUE(Pasteboard::bestPictureType({"text/uri-list"}).isEmpty());
 }
 
-double contrast(const QColor& a, const QColor& b)
-{
-    const auto luminance = [](const QColor& c) {
-        const auto linear = [](double v) { return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-        return 0.2126 * linear(c.redF()) + 0.7152 * linear(c.greenF()) + 0.0722 * linear(c.blueF());
-    };
-    const double la = luminance(a), lb = luminance(b);
-    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
-}
-
-TEST(Look, IsReadable)
-{
-    for (const Look& look : {Look::light(), Look::dark()}) {
-        for (const QColor& back : {look.window, look.panel, look.field, look.button, look.hover}) {
-            EXPECT_GE(contrast(look.text, back), 4.5);
-            EXPECT_GE(contrast(look.secondaryText, back), 4.5);
-            EXPECT_GE(contrast(look.accentMark, back), 3.0);
-        }
-        EXPECT_GE(contrast(look.accentText, look.accent), 4.5);
-        EXPECT_FALSE(styleSheetOf(look).contains('@')) << "a color without a value";
-    }
-}
-
 TEST(Appearance, FollowsTheDesktopUnlessTheUserChose)
 {
     Appearance& appearance = Appearance::shared();

@@ -19,12 +19,6 @@ double contrast(const QColor& a, const QColor& b)
     return (std::max(one, other) + 0.05) / (std::min(one, other) + 0.05);
 }
 
-TEST(Contrast, IsThatOfTheGuidelines)
-{
-    EXPECT_NEAR(contrast(Qt::black, Qt::white), 21, 1e-6);
-    EXPECT_NEAR(contrast(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.005);
-}
-
 class LookTest : public testing::TestWithParam<const Look*> { };
 
 INSTANTIATE_TEST_SUITE_P(Both, LookTest, testing::Values(&Look::light(), &Look::dark()),

@@ -61,27 +61,6 @@ TEST(StripPaging, StepsTowardsItemsThatAreHardlySeen)
     EXPECT_EQ(strip.stepToShow(2, origin - 26, width), 0) << "half of it is enough";
 }
 
-TEST(StripAnimation, SwingsBeyondTheTargetAndSettlesOnIt)
-{
-    struct Case {
-        double documentWidth;
-        int steps, ticks;
-        double farthest;
-    };
-    // 8 steps of 1/8 and two more before the last tick; 13 steps and three more.
-    for (const Case& c : {Case{300, 8, 10, 9 / 8.0}, Case{301, 13, 16, 15 / 13.0}}) {
-        StripAnimation animation(100, 151, c.documentWidth, 200);
-        std::vector<double> places;
-        while (!animation.isDone())
-            places.push_back(animation.tick());
-        ASSERT_EQ(places.size(), std::size_t(c.steps + c.steps / 5 + 1));
-        EXPECT_DOUBLE_EQ(places[0], 100 + 51.0 / c.steps);
-        EXPECT_NEAR(places[std::size_t(c.steps) - 1], 151, 1e-9);
-        EXPECT_NEAR(places[places.size() - 2], 151 + 51.0 / c.steps * (c.steps / 5), 1e-9);
-        EXPECT_EQ(places.back(), 151);
-    }
-}
-
 TEST(ScrollerLayout, KnobFollowsProportionAndPosition)
 {
     ScrollerLayout parts{.length = 224, .arrow = 12, .minKnob = 20, .proportion = 0.25, .position = 0};
