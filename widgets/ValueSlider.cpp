@@ -1,7 +1,6 @@
 #include "widgets/ValueSlider.h"
 
 #include "platform/foundation/Appearance.h"
-#include "widgets/AccessibleValueSlider.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +27,7 @@ constexpr double kWheelNotch = 120; // eighths of a degree: one click of an ordi
 ValueSlider::ValueSlider(QWidget* parent)
     : QWidget(parent)
 {
-    installAccessibleValueSlider();
+    installAccessibleValue();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_Hover);
 }
@@ -60,7 +59,7 @@ void ValueSlider::moveTo(double value)
         return;
     setValue(value);
     emit valueChanged();
-    notifyAccessibleValueSlider(this);
+    notifyValue(this, m_value);
 }
 
 double ValueSlider::singleStep() const

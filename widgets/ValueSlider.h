@@ -1,6 +1,8 @@
 // The slider of the panel.
 #pragma once
 
+#include "widgets/AccessibleValue.h"
+
 #include <optional>
 
 #include <QWidget>
@@ -11,7 +13,7 @@
 /// A press on the track jumps there. Shift makes a drag ten times finer, as it makes the steps of arrow keys and wheel.
 /// Page keys go ten steps, Home and End to the ends, Delete asks for the standard value. The wheel is left to a panel
 /// that scrolls unless the slider has the focus. An empty range disables it.
-class ValueSlider : public QWidget {
+class ValueSlider : public QWidget, public AccessibleValue {
     Q_OBJECT
 public:
     explicit ValueSlider(QWidget* parent = nullptr);
@@ -32,7 +34,9 @@ public:
     double singleStep() const;
     /// What assistive technology says.
     void setValueText(const QString& text) { m_valueText = text; }
-    const QString& valueText() const { return m_valueText; }
+    QString valueText() const override { return m_valueText; }
+    Range valueRange() const override { return {m_value, m_minimum, m_maximum, singleStep()}; }
+    void takeValue(double value) override { moveTo(value); }
 
     QSize sizeHint() const override { return {120, 16}; }
 

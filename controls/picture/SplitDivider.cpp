@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QAccessible>
-#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -20,48 +18,12 @@ constexpr int kGripAboveBottom = 40; // not in the middle, where filters have th
 constexpr double kStep = 0.01;
 constexpr double kFarStep = 0.1;
 
-class AccessibleSplitDivider : public QAccessibleWidget, public QAccessibleValueInterface {
-public:
-    explicit AccessibleSplitDivider(SplitDivider* divider)
-        : QAccessibleWidget(divider, QAccessible::Slider)
-        , m_divider(divider)
-    {
-    }
-
-    void* interface_cast(QAccessible::InterfaceType type) override
-    {
-        if (type == QAccessible::ValueInterface)
-            return static_cast<QAccessibleValueInterface*>(this);
-        return QAccessibleWidget::interface_cast(type);
-    }
-    QString text(QAccessible::Text type) const override
-    {
-        return type == QAccessible::Value ? m_divider->valueText() : QAccessibleWidget::text(type);
-    }
-
-    QVariant currentValue() const override { return m_divider->place(); }
-    void setCurrentValue(const QVariant& value) override { m_divider->setPlace(value.toDouble()); }
-    QVariant maximumValue() const override { return 1.0; }
-    QVariant minimumValue() const override { return 0.0; }
-    QVariant minimumStepSize() const override { return kStep; }
-
-private:
-    SplitDivider* m_divider;
-};
-
-QAccessibleInterface* accessibleSplitDivider(const QString&, QObject* object)
-{
-    auto* divider = qobject_cast<SplitDivider*>(object);
-    return divider ? new AccessibleSplitDivider(divider) : nullptr;
-}
-
 } // namespace
 
 SplitDivider::SplitDivider(QWidget* view)
     : QWidget(view)
 {
-    static const bool accessible = (QAccessible::installFactory(accessibleSplitDivider), true);
-    Q_UNUSED(accessible);
+    installAccessibleValue();
     setCursor(Qt::SplitHCursor);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Divider"));
@@ -79,12 +41,13 @@ void SplitDivider::setPlace(double place)
     if (place == std::exchange(m_place, place))
         return;
     followView();
-    QAccessibleValueChangeEvent event(this, place);
-    QAccessible::updateAccessibility(&event);
+    notifyValue(this, place);
     emit moved();
 }
 
 int SplitDivider::lineX() const { return int(std::lround(m_place * parentWidget()->width())); }
+
+AccessibleValue::Range SplitDivider::valueRange() const { return {m_place, 0, 1, kStep}; }
 
 QString SplitDivider::valueText() const { return tr("%1 %").arg(std::lround(m_place * 100)); }
 

@@ -1,6 +1,8 @@
 // The line between the picture without the filter and the result.
 #pragma once
 
+#include "widgets/AccessibleValue.h"
+
 #include <QWidget>
 
 #include <optional>
@@ -9,7 +11,7 @@
 /// left and right, with Shift ten times as far, Home and End.
 ///
 /// The line is drawn by the view, under the marks of points; this is the grip and what takes the mouse.
-class SplitDivider : public QWidget {
+class SplitDivider : public QWidget, public AccessibleValue {
     Q_OBJECT
 public:
     explicit SplitDivider(QWidget* view);
@@ -26,7 +28,9 @@ public:
     /// The view has changed size.
     void followView();
 
-    QString valueText() const;
+    Range valueRange() const override;
+    QString valueText() const override;
+    void takeValue(double value) override { setPlace(value); }
 
 signals:
     void moved();
