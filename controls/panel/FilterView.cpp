@@ -3,8 +3,6 @@
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/ParameterView.h"
 
-#include <map>
-
 #include <QPainter>
 
 namespace {
@@ -14,23 +12,6 @@ constexpr int kFilterHeader = 10; // points above the first row
 constexpr int kMeasuredHeader = 46; // above the first row while measuring, and below a caption
 constexpr int kTrim = 3;
 constexpr int kBottomMargin = 12;
-
-using Builder = void (ParameterView::*)(const ParameterView::Filter&, const std::string&, ParameterMaster&);
-
-/// What builds the row of a kind.
-Builder builderOf(RowKind kind)
-{
-    static const std::map<RowKind, Builder> builders = {
-        {RowKind::Slider, &ParameterView::addSliderForFilterKeyMaster},
-        {RowKind::CheckBox, &ParameterView::addCheckBoxForFilterKeyMaster},
-        {RowKind::ColorWell, &ParameterView::addColorWellForFilterKeyMaster},
-        {RowKind::ImageWell, &ParameterView::addImageWellForFilterKeyMaster},
-        {RowKind::Transform, &ParameterView::addTransformForFilterKeyMaster},
-        {RowKind::Vector, &ParameterView::addVectorForFilterKeyMaster},
-        {RowKind::Offset, &ParameterView::addOffsetForFilterKeyMaster},
-    };
-    return builders.at(kind);
-}
 
 } // namespace
 
@@ -106,7 +87,7 @@ void FilterView::addRow(RowKind kind, const std::function<void(ParameterView&)>&
 
 void FilterView::addRow(RowKind kind, const Filter& of, const std::string& key)
 {
-    addRow(kind, [&](ParameterView& row) { (row.*builderOf(kind))(of, key, *master); });
+    addRow(kind, [&](ParameterView& row) { row.addRowForFilterKeyMaster(kind, of, key, *master); });
 }
 
 void FilterView::addFilterHeaderTagEnabled(const Filter&, int, bool)

@@ -10,6 +10,7 @@
 #include "widgets/ValueSlider.h"
 
 #include <cstdio>
+#include <map>
 #include <utility>
 
 #include <QContextMenuEvent>
@@ -19,6 +20,22 @@
 #include <QTextEdit>
 
 // --- what all rows have in common ---
+
+void ParameterView::addRowForFilterKeyMaster(
+    RowKind kind, const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
+{
+    using Builder = void (ParameterView::*)(const Filter&, const std::string&, ParameterMaster&);
+    static const std::map<RowKind, Builder> builders = {
+        {RowKind::Slider, &ParameterView::addSliderForFilterKeyMaster},
+        {RowKind::CheckBox, &ParameterView::addCheckBoxForFilterKeyMaster},
+        {RowKind::ColorWell, &ParameterView::addColorWellForFilterKeyMaster},
+        {RowKind::ImageWell, &ParameterView::addImageWellForFilterKeyMaster},
+        {RowKind::Transform, &ParameterView::addTransformForFilterKeyMaster},
+        {RowKind::Vector, &ParameterView::addVectorForFilterKeyMaster},
+        {RowKind::Offset, &ParameterView::addOffsetForFilterKeyMaster},
+    };
+    (this->*builders.at(kind))(newFilter, newKey, newMaster);
+}
 
 ValueBinding ParameterView::bind(const Filter& newFilter, const std::string& newKey, ParameterMaster& newMaster)
 {

@@ -1,6 +1,7 @@
 // One row of the panel: the control for one input of a filter.
 #pragma once
 
+#include "controls/panel/PanelLayout.h"
 #include "controls/panel/ParameterMaster.h"
 #include "controls/panel/ParameterText.h"
 #include "controls/rows/ImageRow.h"
@@ -34,6 +35,8 @@ public:
     using QWidget::QWidget;
 
     using Filter = std::shared_ptr<CIFilter>;
+    /// The builder of that kind.
+    void addRowForFilterKeyMaster(RowKind kind, const Filter& filter, const std::string& key, ParameterMaster& master);
     void addSliderForFilterKeyMaster(const Filter& filter, const std::string& key, ParameterMaster& master);
     void addCheckBoxForFilterKeyMaster(const Filter& filter, const std::string& key, ParameterMaster& master);
     void addColorWellForFilterKeyMaster(const Filter& filter, const std::string& key, ParameterMaster& master);
