@@ -3,6 +3,8 @@
 
 #include "app/catalogue/FilterCatalogue.h"
 #include "app/catalogue/FilterMaker.h"
+#include "app/commands/Commands.h"
+#include "app/document/BitmapDescription.h"
 #include "app/document/Clipboard.h"
 #include "app/document/Cropping.h"
 #include "app/document/Document.h"
@@ -18,7 +20,12 @@
 #include "app/modes/ParameterChanges.h"
 #include "app/modes/StandardMode.h"
 #include "app/modes/ThreeDMode.h"
-#include "app/window/Sight.h"
+#include "app/window/AboutWindow.h"
+#include "app/window/Closing.h"
+#include "app/window/Comparing.h"
+#include "app/window/HelpWindow.h"
+#include "app/window/MainWindow.h"
+#include "app/window/OpeningView.h"
 #include "app/window/StatusRow.h"
 #include "app/window/Zooming.h"
 #include "controls/panel/BezelStyle.h"
@@ -30,23 +37,19 @@
 #include "files/ImageInfo.h"
 #include "files/ResizePanel.h"
 #include "platform/chain/FilterChain.h"
+#include "platform/foundation/Appearance.h"
 
 #include <QAction>
 #include <QObject>
 #include <QPointer>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
-#include <optional>
 
-class MainWindow;
 class MyImageView;
 class MyOGLView;
 class OutlineView;
 class QAbstractButton;
-class QLabel;
-class QSessionManager;
 class customEffImageView;
 
 namespace Ui {
@@ -68,13 +71,14 @@ class Controller : public QObject,
 
 public:
     using enum ModeSwitch::FilterMode;
-    enum class TerminateReply { Now, Cancel };
+    using TerminateReply = Closing::TerminateReply;
+    using BitmapDescription = ::BitmapDescription;
 
     explicit Controller(MainWindow& window);
     ~Controller() override;
 
     static Controller* mainController();
-    static bool isDarkMode();
+    static bool isDarkMode() { return Appearance::shared().isDark(); }
 
     /// Start-up, once the window's interface is there.
     void awakeFromNib();
@@ -87,7 +91,7 @@ public:
     void escapeEffect();
     void clearAll() { m_modes.current().clear(); }
     void clearAllAndUpdate() { m_modes.clearAllAndUpdate(); }
-    void onAppearanceChanged();
+    void onAppearanceChanged() { m_modes.appearanceChanged(); }
     bool hasCurrentItem() const { return m_modes.current().hasItem(); }
 
     // Lists
@@ -151,12 +155,8 @@ public:
     void randomizeInputs() { m_standard.randomizeInputs(); }
     bool hasInputsToSet(bool randomly) const { return m_standard.hasInputsToSet(randomly); }
     UndoManager* undoManager() override { return &m_undoManager; }
-    void undo() { goInUndoHistory(-1); }
-    void redo() { goInUndoHistory(1); }
-
-    // All steps in a menu: ControllerUndoHistory.cpp
-    /// So many redos, or undos when negative; fewer when there are no more.
-    void goInUndoHistory(int moves);
+    void undo() { m_document.goInHistory(-1); }
+    void redo() { m_document.goInHistory(1); }
 
     // The panel
     void updateFilterControls(int tag) { m_standard.updateFilterControls(tag); }
@@ -164,7 +164,7 @@ public:
     bool isControlsPresent() override { return m_standard.isControlsPresent(); }
     void changeControlsStyle(QWidget* view) { squareButtons(*view); }
 
-    // Edits and zoom: ControllerEdits.cpp
+    // Edits and zoom
     void rotateLeft() { rotateImage(true); }
     void rotateRight() { rotateImage(false); }
     void flipHorizont() { flipImage(false); }
@@ -184,22 +184,20 @@ public:
     void updateZoommWithDelta(double delta) override { m_zooming.zoomBy(delta); }
 
     // Before and after
-    bool canCompare() const { return m_standard.canCompare(); }
-    CIImage comparedImage() override { return m_standard.comparedImage(); }
+    bool canCompare() const { return m_comparing.isPossible(); }
+    CIImage comparedImage() override { return m_comparing.comparedImage(); }
     void compareOpened(); // or no longer, as the menu item says
-    void compare(bool held) { m_standard.compare(held); }
-    void splitView(); // as the menu item says
+    void compare(bool held) { m_comparing.compare(held); }
+    void splitView() { m_comparing.split(); }
 
-    // Files: ControllerFiles.cpp
-    void openImg();
+    // Files
+    void openImg() { m_opening.runPanel(m_window); }
     void openImgPanelDidEnd(int returnCode, const QStringList& files) { m_opening.panelDidEnd(returnCode, files); }
     void setFilePath(const QString& path) { m_document.setFilePath(path); } // empty for none
     QString getFilePath() const { return m_document.filePath(); }
-    void updateWinTitle();
-    void showReadFailure(const QString& path) override;
+    void updateWinTitle() { m_window.showTitle(m_document.filePath(), m_document.mayLoseWork()); }
+    void showReadFailure(const QString& path) override { m_status.showReadFailure(path); }
     QStringList pictureNameFilters() override { return Opening::nameFilters(); }
-
-    // Opening: ControllerOpening.cpp
     void openFile(const QString& path) { m_opening.open(path); }
     void revertToOpenedFile() { m_opening.revert(); }
     void openDroppedFile(const QString& path) { m_opening.openDropped(path, true); }
@@ -209,7 +207,7 @@ public:
     bool isOpening() const { return m_document.state() == Document::State::Opening; }
     void readImage(const QString& path, std::function<void(const CIImage&)> take) override;
 
-    // Export: ControllerExport.cpp
+    // Saving and exporting
     void initExportFormats() { m_saving.initExportFormats(); }
     void saveImg() { m_saving.save(); }
     void saveImgAs() { runSavePanel(); }
@@ -228,15 +226,7 @@ public:
     CIImage getImage(bool) const { return m_document.picture(); }
     /// The pixels of the source picture, top row first; null without one.
     CIBitmap getCGImage();
-    struct BitmapDescription {
-        float width, height; // px
-        int bitsPerPixel, bitsPerSample;
-        std::size_t bytesPerRow;
-        const std::byte* pixels;
-        const CIBitmap* bitmap; // which the caller keeps
-    };
-    /// Leaves the description as it is for a null bitmap.
-    static void getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& description);
+    static void getBitmapBmpBitmap(const CIBitmap& bitmap, BitmapDescription& to) { describeBitmap(bitmap, to); }
 
     // Favourites
     /// Of the current mode.
@@ -253,8 +243,8 @@ public:
     void removeFavorites(onlyTextClosedButton* sender) { m_standard.removeFavourite(sender); }
     void removeFavorites3D(onlyTextClosedButton* sender) { m_threeD.removeFavourite(sender); }
     void removeFavoritesCustom(onlyTextClosedButton* sender) { m_custom.removeFavourite(sender); }
-    void saveFavorites();
-    void readFavorites();
+    void saveFavorites() { m_modes.saveFavourites(); }
+    void readFavorites() { m_modes.readFavourites(); }
     void saveFavoritesCI() { m_standard.favourites().save(); }
     void readFavoritesCI() { m_standard.favourites().read(); }
     void saveFavorites3D() { m_threeD.favourites().save(); }
@@ -262,39 +252,39 @@ public:
     void saveFavoritesCustom() { m_custom.favourites().save(); }
     void readFavoritesCustom() { m_custom.favourites().read(); }
 
-    // Buttons, menus and views: ControllerMenus.cpp
+    // Buttons, menus and views
     void updateView() override { m_modes.current().updateView(); }
     void updateLayout() { m_standard.updateLayout(); }
     void updateMainBtnState();
     /// Enables, names and ticks the item; answers whether it is enabled.
-    bool validateMenuItem(QAction& item);
-    void validateMenuItems();
+    bool validateMenuItem(QAction& item) { return m_window.commands().validate(item); }
+    void validateMenuItems() { m_window.commands().validateAll(); }
     MainWindow& window() { return m_window; }
     QMenu* contextMenu() override { return contentMenuOutlet; }
-    void showInfoPanel(); // or hides it, when it is there already
-    void showResizePanel();
-    bool isInfoPanelShown() const;
-    bool isResizePanelShown() const;
+    // Shown, or hidden when they are there already
+    void showInfoPanel() { MainWindow::togglePanel(*infoPanel); }
+    void showResizePanel() { MainWindow::togglePanel(*m_resizePanel); }
+    bool isInfoPanelShown() const { return infoPanel && infoPanel->isVisible(); }
+    bool isResizePanelShown() const { return m_resizePanel && m_resizePanel->isVisible(); }
     void fillRecentMenu(QMenu& menu);
     void fillUndoHistoryMenu(QMenu& menu);
-    void displayHelp();
-    void orderFrontAboutPanel();
+    void displayHelp() { HelpWindow::show(m_window); }
+    void orderFrontAboutPanel() { AboutWindow(&m_window).exec(); }
 
-    // Window and application: ControllerWindow.cpp
-    bool windowShouldClose() const;
-    bool closesWindow(); // or says why not, or asks
-    void windowWillClose();
-    void windowDidResize();
+    // Window and application
+    bool windowShouldClose() const { return m_closing.windowShouldClose(); }
+    bool closesWindow() { return m_closing.closesWindow(); } // or says why not, or asks
+    void windowWillClose() { m_closing.windowWillClose(); }
+    void windowDidResize() { m_modes.windowResized(); }
     void windowDidUpdate() { m_standard.rebuildPanelIfNeeded(); }
-    void windowDidBecomeVisible();
+    void windowDidBecomeVisible() { m_zooming.fit(); } // only now the picture's area has its size
     void keyUp(int key);
     void applicationDidFinishLaunching();
-    void applicationDidBecomeActive();
-    TerminateReply applicationShouldTerminate();
-    void applicationWillTerminate();
-    void terminate();
-    /// The same question as when the window closes, if it may be asked; false when the desktop's session is to go on.
-    bool desktopSessionEnds(const std::function<bool()>& mayAsk);
+    void applicationDidBecomeActive() { updateMainBtnState(); }
+    TerminateReply applicationShouldTerminate() { return m_closing.applicationShouldTerminate(); }
+    void applicationWillTerminate() { m_closing.applicationWillTerminate(); }
+    void terminate() { m_closing.terminate(); }
+    bool desktopSessionEnds(const std::function<bool()>& mayAsk) { return m_closing.desktopSessionEnds(mayAsk); }
 
     Document& document() { return m_document; }
     bool wasChanged() const { return m_document.wasChanged(); }
@@ -302,24 +292,11 @@ public:
     Session& session() { return m_session; }
 
 private:
-    void connectOpening();
-    int reducedSide() const;
-    QString openingText(const QString& path) const;
-    void showOpening();
-    void hideOpening();
-    void setEditable(bool on);
-    void commitData(QSessionManager& session);
-    void saveEdits(SessionState& state, const CIImage& picture);
-    void restoreEdits(const SessionState& state);
-    void connectInterface();
-    void restoreWindowFrame();
-    void showZoomOfMode();
-    void showMessage(const QString& text) { m_status.showMessage(text); }
     void connectDocument();
+    void connectInterface();
     void showPicture();
     void showItem();
     void pathChanged();
-    void showPanel(QWidget& panel);
 
     MainWindow& m_window;
     Ui::MainWindow& ui;
@@ -352,6 +329,7 @@ private:
     CustomMode m_custom;
     ModeSwitch m_modes;
     Zooming m_zooming;
-
-    std::vector<Sight> m_sights; // of the former picture, while a reduced one stands in for the new one
+    Comparing m_comparing;
+    OpeningView m_openingView;
+    Closing m_closing;
 };

@@ -167,6 +167,18 @@ void Document::startWork(
         });
 }
 
+void Document::goInHistory(int moves)
+{
+    if (!isIdle() || moves == 0)
+        return;
+    if (moves < 0)
+        m_undoManager.undo();
+    else
+        m_undoManager.redo();
+    emit wentInHistory();
+    whenIdle([this, rest = moves < 0 ? moves + 1 : moves - 1] { goInHistory(rest); });
+}
+
 void Document::whenIdle(std::function<void()> action)
 {
     m_waiting.push_back(std::move(action));

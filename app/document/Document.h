@@ -105,6 +105,8 @@ public:
             options, [result, make = std::move(make)](WorkControl& control) { *result = make(control); },
             [result, then = std::move(then)](bool isCancelled) { then(std::move(*result), isCancelled); });
     }
+    /// So many redos, or undos when negative; fewer when there are no more. Each may take time.
+    void goInHistory(int moves);
     /// At once if the document is idle, or else as soon as it is, one after the other.
     void whenIdle(std::function<void()> action);
 
@@ -113,6 +115,7 @@ signals:
     void pathChanged();
     void changedMarkChanged();
     void stateChanged();
+    void wentInHistory();
     /// An undo step is about to hold on to the present picture.
     void aboutToKeepPicture();
     /// To be shown to the user for a while.

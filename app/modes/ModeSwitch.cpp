@@ -1,9 +1,14 @@
 #include "app/modes/ModeSwitch.h"
 
+#include "app/document/SessionFolder.h"
 #include "platform/foundation/UndoManager.h"
+#include "widgets/DocPageControl.h"
 #include "widgets/GradientButton.h"
+#include "widgets/ZoomedCanvas.h"
 
 #include <QStackedWidget>
+
+#include <algorithm>
 
 ModeSwitch::ModeSwitch(std::array<Mode*, 3> modes, std::vector<QStackedWidget*> pages, UndoManager& undoManager)
     : m_modes(modes)
@@ -58,5 +63,57 @@ void ModeSwitch::showCurrent()
 void ModeSwitch::clearAllAndUpdate()
 {
     current().clear();
+    emit itemChanged();
+}
+
+// --- all modes ---
+
+void ModeSwitch::saveFavourites()
+{
+    for (Mode* mode : m_modes)
+        mode->favourites().save();
+}
+
+void ModeSwitch::readFavourites()
+{
+    for (Mode* mode : m_modes)
+        mode->favourites().read();
+}
+
+void ModeSwitch::pictureChanged()
+{
+    for (Mode* mode : m_modes)
+        mode->pictureChanged();
+}
+
+void ModeSwitch::appearanceChanged()
+{
+    for (Mode* mode : m_modes)
+        mode->appearanceChanged();
+    current().updateView();
+}
+
+void ModeSwitch::windowResized()
+{
+    for (const Mode* mode : m_modes) {
+        mode->strip().liveResizeDone();
+        if (ZoomedCanvas* canvas = mode->canvas())
+            canvas->resizeViewBoundCenter(true, 3);
+    }
+}
+
+void ModeSwitch::save(SessionState& state, const CIImage& picture) const
+{
+    state.values["mode"] = double(filerMode());
+    for (const Mode* mode : m_modes)
+        mode->save(state, picture);
+}
+
+void ModeSwitch::restore(const SessionState& state)
+{
+    selectMenuMode(1 + int(std::clamp(state.value("mode").toDouble(), 0.0, 2.0)));
+    for (Mode* mode : m_modes)
+        mode->restore(state);
+    showCurrent();
     emit itemChanged();
 }

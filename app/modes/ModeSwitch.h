@@ -31,6 +31,17 @@ public:
     void showCurrent();
     void clearAllAndUpdate();
 
+    // --- all modes ---
+
+    void saveFavourites();
+    void readFavourites();
+    void pictureChanged();
+    void appearanceChanged();
+    void windowResized();
+    /// Which mode is on, and what is edited in each.
+    void save(SessionState& state, const CIImage& picture) const;
+    void restore(const SessionState& state);
+
 signals:
     /// The current mode was brought to the front.
     void shown();

@@ -30,17 +30,6 @@ CIImage movedToOrigin(const CIImage& image)
     return extent.isInfinite() ? CIImage() : image.transformed(CIAffineTransform::translation(-extent.x, -extent.y));
 }
 
-/// As large as it can be in the middle of `place`.
-CIImage fittedInto(const CIImage& image, const CIRect& place)
-{
-    const CIRect extent = image.extent();
-    if (extent == place || extent.isInfinite() || extent.isEmpty())
-        return image;
-    const double scale = std::min(place.width / extent.width, place.height / extent.height);
-    return image.transformed({scale, 0, 0, scale, place.x + (place.width - scale * extent.width) / 2 - scale * extent.x,
-        place.y + (place.height - scale * extent.height) / 2 - scale * extent.y});
-}
-
 } // namespace
 
 StandardMode::StandardMode(const ModeParts& parts, const Tools& tools)
@@ -143,26 +132,6 @@ void StandardMode::apply(const std::function<void()>& done)
             done();
         });
 }
-
-// --- before and after ---
-
-void StandardMode::setComparesOpened(bool opened)
-{
-    if (std::exchange(m_comparesOpened, opened) != opened)
-        updateView();
-}
-
-bool StandardMode::canCompare() const { return isEdited() || (isOn() && m_comparesOpened && m_document.hasOpened()); }
-
-CIImage StandardMode::comparedImage() const
-{
-    const CIImage opened = m_comparesOpened ? m_document.openedPicture() : CIImage();
-    return opened ? fittedInto(opened, m_document.picture().extent()) : m_document.picture();
-}
-
-void StandardMode::compare(bool held) { m_tools.view.setShowsOriginal(held && canCompare()); }
-
-void StandardMode::split(bool wanted) { m_tools.view.setSplit(wanted && canCompare()); }
 
 // --- all inputs at once ---
 

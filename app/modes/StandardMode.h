@@ -58,15 +58,6 @@ public:
     void updateLayout();
     void rebuildPanelIfNeeded();
 
-    // --- before and after ---
-
-    /// With the file as it was opened, or, at first, with the picture without the filter.
-    void setComparesOpened(bool opened);
-    bool canCompare() const;
-    CIImage comparedImage() const;
-    void compare(bool held);
-    void split(bool wanted);
-
     bool hasItem() const override { return currentFilter != nullptr; }
     void choose(const OutlineItem* row) override;
     void save(SessionState& state, const CIImage& picture) const override;
@@ -92,6 +83,5 @@ private:
 
     Tools m_tools;
     std::shared_ptr<CIFilter> currentFilter;
-    bool m_comparesOpened = false;
     bool needsUpdate = false;
 };

@@ -125,6 +125,8 @@ QString HelpWindow::firstPage() { return pathForResource(QStringLiteral("main"),
 
 void HelpWindow::show(QWidget& mainWindow)
 {
+    if (firstPage().isEmpty())
+        return;
     static QPointer<HelpWindow> window;
     if (!window)
         window = new HelpWindow(mainWindow);

@@ -15,7 +15,8 @@ class HelpWindow : public QWidget {
 public:
     /// The path of the book's page "main.html", or empty when the program has no help book.
     static QString firstPage();
-    /// Opens the book at its first page in a window beside `mainWindow`, or brings an open one to the front.
+    /// Opens the book at its first page in a window beside `mainWindow`, or brings an open one to the front. Nothing
+    /// without a book.
     static void show(QWidget& mainWindow);
 
 private:

@@ -13,20 +13,23 @@
 #include "effects3d/ThreeDStage.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
+#include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 #include "widgets/CustomScroller.h"
 #include "widgets/DropFileTypes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QMimeData>
+#include <QScreen>
 #include <QShortcut>
 
 #include <array>
 
 namespace {
 
-constexpr Qt::Key kCompareKey = Qt::Key_F7; // on every keyboard, and no text field wants it
+const QString kWindowFrameName = QStringLiteral("Velmora");
 
 } // namespace
 
@@ -81,8 +84,6 @@ void MainWindow::setButtons()
     connect(nextPane, &QShortcut::activated, this, &MainWindow::focusNextPane);
     ui->applyBtn->setProperty("prominent", true);
     ui->openingCancelBtn->setShortcut(Qt::Key_Escape); // while the button is shown, Escape means nothing else
-    connect(ui->compareBtn, &QAbstractButton::pressed, this, [this] { emit compareHeld(true); });
-    connect(ui->compareBtn, &QAbstractButton::released, this, [this] { emit compareHeld(false); });
 }
 
 /// What depends on the look.
@@ -123,6 +124,43 @@ void MainWindow::findFilter()
 }
 
 void MainWindow::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
+
+void MainWindow::showTitle(const QString& path, bool isChanged)
+{
+    QString title = QStringLiteral("Lumivex");
+    if (!path.isEmpty())
+        title +=
+            QStringLiteral("::%1").arg(QFileInfo(path).fileName().replace("[*]", "[*][*]")); // twice stands for itself
+    if (isChanged)
+        title += QStringLiteral("[*]"); // where the platform puts its mark
+    setWindowTitle(title);
+    setWindowModified(isChanged);
+}
+
+void MainWindow::restoreFrame()
+{
+    const QByteArray frame = UserDefaults::standardUserDefaults().objectForKey(kWindowFrameName).toByteArray();
+    if (!restoreGeometry(frame))
+        resize(size().boundedTo(screen()->availableSize())); // small screens, large fonts
+}
+
+void MainWindow::saveFrame() const
+{
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    defaults.setObjectForKey(saveGeometry(), kWindowFrameName);
+    defaults.synchronize();
+}
+
+void MainWindow::togglePanel(QWidget& panel)
+{
+    if (panel.isVisible()) {
+        panel.close();
+    } else {
+        panel.show();
+        panel.raise();
+        panel.activateWindow();
+    }
+}
 
 void MainWindow::focusNextPane()
 {
@@ -179,19 +217,7 @@ void MainWindow::showEvent(QShowEvent* event)
     }
 }
 
-void MainWindow::changeEvent(QEvent* event)
-{
-    QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
-        holdCompareKey(false); // another window will get its release
-}
-
-void MainWindow::keyPressEvent(QKeyEvent* event)
-{
-    m_pressedKeys.insert(event->key());
-    if (event->key() == kCompareKey && !event->isAutoRepeat())
-        holdCompareKey(true);
-}
+void MainWindow::keyPressEvent(QKeyEvent* event) { m_pressedKeys.insert(event->key()); }
 
 void MainWindow::keyReleaseEvent(QKeyEvent* event)
 {
@@ -215,26 +241,8 @@ void MainWindow::dropEvent(QDropEvent* event)
         m_controller->openDroppedFile(onlyDroppedFile(*event->mimeData()));
 }
 
-/// Does what the button does while it is held.
-void MainWindow::holdCompareKey(bool held)
-{
-    if (held && ui->compareBtn->isEnabled())
-        qApp->installEventFilter(this); // text fields keep releases to themselves
-    else
-        qApp->removeEventFilter(this);
-    if (held == ui->compareBtn->isDown() || (held && !ui->compareBtn->isEnabled()))
-        return;
-    ui->compareBtn->setDown(held);
-    emit compareHeld(held);
-}
-
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyRelease) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == kCompareKey && !key->isAutoRepeat())
-            holdCompareKey(false);
-    }
     return (watched == ui->searchField && searchFieldEvent(event)) || (watched == ui->listView && foundListEvent(event))
         || QMainWindow::eventFilter(watched, event);
 }

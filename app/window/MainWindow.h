@@ -28,16 +28,18 @@ public:
     void setController(Controller* controller);
     void findFilter(); // moves the keyboard to the search
     void toggleFullScreen();
-
-signals:
-    /// The button for looking at the picture without the filter, or its key, is held down or let go.
-    void compareHeld(bool held);
+    /// Names the file, which may be empty, and says whether its picture is changed.
+    void showTitle(const QString& path, bool isChanged);
+    /// Where the window stood when the program ended, within the screen.
+    void restoreFrame();
+    void saveFrame() const;
+    /// Shows a panel, or closes it when it is there already.
+    static void togglePanel(QWidget& panel);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -52,7 +54,6 @@ private:
     void focusNextPane();
     bool searchFieldEvent(QEvent* event);
     bool foundListEvent(QEvent* event);
-    void holdCompareKey(bool held);
 
     std::unique_ptr<Ui::MainWindow> ui;
     std::unique_ptr<Commands> m_commands;

@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QBoxLayout>
+#include <QFileInfo>
 #include <QLabel>
 #include <QProgressBar>
 #include <QToolButton>
@@ -68,6 +69,14 @@ void StatusRow::showMessage(const QString& text)
     m_parts.field.setText(text);
     m_messageEnd.start(kMessageTime);
     alert();
+}
+
+void StatusRow::showReadFailure(const QString& path)
+{
+    const QString name = QFileInfo(path).fileName();
+    showMessage(m_document.readFailure().isEmpty()
+            ? tr("%1 can't be read").arg(name)
+            : tr("%1: %2", "file name, what is wrong").arg(name, m_document.readFailure()));
 }
 
 void StatusRow::offer(const QString& text, const QList<QAction*>& actions)

@@ -31,6 +31,8 @@ public:
     /// Tells the present state.
     void update();
     void showMessage(const QString& text);
+    /// Says that the file can't be read, and why if the document knows.
+    void showReadFailure(const QString& path);
     /// The message stays for ten seconds, with a button for each action, one of which ends it.
     void offer(const QString& text, const QList<QAction*>& actions);
     void endOffer();

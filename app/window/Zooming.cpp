@@ -61,6 +61,16 @@ void Zooming::layOut()
     show();
 }
 
+void Zooming::showIn(QWidget& control)
+{
+    m_slider.setEnabled(isPossible());
+    control.setVisible(isPossible());
+    if (isPossible())
+        layOut();
+    else
+        emit zoomed();
+}
+
 void Zooming::takeSlider()
 {
     if (ZoomedCanvas* canvas = m_source.canvas())

@@ -37,6 +37,8 @@ public:
     void show();
     /// Lays out what is seen, and shows its zoom.
     void layOut();
+    /// Another canvas is seen; without one, slider and `control`, the part of the window around it, are out of use.
+    void showIn(QWidget& control);
     /// What is seen gets the slider's zoom.
     void takeSlider();
     void zoomTo(float zoom); // within what the slider can say

@@ -144,7 +144,7 @@ TEST_P(RandomUseTest, LeavesEverythingFitting)
         {"apply", [&] { controller.applyBtn(); }},
         {"undo", [&] { controller.undo(); }},
         {"redo", [&] { controller.redo(); }},
-        {"history", [&] { controller.goInUndoHistory(upTo(9) - 4); }},
+        {"history", [&] { controller.document().goInHistory(upTo(9) - 4); }},
         {"clear", [&] { controller.escapeEffect(); }},
         {"turn", [&] { controller.rotateImage(upTo(2)); }},
         {"flip", [&] { controller.flipImage(upTo(2)); }},
