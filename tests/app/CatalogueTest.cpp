@@ -9,22 +9,6 @@
 
 namespace {
 
-const FilterGroup* groupCalled(const DataSource& source, const QString& label)
-{
-    for (const auto& group : source.groups())
-        if (group->label == label)
-            return group.get();
-    return nullptr;
-}
-
-QStringList classesOf(const FilterGroup& group)
-{
-    QStringList names;
-    for (const auto& row : group.rows)
-        names << row->className;
-    return names;
-}
-
 QStringList inCategories(const std::vector<std::string>& categories)
 {
     QStringList names;
@@ -32,34 +16,6 @@ QStringList inCategories(const std::vector<std::string>& categories)
         for (const std::string& name : CIFilter::filterNamesInCategory(category))
             names << QString::fromStdString(name);
     return names;
-}
-
-TEST(Catalogue, ListsTheCategoriesOfEachGroupOneAfterTheOther)
-{
-    const DataSource source;
-    const std::pair<const char*, std::vector<std::string>> expected[] = {
-        {"Geometry", {"CICategoryGeometryAdjustment"}},
-        {"Distortion", {"CICategoryDistortionEffect"}},
-        {"Halftone", {"CICategoryHalftoneEffect"}},
-        {"Focus", {"CICategorySharpen", "CICategoryBlur"}},
-        {"Stylize", {"CICategoryStylize"}},
-        {"Gradient", {"CICategoryGradient"}},
-        {"Color", {"CICategoryColorEffect", "CICategoryColorAdjustment"}},
-        {"Tile", {"CICategoryTileEffect"}},
-        {"Generator", {"CICategoryGenerator"}},
-    };
-    std::size_t shown = 0;
-    for (const auto& [label, categories] : expected) {
-        SCOPED_TRACE(label);
-        const QStringList names = inCategories(categories);
-        const FilterGroup* group = groupCalled(source, label);
-        ASSERT_EQ(group != nullptr, !names.isEmpty()) << "a group without filters is no group";
-        if (!group)
-            continue;
-        EXPECT_EQ(source.groups()[shown++].get(), group) << "groups keep their order";
-        EXPECT_EQ(classesOf(*group), names) << "neither sorted nor freed of duplicates";
-    }
-    EXPECT_EQ(shown, source.groups().size());
 }
 
 TEST(Catalogue, SkipsNamesWithoutAFilterAndTellsDisplayNames)

@@ -28,48 +28,6 @@ TEST_F(WindowTest, StartsWithPictureTitleAndStandardMode)
     EXPECT_FALSE(ui.applyBtn->isEnabled());
 }
 
-TEST_F(WindowTest, TitleTellsTheFileName)
-{
-    controller.setFilePath("/a/b/c.png");
-    EXPECT_EQ(window.windowTitle(), "Lumivex::c.png");
-    controller.setFilePath({});
-    EXPECT_EQ(window.windowTitle(), "Lumivex");
-}
-
-TEST_F(WindowTest, SwitchingTheModeLeavesTheWayBackAsTheOnlyStep)
-{
-    pick("CIGaussianBlur");
-    controller.setFilterValueForKey(*controller.getCurrentFilter(), 3.0, "inputRadius");
-    ASSERT_TRUE(undo.canUndo());
-
-    ui.threeDBtn->click();
-    EXPECT_EQ(controller.filerMode(), Controller::ThreeD);
-    EXPECT_FALSE(ui.standardBtn->isChecked());
-    EXPECT_EQ(ui.filterTabView->currentIndex(), 1);
-    EXPECT_EQ(ui.mainTabView->currentIndex(), 1);
-    EXPECT_FALSE(ui.zoomSuperView->isVisible());
-    EXPECT_FALSE(ui.applyBtn->isEnabled());
-
-    ui.customBtn->click();
-    EXPECT_EQ(controller.filerMode(), Controller::Custom);
-    EXPECT_TRUE(ui.zoomSuperView->isVisible());
-    EXPECT_EQ(undo.undoActionName(), "Change Mode");
-    controller.undo();
-    EXPECT_EQ(controller.filerMode(), Controller::ThreeD);
-    EXPECT_FALSE(undo.canUndo()) << "the filter's change went with the first switch";
-    controller.redo();
-    EXPECT_EQ(controller.filerMode(), Controller::Custom);
-
-    action("actionStandard")->trigger();
-    EXPECT_EQ(controller.filerMode(), Controller::Standard);
-    EXPECT_TRUE(controller.getCurrentFilter()) << "each mode keeps its item";
-    EXPECT_TRUE(ui.applyBtn->isEnabled());
-
-    ui.standardBtn->click(); // already on
-    EXPECT_TRUE(ui.standardBtn->isChecked());
-    EXPECT_EQ(controller.filerMode(), Controller::Standard);
-}
-
 /// Counts how often a widget is painted.
 class PaintCount : public QObject {
 public:
@@ -126,25 +84,6 @@ TEST_F(WindowTest, PickingAFilterMakesItWithThePictureInItsImages)
     EXPECT_FALSE(action("actionClearEffect")->isEnabled());
 }
 
-TEST_F(WindowTest, NewFiltersStartFromPictureAndView)
-{
-    openPicture(pictureFile("a.png", 40, 30));
-    const auto made = [&](const char* name) {
-        controller.addFilterIndex(name, 111);
-        return controller.getCurrentFilter();
-    };
-    EXPECT_TRUE(made("CIGlassDistortion")->valueForKey("inputTexture").toImage().isSameAs(controller.defaultTexture()));
-    const CIPoint center = ui.pictureScrollView->imageView()->bounds().center();
-    const CIVector wrapped = made("CICircularWrap")->valueForKey("inputCenter").toVector();
-    EXPECT_NEAR(wrapped.X(), center.x, 1e-4);
-    EXPECT_NEAR(wrapped.Y(), center.y, 1e-4);
-    made("CIConstantColorGenerator");
-    EXPECT_EQ(controller.coreImageResult(false).extent(), controller.getBgImageExtent());
-
-    EXPECT_FALSE(made("CINoSuchFilter"));
-    EXPECT_TRUE(controller.coreImageResult(false).isSameAs(controller.backImage()));
-}
-
 TEST_F(WindowTest, AFilterWithoutAnImageItNeedsShowsNothing)
 {
     openPicture(pictureFile("a.png", 8, 8));
@@ -157,20 +96,6 @@ TEST_F(WindowTest, AFilterWithoutAnImageItNeedsShowsNothing)
     controller.undo();
     EXPECT_TRUE(controller.coreImageResult(false));
     EXPECT_FALSE(controller.filteredImage());
-}
-
-TEST_F(WindowTest, TheMenuNamesParameterChangesAlsoOfFormerFilters)
-{
-    pick("CIGaussianBlur");
-    const std::shared_ptr<CIFilter> blur = controller.getCurrentFilter();
-    const double first = blur->valueForKey("inputRadius").toDouble();
-    controller.setFilterValueForKey(*blur, 20, "inputRadius");
-    controller.setActionNameForFilterKey(*blur, "inputRadius");
-    EXPECT_EQ(action("actionUndo")->text(), "Undo Change to Gaussian Blur Radius");
-    controller.clearAllAndUpdate(); // the filter is no longer shown, its steps stay
-    controller.undo();
-    EXPECT_EQ(blur->valueForKey("inputRadius").toDouble(), first);
-    EXPECT_EQ(action("actionRedo")->text(), "Redo Change to Gaussian Blur Radius");
 }
 
 TEST_F(WindowTest, ApplyMakesTheResultThePicture)
@@ -223,54 +148,6 @@ TEST_F(WindowTest, UnreadableFilesLeaveNoPictureButTheirName)
     }
     openPicture(pictureFile("b.png", 3, 2));
     EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 3, 2}));
-}
-
-TEST_F(WindowTest, ZoomFollowsSliderViewAndPicture)
-{
-    openPicture(pictureFile("a.png", 400, 200));
-    MyImageView& view = *ui.pictureScrollView->imageView();
-    EXPECT_GT(view.getZoom(), 0.5f) << "fitted into the window";
-    ui.zoomSlider->setValue(ui.zoomSlider->maximum() / 2);
-    EXPECT_FLOAT_EQ(view.getZoom(), 1);
-    EXPECT_EQ(ui.zoomField->text(), "100 %");
-    controller.updateZoommWithDelta(0.5);
-    EXPECT_NEAR(view.getZoom(), 1.5f, 1e-3f);
-    controller.updateZoommWithDelta(-50 - double(view.getZoom()));
-    EXPECT_NEAR(view.getZoom(), 1.5f, 1e-3f) << "the sentinel";
-    controller.updateZoommWithDelta(100);
-    EXPECT_FLOAT_EQ(view.getZoom(), 10) << "no further than the slider";
-    controller.setZoom(0.1f);
-    EXPECT_EQ(ui.zoomSlider->value(), 0);
-    EXPECT_FLOAT_EQ(view.getZoom(), 10) << "moving the slider alone";
-    action("actionFit")->trigger();
-    const float fitted = view.getZoom();
-    action("actionZoomIn")->trigger();
-    EXPECT_GT(view.getZoom(), fitted);
-    action("actionActualSize")->trigger();
-    EXPECT_FLOAT_EQ(view.getZoom(), 1);
-}
-
-TEST_F(WindowTest, PasteTakesAnyPictureAndCanBeUndone)
-{
-    QApplication::clipboard()->setText("no picture");
-    QCoreApplication::processEvents();
-    const CIImage before = controller.backImage();
-    EXPECT_FALSE(ui.pasteBtn->isEnabled());
-    perform(&Controller::paste);
-    EXPECT_FALSE(undo.canUndo());
-
-    QImage image(5, 7, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QApplication::clipboard()->setImage(image);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(ui.pasteBtn->isEnabled());
-    perform(&Controller::paste);
-    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 5, 7}));
-    EXPECT_FALSE(controller.wasChanged());
-    controller.undo();
-    EXPECT_TRUE(controller.backImage().isSameAs(before));
-    controller.redo();
-    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 5, 7}));
 }
 
 } // namespace

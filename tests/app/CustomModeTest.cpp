@@ -124,31 +124,6 @@ TEST_F(CustomModeTest, WithoutAPictureTheCanvasHasItsOwnSize)
     EXPECT_NEAR(view().bounds().width, 120, 5);
 }
 
-TEST_F(CustomModeTest, TheMousePlacesTheAnchorWithTwoStepsForUndo)
-{
-    pickRow(kSimple);
-    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-    QApplication::sendEvent(&view(), &enter);
-    EXPECT_FALSE(view().drawsCursor()) << "it has no anchor";
-    pickRow(kFlare);
-    QApplication::sendEvent(&view(), &enter);
-    EXPECT_TRUE(view().drawsCursor());
-    effect()->getDrawImage();
-    const CIPoint start = effect()->startPoint();
-    const auto at = [this](double x, double y) { return view().toWidget({x, y}).toPoint(); };
-    QTest::mousePress(&view(), Qt::LeftButton, {}, at(50, 60));
-    QTest::mouseMove(&view(), at(100, 80));
-    EXPECT_NEAR(effect()->startPoint().x, 100, 1);
-    QTest::mouseRelease(&view(), Qt::LeftButton, {}, at(120, 90));
-    EXPECT_NEAR(effect()->startPoint().x, 120, 1);
-    EXPECT_NEAR(effect()->startPoint().y, 90, 1);
-    EXPECT_EQ(undo.undoActionName(), "Move Anchor");
-    controller.undo();
-    EXPECT_NEAR(effect()->startPoint().x, 100, 1);
-    controller.undo();
-    EXPECT_EQ(effect()->startPoint(), start);
-}
-
 TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
 {
     pickRow(kPlasma);
@@ -172,25 +147,6 @@ TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
     QTest::mouseClick(ui.customBtn, Qt::LeftButton);
     EXPECT_EQ(view().getZoom(), zoom) << "each mode has its own";
     EXPECT_EQ(ui.zoomField->text(), "126 %");
-}
-
-TEST_F(CustomModeTest, ADroppedFileBecomesThePicture)
-{
-    pickRow(kLines);
-    QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(pictureFile("dropped.png", 80, 50))});
-    QDragEnterEvent enter(QPoint(20, 20), Qt::CopyAction, &files, Qt::LeftButton, {});
-    QApplication::sendEvent(&view(), &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(20, 20), Qt::CopyAction, &files, Qt::LeftButton, {});
-    QApplication::sendEvent(&view(), &drop);
-    waitUntilIdle();
-    EXPECT_EQ(controller.backImage().extent(), (CIRect{0, 0, 80, 50}));
-    EXPECT_TRUE(controller.getFilePath().endsWith("/dropped.png"));
-    EXPECT_EQ(undo.undoActionName(), "Open");
-    EXPECT_EQ(effect()->getDrawImage().extent(), (CIRect{0, 0, 80, 50})) << "the effect has it, too";
-    controller.undo();
-    EXPECT_EQ(controller.backImage().extent().width, 300);
 }
 
 TEST_F(CustomModeTest, FavouritesBringEffectsBackAcrossRuns)

@@ -131,20 +131,6 @@ TEST_F(DocumentTest, TurningIsUndoneAndRedoneByWork)
     EXPECT_FALSE(document.wasChanged());
 }
 
-TEST_F(DocumentTest, ResizingIsAStepThatChangesThePicture)
-{
-    Resizing resizing(document, &window);
-    resizing.resize(5, 5);
-    EXPECT_TRUE(document.isIdle()) << "nothing to resize";
-    document.setPicture(picture(30, 20));
-    resizing.resize(6, 8.4f);
-    waitUntilIdle();
-    EXPECT_EQ(size(), QSize(6, 8));
-    EXPECT_TRUE(document.wasChanged());
-    undo().undo();
-    EXPECT_EQ(size(), QSize(30, 20));
-}
-
 TEST_F(DocumentTest, TheClipboardTakesWhatIsFinished)
 {
     LaterPicture finished;

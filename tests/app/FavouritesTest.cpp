@@ -166,24 +166,6 @@ TEST_F(FavouritesTest, AreWrittenWhenTheWindowClosesAndNotBefore)
     EXPECT_EQ(UserDefaults::standardUserDefaults().recordsForKey(kList)->size(), 1u);
 }
 
-TEST_F(FavouritesTest, ManyWithLargePicturesAreRead)
-{
-    for (int i = 0; i < 20; ++i) {
-        CIBitmap picture(1000, 800, CIFormat::RGBA8, CIAlpha::Opaque);
-        picture.mutableRow(0)[0] = std::byte(i);
-        controller.setBackgroundImage(CIImage::fromBitmap(picture));
-        for (int k = 0; k < 10; ++k)
-            addFavourite(i == 0 && k == 0 ? "CIGaussianBlur" : "CIBoxBlur");
-    }
-    controller.saveFavorites();
-    QElapsedTimer timer;
-    timer.start();
-    controller.readFavorites();
-    EXPECT_EQ(ui.m_pageController->pageCount(), 200);
-    RecordProperty("ms", int(timer.elapsed()));
-    controller.setBackgroundImage({});
-}
-
 TEST_F(FavouritesTest, MakeTheSamePictureFromTheCommandLine)
 {
     const QString data = QFileInfo(UserDefaults::standardUserDefaults().file()).absolutePath();

@@ -55,16 +55,6 @@ TEST_F(InputsTest, AreAllChangedAndResetAsOneStepEach)
     EXPECT_TRUE(values() == changed);
 }
 
-TEST_F(InputsTest, AreShownByThePanel)
-{
-    pick("CIGaussianBlur");
-    randomize();
-    QCoreApplication::processEvents();
-    auto* slider = ui.placeCntrlView->findChild<ValueSlider*>();
-    ASSERT_TRUE(slider);
-    EXPECT_FLOAT_EQ(float(slider->value()), controllerFilter()->valueForKey("inputRadius").toFloat());
-}
-
 TEST_F(InputsTest, PicturesAreResetButNotChosenByChance)
 {
     pick("CIGlassDistortion");

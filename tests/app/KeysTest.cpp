@@ -115,20 +115,6 @@ TEST_F(KeysTest, ZoomKeys)
     EXPECT_TRUE(action("actionStandard")->isChecked());
 }
 
-TEST_F(KeysTest, DoubleClickOnTheZoomGoesToActualSizeAndBack)
-{
-    const float fitting = view.getZoom();
-    ASSERT_NE(fitting, 1);
-    QTest::mouseDClick(ui.zoomField, Qt::LeftButton);
-    EXPECT_EQ(view.getZoom(), 1);
-    EXPECT_EQ(ui.zoomField->text(), "100 %");
-    QTest::mouseDClick(ui.zoomField, Qt::LeftButton);
-    EXPECT_EQ(view.getZoom(), fitting);
-    controller.zooming().zoomTo(3);
-    QTest::mouseDClick(ui.zoomField, Qt::LeftButton);
-    EXPECT_EQ(view.getZoom(), 1);
-}
-
 TEST_F(KeysTest, TheCatalogueIsSearchedByKeysAlone)
 {
     view.setFocus();

@@ -302,16 +302,4 @@ TEST_F(PanelTest, RestylingMakesRoundedPushButtonsSquare)
     EXPECT_EQ(bezelStyle(*ui.openBtn), BezelStyle::None);
 }
 
-TEST_F(PanelTest, DraggedPointsAreNamedAsWell)
-{
-    pick("CIBumpDistortion");
-    if (!controller.isControlsPresent())
-        GTEST_SKIP() << "no such filter yet";
-    MyImageView& view = *ui.pictureScrollView->imageView();
-    view.setFocus();
-    QTest::keyClick(&view, Qt::Key_Tab);
-    QTest::keyClick(&view, Qt::Key_Right);
-    EXPECT_EQ(undo.undoActionName(), "Change to Bump Distortion Center");
-}
-
 } // namespace

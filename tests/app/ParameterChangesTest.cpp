@@ -62,27 +62,6 @@ TEST_F(ParameterChangesTest, OfSettingsCanBeUndoneToo)
     EXPECT_EQ(settings->at("Size").toDouble(), 7);
 }
 
-TEST_F(ParameterChangesTest, OfAllInputsAreOneStepAndLeaveThePictureAlone)
-{
-    const std::shared_ptr<CIFilter> bump = added("CIBumpDistortion");
-    const auto doubled = [&](const CIInputAttributes& input) -> std::optional<CIValue> {
-        EXPECT_NE(input.key, "inputImage");
-        if (!input.isNumber())
-            return {};
-        return 2 * bump->valueForKey(input.key).toDouble() + 1;
-    };
-    const double first = radius(*bump);
-    changes.setAllInputs(*bump, "Double", doubled);
-    EXPECT_EQ(radius(*bump), 2 * first + 1);
-    EXPECT_EQ(undo.undoActionNames(), QStringList{"Double"});
-    undo.undo();
-    EXPECT_EQ(radius(*bump), first);
-    undo.removeAllActions();
-    changes.setAllInputs(
-        *bump, "Nothing", [&](const CIInputAttributes& input) { return bump->valueForKey(input.key); });
-    EXPECT_FALSE(undo.canUndo()) << "no value is another";
-}
-
 TEST_F(ParameterChangesTest, OnlyTheCurrentFilterHoldsOnToPictures)
 {
     const std::shared_ptr<CIFilter> past = added("CIGaussianBlur"), current = added("CIBoxBlur");

@@ -63,20 +63,6 @@ TEST_F(ThreeDTest, AChosenEffectIsACopyWithAPanelOfItsOwn)
     EXPECT_EQ(object()->objectRotation()[0], 0) << "the prototype stays as it was";
 }
 
-TEST_F(ThreeDTest, EveryEffectIsMarkedAsOneForTheMouse)
-{
-    const QAbstractItemModel& list = *ui.filter3DOutlineView->model();
-    ASSERT_EQ(list.rowCount(), 2);
-    for (int row = 0; row < 2; ++row)
-        EXPECT_FALSE(list.index(row, 1).data(Qt::DecorationRole).isNull()) << row;
-    const QAbstractItemModel& generated = *ui.filterCustomOutlineView->model();
-    QList<int> marked;
-    for (int row = 0; row < generated.rowCount(); ++row)
-        if (!generated.index(row, 1).data(Qt::DecorationRole).isNull())
-            marked << row;
-    EXPECT_EQ(marked, QList<int>({1, 4, 6})) << "the others have no anchor";
-}
-
 TEST_F(ThreeDTest, UndoStepsOfAnEffectGoWithIt)
 {
     choose(1);
@@ -98,16 +84,6 @@ TEST_F(ThreeDTest, UndoStepsOfAnEffectGoWithIt)
     EXPECT_TRUE(controller.getCurrent3DEffect()) << "survives the modes";
 }
 
-TEST_F(ThreeDTest, EscapeDropsTheEffect)
-{
-    choose(1);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(controller.getCurrent3DEffect());
-    EXPECT_FALSE(ui.filter3DOutlineView->selectedItem());
-    EXPECT_TRUE(rows().isEmpty());
-    EXPECT_FALSE(ui.applyBtn->isEnabled());
-}
-
 TEST_F(ThreeDTest, ApplyMakesTheViewThePictureAndUndoBringsTheOldOneBack)
 {
     openPicture(pictureFile("plain.png", 300, 200));
@@ -125,14 +101,6 @@ TEST_F(ThreeDTest, ApplyMakesTheViewThePictureAndUndoBringsTheOldOneBack)
     EXPECT_TRUE(controller.wasChanged());
     undo.undo();
     EXPECT_TRUE(controller.backImage().isSameAs(before));
-}
-
-TEST_F(ThreeDTest, TheResultIsTheShotOrThePictureWithoutAnEffect)
-{
-    EXPECT_TRUE(controller.getEffectedImage().isSameAs(controller.backImage()));
-    choose(0);
-    const CIRect extent = controller.getEffectedImage().extent();
-    EXPECT_EQ(extent, (CIRect{0, 0, double(view.ogl_shot().width()), double(view.ogl_shot().height())}));
 }
 
 TEST_F(ThreeDTest, CopiesWhatTheViewShows)
@@ -223,22 +191,6 @@ TEST_F(ThreeDFavouritesTest, AChosenOneLetsTheStripStepTowardsTheFirst)
     const int first = strip.currentPage();
     press(button(first + 1));
     EXPECT_EQ(strip.currentPage(), first - 1);
-}
-
-TEST_F(ThreeDFavouritesTest, OfAnUnknownClassCantBeSelectedAndAreKept)
-{
-    const QByteArray tiff = tiffOfThumbnail(favouriteThumbnail(QImage(8, 8, QImage::Format_RGB32)));
-    const auto* bytes = reinterpret_cast<const std::byte*>(tiff.constData());
-    const auto data = [](const CIValue& value) { return StoredData(KeyedArchive::archivedData(value)); };
-    UserDefaults::standardUserDefaults().setRecordsForKey(
-        {{{"classObj", data(CIDictionary{{"class", "NoSuchEffect"}, {"drawObj", 3}})},
-            {"ButtonImage", data(CIData{bytes, bytes + tiff.size()})}}},
-        kList);
-    controller.readFavorites();
-    ASSERT_TRUE(button(0));
-    press(button(0));
-    EXPECT_FALSE(controller.getCurrent3DEffect());
-    EXPECT_FALSE(button(0)->isChecked());
 }
 
 } // namespace

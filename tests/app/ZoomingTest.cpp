@@ -49,6 +49,8 @@ TEST_F(ZoomingTest, TheSliderTheFieldAndTheCanvasAgree)
     zooming.zoomBy(1);
     EXPECT_NEAR(canvas.getZoom(), 2, 1e-3);
     EXPECT_EQ(field.text(), "200 %");
+    zooming.zoomBy(-50 - double(canvas.getZoom()));
+    EXPECT_NEAR(canvas.getZoom(), 2, 1e-3) << "the sentinel";
     zooming.step(-1);
     EXPECT_NEAR(canvas.getZoom(), 1.6, 1e-3);
     zooming.zoomTo(40);
