@@ -41,7 +41,7 @@ CustomEffectsScrollView::CustomEffectsScrollView(QWidget* parent)
 }
 
 customEffImageView::customEffImageView(CanvasScrollView* scrollView)
-    : PictureCanvas(scrollView, {firstDroppedFile, isAcceptableEffectPicture})
+    : ControlledCanvas(scrollView, {firstDroppedFile, isAcceptableEffectPicture})
 {
     setAccessibleName(tr("Generated picture"));
     setAccessibleDescription(tr("Arrow keys move the anchor of effects that have one; the wheel zooms."));
@@ -82,7 +82,7 @@ CIPoint customEffImageView::pictureSize() const
         const QSizeF size = current->drawImageSize();
         return {size.width(), size.height()};
     }
-    return PictureCanvas::pictureSize();
+    return ControlledCanvas::pictureSize();
 }
 
 // --- drawing ---
@@ -204,14 +204,14 @@ bool customEffImageView::event(QEvent* event)
         event->accept();
         return true;
     }
-    return PictureCanvas::event(event);
+    return ControlledCanvas::event(event);
 }
 
 void customEffImageView::keyPressEvent(QKeyEvent* event)
 {
     auto* anchored = dynamic_cast<AnchoredEffect*>(effect());
     if (!anchored || !isArrow(event->key())) {
-        PictureCanvas::keyPressEvent(event);
+        ControlledCanvas::keyPressEvent(event);
         return;
     }
     const double step = event->modifiers() & Qt::ShiftModifier ? 10 : 1; // picture pixels

@@ -4,11 +4,11 @@
 #include "effects2d/CustomViewMaster.h"
 #include "platform/quartz/Drawing.h"
 #include "widgets/CanvasScrollView.h"
-#include "widgets/PictureCanvas.h"
+#include "widgets/ControlledCanvas.h"
 
 /// Shows the current effect, or the plain picture without one, at the screen's resolution. The mouse places the anchor
 /// of effects that have one; the arrow keys move it by one picture pixel, with Shift by ten.
-class customEffImageView : public PictureCanvas {
+class customEffImageView : public ControlledCanvas {
     Q_OBJECT
 public:
     explicit customEffImageView(CanvasScrollView* scrollView);

@@ -20,7 +20,7 @@ double gridScale(double pixelsPerPicturePixel) { return std::min(pixelsPerPictur
 } // namespace
 
 MyImageView::MyImageView(PictureScrollView* scrollView)
-    : PictureCanvas(scrollView, {onlyDroppedFile, isAcceptablePictureFile})
+    : ControlledCanvas(scrollView, {onlyDroppedFile, isAcceptablePictureFile})
     , d(new Private)
 {
     setAccessibleName(tr("Picture"));

@@ -4,7 +4,7 @@
 #include "controls/picture/ControlPoints.h"
 #include "controls/picture/FrameRenderer.h"
 #include "controls/picture/ImageViewMaster.h"
-#include "widgets/PictureCanvas.h"
+#include "widgets/ControlledCanvas.h"
 
 #include <QPointer>
 
@@ -13,7 +13,7 @@ class PictureScrollView;
 /// Shows the controller's picture, lets points be dragged on it, and takes a dropped picture file.
 ///
 /// Points of parameters are view coordinates: picture pixels, y up.
-class MyImageView : public PictureCanvas {
+class MyImageView : public ControlledCanvas {
     Q_OBJECT
 public:
     explicit MyImageView(PictureScrollView* scrollView);

@@ -23,7 +23,7 @@ protected:
     {
         QPainter painter(this);
         // Inset by 10; then the top another 8 lower, the bottom 10 higher, the right edge 15 to the left.
-        PictureCanvas::drawCGRect(painter, rect().adjusted(10, 18, -25, -20));
+        ControlledCanvas::drawCGRect(painter, rect().adjusted(10, 18, -25, -20));
     }
 };
 

@@ -29,7 +29,7 @@ bool MyImageView::event(QEvent* event)
             return true;
         }
     }
-    return PictureCanvas::event(event);
+    return ControlledCanvas::event(event);
 }
 
 // --- hover ---
@@ -92,7 +92,7 @@ void MyImageView::endChange()
 void MyImageView::hideEvent(QHideEvent* event)
 {
     endChange();
-    PictureCanvas::hideEvent(event);
+    ControlledCanvas::hideEvent(event);
 }
 
 void MyImageView::pressed(CIPoint point)
@@ -167,7 +167,7 @@ void MyImageView::focusOutEvent(QFocusEvent* event)
         endChange();
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         selectPoint({});
-    PictureCanvas::focusOutEvent(event);
+    ControlledCanvas::focusOutEvent(event);
 }
 
 bool MyImageView::moveSelectedPoint(int key, bool far)
@@ -224,12 +224,12 @@ void MyImageView::keyPressEvent(QKeyEvent* event)
     else if (event->key() == Qt::Key_Escape && d->selected)
         selectPoint({});
     else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))
-        PictureCanvas::keyPressEvent(event);
+        ControlledCanvas::keyPressEvent(event);
 }
 
 void MyImageView::keyReleaseEvent(QKeyEvent* event)
 {
     if (!event->isAutoRepeat() && !movingNow)
         endChange();
-    PictureCanvas::keyReleaseEvent(event);
+    ControlledCanvas::keyReleaseEvent(event);
 }

@@ -31,4 +31,3 @@ TEST(Halftones, KeepTheMeanLightOfGrays)
                 EXPECT_NEAR(meanLight(rendered(f->outputImage(), {0, 0, 240, 240}, scale)), gray, 0.04) << scale;
         }
 }
-

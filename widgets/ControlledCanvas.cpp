@@ -1,4 +1,4 @@
-#include "widgets/PictureCanvas.h"
+#include "widgets/ControlledCanvas.h"
 
 #include "platform/foundation/Look.h"
 #include "widgets/DropFileTypes.h"
@@ -21,67 +21,67 @@ void takeAsCopy(QDropEvent& event)
 
 } // namespace
 
-PictureCanvas::PictureCanvas(CanvasScrollView* scrollView, const Drops& drops)
+ControlledCanvas::ControlledCanvas(CanvasScrollView* scrollView, const Drops& drops)
     : ZoomedCanvas(scrollView)
     , m_drops(drops)
 {
     setAcceptDrops(true);
 }
 
-void PictureCanvas::setMaster(CanvasMaster* master)
+void ControlledCanvas::setMaster(CanvasMaster* master)
 {
     m_master = master;
     resizeViewBoundCenter(true, int(PictureCenter::None));
 }
 
-CIPoint PictureCanvas::pictureSize() const
+CIPoint ControlledCanvas::pictureSize() const
 {
     const CIRect extent = m_master ? m_master->backImage().extent() : CIRect();
     return {extent.width, extent.height};
 }
 
-void PictureCanvas::zoomedByWheel(float newZoom)
+void ControlledCanvas::zoomedByWheel(float newZoom)
 {
     if (m_master)
         m_master->setZoom(newZoom);
 }
 
-void PictureCanvas::pinched(double delta)
+void ControlledCanvas::pinched(double delta)
 {
     if (m_master)
         m_master->updateZoommWithDelta(delta);
 }
 
-QColor PictureCanvas::surround() const
+QColor ControlledCanvas::surround() const
 {
     return (palette().color(QPalette::Window).lightness() < 128 ? Look::dark() : Look::light()).surround;
 }
 
 // --- menu ---
 
-void PictureCanvas::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
+void ControlledCanvas::contextMenuEvent(QContextMenuEvent* event) { mouseContentMenu(pictureMenuPlace(*this, *event)); }
 
-void PictureCanvas::mouseContentMenu(const QPoint& globalPosition)
+void ControlledCanvas::mouseContentMenu(const QPoint& globalPosition)
 {
     popUpPictureMenu(m_master ? m_master->contextMenu() : nullptr, globalPosition);
 }
 
 // --- drops ---
 
-void PictureCanvas::drawCGRect(QPainter& painter, const QRectF& rect)
+void ControlledCanvas::drawCGRect(QPainter& painter, const QRectF& rect)
 {
     painter.setPen(QPen(QColor::fromRgbF(0.99f, 0.94f, 0.74f, 0.8f), 4, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(rect);
 }
 
-void PictureCanvas::setDragEnter(bool over)
+void ControlledCanvas::setDragEnter(bool over)
 {
     if (std::exchange(dragEnter, over) != over)
         draggedOver(over);
     update();
 }
 
-void PictureCanvas::dragEnterEvent(QDragEnterEvent* event)
+void ControlledCanvas::dragEnterEvent(QDragEnterEvent* event)
 {
     const QString path = m_drops.file(*event->mimeData());
     if (!(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !m_drops.isWanted(path)) {
@@ -92,10 +92,10 @@ void PictureCanvas::dragEnterEvent(QDragEnterEvent* event)
     setDragEnter(true);
 }
 
-void PictureCanvas::dragLeaveEvent(QDragLeaveEvent*) { setDragEnter(false); }
+void ControlledCanvas::dragLeaveEvent(QDragLeaveEvent*) { setDragEnter(false); }
 
 /// With a picture itself among the data, the drag came from a program that means something else by the file.
-void PictureCanvas::dropEvent(QDropEvent* event)
+void ControlledCanvas::dropEvent(QDropEvent* event)
 {
     setDragEnter(false);
     takeAsCopy(*event);

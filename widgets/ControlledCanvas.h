@@ -7,7 +7,7 @@
 class QMimeData;
 
 /// Tells its master of the zoom, pops up the master's menu, and takes a picture file that is dropped.
-class PictureCanvas : public ZoomedCanvas {
+class ControlledCanvas : public ZoomedCanvas {
     Q_OBJECT
 public:
     /// The line around what takes a dropped file.
@@ -19,7 +19,7 @@ protected:
         QString (*file)(const QMimeData& data);
         bool (*isWanted)(const QString& path);
     };
-    PictureCanvas(CanvasScrollView* scrollView, const Drops& drops);
+    ControlledCanvas(CanvasScrollView* scrollView, const Drops& drops);
     /// Null for none. Lays the view out for its picture.
     void setMaster(CanvasMaster* master);
 
