@@ -225,6 +225,21 @@
     </message>
 </context>
 <context>
+    <name>Closing</name>
+    <message>
+        <source>The window stays open: the picture has changes that are not saved.</source>
+        <translation>Das Fenster bleibt offen: Das Bild hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message>
+        <source>Do you want to save changes?</source>
+        <translation>Möchten Sie die Änderungen speichern?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you choose don&apos;t save option.</source>
+        <translation>Wenn Sie nicht speichern, gehen Ihre Änderungen verloren.</translation>
+    </message>
+</context>
+<context>
     <name>Command</name>
     <message>
         <source>&amp;File</source>
@@ -621,65 +636,8 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>%1 can&apos;t be read</source>
-        <translation>%1 kann nicht gelesen werden</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>file name, what is wrong</comment>
-        <translation>%1: %2</translation>
-    </message>
-    <message>
         <source>Changes that were not saved have been replaced.</source>
         <translation>Nicht gespeicherte Änderungen wurden ersetzt.</translation>
-    </message>
-    <message>
-        <source>The window stays open: the picture has changes that are not saved.</source>
-        <translation>Das Fenster bleibt offen: Das Bild hat Änderungen, die nicht gespeichert sind.</translation>
-    </message>
-    <message>
-        <source>No Pictures Yet</source>
-        <translation>Noch keine Bilder</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Menu</source>
-        <translation>&amp;Menü leeren</translation>
-    </message>
-    <message>
-        <source>Do you want to save changes?</source>
-        <translation>Möchten Sie die Änderungen speichern?</translation>
-    </message>
-    <message>
-        <source>Your changes will be lost if you choose don&apos;t save option.</source>
-        <translation>Wenn Sie nicht speichern, gehen Ihre Änderungen verloren.</translation>
-    </message>
-    <message>
-        <source>Change</source>
-        <translation>Änderung</translation>
-    </message>
-    <message>
-        <source>Before All Changes</source>
-        <translation>Vor allen Änderungen</translation>
-    </message>
-    <message>
-        <source>%1 (%2 times)</source>
-        <translation>%1 (%2-mal)</translation>
-    </message>
-    <message>
-        <source>Makes the changes up to this one again</source>
-        <translation>Stellt die Änderungen bis zu dieser wieder her</translation>
-    </message>
-    <message>
-        <source>Takes back what came after</source>
-        <translation>Nimmt zurück, was danach kam</translation>
-    </message>
-    <message>
-        <source>The present state</source>
-        <translation>Der jetzige Stand</translation>
-    </message>
-    <message>
-        <source>Opening “%1”…</source>
-        <translation>„%1“ wird geöffnet …</translation>
     </message>
 </context>
 <context>
@@ -1390,6 +1348,41 @@
         <source>Exported “%1”: %2</source>
         <comment>file name, its size</comment>
         <translation>„%1“ exportiert: %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilledMenus</name>
+    <message>
+        <source>No Pictures Yet</source>
+        <translation>Noch keine Bilder</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Menü leeren</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Änderung</translation>
+    </message>
+    <message>
+        <source>Before All Changes</source>
+        <translation>Vor allen Änderungen</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2-mal)</translation>
+    </message>
+    <message>
+        <source>Makes the changes up to this one again</source>
+        <translation>Stellt die Änderungen bis zu dieser wieder her</translation>
+    </message>
+    <message>
+        <source>Takes back what came after</source>
+        <translation>Nimmt zurück, was danach kam</translation>
+    </message>
+    <message>
+        <source>The present state</source>
+        <translation>Der jetzige Stand</translation>
     </message>
 </context>
 <context>
@@ -3625,6 +3618,13 @@
     </message>
 </context>
 <context>
+    <name>OpeningView</name>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>„%1“ wird geöffnet …</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Cancel</source>
@@ -4369,6 +4369,15 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>%1 × %2 px · %3</source>
         <comment>width, height, color space and depth</comment>
         <translation>%1 × %2 px · %3</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file name, what is wrong</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -225,6 +225,21 @@
     </message>
 </context>
 <context>
+    <name>Closing</name>
+    <message>
+        <source>The window stays open: the picture has changes that are not saved.</source>
+        <translation>La fenêtre reste ouverte&#xa0;: l’image a des modifications non enregistrées.</translation>
+    </message>
+    <message>
+        <source>Do you want to save changes?</source>
+        <translation>Voulez-vous enregistrer les modifications&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Your changes will be lost if you choose don&apos;t save option.</source>
+        <translation>Si vous n’enregistrez pas, vos modifications seront perdues.</translation>
+    </message>
+</context>
+<context>
     <name>Command</name>
     <message>
         <source>&amp;File</source>
@@ -621,65 +636,8 @@
 <context>
     <name>Controller</name>
     <message>
-        <source>%1 can&apos;t be read</source>
-        <translation>%1 ne peut pas être lu</translation>
-    </message>
-    <message>
-        <source>%1: %2</source>
-        <comment>file name, what is wrong</comment>
-        <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message>
         <source>Changes that were not saved have been replaced.</source>
         <translation>Des modifications non enregistrées ont été remplacées.</translation>
-    </message>
-    <message>
-        <source>The window stays open: the picture has changes that are not saved.</source>
-        <translation>La fenêtre reste ouverte&#xa0;: l’image a des modifications non enregistrées.</translation>
-    </message>
-    <message>
-        <source>No Pictures Yet</source>
-        <translation>Aucune image pour l’instant</translation>
-    </message>
-    <message>
-        <source>&amp;Clear Menu</source>
-        <translation>&amp;Vider le menu</translation>
-    </message>
-    <message>
-        <source>Do you want to save changes?</source>
-        <translation>Voulez-vous enregistrer les modifications&#xa0;?</translation>
-    </message>
-    <message>
-        <source>Your changes will be lost if you choose don&apos;t save option.</source>
-        <translation>Si vous n’enregistrez pas, vos modifications seront perdues.</translation>
-    </message>
-    <message>
-        <source>Change</source>
-        <translation>Modification</translation>
-    </message>
-    <message>
-        <source>Before All Changes</source>
-        <translation>Avant toute modification</translation>
-    </message>
-    <message>
-        <source>%1 (%2 times)</source>
-        <translation>%1 (%2 fois)</translation>
-    </message>
-    <message>
-        <source>Makes the changes up to this one again</source>
-        <translation>Refait les modifications jusqu’à celle-ci</translation>
-    </message>
-    <message>
-        <source>Takes back what came after</source>
-        <translation>Annule ce qui a suivi</translation>
-    </message>
-    <message>
-        <source>The present state</source>
-        <translation>L’état actuel</translation>
-    </message>
-    <message>
-        <source>Opening “%1”…</source>
-        <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
     </message>
 </context>
 <context>
@@ -1390,6 +1348,41 @@
         <source>Exported “%1”: %2</source>
         <comment>file name, its size</comment>
         <translation>« %1 » exporté : %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilledMenus</name>
+    <message>
+        <source>No Pictures Yet</source>
+        <translation>Aucune image pour l’instant</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Menu</source>
+        <translation>&amp;Vider le menu</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Before All Changes</source>
+        <translation>Avant toute modification</translation>
+    </message>
+    <message>
+        <source>%1 (%2 times)</source>
+        <translation>%1 (%2 fois)</translation>
+    </message>
+    <message>
+        <source>Makes the changes up to this one again</source>
+        <translation>Refait les modifications jusqu’à celle-ci</translation>
+    </message>
+    <message>
+        <source>Takes back what came after</source>
+        <translation>Annule ce qui a suivi</translation>
+    </message>
+    <message>
+        <source>The present state</source>
+        <translation>L’état actuel</translation>
     </message>
 </context>
 <context>
@@ -3625,6 +3618,13 @@
     </message>
 </context>
 <context>
+    <name>OpeningView</name>
+    <message>
+        <source>Opening “%1”…</source>
+        <translation>Ouverture de «&#xa0;%1&#xa0;»…</translation>
+    </message>
+</context>
+<context>
     <name>Overlay</name>
     <message>
         <source>Cancel</source>
@@ -4369,6 +4369,15 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>%1 × %2 px · %3</source>
         <comment>width, height, color space and depth</comment>
         <translation>%1 × %2 px · %3</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be read</source>
+        <translation>%1 ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>file name, what is wrong</comment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
