@@ -19,7 +19,7 @@ void boundRectangles(CIFilter& filter, const CIRect& picture)
 
 std::shared_ptr<CIFilter> FilterMaker::newFilter(const std::string& name, const CIImage& picture, const CIRect& view)
 {
-    const std::shared_ptr<CIFilter> filter = CIFilter::filterWithName(name);
+    std::shared_ptr<CIFilter> filter = CIFilter::filterWithName(name);
     if (filter) {
         filter->setDefaults();
         setupAllImageInputsToNotNil(*filter, picture);

@@ -4,6 +4,7 @@
 #include "platform/imageio/PictureReader.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QtEndian>
 
 #include <algorithm>

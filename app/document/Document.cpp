@@ -105,7 +105,7 @@ void Document::restore(const FileState& state)
 
 CIImage Document::restored(KeptPicture& kept)
 {
-    const CIImage image = kept.image();
+    CIImage image = kept.image();
     if (const CIBitmap* bitmap = bitmapOf(image))
         m_formats.remember(image, m_formats.formatOf(image, bitmap->format()));
     return image;

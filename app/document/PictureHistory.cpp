@@ -65,7 +65,7 @@ void KeptPicture::moveToDisk(const QString& folder)
 std::shared_ptr<KeptPicture> PictureHistory::keep(const CIImage& image)
 {
     wait(); // so that no more than one picture is above the budget
-    const auto kept = std::make_shared<KeptPicture>(image);
+    auto kept = std::make_shared<KeptPicture>(image);
     std::erase_if(m_kept, [](const std::weak_ptr<KeptPicture>& known) { return known.expired(); });
     m_kept.push_back(kept);
     std::int64_t bytes = 0;

@@ -167,8 +167,9 @@ void readBesideWindow(Document& document, const QString& title, std::function<Pi
     std::function<void(const CIImage&)> take)
 {
     document.work(
-        {.title = title}, [read](WorkControl& control) { return readUnlessCancelled(read, control.rendering); },
-        [&document, take](const std::optional<PictureRead>& picture, bool isCancelled) {
+        {.title = title},
+        [read = std::move(read)](WorkControl& control) { return readUnlessCancelled(read, control.rendering); },
+        [&document, take = std::move(take)](const std::optional<PictureRead>& picture, bool isCancelled) {
             if (!isCancelled)
                 take(document.take(picture.value_or(PictureRead())));
         });

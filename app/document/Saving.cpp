@@ -142,7 +142,7 @@ void Saving::saveAs(const QString& path)
         quitAfterSave = false; // who goes back to the picture stays there
         return;
     }
-    const QString target = *asked;
+    const QString& target = *asked;
     format_type = getRealExportIndex(name);
     Writer writer = name == QLatin1String("PDF") ? pdfWriter(target) : bitmapWriter(format_type, target);
     const auto kept = std::make_shared<std::optional<ReplacedFile>>();

@@ -34,9 +34,9 @@ signals:
 private:
     /// How a canvas is looked at.
     struct Sight {
-        ZoomedCanvas* canvas;
-        CanvasScrollView* scroller;
-        float zoom;
+        ZoomedCanvas* canvas = nullptr;
+        CanvasScrollView* scroller = nullptr;
+        float zoom = 1;
         CIPoint scroll;
     };
     static Sight sightOf(ZoomedCanvas& canvas, CanvasScrollView& scroller);

@@ -1,10 +1,10 @@
 // filter_pages DOCS-FOLDER: every filter of the catalogue as the window first shows it, on one sheet
 // (contact_sheet.jpg), and one line for each in the table at the end of filters.md.
 #include "app/Controller.h"
-#include "platform/quartz/TextRenderer.h"
 #include "app/window/MainWindow.h"
 #include "platform/coreimage/CIFilter.h"
 #include "platform/foundation/Appearance.h"
+#include "platform/quartz/TextRenderer.h"
 
 #include <QApplication>
 #include <QDir>
