@@ -6,7 +6,6 @@
 #include "widgets/ValueSlider.h"
 
 #include <QCheckBox>
-#include <QColorDialog>
 #include <QComboBox>
 #include <QPushButton>
 #include <QTest>
@@ -177,37 +176,6 @@ TEST_F(EffectControlsTest, PanelsCenterTheirButtonAndGoAway)
     EXPECT_TRUE(window.findChildren<QWidget*>().isEmpty());
     select(kSketch);
     EXPECT_TRUE(controls.empty());
-}
-
-TEST_F(EffectControlsTest, ColorWellsShowWhatIsTriedAndChangeByWhatIsPicked)
-{
-    select(kFlare);
-    auto* well = qobject_cast<ColorWell*>(controls[0]->focusProxy());
-    ASSERT_TRUE(well);
-    const CIColor before = effect->bgColor();
-    for (const bool accepts : {false, true}) {
-        QTest::keyClick(well, Qt::Key_Space);
-        ASSERT_TRUE(well->panel() && well->panel()->isVisible());
-        well->panel()->setCurrentColor(QColor(255, 0, 51, 102));
-        EXPECT_EQ(effect->bgColor().red(), 1) << "the picture follows";
-        EXPECT_NEAR(effect->bgColor().alpha(), 0.4, 1e-4);
-        EXPECT_FALSE(master.undo.canUndo());
-        accepts ? well->panel()->accept() : well->panel()->reject();
-        EXPECT_NEAR(effect->bgColor().blue(), accepts ? 0.2 : before.blue(), 1e-4);
-        EXPECT_EQ(master.undo.canUndo(), accepts);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    master.undo.undo();
-    EXPECT_NEAR(effect->bgColor().alpha(), before.alpha(), 1e-4);
-    EXPECT_FALSE(master.undo.canUndo());
-
-    QTest::keyClick(well, Qt::Key_Space);
-    const QPointer<QColorDialog> panel = well->panel();
-    posted.clear();
-    effect->clearEffect();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(panel);
-    EXPECT_TRUE(posted.isEmpty());
 }
 
 TEST_F(EffectControlsTest, WorkWithoutAController)
