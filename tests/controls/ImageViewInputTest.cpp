@@ -119,7 +119,8 @@ TEST_F(ImageViewTest, ScrollBarsComeAndGoWithTheZoom)
     view.setZoom(2);
     EXPECT_TRUE(QTest::qWaitFor([&] { return view.width() < 400 && view.height() < 300; }));
     view.setZoom(1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return view.size() == QSize(400, 300); })) << "two bars that nothing needs don't keep each other";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.size() == QSize(400, 300); }))
+        << "two bars that nothing needs don't keep each other";
     EXPECT_EQ(view.bounds(), (CIRect{-5, -5, 400, 300}));
 }
 
