@@ -2,10 +2,10 @@
 #include "app/Controller.h"
 #include "app/document/OneInstance.h"
 #include "app/document/SessionFolder.h"
-#include "platform/quartz/TextRenderer.h"
 #include "app/window/MainWindow.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Log.h"
+#include "platform/quartz/TextRenderer.h"
 #include "translations/Translations.h"
 
 #include <QApplication>

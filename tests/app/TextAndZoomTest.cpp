@@ -1,8 +1,8 @@
 #include "app/CommandLine.h"
 #include "app/document/UndoNames.h"
-#include "platform/quartz/TextRenderer.h"
 #include "app/window/ZoomScale.h"
 #include "platform/coreimage/CIFilter.h"
+#include "platform/quartz/TextRenderer.h"
 
 #include <gtest/gtest.h>
 
