@@ -1,6 +1,6 @@
 #include "files/StoredBitmap.h"
 
-#include "files/PackedBitmap.h"
+#include "platform/foundation/PackedBitmap.h"
 #include "platform/imageio/ImageLog.h"
 
 #include <QDir>

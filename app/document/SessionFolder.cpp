@@ -1,9 +1,9 @@
 #include "app/document/SessionFolder.h"
 
-#include "files/PackedBitmap.h"
 #include "platform/chain/Baking.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/Log.h"
+#include "platform/foundation/PackedBitmap.h"
 #include "platform/imageio/PictureReader.h"
 
 #include <QCryptographicHash>

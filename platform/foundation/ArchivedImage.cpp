@@ -3,7 +3,9 @@
 #include "platform/coreimage/CIContext.h"
 #include "platform/coreimage/graph/BitmapNode.h"
 #include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/PackedBitmap.h"
 
+#include <QBuffer>
 #include <QCborArray>
 
 #include <cmath>
@@ -11,7 +13,7 @@
 
 namespace {
 
-// The order of the enumerations is part of stored files.
+// As plain pictures name them.
 constexpr CIFormat kFormats[] = {CIFormat::RGBA8, CIFormat::BGRA8, CIFormat::RGBA16, CIFormat::RGBAf};
 constexpr CIAlpha kAlphas[] = {CIAlpha::Opaque, CIAlpha::Straight, CIAlpha::Premultiplied};
 constexpr CIColorSpace kSpaces[] = {CIColorSpace::SRGB, CIColorSpace::LinearSRGB};
@@ -19,12 +21,6 @@ constexpr CIColorSpace kSpaces[] = {CIColorSpace::SRGB, CIColorSpace::LinearSRGB
 constexpr qint64 kMostBytes = 1'000'000'000; // what one array of bytes holds
 constexpr double kFarthest = 1e9; // px from the origin
 constexpr int kBand = 64; // rows compared at a time
-
-template <class T, std::size_t count>
-int indexOf(const T (&values)[count], T value)
-{
-    return int(std::find(std::begin(values), std::end(values), value) - std::begin(values));
-}
 
 template <class T, std::size_t count>
 T valueAt(const T (&values)[count], const QCborValue& index)
@@ -70,15 +66,39 @@ CIBitmap pixelsOf(const CIImage& image, int width, int height)
     return floatRows(image, width, 0, height);
 }
 
-QByteArray bytesOf(const CIBitmap& bitmap)
+QByteArray packed(const CIBitmap& bitmap)
 {
-    const qsizetype rowSize = qsizetype(bitmap.width()) * qsizetype(bytesPerPixel(bitmap.format()));
-    if (rowSize * bitmap.height() > kMostBytes)
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!packBitmap(bitmap, buffer) || buffer.size() > kMostBytes)
         throw ArchiveError("The picture is too large to be kept.");
-    QByteArray bytes(rowSize * bitmap.height(), Qt::Uninitialized);
+    return buffer.data();
+}
+
+CIBitmap unpacked(QByteArray bytes)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    return unpackBitmap(buffer, kMostBytes / 4);
+}
+
+/// As former versions stored pictures.
+CIBitmap plainBitmap(const QCborMap& map)
+{
+    const qint64 width = map[QLatin1String("width")].toInteger(), height = map[QLatin1String("height")].toInteger();
+    const CIFormat format = valueAt(kFormats, map[QLatin1String("format")]);
+    const CIAlpha alpha = valueAt(kAlphas, map[QLatin1String("alpha")]);
+    const CIColorSpace space = valueAt(kSpaces, map[QLatin1String("space")]);
+    const QByteArray bytes = map[QLatin1String("pixels")].toByteArray();
+    if (width <= 0 || height <= 0 || width > kMostBytes || height > kMostBytes / width)
+        throw ArchiveError("A picture has no size.");
+    const qint64 rowSize = width * qint64(bytesPerPixel(format));
+    if (rowSize * height != bytes.size())
+        throw ArchiveError("A picture has too few or too many pixels.");
+    CIBitmap bitmap(int(width), int(height), format, alpha, space);
     for (int y = 0; y < bitmap.height(); ++y)
-        std::memcpy(bytes.data() + y * rowSize, bitmap.row(y), std::size_t(rowSize));
-    return bytes;
+        std::memcpy(bitmap.mutableRow(y), bytes.constData() + y * rowSize, std::size_t(rowSize));
+    return bitmap;
 }
 
 } // namespace
@@ -100,30 +120,16 @@ QCborMap archivedImage(const CIImage& image)
     } catch (const std::bad_alloc&) {
         throw ArchiveError("There is no memory for a picture.");
     }
-    return QCborMap{{QLatin1String("width"), bitmap.width()}, {QLatin1String("height"), bitmap.height()},
-        {QLatin1String("format"), indexOf(kFormats, bitmap.format())},
-        {QLatin1String("alpha"), indexOf(kAlphas, bitmap.alpha())},
-        {QLatin1String("space"), indexOf(kSpaces, bitmap.colorSpace())},
-        {QLatin1String("extent"), QCborArray{extent.x, extent.y, extent.width, extent.height}},
-        {QLatin1String("pixels"), bytesOf(bitmap)}};
+    return QCborMap{{QLatin1String("extent"), QCborArray{extent.x, extent.y, extent.width, extent.height}},
+        {QLatin1String("packed"), packed(bitmap)}};
 }
 
 CIImage unarchivedImage(const QCborMap& map)
 {
-    const qint64 width = map[QLatin1String("width")].toInteger(), height = map[QLatin1String("height")].toInteger();
-    const CIFormat format = valueAt(kFormats, map[QLatin1String("format")]);
-    const CIAlpha alpha = valueAt(kAlphas, map[QLatin1String("alpha")]);
-    const CIColorSpace space = valueAt(kSpaces, map[QLatin1String("space")]);
-    const QByteArray bytes = map[QLatin1String("pixels")].toByteArray();
-    if (width <= 0 || height <= 0 || width > kMostBytes || height > kMostBytes / width)
-        throw ArchiveError("A picture has no size.");
-    const qint64 rowSize = width * qint64(bytesPerPixel(format));
-    if (rowSize * height != bytes.size())
-        throw ArchiveError("A picture has too few or too many pixels.");
-
-    CIBitmap bitmap(int(width), int(height), format, alpha, space);
-    for (int y = 0; y < bitmap.height(); ++y)
-        std::memcpy(bitmap.mutableRow(y), bytes.constData() + y * rowSize, std::size_t(rowSize));
+    const QCborValue bytes = map[QLatin1String("packed")];
+    const CIBitmap bitmap = bytes.isByteArray() ? unpacked(bytes.toByteArray()) : plainBitmap(map);
+    if (bitmap.isNull())
+        throw ArchiveError("A picture is damaged.");
     CIImage image = CIImage::fromBitmap(bitmap);
 
     const QCborArray stored = map[QLatin1String("extent")].toArray();

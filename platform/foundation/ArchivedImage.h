@@ -5,7 +5,7 @@
 
 #include <QCborMap>
 
-/// Size, place, pixel format and pixels. Throws ArchiveError for images without an end or without memory for them.
+/// Place and packed pixels. Throws ArchiveError for images without an end or without memory for them.
 QCborMap archivedImage(const CIImage& image);
 /// Throws ArchiveError when the entries don't fit together.
 CIImage unarchivedImage(const QCborMap& map);

@@ -124,6 +124,21 @@ TEST(KeyedArchive, FindsDamageWhereverItIs)
     EXPECT_THROW(KeyedArchive::unarchivedValue("\xf6"), ArchiveError) << "CBOR, but no archive";
 }
 
+TEST(KeyedArchive, ReadsThePlainPicturesOfFormerVersions)
+{
+    const CIBitmap bitmap = noise(3, 2, CIFormat::RGBA8, CIAlpha::Straight);
+    QByteArray pixels;
+    for (int y = 0; y < 2; ++y)
+        pixels += QByteArray(reinterpret_cast<const char*>(bitmap.row(y)), 12);
+    const QCborMap plain{{QLatin1String("width"), 3}, {QLatin1String("height"), 2}, {QLatin1String("format"), 0},
+        {QLatin1String("alpha"), 1}, {QLatin1String("space"), 0},
+        {QLatin1String("extent"), QCborArray{0.0, 0.0, 3.0, 2.0}}, {QLatin1String("pixels"), pixels}};
+    QCborMap archive = QCborValue::fromCbor(KeyedArchive::archivedData(CIImage::fromBitmap(bitmap))).toMap();
+    archive[QLatin1String("root")] = QCborMap{{QLatin1String("image"), plain}};
+    const CIImage image = KeyedArchive::unarchivedValue(QCborValue(archive).toCbor()).toImage();
+    EXPECT_EQ(light(image), light(CIImage::fromBitmap(bitmap)));
+}
+
 TEST(KeyedArchive, PutsPicturesOnlyWhereTheyCanBeDrawn)
 {
     const CIImage picture = CIImage::fromBitmap(noise(3, 2, CIFormat::RGBA8, CIAlpha::Straight));

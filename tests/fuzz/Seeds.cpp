@@ -1,6 +1,6 @@
-#include "files/PackedBitmap.h"
 #include "platform/coreimage/CIImage.h"
 #include "platform/foundation/KeyedArchive.h"
+#include "platform/foundation/PackedBitmap.h"
 #include "tests/fuzz/Targets.h"
 #include "tests/imageio/PictureSamples.h"
 

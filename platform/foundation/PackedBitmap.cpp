@@ -1,4 +1,4 @@
-#include "files/PackedBitmap.h"
+#include "platform/foundation/PackedBitmap.h"
 
 #include <algorithm>
 #include <array>
