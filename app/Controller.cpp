@@ -68,7 +68,7 @@ Controller::Controller(MainWindow& window)
           *customEffectsView, m_threeD, m_document)
     , m_modes(
           {&m_standard, &m_threeD, &m_custom}, {ui.filterTabView, ui.favoritesTabView, ui.mainTabView}, m_undoManager)
-    , m_zooming(*ui.zoomSlider, *ui.zoomField, *ui.pictureScrollView,
+    , m_zooming(*ui.zoomSlider, *ui.zoomField, *ui.mainTabView,
           {{*ciView, {}}, {*customEffectsView, GeneratedEffect::kCanvasWithoutPicture}},
           {[this] { return m_modes.current().canvas(); },
               [this] { return QSizeF(getBgImageExtent().width, getBgImageExtent().height); }})

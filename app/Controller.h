@@ -180,7 +180,7 @@ public:
     void undoPaste(const CIImage& image) { m_document.replaceByForeignPicture(image); }
     Zooming& zooming() { return m_zooming; }
     void zoomChanged() { m_zooming.takeSlider(); }
-    void setZoom(float zoom) override { m_zooming.setZoom(zoom); } // moves the slider only
+    void setZoom(float zoom) override { m_zooming.takeZoom(zoom); } // moves the slider only
     void updateZoommWithDelta(double delta) override { m_zooming.zoomBy(delta); }
 
     // Before and after

@@ -9,6 +9,8 @@ float clampedZoom(float zoom)
 
 float zoomAfterWheelStep(float zoom, double delta)
 {
+    if (delta < 0 && zoom < float(kSmallestZoom))
+        return zoom; // only the whole picture in the window is smaller
     const double before = zoom; // steps are decided in double: a stored 1.1 lies just above 1.1
     double after = before;
     if (delta > 0)

@@ -32,9 +32,9 @@ ZoomedCanvas::ZoomedCanvas(CanvasScrollView* scrollView)
 
 // --- layout ---
 
-void ZoomedCanvas::setZoom(float newZoom)
+void ZoomedCanvas::setZoom(float newZoom, float smallest)
 {
-    zoom = clampedZoom(newZoom);
+    zoom = newZoom >= smallest && newZoom < float(kSmallestZoom) ? newZoom : clampedZoom(newZoom);
     resizeViewBoundCenter(true, int(PictureCenter::Toward));
 }
 

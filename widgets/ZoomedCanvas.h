@@ -3,6 +3,7 @@
 
 #include "platform/coreimage/CIGeometry.h"
 #include "widgets/AccessibleCanvas.h"
+#include "widgets/ZoomSteps.h"
 
 #include <QWidget>
 
@@ -21,8 +22,8 @@ public:
     explicit ZoomedCanvas(CanvasScrollView* scrollView);
 
     float getZoom() const { return zoom; }
-    /// Clamps to 0.1 ... 10 and lays the view out anew.
-    void setZoom(float newZoom);
+    /// Clamps to 0.1 ... 10 and lays the view out anew. Only what fits a large picture in goes below, to `smallest`.
+    void setZoom(float newZoom, float smallest = float(kSmallestZoom));
     /// Lays the view out for the size of window and picture; see layOutPicture. `center` is 0 to 3.
     void resizeViewBoundCenter(bool force, int center);
 

@@ -30,8 +30,9 @@ OpeningView::OpeningView(MainWindow& window, Opening& opening, StatusRow& status
     });
     connect(&opening, &Opening::cancelled, this, [this, &zooming] {
         for (const Sight& sight : std::exchange(m_sights, {})) {
-            sight.canvas->setZoom(sight.zoom);
+            sight.canvas->setZoom(sight.zoom, sight.zoom);
             sight.scroller->setScrollPosition(sight.scroll);
+            zooming.takeZoom(sight.zoom);
         }
         zooming.show();
         hide();

@@ -14,11 +14,12 @@ namespace {
 
 // The slider counts whole steps.
 constexpr float kSliderSteps = 10000; // per unit of its position
+constexpr float kSmallestFit = 0.001f;
 constexpr double kNoZoom = -50; // a sentinel of the views
 
 } // namespace
 
-Zooming::Zooming(QSlider& slider, QLabel& field, const QWidget& area, std::vector<Canvas> canvases, Source source)
+Zooming::Zooming(QSlider& slider, QLabel& field, QWidget& area, std::vector<Canvas> canvases, Source source)
     : m_slider(slider)
     , m_field(field)
     , m_area(area)
@@ -30,6 +31,7 @@ Zooming::Zooming(QSlider& slider, QLabel& field, const QWidget& area, std::vecto
     slider.setPageStep(int(kSliderSteps));
     connect(&slider, &QSlider::valueChanged, this, &Zooming::takeSlider);
     field.installEventFilter(this);
+    area.installEventFilter(this);
     for (const Canvas& each : m_canvases)
         connect(&each.canvas, &ZoomedCanvas::layoutChanged, this, &Zooming::showPercent);
 }
@@ -47,6 +49,12 @@ void Zooming::setZoom(float zoom)
     m_slider.setValue(int(std::lround(position * kSliderSteps)));
 }
 
+void Zooming::takeZoom(float zoom)
+{
+    m_isFitted = false;
+    setZoom(zoom);
+}
+
 void Zooming::show()
 {
     if (const ZoomedCanvas* canvas = m_source.canvas())
@@ -57,7 +65,7 @@ void Zooming::show()
 void Zooming::layOut()
 {
     if (ZoomedCanvas* canvas = m_source.canvas())
-        canvas->setZoom(canvas->getZoom());
+        canvas->setZoom(canvas->getZoom(), canvas->getZoom());
     show();
 }
 
@@ -73,6 +81,7 @@ void Zooming::showIn(QWidget& control)
 
 void Zooming::takeSlider()
 {
+    m_isFitted = false;
     if (ZoomedCanvas* canvas = m_source.canvas())
         canvas->setZoom(zoomOfSliderPosition(float(m_slider.value()) / kSliderSteps));
     emit zoomed();
@@ -90,14 +99,19 @@ void Zooming::zoomBy(double delta)
     if (!canvas)
         return;
     const double zoom = double(canvas->getZoom()) + delta;
-    if (zoom != kNoZoom)
+    const bool isLess = delta < 0 && canvas->getZoom() <= float(kSmallestZoom);
+    if (zoom != kNoZoom && !isLess)
         zoomTo(float(zoom));
 }
 
 void Zooming::step(int direction)
 {
-    if (const ZoomedCanvas* canvas = m_source.canvas())
-        zoomTo(zoomAfterWheelStep(canvas->getZoom(), direction));
+    const ZoomedCanvas* canvas = m_source.canvas();
+    if (!canvas)
+        return;
+    const float zoom = zoomAfterWheelStep(canvas->getZoom(), direction);
+    if (zoom != canvas->getZoom())
+        zoomTo(zoom);
 }
 
 void Zooming::fit()
@@ -107,8 +121,9 @@ void Zooming::fit()
     const QSize area = m_area.size() - QSize(scroller, scroller);
     for (const Canvas& each : m_canvases) {
         const QSizeF size = picture.isEmpty() ? each.withoutPicture : picture;
-        each.canvas.setZoom(zoomThatFits(size.width(), size.height(), area.width(), area.height()));
+        each.canvas.setZoom(zoomThatFits(size.width(), size.height(), area.width(), area.height()), kSmallestFit);
     }
+    m_isFitted = true;
     show();
 }
 
@@ -118,8 +133,16 @@ void Zooming::zoomToFit()
     emit zoomed();
 }
 
+void Zooming::fitAgain()
+{
+    if (m_isFitted)
+        zoomToFit();
+}
+
 bool Zooming::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == &m_area && event->type() == QEvent::Resize) // the canvases have their new size after that
+        QMetaObject::invokeMethod(this, &Zooming::fitAgain, Qt::QueuedConnection);
     const ZoomedCanvas* canvas = m_source.canvas();
     if (watched != &m_field || event->type() != QEvent::MouseButtonDblClick || !canvas)
         return QObject::eventFilter(watched, event);

@@ -13,7 +13,8 @@ class QWidget;
 class ZoomedCanvas;
 
 /// Keeps the slider, the field that tells the zoom in percent, and the canvas in step. A double click on the field goes
-/// to actual size, and from there to the whole picture.
+/// to actual size, and from there to the whole picture. A picture that was fitted stays so while the area changes its
+/// size, until the user zooms.
 class Zooming : public QObject {
     Q_OBJECT
 
@@ -28,11 +29,13 @@ public:
     };
 
     /// `area` is the part of the window in which a whole picture is to fit.
-    Zooming(QSlider& slider, QLabel& field, const QWidget& area, std::vector<Canvas> canvases, Source source);
+    Zooming(QSlider& slider, QLabel& field, QWidget& area, std::vector<Canvas> canvases, Source source);
 
     bool isPossible() const { return m_source.canvas(); }
     /// Moves the slider only.
     void setZoom(float zoom);
+    /// The same when the user has zoomed on the canvas itself.
+    void takeZoom(float zoom);
     /// Slider and field tell what is seen.
     void show();
     /// Lays out what is seen, and shows its zoom.
@@ -57,10 +60,12 @@ protected:
 
 private:
     void showPercent();
+    void fitAgain();
 
     QSlider& m_slider;
     QLabel& m_field;
-    const QWidget& m_area;
+    QWidget& m_area;
     std::vector<Canvas> m_canvases;
     Source m_source;
+    bool m_isFitted = false;
 };

@@ -92,4 +92,34 @@ TEST_F(ZoomingTest, ADoubleClickGoesToActualSizeAndBack)
     EXPECT_FALSE(zooming.isPossible());
 }
 
+TEST_F(ZoomingTest, AFittedPictureStaysSoUntilTheUserZooms)
+{
+    zooming.fit();
+    const float fitting = canvas.getZoom();
+    scroller.resize(400, 400);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return canvas.getZoom() > 1.9f * fitting; }));
+    zooming.takeZoom(0.7f); // the wheel has turned on the canvas
+    canvas.setZoom(0.7f);
+    scroller.resize(200, 200);
+    QCoreApplication::processEvents();
+    EXPECT_FLOAT_EQ(canvas.getZoom(), 0.7f);
+}
+
+TEST_F(ZoomingTest, OnlyFittingGoesBelowTheSlider)
+{
+    canvas.size = {40000, 200};
+    picture = {40000, 200};
+    zooming.fit();
+    const float fitting = canvas.getZoom();
+    EXPECT_LT(fitting, 0.01f);
+    EXPECT_GT(fitting, 0.004f);
+    EXPECT_EQ(slider.value(), 0);
+    zooming.layOut();
+    zooming.step(-1);
+    zooming.zoomBy(-0.1);
+    EXPECT_EQ(canvas.getZoom(), fitting) << "nothing makes it larger by the way";
+    zooming.zoomTo(0.001f);
+    EXPECT_FLOAT_EQ(canvas.getZoom(), 0.1f);
+}
+
 } // namespace
