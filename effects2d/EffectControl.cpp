@@ -35,8 +35,6 @@ EffectControl::EffectControl(const EffectParameter& parameter, const CIValue& va
     : QWidget(parent)
     , m_value(parameter.shown(value))
 {
-    if (parameter.facts.startsWhole)
-        m_value = std::trunc(m_value.toDouble());
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     m_row = newRow(parameter,
@@ -51,6 +49,8 @@ EffectControl::EffectControl(const EffectParameter& parameter, const CIValue& va
                     take(tried);
                     tellUndo(&UndoManager::enableUndoRegistration);
                 }});
+    if (auto* number = dynamic_cast<NumberRow*>(m_row); number && parameter.facts.startsWhole)
+        number->slider->setValue(std::trunc(m_value.toDouble()));
 }
 
 /// The row may bring back what was there while others were tried, so it goes first.

@@ -29,7 +29,7 @@ struct ParameterFacts {
     double min = 0, max = 1; // of the slider
     int decimals = 0; // of the readout, and of the steps
     bool continuous = true; // acts while it is moved, not only when it is let go
-    bool startsWhole = false; // the slider first shows the whole part of the value
+    bool startsWhole = false; // the slider first stands at the whole part of the value
     std::vector<const char*> titles{}; // the choices of a number that is an index
     std::optional<States> states{}; // a number that is a switch
     bool beside = false; // the control stands on the row of the one before, without a caption

@@ -53,19 +53,40 @@ void ColorWell::openPanel()
     m_panel->setWindowTitle(accessibleName());
     m_panel->setOption(QColorDialog::ShowAlphaChannel);
     m_panel->setWindowModality(Qt::WindowModal);
-    const auto tryColor = [this](const QColor& color) {
-        m_shown = color;
-        update();
-        emit colorTried(color);
-    };
-    connect(m_panel, &QColorDialog::currentColorChanged, this, tryColor);
-    connect(m_panel, &QColorDialog::finished, this, [this, tryColor](int result) {
+    m_makesVisible = m_color.alpha() == 0;
+    connect(m_panel, &QColorDialog::currentColorChanged, this, &ColorWell::tryColor);
+    // Later, since the panel sets the alpha itself after it has told.
+    connect(m_panel, &QColorDialog::currentColorChanged, this, &ColorWell::makeVisible, Qt::QueuedConnection);
+    connect(m_panel, &QColorDialog::finished, this, [this](int result) {
+        if (result == QDialog::Accepted)
+            makeVisible();
         const QColor chosen = m_panel->currentColor();
         tryColor(m_color);
         if (result == QDialog::Accepted)
             pick(chosen);
     });
     m_panel->open();
+}
+
+void ColorWell::tryColor(const QColor& color)
+{
+    m_shown = color;
+    update();
+    emit colorTried(color);
+}
+
+void ColorWell::makeVisible()
+{
+    if (!m_makesVisible || !m_panel)
+        return;
+    QColor color = m_panel->currentColor();
+    if (color.alpha() == 0 && color.rgb() == m_color.rgb())
+        return; // nothing has been chosen yet
+    m_makesVisible = false;
+    if (color.alpha() > 0)
+        return;
+    color.setAlpha(255);
+    m_panel->setCurrentColor(color);
 }
 
 void ColorWell::paintEvent(QPaintEvent*)

@@ -6,7 +6,8 @@
 #include <QPushButton>
 
 /// Shows its color, transparency over squares. While the panel is open, what is picked there is tried: shown here and
-/// announced by `colorTried`. Only accepting it makes it the color.
+/// announced by `colorTried`. Only accepting it makes it the color. Choosing another color makes one visible that
+/// nothing is seen of, unless its alpha is chosen, too.
 class ColorWell : public QPushButton {
     Q_OBJECT
 public:
@@ -34,7 +35,11 @@ protected:
     void paintEvent(QPaintEvent*) override;
 
 private:
+    void tryColor(const QColor& color);
+    void makeVisible();
+
     QColor m_color = Qt::black;
     QColor m_shown = Qt::black;
     QPointer<QColorDialog> m_panel;
+    bool m_makesVisible = false; // a color that is chosen without an alpha
 };

@@ -3,6 +3,8 @@
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/TintedIcon.h"
 
+#include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -60,4 +62,20 @@ void PanelPopUp::wheelEvent(QWheelEvent* event)
         QComboBox::wheelEvent(event);
     else
         event->ignore();
+}
+
+/// Escape closes the open menu, and isn't the window's.
+void PanelPopUp::showPopup()
+{
+    QComboBox::showPopup();
+    view()->installEventFilter(this); // once, however often
+}
+
+bool PanelPopUp::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QComboBox::eventFilter(watched, event);
 }

@@ -187,8 +187,14 @@ TEST_F(CustomModeTest, FavouritesBringEffectsBackAcrossRuns)
     EXPECT_EQ(ui.m_pageCustomController->pageCount(), 7);
 }
 
-TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
+TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamilyWhichKeepsItsOwn)
 {
+    action("action3D")->trigger();
+    OutlineView& other = *ui.filter3DOutlineView;
+    QTest::mouseClick(other.viewport(), Qt::LeftButton, {}, other.visualRect(other.model()->index(0, 0)).center());
+    BaseEffect* inSpace = controller.getCurrent3DEffect();
+    ASSERT_TRUE(inSpace);
+    action("actionCustom")->trigger();
     for (int row : {int(kSimple), int(kPlasma)}) {
         pickRow(row);
         perform(&Controller::addFavoritesCustom);
@@ -206,7 +212,9 @@ TEST_F(CustomModeTest, UndoOfAFavouriteAsksTheOtherFamily)
     controller.filterChangedCustom(button(0));
     pickRow(kSimple);
     controller.undo();
-    EXPECT_TRUE(list().selectedItem()) << "only the rows of the 3D list are deselected";
+    EXPECT_TRUE(list().selectedItem());
+    EXPECT_TRUE(other.selectedItem());
+    EXPECT_EQ(controller.getCurrent3DEffect(), inSpace);
 }
 
 TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
@@ -226,6 +234,25 @@ TEST_F(CustomModeTest, AFavouriteOfAnUnknownEffectIsKeptButBringsNothing)
     controller.saveFavoritesCustom();
     const CIValue stored = KeyedArchive::unarchivedValue(defaults.recordsForKey(kList)->at(0).at("classObj").bytes());
     EXPECT_EQ(stored.toDictionary().at("depth"), CIValue(3));
+}
+
+TEST_F(CustomModeTest, AColorIsSeenThatIsChosenWhereThereWasNone)
+{
+    pickRow(kFlare);
+    ColorWell* well = nullptr;
+    for (ColorWell* each : controls<ColorWell>())
+        if (each->color().alpha() == 0)
+            well = each;
+    ASSERT_TRUE(well);
+    well->openPanel();
+    well->panel()->setCurrentColor(QColor(255, 0, 51, 0)); // as a click into the field of colors does
+    EXPECT_TRUE(QTest::qWaitFor([&] { return well->panel()->currentColor().alpha() == 255; }));
+    well->panel()->setCurrentColor(QColor(255, 0, 51, 0)); // as typing the alpha does
+    QCoreApplication::processEvents();
+    EXPECT_EQ(well->panel()->currentColor().alpha(), 0) << "who wants none gets none";
+    well->panel()->setCurrentColor(QColor(255, 0, 51, 128));
+    well->panel()->accept();
+    EXPECT_EQ(well->color().alpha(), 128);
 }
 
 } // namespace

@@ -10,7 +10,9 @@
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 #include "widgets/DocPageControl.h"
+#include "widgets/PanelPopUp.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLabel>
@@ -132,6 +134,22 @@ TEST_F(ThreeDTest, PanelsOfTheModesStayApart)
     EXPECT_EQ(ui.filterNameField->text(), "Gaussian Blur");
 }
 
+TEST_F(ThreeDTest, EscapeInAnOpenPopUpClosesThePopUp)
+{
+    choose(1);
+    auto* popUp = ui.place3DCntrlView->findChild<PanelPopUp*>();
+    ASSERT_TRUE(popUp);
+    popUp->setFocus();
+    popUp->showPopup();
+    ASSERT_TRUE(popUp->view()->isVisible());
+    QTest::keyClick(popUp->view(), Qt::Key_Escape);
+    EXPECT_FALSE(popUp->view()->isVisible());
+    EXPECT_TRUE(controller.getCurrent3DEffect()) << "Escape was the pop-up's";
+    EXPECT_EQ(window.focusWidget(), popUp);
+    QTest::keyClick(popUp, Qt::Key_Escape);
+    EXPECT_FALSE(controller.getCurrent3DEffect());
+}
+
 struct ThreeDFavouritesTest : ThreeDTest {
     ~ThreeDFavouritesTest() override { UserDefaults::standardUserDefaults().setRecordsForKey({}, kList); }
 
@@ -191,6 +209,11 @@ TEST_F(ThreeDFavouritesTest, AChosenOneLetsTheStripStepTowardsTheFirst)
     const int first = strip.currentPage();
     press(button(first + 1));
     EXPECT_EQ(strip.currentPage(), first - 1);
+    onlyTextClosedButton* last = button(int(strip.items().size()) - 1);
+    controller.filterChanged3D(last);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !strip.isMoving(); }));
+    EXPECT_GE(last->x(), strip.visibleOrigin());
+    EXPECT_LE(last->x() + last->width(), strip.visibleOrigin() + strip.visibleWidth()) << "it stays visible";
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 #include "effects3d/OpenGL.h"
 #include "tests/effects3d/SceneFixture.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/ValueSlider.h"
+
+#include <QTest>
 
 namespace {
 
@@ -132,10 +136,20 @@ struct SurfacePanelTest : SurfaceTest {
 
 TEST_F(SurfacePanelTest, SlidersStartAtTheWholePartOfTheirValue)
 {
-    EXPECT_EQ(control("First Curve:").value().toDouble(), 0);
-    EXPECT_EQ(control("Second Curve:").value().toDouble(), 0);
-    EXPECT_EQ(surface->points2()[5], 0.6);
-    EXPECT_EQ(surface->points2()[17], -0.6);
+    for (const auto& [name, index, value] :
+        {std::tuple("First Curve:", 5, 0.6), std::tuple("Second Curve:", 17, -0.6)}) {
+        auto* slider = control(name).findChild<ValueSlider*>();
+        auto* readout = control(name).findChild<ReadoutField*>();
+        EXPECT_EQ(slider->value(), 0);
+        EXPECT_EQ(readout->text(), value > 0 ? "0.60" : "-0.60") << "the value in force";
+        EXPECT_EQ(surface->points2()[std::size_t(index)], value);
+        readout->selectAll();
+        QTest::keyClicks(readout, "0");
+        QTest::keyClick(readout, Qt::Key_Return);
+        EXPECT_EQ(surface->points2()[std::size_t(index)], 0) << "though the slider stands there";
+        QTest::keyClick(slider, Qt::Key_Delete);
+        EXPECT_EQ(surface->points2()[std::size_t(index)], value) << "where it started";
+    }
 }
 
 TEST_F(SurfacePanelTest, EveryControlIsUndoneAndRedone)
