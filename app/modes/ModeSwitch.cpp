@@ -19,7 +19,12 @@ ModeSwitch::ModeSwitch(std::array<Mode*, 3> modes, std::vector<QStackedWidget*> 
     for (Mode* mode : m_modes) {
         connect(mode, &Mode::changed, this, &ModeSwitch::itemChanged);
         connect(mode, &Mode::clearAsked, this, [this] { current().clear(); });
-        connect(&mode->button(), &QAbstractButton::clicked, this, [this, mode] { changeFilterMode(&mode->button()); });
+        connect(&mode->button(), &QAbstractButton::clicked, this, [this, mode](bool isOn) {
+            if (isOn)
+                changeFilterMode(&mode->button());
+            else
+                mode->button().setState(true); // the mode is on already
+        });
     }
 }
 
@@ -46,7 +51,7 @@ void ModeSwitch::changeFilterMode(QAbstractButton* sender)
 
 void ModeSwitch::selectMenuMode(int tag)
 {
-    if (tag >= 1 && tag <= int(m_modes.size()))
+    if (tag >= 1 && tag <= int(m_modes.size()) && !m_modes[std::size_t(tag - 1)]->isOn())
         changeFilterMode(&m_modes[std::size_t(tag - 1)]->button());
 }
 
