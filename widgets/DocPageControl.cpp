@@ -5,10 +5,7 @@
 
 #include <QAbstractButton>
 #include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QPainter>
 #include <QToolButton>
-#include <QWheelEvent>
 
 #include <chrono>
 
@@ -20,7 +17,6 @@ constexpr int kHeight = 50; // points
 constexpr int kStepButtonWidth = 20, kStepButtonHeight = 37; // as high as cards without their boxes
 constexpr auto kTick = 10ms;
 constexpr int kGlideTime = 160; // ms
-constexpr int kWheelNotch = 120;
 
 } // namespace
 
@@ -214,7 +210,8 @@ void DocPageControl::settle()
 void DocPageControl::layOutItems()
 {
     for (int i = 0; i < m_items.size(); ++i)
-        m_items[i]->move(i * m_paging.pitch, 0);
+        if (m_items[i] != m_drag.item)
+            m_items[i]->move(i * m_paging.pitch, 0);
     m_document->setFixedWidth(int(m_paging.documentWidth(visibleWidth())));
 }
 
@@ -245,6 +242,8 @@ void DocPageControl::removeItem(QAbstractButton* item)
     if (index < 0)
         return;
     settle();
+    if (m_drag.item == item)
+        m_drag.item = nullptr;
     const bool hadFocus = item->hasFocus();
     m_items.removeAt(index);
     setPageCount(m_paging.pageCount - 1);
@@ -260,9 +259,28 @@ void DocPageControl::removeItem(QAbstractButton* item)
     liveResizeDone();
 }
 
+void DocPageControl::placeItem(QAbstractButton* item, int index)
+{
+    m_items.move(indexOf(item), std::clamp(index, 0, int(m_items.size()) - 1));
+    layOutItems();
+}
+
+void DocPageControl::moveItem(QAbstractButton* item, int index)
+{
+    const int former = indexOf(item);
+    if (former < 0)
+        return;
+    settle();
+    placeItem(item, index);
+    showItem(indexOf(item));
+    if (indexOf(item) != former)
+        emit itemMoved();
+}
+
 void DocPageControl::clear()
 {
     settle();
+    m_drag.item = nullptr;
     for (QAbstractButton* item : std::as_const(m_items)) {
         item->hide();
         item->deleteLater();
@@ -270,67 +288,4 @@ void DocPageControl::clear()
     m_items.clear();
     setPageCount(0);
     liveResizeDone();
-}
-
-// --- keys, wheel, resizing ---
-
-void DocPageControl::setTabStop(QAbstractButton* item)
-{
-    for (QAbstractButton* other : std::as_const(m_items))
-        other->setFocusPolicy(other == item ? Qt::StrongFocus : Qt::ClickFocus);
-}
-
-/// Goes to the nearest page that shows the whole item.
-void DocPageControl::showItem(int index)
-{
-    const int shown = std::max(1, m_paging.view_page_count);
-    if (index < m_paging.current_page)
-        setCurrentPage(index);
-    else if (index >= m_paging.current_page + shown)
-        setCurrentPage(index - shown + 1);
-}
-
-void DocPageControl::keyPressEvent(QKeyEvent* event)
-{
-    const int index = indexOf(qobject_cast<QAbstractButton*>(focusWidget()));
-    const int last = int(m_items.size()) - 1, forward = isRightToLeft() ? -1 : 1, key = event->key();
-    const QHash<int, int> places = {
-        {Qt::Key_Left, index - forward}, {Qt::Key_Right, index + forward}, {Qt::Key_Home, 0}, {Qt::Key_End, last}};
-    if (index >= 0 && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
-        m_items[index]->click();
-    } else if (index >= 0 && places.contains(key)) {
-        const int next = std::clamp(places[key], 0, last);
-        m_items[next]->setFocus(Qt::TabFocusReason);
-        showItem(next);
-    } else {
-        QWidget::keyPressEvent(event);
-    }
-}
-
-void DocPageControl::wheelEvent(QWheelEvent* event)
-{
-    const QPoint angle = event->angleDelta();
-    const int delta = angle.y() != 0 ? angle.y() : angle.x();
-    m_wheelRest = delta * m_wheelRest < 0 ? delta : m_wheelRest + delta;
-    for (; m_wheelRest >= kWheelNotch; m_wheelRest -= kWheelNotch)
-        stepPrev();
-    for (; m_wheelRest <= -kWheelNotch; m_wheelRest += kWheelNotch)
-        stepNext();
-    event->accept();
-}
-
-bool DocPageControl::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == mainPageScroller) {
-        if (event->type() == QEvent::Resize)
-            liveResizeDone();
-        if (event->type() == QEvent::Paint && m_items.isEmpty() && !m_placeholder.isEmpty()) {
-            QPainter painter(mainPageScroller);
-            painter.setPen(Appearance::shared().look().secondaryText);
-            painter.drawText(mainPageScroller->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_placeholder);
-        }
-    } else if (event->type() == QEvent::FocusIn) {
-        setTabStop(qobject_cast<QAbstractButton*>(watched));
-    }
-    return QWidget::eventFilter(watched, event);
 }

@@ -46,6 +46,10 @@ public:
     /// selected.
     void addItem(QAbstractButton* item, QAbstractButton* selected);
     void removeItem(QAbstractButton* item);
+    /// To another place among the others, within what there is. Dragging an item does that, too.
+    void moveItem(QAbstractButton* item, int index);
+    /// Goes to the nearest page that shows the whole item.
+    void showItem(int index);
     void clear();
     void traceLog() const { }
 
@@ -57,6 +61,10 @@ public:
     bool isMoving() const { return m_animation || m_glide.state() == QAbstractAnimation::Running; }
     QToolButton* previousButton() const { return prevBtn; }
     QToolButton* nextButton() const { return nextBtn; }
+
+signals:
+    /// The user has moved an item.
+    void itemMoved();
 
 protected:
     void keyPressEvent(QKeyEvent*) override;
@@ -72,7 +80,8 @@ private:
     void settle();
     void layOutItems();
     void setTabStop(QAbstractButton* item);
-    void showItem(int index);
+    void dragItem(QAbstractButton* item, const QMouseEvent& event);
+    void placeItem(QAbstractButton* item, int index);
 
     StripPaging m_paging;
     QToolButton *prevBtn, *nextBtn;
@@ -85,4 +94,9 @@ private:
     QVariantAnimation m_glide;
     QString m_placeholder;
     int m_wheelRest = 0;
+    struct {
+        QPoint pressed; // on the item
+        QAbstractButton* item = nullptr; // that is being dragged
+        int from = 0;
+    } m_drag;
 };

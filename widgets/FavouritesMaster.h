@@ -2,6 +2,8 @@
 #pragma once
 
 class onlyTextClosedButton;
+class QPoint;
+class QString;
 
 class FavouritesMaster {
 public:
@@ -11,4 +13,8 @@ public:
     virtual void chooseFavourite(onlyTextClosedButton* button) = 0;
     /// Removes the favourite of that button, and the button.
     virtual void removeFavourite(onlyTextClosedButton* button) = 0;
+    /// Shows what else can be done with it, at that place of the screen.
+    virtual void showFavouriteMenu(onlyTextClosedButton* button, const QPoint& place) = 0;
+    /// Something went wrong with the list of favourites.
+    virtual void tell(const QString& message) = 0;
 };

@@ -3,6 +3,7 @@
 #include "platform/foundation/Appearance.h"
 #include "widgets/FavouritesMaster.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
@@ -155,4 +156,10 @@ void onlyTextClosedButton::keyPressEvent(QKeyEvent* event)
     default:
         BaseColoredButton::keyPressEvent(event);
     }
+}
+
+void onlyTextClosedButton::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (m_controller)
+        m_controller->showFavouriteMenu(this, event->globalPos());
 }

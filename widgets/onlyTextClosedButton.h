@@ -41,6 +41,7 @@ protected:
     void enterEvent(QEnterEvent*) override;
     void leaveEvent(QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void contextMenuEvent(QContextMenuEvent*) override;
     QPixmap dragImage() const override { return QPixmap::fromImage(backImg); }
 
 private:

@@ -50,8 +50,9 @@ std::optional<QString> SaveTarget::asked(QWidget* window, const QString& chosen,
         box.setInformativeText(tr("Save As writes the whole path in lower case. You chose the folder “%1”. "
                                   "Export writes names as they are typed.")
                                    .arg(folderOf(chosen)));
+        QPushButton* keep = box.addButton(tr("Use Chosen Folder"), QMessageBox::AcceptRole);
         const QPushButton* make = box.addButton(tr("Make Folder"), QMessageBox::AcceptRole);
-        const QPushButton* keep = box.addButton(tr("Use Chosen Folder"), QMessageBox::AcceptRole);
+        box.setDefaultButton(keep);
         auto* remembers = new QCheckBox(tr("Don't ask again"));
         box.setCheckBox(remembers);
         box.exec();

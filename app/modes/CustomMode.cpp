@@ -62,16 +62,16 @@ void CustomMode::apply(const std::function<void()>& done)
         });
 }
 
-void CustomMode::addFavourite()
+void CustomMode::makeFavourite(const TakeFavourite& take)
 {
     if (!hasItem())
         return;
     const auto make = [draw = effect()->laterDrawImage()](
                           WorkControl& control) { return favouriteThumbnail(draw(&control.rendering)); };
     m_document.work(
-        {.title = tr("Drawing the favourite…")}, make, [this](const std::optional<QImage>& thumbnail, bool) {
+        {.title = tr("Drawing the favourite…")}, make, [this, take](const std::optional<QImage>& thumbnail, bool) {
             if (thumbnail && !thumbnail->isNull() && hasItem())
-                m_favorites.add(*thumbnail, *effect());
+                take({*thumbnail, QString::fromStdString(effect()->tips()), {}, effect()->mycopy()});
         });
 }
 

@@ -19,7 +19,7 @@ public:
     bool needsReducedCopies() const override { return true; }
     BaseEffect::LaterImage laterFinishedImage() override;
     void apply(const std::function<void()>& done) override;
-    void addFavourite() override;
+    void makeFavourite(const TakeFavourite& take) override;
     void chooseFavourite(onlyTextClosedButton* button) override;
 
 protected:

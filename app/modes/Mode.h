@@ -73,10 +73,12 @@ public:
 
     FavouritesStore& favourites() { return m_favorites; }
     /// Adds the current item.
-    virtual void addFavourite() = 0;
+    void addFavourite();
     /// Brings back what the button stands for, or nothing when it is null or selected.
     void chooseFavourite(onlyTextClosedButton* button) override;
     void removeFavourite(onlyTextClosedButton* button) override;
+    void showFavouriteMenu(onlyTextClosedButton* button, const QPoint& place) override;
+    void tell(const QString& message) override;
     /// Null when none is switched on.
     onlyTextClosedButton* selectedFavourite() const;
 
@@ -97,6 +99,9 @@ protected:
 
     Mode(const ModeParts& parts, FavouritesFamily family, Document& document);
     virtual Title title() const = 0;
+    /// Makes one of the current item, perhaps later; nothing without an item or when there is nothing to be seen.
+    using TakeFavourite = std::function<void(NewFavourite)>;
+    virtual void makeFavourite(const TakeFavourite& take) = 0;
     virtual void dropItem() = 0;
     /// Null when there is nothing to be shown. Where nothing is made of the picture it may be that, or null.
     virtual CIImage shownImage() = 0;
@@ -113,5 +118,7 @@ protected:
     QPointer<onlyTextClosedButton> m_selectes_FavBtn; // the one that is shown as selected
 
 private:
+    void renameFavourite(onlyTextClosedButton* button);
+
     ModeParts m_parts;
 };

@@ -170,16 +170,17 @@ void StandardMode::setAllInputs(const QString& actionName, const ParameterChange
 
 // --- favourites and sessions ---
 
-void StandardMode::addFavourite()
+/// The image that drawing replaces by the picture is left out.
+void StandardMode::makeFavourite(const TakeFavourite& take)
 {
     const QImage thumbnail = currentFilter ? favouriteThumbnail(coreImageResult()) : QImage();
     if (thumbnail.isNull())
         return;
     CIDictionary values{{"class", currentFilter->name()}};
     for (const std::string& key : currentFilter->inputKeys())
-        if (CIValue value = currentFilter->valueForKey(key); !value.isNothing())
+        if (CIValue value = currentFilter->valueForKey(key); !value.isNothing() && key != pictureKey(*currentFilter))
             values[key] = std::move(value);
-    m_favorites.add(thumbnail, QString::fromStdString(currentFilter->displayName()), std::move(values));
+    take({thumbnail, QString::fromStdString(currentFilter->displayName()), std::move(values)});
 }
 
 /// One that brings nothing counts as the selected one, too: pressed again, it takes the filter away.
@@ -197,12 +198,14 @@ bool StandardMode::bringBack(const Favourite* favourite)
         return false;
     clearControls();
     addFilterIndex(QString::fromStdString(favourite->valueForKey("class").toString()), 0);
+    m_document.undoManager().beginUndoGrouping(); // one step of undo
     if (currentFilter)
         for (const std::string& key : currentFilter->inputKeys())
             if (const CIValue value = favourite->valueForKey(key); !value.isNothing()) {
                 m_tools.changes.setFilterValueForKey(*currentFilter, value, key);
                 m_tools.changes.setActionNameForFilterKey(*currentFilter, key);
             }
+    m_document.undoManager().endUndoGrouping();
     updateLayout(); // the rows were made for the filter's own values
     return true;
 }

@@ -66,7 +66,7 @@ public:
     ZoomedCanvas* canvas() const override;
     void pictureChanged() override;
     void apply(const std::function<void()>& done) override;
-    void addFavourite() override;
+    void makeFavourite(const TakeFavourite& take) override;
     void chooseFavourite(onlyTextClosedButton* button) override;
     void appearanceChanged() override;
 

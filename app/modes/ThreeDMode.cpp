@@ -58,11 +58,11 @@ void ThreeDMode::apply(const std::function<void()>& done)
     done();
 }
 
-void ThreeDMode::addFavourite()
+void ThreeDMode::makeFavourite(const TakeFavourite& take)
 {
     if (!hasItem())
         return;
     const QImage thumbnail = favouriteThumbnail(m_view.ogl_shot());
     if (!thumbnail.isNull())
-        m_favorites.add(thumbnail, *effect());
+        take({thumbnail, QString::fromStdString(effect()->tips()), {}, effect()->mycopy()});
 }

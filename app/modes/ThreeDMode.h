@@ -15,7 +15,7 @@ public:
 
     void updateView() override;
     void apply(const std::function<void()>& done) override;
-    void addFavourite() override;
+    void makeFavourite(const TakeFavourite& take) override;
 
 protected:
     Title title() const override;

@@ -3,21 +3,23 @@
 #include <QCborArray>
 #include <QCborMap>
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSaveFile>
 #include <QSet>
 
 #include <utility>
 
-#ifdef Q_OS_UNIX
-#    include <fcntl.h>
-#    include <unistd.h>
-#endif
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
+constexpr int kPatience = 5000; // ms; a list is written in a fraction of that
 constexpr qsizetype kLarge = 64 * 1024; // bytes; what is larger gets a file of its own
 
 QString folderOf(const QString& file)
@@ -29,15 +31,11 @@ QString folderOf(const QString& file)
 /// New names in a folder are on the disk only after this.
 void syncFolder(const QString& folder)
 {
-#ifdef Q_OS_UNIX
     const int descriptor = open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (descriptor < 0)
         return;
     fsync(descriptor);
     close(descriptor);
-#else
-    Q_UNUSED(folder);
-#endif
 }
 
 bool writeWhole(const QString& path, const QByteArray& bytes)
@@ -135,7 +133,7 @@ std::optional<StoredRecords> readStoredRecords(const QString& path)
     return records;
 }
 
-bool writeStoredRecords(const StoredRecords& records, const QString& path)
+bool writeStoredRecords(const StoredRecords& records, const QString& path, StoredRecordsUse* user)
 {
     const QString folder = folderOf(path);
     QSet<QString> files;
@@ -158,6 +156,60 @@ bool writeStoredRecords(const StoredRecords& records, const QString& path)
     if (!QDir().mkpath(QFileInfo(path).absolutePath()) || !writeWhole(path, QCborValue(list).toCbor()))
         return false;
     syncFolder(QFileInfo(path).absolutePath());
-    removeAllBut(files, folder);
+    const auto clear = [&] { removeAllBut(files, folder); };
+    if (user)
+        user->ifAlone(clear);
+    else
+        StoredRecordsUse(path).ifAlone(clear);
     return true;
+}
+
+bool changeStoredRecords(const QString& path,
+    const std::function<StoredRecords(const std::optional<StoredRecords>&)>& change, StoredRecordsUse& user)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QLockFile lock(path + QLatin1String(".lock"));
+    return lock.tryLock(kPatience) && writeStoredRecords(change(readStoredRecords(path)), path, &user);
+}
+
+QString setDamagedRecordsAside(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || readStoredRecords(path))
+        return {};
+    const QFileInfo info(path);
+    const QString aside =
+        QStringLiteral("%1/%2-damaged-%3.%4")
+            .arg(info.absolutePath(), info.completeBaseName(),
+                QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmsszzz")), info.suffix());
+    if (!file.rename(aside))
+        return {};
+    QDir().rename(folderOf(path), folderOf(aside));
+    return aside;
+}
+
+// --- who uses a list ---
+
+StoredRecordsUse::StoredRecordsUse(const QString& file)
+{
+    QDir().mkpath(QFileInfo(file).absolutePath());
+    m_descriptor =
+        ::open(QFile::encodeName(file + QLatin1String(".users")).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (m_descriptor >= 0)
+        ::flock(m_descriptor, LOCK_SH | LOCK_NB);
+}
+
+StoredRecordsUse::~StoredRecordsUse()
+{
+    if (m_descriptor >= 0)
+        ::close(m_descriptor);
+}
+
+void StoredRecordsUse::ifAlone(const std::function<void()>& action)
+{
+    if (m_descriptor < 0)
+        return;
+    if (::flock(m_descriptor, LOCK_EX | LOCK_NB) == 0)
+        action();
+    ::flock(m_descriptor, LOCK_SH | LOCK_NB);
 }

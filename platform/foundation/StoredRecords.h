@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <vector>
@@ -35,11 +36,37 @@ using StoredRecords = std::vector<StoredRecord>;
 /// that fails.
 std::optional<StoredData> storedDataFor(const QString& file, const QByteArray& bytes);
 
+/// Says that large values of the list in `file` may still be wanted: none is removed while others say so. For whoever
+/// keeps records in memory.
+class StoredRecordsUse {
+public:
+    explicit StoredRecordsUse(const QString& file);
+    ~StoredRecordsUse();
+    StoredRecordsUse(const StoredRecordsUse&) = delete;
+    StoredRecordsUse& operator=(const StoredRecordsUse&) = delete;
+
+    /// Runs `action` if nobody else uses the list.
+    void ifAlone(const std::function<void()>& action);
+
+private:
+    int m_descriptor;
+};
+
 /// Nothing when there is no such file, or when it doesn't hold a list. Damaged entries are left out, with a line in the
 /// log.
 std::optional<StoredRecords> readStoredRecords(const QString& file);
 
 /// Replaces the list in `file` as a whole, or, when that fails (no room, no permission), not at all: whoever is
 /// interrupted leaves the old list. Large values go into a folder beside it, each under the hash of what it holds, so
-/// that equal ones are stored once and those that were there already aren't written again.
-bool writeStoredRecords(const StoredRecords& records, const QString& file);
+/// that equal ones are stored once and those that were there already aren't written again. What the new list doesn't
+/// name is removed unless others than `user`, null for nobody, use it.
+bool writeStoredRecords(const StoredRecords& records, const QString& file, StoredRecordsUse* user = nullptr);
+
+/// Replaces the list by what `change` makes of the present one, which is nothing when there is none or it is damaged.
+/// Other programs that do the same wait. False as above, or when one of them doesn't end.
+bool changeStoredRecords(const QString& file,
+    const std::function<StoredRecords(const std::optional<StoredRecords>&)>& change, StoredRecordsUse& user);
+
+/// A file that doesn't hold a list gets, with its large values, the name that is answered. Empty when all is well, or
+/// when there is no file.
+QString setDamagedRecordsAside(const QString& file);

@@ -54,6 +54,19 @@ bool UserDefaults::setRecordsForKey(const StoredRecords& records, const QString&
     return writeStoredRecords(records, recordsFile(key));
 }
 
+std::unique_ptr<StoredRecordsUse> UserDefaults::useRecordsForKey(const QString& key) const
+{
+    return std::make_unique<StoredRecordsUse>(recordsFile(key));
+}
+
+bool UserDefaults::changeRecordsForKey(const QString& key,
+    const std::function<StoredRecords(const std::optional<StoredRecords>&)>& change, StoredRecordsUse& user)
+{
+    return changeStoredRecords(recordsFile(key), change, user);
+}
+
+QString UserDefaults::setDamagedRecordsAside(const QString& key) { return ::setDamagedRecordsAside(recordsFile(key)); }
+
 bool UserDefaults::synchronize()
 {
     m_settings->sync();

@@ -30,6 +30,11 @@ public:
     std::optional<StoredRecords> recordsForKey(const QString& key) const;
     /// Bytes for a record under that key; large ones are on the disk from now on. Nothing when there is no room.
     std::optional<StoredData> storedDataForKey(const QByteArray& bytes, const QString& key) const;
+    /// See StoredRecords.h for what happens to lists that several programs use, and to damaged ones.
+    std::unique_ptr<StoredRecordsUse> useRecordsForKey(const QString& key) const;
+    bool changeRecordsForKey(const QString& key,
+        const std::function<StoredRecords(const std::optional<StoredRecords>&)>& change, StoredRecordsUse& user);
+    QString setDamagedRecordsAside(const QString& key);
     /// Written at once, as a whole or not at all. False when it can't be written; then the old list stays.
     bool setRecordsForKey(const StoredRecords& records, const QString& key);
 

@@ -149,6 +149,26 @@ TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
     EXPECT_EQ(ui.zoomField->text(), "126 %");
 }
 
+TEST_F(CustomModeTest, ThePictureFitsTheViewThatIsShownUntilTheUserZooms)
+{
+    openPicture(pictureFile("large.png", 3000, 2000));
+    const auto fits = [&] {
+        const CIRect extent = controller.getBgImageExtent();
+        const double larger = std::max(extent.width * view().getZoom() / ui.customEffectsScrollView->width(),
+            extent.height * view().getZoom() / ui.customEffectsScrollView->height());
+        return larger <= 1 && larger > 0.93;
+    };
+    const float before = view().getZoom();
+    window.resize(window.width() + 200, window.height() + 150);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view().getZoom() > before && fits(); })) << view().getZoom();
+    perform(&Controller::rotateLeft);
+    EXPECT_TRUE(fits()) << "the page of the filters has another size";
+    action("actionActualSize")->trigger();
+    window.resize(window.width() - 200, window.height() - 150);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().getZoom(), 1);
+}
+
 TEST_F(CustomModeTest, FavouritesBringEffectsBackAcrossRuns)
 {
     for (int row = kSimple; row <= kSketch; ++row) {

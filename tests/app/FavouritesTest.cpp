@@ -7,7 +7,10 @@
 #include "platform/imageio/PictureReader.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QElapsedTimer>
+#include <QInputDialog>
 #include <QProcess>
 #include <QTest>
 
@@ -65,8 +68,9 @@ TEST_F(FavouritesTest, BringFilterAndSettingsBackAndGoAwayAtTheSecondPress)
     EXPECT_TRUE(controller.wasChanged());
     EXPECT_EQ(undo.undoActionName(), "Change to Gaussian Blur Radius");
     undo.undo();
-    undo.undo(); // each value is a step: the radius comes after the image
     EXPECT_NE(number("inputRadius"), 3.5);
+    undo.redo();
+    EXPECT_EQ(number("inputRadius"), 3.5) << "all values are one step";
 
     press(twirl);
     EXPECT_FALSE(blur->isChecked());
@@ -158,12 +162,57 @@ TEST_F(FavouritesTest, SurviveDamageUnknownFiltersAndThumbnailsThatAreNone)
     EXPECT_EQ(ui.m_pageController->pageCount(), 3);
 }
 
-TEST_F(FavouritesTest, AreWrittenWhenTheWindowClosesAndNotBefore)
+TEST_F(FavouritesTest, AreWrittenSoonAndWhenTheWindowCloses)
 {
+    const auto stored = [] {
+        return UserDefaults::standardUserDefaults().recordsForKey(kList).value_or(StoredRecords()).size();
+    };
     addFavourite("CIColorInvert");
-    EXPECT_TRUE(UserDefaults::standardUserDefaults().recordsForKey(kList).value_or(StoredRecords()).empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stored() == 1; }));
+    addFavourite("CIGaussianBlur");
     controller.windowWillClose();
-    EXPECT_EQ(UserDefaults::standardUserDefaults().recordsForKey(kList)->size(), 1u);
+    EXPECT_EQ(stored(), 2u);
+    const StoredRecord blur = UserDefaults::standardUserDefaults().recordsForKey(kList)->at(1);
+    EXPECT_FALSE(blur.contains("inputImage")) << "it is always drawn with the present picture";
+    EXPECT_TRUE(blur.contains("inputRadius"));
+}
+
+TEST_F(FavouritesTest, AreNamedMovedReplacedAndRemovedByTheirMenu)
+{
+    addFavourite("CIGaussianBlur", "inputRadius", 3.5);
+    addFavourite("CIColorInvert");
+    const auto choose = [&](int index, const QString& text) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 20), button(index)->mapToGlobal(QPoint(5, 20)));
+        QCoreApplication::sendEvent(button(index), &event);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        for (QAction* item : menu->actions())
+            if (item->text().remove('&') == text) {
+                EXPECT_TRUE(item->isEnabled()) << text.toStdString();
+                item->trigger();
+            }
+        menu->close();
+        QCoreApplication::processEvents();
+    };
+    choose(0, "Rename…");
+    auto* dialog = window.findChild<QInputDialog*>();
+    ASSERT_TRUE(dialog);
+    dialog->setTextValue("Soft");
+    dialog->accept();
+    EXPECT_EQ(button(0)->toolTip(), "Soft");
+    EXPECT_EQ(button(0)->accessibleName(), "Soft");
+    choose(0, "Move Right");
+    EXPECT_EQ(button(1)->toolTip(), "Soft");
+    press(button(1));
+    controller.setFilterValueForKey(*controller.getCurrentFilter(), 8.0, "inputRadius");
+    choose(1, "Replace by Present Values");
+    closeAndReadAgain();
+    ASSERT_EQ(ui.m_pageController->pageCount(), 2);
+    EXPECT_EQ(button(1)->toolTip(), "Soft") << "in its new place, under its new name";
+    press(button(1));
+    EXPECT_EQ(number("inputRadius"), 8.0);
+    choose(0, "Remove");
+    EXPECT_EQ(ui.m_pageController->pageCount(), 1);
 }
 
 TEST_F(FavouritesTest, MakeTheSamePictureFromTheCommandLine)

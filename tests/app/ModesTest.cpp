@@ -46,13 +46,13 @@ public:
     void updateView() override { }
     void pictureChanged() override { }
     void apply(const std::function<void()>& done) override { done(); }
-    void addFavourite() override
-    {
-        m_favorites.add(QImage(40, 25, QImage::Format_RGB32), item, {{"class", item.toStdString()}});
-    }
     void deselectRows() override { }
 
 protected:
+    void makeFavourite(const TakeFavourite& take) override
+    {
+        take({QImage(40, 25, QImage::Format_RGB32), item, {{"class", item.toStdString()}}});
+    }
     Title title() const override { return {item, hasItem() ? QString() : QStringLiteral("Choose one.")}; }
     void dropItem() override
     {
@@ -149,6 +149,16 @@ TEST_F(ModesTest, AFavouriteIsSwitchedOffByTheSecondPressAnotherOneOrItsEnd)
     EXPECT_TRUE(first.favourites().isEmpty());
 }
 
+TEST_F(ModesTest, PressingTheButtonOfTheModeThatIsOnIsNoSwitch)
+{
+    document.undoManager().registerUndoWithTarget(&document, [] {});
+    widgets[0].button.click();
+    EXPECT_TRUE(widgets[0].button.isChecked());
+    modes.selectMenuMode(1);
+    EXPECT_TRUE(document.undoManager().canUndo());
+    EXPECT_NE(document.undoManager().undoActionName(), "Change Mode") << "the history is as it was";
+}
+
 TEST_F(ModesTest, AskedFromAnotherModeAFavouriteClearsThatOne)
 {
     first.item = "Blur";
@@ -158,8 +168,8 @@ TEST_F(ModesTest, AskedFromAnotherModeAFavouriteClearsThatOne)
     second.item = "Plasma";
     first.chooseFavourite(nullptr);
     EXPECT_FALSE(second.hasItem());
-    EXPECT_TRUE(first.hasItem());
-    EXPECT_FALSE(first.selectedFavourite());
+    EXPECT_EQ(first.item, "Blur");
+    EXPECT_EQ(first.selectedFavourite(), favourite(0)) << "nothing of its own is touched";
 }
 
 TEST_F(ModesTest, TheFinishedImageHasAnEndAndIsThePictureWhereNothingIsMade)

@@ -124,11 +124,41 @@ TEST_F(StripTest, KeysWalkOverTheItemsAndBringThemIntoView)
     EXPECT_FALSE(items[2]->isChecked()) << "who switches it is not the button";
 }
 
+TEST_F(StripTest, ADraggedItemTakesAnotherPlaceAndIsNotPressed)
+{
+    QList<QAbstractButton*> items{add(), add(), add()};
+    int clicks = 0, moves = 0;
+    QObject::connect(items[0], &QAbstractButton::clicked, items[0], [&] { ++clicks; });
+    QObject::connect(&strip, &DocPageControl::itemMoved, &strip, [&] { ++moves; });
+    const auto send = [&](QEvent::Type type, const QPoint& on, Qt::MouseButtons held) {
+        const QPoint global = strip.mapToGlobal(on);
+        QMouseEvent event(type, items[0]->mapFromGlobal(global), global, Qt::LeftButton, held, Qt::NoModifier);
+        QCoreApplication::sendEvent(items[0], &event);
+    };
+    const QPoint start = items[0]->mapTo(&strip, QPoint(20, 25));
+    send(QEvent::MouseButtonPress, start, Qt::LeftButton);
+    send(QEvent::MouseMove, start + QPoint(2, 0), Qt::LeftButton);
+    EXPECT_EQ(items[0]->x(), 0) << "a hand that trembles drags nothing";
+    send(QEvent::MouseMove, start + QPoint(70, 0), Qt::LeftButton);
+    EXPECT_EQ(items[0]->x(), 70) << "under the mouse";
+    EXPECT_EQ(items[1]->x(), 0) << "makes room";
+    EXPECT_EQ(moves, 0);
+    send(QEvent::MouseButtonRelease, start + QPoint(70, 0), Qt::NoButton);
+    EXPECT_EQ(strip.items(), (QList<QAbstractButton*>{items[1], items[0], items[2]}));
+    EXPECT_EQ(items[0]->x(), 51);
+    EXPECT_EQ(moves, 1);
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(items[0], Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
 struct FakeMaster : FavouritesMaster {
     QList<onlyTextClosedButton*> removed;
 
     void chooseFavourite(onlyTextClosedButton*) override { }
     void removeFavourite(onlyTextClosedButton* button) override { removed.append(button); }
+    void showFavouriteMenu(onlyTextClosedButton*, const QPoint&) override { }
+    void tell(const QString&) override { }
 };
 
 TEST_F(StripTest, CloseBoxAndDeleteAskToRemove)
