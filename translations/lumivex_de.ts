@@ -1351,6 +1351,17 @@
     </message>
 </context>
 <context>
+    <name>FavouritesStore</name>
+    <message>
+        <source>The favourites can&apos;t be written to the disk.</source>
+        <translation>Die Favoriten können nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>A list of favourites is damaged. It is kept as %1.</source>
+        <translation>Eine Liste von Favoriten ist beschädigt. Sie bleibt als %1 erhalten.</translation>
+    </message>
+</context>
+<context>
     <name>FilledMenus</name>
     <message>
         <source>No Pictures Yet</source>
@@ -3536,6 +3547,34 @@
     <message>
         <source>Apply</source>
         <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>Um&amp;benennen…</translation>
+    </message>
+    <message>
+        <source>Move &amp;Left</source>
+        <translation>Nach &amp;links</translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation>Nach &amp;rechts</translation>
+    </message>
+    <message>
+        <source>Re&amp;place by Present Values</source>
+        <translation>Durch die jetzigen &amp;Werte ersetzen</translation>
+    </message>
+    <message>
+        <source>R&amp;emove</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Rename Favourite</source>
+        <translation>Favorit umbenennen</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
     </message>
 </context>
 <context>

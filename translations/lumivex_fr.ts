@@ -1351,6 +1351,17 @@
     </message>
 </context>
 <context>
+    <name>FavouritesStore</name>
+    <message>
+        <source>The favourites can&apos;t be written to the disk.</source>
+        <translation>Les favoris ne peuvent pas être enregistrés.</translation>
+    </message>
+    <message>
+        <source>A list of favourites is damaged. It is kept as %1.</source>
+        <translation>Une liste de favoris est endommagée. Elle est gardée sous %1.</translation>
+    </message>
+</context>
+<context>
     <name>FilledMenus</name>
     <message>
         <source>No Pictures Yet</source>
@@ -3536,6 +3547,34 @@
     <message>
         <source>Apply</source>
         <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Re&amp;name…</source>
+        <translation>Re&amp;nommer…</translation>
+    </message>
+    <message>
+        <source>Move &amp;Left</source>
+        <translation>Vers la &amp;gauche</translation>
+    </message>
+    <message>
+        <source>Move &amp;Right</source>
+        <translation>Vers la &amp;droite</translation>
+    </message>
+    <message>
+        <source>Re&amp;place by Present Values</source>
+        <translation>Rem&amp;placer par les valeurs actuelles</translation>
+    </message>
+    <message>
+        <source>R&amp;emove</source>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Rename Favourite</source>
+        <translation>Renommer le favori</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
     </message>
 </context>
 <context>
