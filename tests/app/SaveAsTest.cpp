@@ -85,6 +85,21 @@ TEST_F(SaveAsTest, TheAnswerIsRememberedIfWished)
     EXPECT_EQ(QDir(chosen).entryList(QDir::Files), (QStringList{"one.jpeg", "two.jpeg"}));
 }
 
+TEST_F(SaveAsTest, WhoCancelsThereIsNotTakenToWantToQuit)
+{
+    pick("CIColorInvert");
+    controller.setFilePath({});
+    answering("Save...", [&] { controller.applicationShouldTerminate(); });
+    auto* panel = window.findChild<SavePanel*>();
+    ASSERT_TRUE(panel);
+    panel->disconnect(&controller.document());
+    panel->reject();
+    answering("Cancel", [&] { saveAs(chosen + "/Holiday"); });
+    answering("Cancel", [&] {
+        EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Cancel) << "asked once more";
+    });
+}
+
 TEST_F(SaveAsTest, ThePanelTellsThePathAsItIsTyped)
 {
     controller.runSavePanel();
