@@ -14,6 +14,7 @@
 #include "platform/chain/Baking.h"
 #include "platform/chain/FilterChain.h"
 
+#include <QCoreApplication>
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -201,10 +202,9 @@ bool StandardMode::bringBack(const Favourite* favourite)
     m_document.undoManager().beginUndoGrouping(); // one step of undo
     if (currentFilter)
         for (const std::string& key : currentFilter->inputKeys())
-            if (const CIValue value = favourite->valueForKey(key); !value.isNothing()) {
+            if (const CIValue value = favourite->valueForKey(key); !value.isNothing())
                 m_tools.changes.setFilterValueForKey(*currentFilter, value, key);
-                m_tools.changes.setActionNameForFilterKey(*currentFilter, key);
-            }
+    m_document.undoManager().setActionName(QCoreApplication::translate("CustomMode", "Choose Favourite"));
     m_document.undoManager().endUndoGrouping();
     updateLayout(); // the rows were made for the filter's own values
     return true;

@@ -66,7 +66,7 @@ TEST_F(FavouritesTest, BringFilterAndSettingsBackAndGoAwayAtTheSecondPress)
     EXPECT_TRUE(blur->isChecked());
     EXPECT_FALSE(ui.listView->selectedItem());
     EXPECT_TRUE(controller.wasChanged());
-    EXPECT_EQ(undo.undoActionName(), "Change to Gaussian Blur Radius");
+    EXPECT_EQ(undo.undoActionName(), "Choose Favourite");
     undo.undo();
     EXPECT_NE(number("inputRadius"), 3.5);
     undo.redo();
