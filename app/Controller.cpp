@@ -11,6 +11,7 @@
 #include "effects3d/ThreeDStage.h"
 #include "platform/chain/Baking.h"
 #include "platform/coreimage/CIPlugIn.h"
+#include "platform/coreimage/Fitting.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "ui_MainWindow.h"
@@ -19,6 +20,8 @@
 
 #include <QApplication>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace {
 
@@ -57,10 +60,14 @@ Controller::Controller(MainWindow& window)
     , customEffectsView(ui.customEffectsScrollView->imageView())
     , contentMenuOutlet(&window.commands().contextMenu())
     , m_changes(m_undoManager)
-    , m_catalogue(*ui.listView, window.commands().action("actionThumbnails"), m_filters)
+    , m_catalogue(*ui.listView, *ui.filterGrid,
+          {window.commands().action("actionThumbnails"), window.commands().action("actionFilterColumns")}, m_filters)
     , m_panel(*ui.placeCntrlView, *ui.controlScrollArea, *ciView, *this)
+    , m_options({window.commands().action("actionStartFitted"), *ui.keepSizeBox, *ui.fitNotice, *ui.fitNoticeField,
+                    *ui.fitNoticeBtn, *ui.fitNoticeOtherBtn},
+          m_filters)
     , m_standard(modeParts(ui, ui.standardBtn, ui.listView, ui.m_pageController, ui.placeCntrlView),
-          {m_document, m_filters, m_changes, m_catalogue, m_panel, *ciView})
+          {m_document, m_filters, m_changes, m_catalogue, m_panel, m_options, *ciView})
     , m_threeD(modeParts(ui, ui.threeDBtn, ui.filter3DOutlineView, ui.m_page3DController, ui.place3DCntrlView),
           *ui.openGLStage, m_document)
     , m_custom(
@@ -130,6 +137,10 @@ void Controller::connectInterface()
     connect(&m_zooming, &Zooming::zoomed, this, &Controller::updateView);
     connect(&m_modes, &ModeSwitch::shown, this, [this] { m_zooming.showIn(*ui.zoomSuperView); });
     connect(&m_modes, &ModeSwitch::shown, this, &Controller::updateMainBtnState);
+    connect(&m_modes, &ModeSwitch::shown, &m_standard, &StandardMode::updateView);
+    connect(&m_standard, &StandardMode::resultShown, &m_status, &StatusRow::setResult);
+    connect(&m_window.commands().action("actionStartFitted"), &QAction::toggled, &m_catalogue,
+        &FilterCatalogue::renewPictures);
     connect(&m_modes, &ModeSwitch::itemChanged, this, &Controller::showItem);
     connect(ui.searchField, &QLineEdit::textChanged, &m_catalogue, &FilterCatalogue::searchFilters);
     connect(ui.searchField, &QLineEdit::returnPressed, &m_catalogue, &FilterCatalogue::takeFirstMatch);
@@ -147,6 +158,7 @@ void Controller::awakeFromNib()
         m_document.take(readPictureFile(pathForResource(QStringLiteral("main_img"), QStringLiteral("jpg")))));
     CIPlugIn::loadAllPlugIns();
     m_window.restoreFrame();
+    m_window.makeRoomForColumns();
     initExportFormats();
     readFavorites();
     theController = this;
@@ -197,6 +209,7 @@ void Controller::showItem()
 
 void Controller::updateMainBtnState()
 {
+    ui.fitRow->setVisible(hasInputsToSet(false));
     m_comparing.update(!m_opening.isShown());
     updateWinTitle();
     validateMenuItems();
@@ -238,6 +251,18 @@ void Controller::applyBtn()
 {
     if (m_document.isIdle())
         m_modes.current().apply([this] { clearAllAndUpdate(); });
+}
+
+void Controller::columnsToggled()
+{
+    m_catalogue.columnsToggled();
+    m_window.makeRoomForColumns();
+}
+
+double Controller::sliderGrowthForKey(const CIFilter& filter, const std::string& key)
+{
+    const CIInputAttributes* input = filter.attributesForKey(key);
+    return input ? std::max(1.0, ci::fittedGrowth(filter, *input, getBgImageExtent())) : 1;
 }
 
 void Controller::addFavourite()

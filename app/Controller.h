@@ -15,6 +15,7 @@
 #include "app/document/Session.h"
 #include "app/document/Turning.h"
 #include "app/modes/CustomMode.h"
+#include "app/modes/FilterOptions.h"
 #include "app/modes/FilterPanel.h"
 #include "app/modes/ModeSwitch.h"
 #include "app/modes/ParameterChanges.h"
@@ -101,6 +102,7 @@ public:
     void outlineViewSelectionDidChange_3D(const OutlineItem* item) { m_threeD.choose(item); }
     void outlineViewSelectionDidChange_Custom(const OutlineItem* item) { m_custom.choose(item); }
     void thumbnailsToggled() { m_catalogue.thumbnailsToggled(); }
+    void columnsToggled();
 
     // The picture and what is made of it
     /// Makes it the picture (null for none) and fits the views to it.
@@ -151,6 +153,8 @@ public:
     {
         return m_standard.standardValueForKey(filter, key);
     }
+    double sliderGrowthForKey(const CIFilter& filter, const std::string& key) override;
+    void fitInputs() { m_standard.fitInputs(); }
     void resetAllInputs() { m_standard.resetAllInputs(); }
     void randomizeInputs() { m_standard.randomizeInputs(); }
     bool hasInputsToSet(bool randomly) const { return m_standard.hasInputsToSet(randomly); }
@@ -324,6 +328,7 @@ private:
     ParameterChanges m_changes;
     FilterCatalogue m_catalogue;
     FilterPanel m_panel;
+    FilterOptions m_options;
     StandardMode m_standard;
     ThreeDMode m_threeD;
     CustomMode m_custom;

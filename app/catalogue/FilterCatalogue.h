@@ -6,17 +6,21 @@
 #include "app/catalogue/DataSource.h"
 #include "app/catalogue/OutlineModel.h"
 
+class FilterGrid;
 class FilterMaker;
 class OutlineView;
 class QAction;
 
-/// Fills the list, searches in it, and shows in it what each filter makes of the picture if `thumbnails` is checked,
-/// which is remembered.
+/// Fills the list, searches in it, and shows in it what each filter makes of the picture if `thumbnails` is checked, or
+/// in columns in its place if `columns` is; both are remembered.
 class FilterCatalogue : public QObject {
     Q_OBJECT
 
 public:
-    FilterCatalogue(OutlineView& list, QAction& thumbnails, FilterMaker& filters);
+    struct Choices {
+        QAction &thumbnails, &columns;
+    };
+    FilterCatalogue(OutlineView& list, FilterGrid& grid, Choices choices, FilterMaker& filters);
 
     void setPicture(const CIImage& picture);
     /// The row whose filter is the current one, which the search may hide; null for none. Selects nothing by itself.
@@ -31,13 +35,17 @@ public:
     /// Picks the first filter that is shown.
     void takeFirstMatch();
     void thumbnailsToggled();
+    void columnsToggled();
+    /// Filters start with other values.
+    void renewPictures() { setPicture(m_picture); }
 
 private:
-    CIImage pictureOf(const QString& filterName, const CIImage& picture);
+    CIImage pictureOf(const QString& filterName, const CIImage& picture, bool isFitted);
     void showThumbnails();
 
     OutlineView& m_list;
-    QAction& m_thumbnails;
+    FilterGrid& m_grid;
+    Choices m_choices;
     FilterMaker& m_filters;
     DataSource m_dataSource;
     OutlineModel m_rows;

@@ -24,6 +24,8 @@ std::shared_ptr<CIFilter> FilterMaker::newFilter(const std::string& name, const 
         filter->setDefaults();
         setupAllImageInputsToNotNil(*filter, picture);
         setAutomaticDefaults(*filter, view);
+        if (startsFitted)
+            fitToPicture(*filter, picture);
         if (picture)
             boundRectangles(*filter, picture.extent());
     }

@@ -15,6 +15,8 @@ public:
     /// Overrides what some filters start with.
     void setAutomaticDefaults(CIFilter& filter, const CIRect& view);
 
+    bool startsFitted = false; // new filters have values that fit the picture
+
     DefaultImage texture{"smoothtexture"}, shadingemap{"lightball"}, alphaemap{"restrictedshine"}, ramp{"colormap"},
         mask{"mask"};
 };

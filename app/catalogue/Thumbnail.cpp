@@ -80,17 +80,23 @@ QImage imageOfBitmap(const CIBitmap& bitmap)
     return image;
 }
 
-} // namespace
-
-QImage favouriteThumbnail(const QImage& picture)
+QImage scaledTo(const QSize& size, const QImage& picture, int pixelsPerPoint)
 {
     if (picture.isNull())
         return {};
-    QImage small =
-        picture.scaled(kFavouriteThumbnail * kPixelsPerPoint, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    small.setDevicePixelRatio(kPixelsPerPoint);
+    QImage small = picture.scaled(size * pixelsPerPoint, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    small.setDevicePixelRatio(pixelsPerPoint);
     return small;
 }
+
+} // namespace
+
+QImage thumbnailOf(const CIBitmap& bitmap, const QSize& size, int pixelsPerPoint)
+{
+    return scaledTo(size, imageOfBitmap(bitmap), pixelsPerPoint);
+}
+
+QImage favouriteThumbnail(const QImage& picture) { return scaledTo(kFavouriteThumbnail, picture, kPixelsPerPoint); }
 
 QImage favouriteThumbnail(const CIImage& image)
 {
@@ -99,8 +105,8 @@ QImage favouriteThumbnail(const CIImage& image)
         return {};
     const QSize wanted = kFavouriteThumbnail * kPixelsPerPoint;
     const double scale = std::min(1.0, std::max(wanted.width() / extent.width, wanted.height() / extent.height));
-    return favouriteThumbnail(
-        imageOfBitmap(CIContext().render(image, extent, scale, CIFormat::RGBA8, CIAlpha::Premultiplied)));
+    return thumbnailOf(CIContext().render(image, extent, scale, CIFormat::RGBA8, CIAlpha::Premultiplied),
+        kFavouriteThumbnail, kPixelsPerPoint);
 }
 
 QByteArray tiffOfThumbnail(const QImage& thumbnail)

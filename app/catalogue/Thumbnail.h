@@ -13,6 +13,8 @@ inline constexpr QSize kFavouriteThumbnail(40, 25);
 QImage favouriteThumbnail(const CIImage& image);
 /// The same of a picture.
 QImage favouriteThumbnail(const QImage& picture);
+/// A bitmap stretched to so many points. Null for a null one.
+QImage thumbnailOf(const CIBitmap& bitmap, const QSize& points, int pixelsPerPoint);
 
 /// A thumbnail as the bytes of a TIFF file; empty when there is none.
 QByteArray tiffOfThumbnail(const QImage& thumbnail);

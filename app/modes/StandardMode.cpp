@@ -6,6 +6,7 @@
 #include "app/catalogue/Thumbnail.h"
 #include "app/document/Document.h"
 #include "app/document/SessionFolder.h"
+#include "app/modes/FilterOptions.h"
 #include "app/modes/FilterPanel.h"
 #include "app/modes/InputValues.h"
 #include "controls/panel/FilterNames.h"
@@ -39,6 +40,8 @@ StandardMode::StandardMode(const ModeParts& parts, const Tools& tools)
 {
     connect(&m_document, &Document::aboutToKeepPicture, this,
         [this] { m_tools.changes.dropImagesOfPastFilters(currentFilter.get()); });
+    connect(&tools.options, &FilterOptions::fitAsked, this, &StandardMode::fitInputs);
+    connect(&tools.options, &FilterOptions::keepSizeChanged, this, &Mode::changed);
 }
 
 // --- the filter ---
@@ -50,6 +53,7 @@ std::shared_ptr<CIFilter> StandardMode::newFilter(const std::string& name)
 
 void StandardMode::addFilterIndex(const QString& name, int tag)
 {
+    m_tools.options.filterGone();
     currentFilter = newFilter(name.toStdString());
     if (currentFilter)
         m_tools.changes.add(currentFilter);
@@ -64,6 +68,8 @@ void StandardMode::choose(const OutlineItem* row)
         m_tools.catalogue.setChosenRow(row);
         deselectFavourite();
         m_document.setWasChanged(true);
+        const CIRect view = m_tools.view.bounds();
+        m_tools.options.filterChosen(currentFilter, m_document.picture(), {view.width, view.height});
         return;
     }
     if (row)
@@ -74,6 +80,7 @@ void StandardMode::choose(const OutlineItem* row)
 void StandardMode::dropItem()
 {
     currentFilter.reset();
+    m_tools.options.filterGone();
     clearControls();
 }
 
@@ -95,8 +102,10 @@ bool StandardMode::hasMissingImage() const { return currentFilter && filterHasMi
 
 CIImage StandardMode::coreImageResultForRect(const CIRect& view) const
 {
-    return currentFilter ? filteredPicture(*currentFilter, m_document.picture(), {view.width, view.height})
-                         : m_document.picture();
+    if (!currentFilter)
+        return m_document.picture();
+    const auto filtered = m_tools.options.keepsSize() ? filteredPictureOfSameSize : filteredPicture;
+    return filtered(*currentFilter, m_document.picture(), {view.width, view.height});
 }
 
 CIImage StandardMode::coreImageResult() const
@@ -104,7 +113,18 @@ CIImage StandardMode::coreImageResult() const
     return hasMissingImage() ? CIImage() : coreImageResultForRect(m_tools.view.bounds());
 }
 
-void StandardMode::updateView() { m_tools.view.setNeedsDisplay(); }
+void StandardMode::updateView()
+{
+    m_tools.view.setNeedsDisplay();
+    if (!isEdited() || hasMissingImage())
+        return emit resultShown({});
+    const CIRect view = m_tools.view.bounds();
+    const CIImage& picture = m_document.picture();
+    const CIImage result = filteredPicture(*currentFilter, picture, {view.width, view.height});
+    const bool isLarger = isLargerThanPicture(*currentFilter, result, picture);
+    m_tools.options.valuesChanged(isLarger);
+    emit resultShown(isLarger && m_tools.options.keepsSize() ? picture.extent() : result.extent());
+}
 
 ZoomedCanvas* StandardMode::canvas() const { return &m_tools.view; }
 
@@ -160,6 +180,15 @@ void StandardMode::randomizeInputs()
     setAllInputs(tr("Randomize Inputs"), [&](const CIInputAttributes& input) {
         return randomValue(input, currentFilter->valueForKey(input.key), m_document.picture().extent(), random);
     });
+}
+
+void StandardMode::fitInputs()
+{
+    if (!isEdited())
+        return;
+    CIFilter fitted = *currentFilter;
+    fitToPicture(fitted, m_document.picture());
+    setAllInputs(tr("Fit to Picture"), [&](const CIInputAttributes& input) { return fitted.valueForKey(input.key); });
 }
 
 void StandardMode::setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor)

@@ -7,6 +7,7 @@
 
 class FilterCatalogue;
 class FilterMaker;
+class FilterOptions;
 class FilterPanel;
 class MyImageView;
 
@@ -22,6 +23,7 @@ public:
         ParameterChanges& changes;
         FilterCatalogue& catalogue;
         FilterPanel& panel;
+        FilterOptions& options;
         MyImageView& view;
     };
     StandardMode(const ModeParts& parts, const Tools& tools);
@@ -46,6 +48,8 @@ public:
     void resetAllInputs();
     /// To values that sliders and picture have room for; pictures stay.
     void randomizeInputs();
+    /// To values that fit the picture.
+    void fitInputs();
 
     // --- the panel ---
 
@@ -69,6 +73,10 @@ public:
     void makeFavourite(const TakeFavourite& take) override;
     void chooseFavourite(onlyTextClosedButton* button) override;
     void appearanceChanged() override;
+
+signals:
+    /// Where the result lies in the picture; empty for none.
+    void resultShown(const CIRect& extent);
 
 protected:
     Title title() const override;

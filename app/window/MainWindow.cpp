@@ -1,5 +1,6 @@
 #include "app/window/MainWindow.h"
 
+#include "app/catalogue/FilterGrid.h"
 #include "app/catalogue/OutlineView.h"
 #include "app/commands/Commands.h"
 #include "app/Controller.h"
@@ -59,9 +60,11 @@ void MainWindow::setLayout()
     ui->zoomSuperView->setSizePolicy(zoomPolicy);
     for (QTreeView* list : {ui->listView, ui->filter3DOutlineView, ui->filterCustomOutlineView})
         CustomScroller::installIn(*list);
+    CustomScroller::installIn(*ui->filterGrid);
     CustomScroller::installIn(*ui->controlScrollArea);
     ui->searchField->installEventFilter(this);
     ui->listView->installEventFilter(this);
+    ui->filterGrid->installEventFilter(this);
     m_gestures = std::make_unique<WindowGestures>(*this, *ui);
     installHistogram(*ui, m_commands->action("actionHistogram"));
     ui->listView->setFocus();
@@ -106,8 +109,10 @@ void MainWindow::dress()
                   "#filterNameLine { background: %3; }"
                   "#filterHintField { color: %4; }"
                   "#filterHintField { padding: 12px 16px; }"
+                  "#fitNotice { background: %5; border-radius: 6px; }"
+                  "#fitNotice QLabel { color: %2; }"
                   "#favouritesRow, #histogramRow { background: %1; border: none; border-top: 1px solid %3; }",
-                look.panel, look.text, look.separator, look.secondaryText));
+                look.panel, look.text, look.separator, look.secondaryText, look.hover));
     ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }", look.surround));
 }
 
@@ -121,6 +126,17 @@ void MainWindow::findFilter()
 {
     ui->searchField->setFocus(Qt::ShortcutFocusReason);
     ui->searchField->selectAll();
+}
+
+void MainWindow::makeRoomForColumns()
+{
+    QList<int> widths = ui->splitter->sizes();
+    const int missing = FilterGrid::wantedWidth() - widths[0];
+    if (!ui->filterGrid->isVisibleTo(this) || missing <= 0)
+        return;
+    widths[0] += missing;
+    widths[1] -= missing;
+    ui->splitter->setSizes(widths);
 }
 
 void MainWindow::toggleFullScreen() { setWindowState(windowState() ^ Qt::WindowFullScreen); }
@@ -164,9 +180,9 @@ void MainWindow::togglePanel(QWidget& panel)
 
 void MainWindow::focusNextPane()
 {
-    const std::array<QWidget*, 8> panes{ui->listView, ui->filter3DOutlineView, ui->filterCustomOutlineView,
-        ui->pictureScrollView->viewport(), ui->openGLStage->openGLView(), ui->customEffectsScrollView->viewport(),
-        ui->controlScrollArea, ui->zoomSlider};
+    const std::array<QWidget*, 9> panes{ui->listView, ui->filterGrid, ui->filter3DOutlineView,
+        ui->filterCustomOutlineView, ui->pictureScrollView->viewport(), ui->openGLStage->openGLView(),
+        ui->customEffectsScrollView->viewport(), ui->controlScrollArea, ui->zoomSlider};
     std::size_t current = panes.size() - 1;
     for (std::size_t i = 0; i < panes.size(); ++i)
         if (panes[i]->hasFocus() || panes[i]->isAncestorOf(focusWidget()))
@@ -243,7 +259,8 @@ void MainWindow::dropEvent(QDropEvent* event)
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    return (watched == ui->searchField && searchFieldEvent(event)) || (watched == ui->listView && foundListEvent(event))
+    return (watched == ui->searchField && searchFieldEvent(event))
+        || ((watched == ui->listView || watched == ui->filterGrid) && foundListEvent(event))
         || QMainWindow::eventFilter(watched, event);
 }
 

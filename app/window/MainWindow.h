@@ -35,6 +35,8 @@ public:
     void saveFrame() const;
     /// Shows a panel, or closes it when it is there already.
     static void togglePanel(QWidget& panel);
+    /// The list is to have the width that filters in columns take.
+    void makeRoomForColumns();
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -60,7 +60,20 @@ StatusRow::StatusRow(const Document& document, Parts parts)
 void StatusRow::update()
 {
     removeButtons();
-    m_parts.field.setText(m_progressText.isEmpty() ? pictureText(m_document) : m_progressText);
+    QString text = m_progressText.isEmpty() ? pictureText(m_document) : m_progressText;
+    const CIRect picture = m_document.picture().extent();
+    const bool isLarger = m_result.width > picture.width || m_result.height > picture.height;
+    if (isLarger && !m_result.isInfinite() && m_progressText.isEmpty())
+        text += tr(" · result: %1 × %2 px", "after the picture's size, for a result that is larger")
+                    .arg(std::lround(m_result.width))
+                    .arg(std::lround(m_result.height));
+    m_parts.field.setText(text);
+}
+
+void StatusRow::setResult(const CIRect& extent)
+{
+    if (std::exchange(m_result, extent) != extent && !m_messageEnd.isActive())
+        update();
 }
 
 void StatusRow::showMessage(const QString& text)

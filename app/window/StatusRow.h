@@ -1,6 +1,8 @@
 // What the window says at its bottom.
 #pragma once
 
+#include "platform/coreimage/CIGeometry.h"
+
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
@@ -30,6 +32,8 @@ public:
 
     /// Tells the present state.
     void update();
+    /// Where the result lies in the picture; empty for none. It is told when it is larger.
+    void setResult(const CIRect& extent);
     void showMessage(const QString& text);
     /// Says that the file can't be read, and why if the document knows.
     void showReadFailure(const QString& path);
@@ -48,6 +52,7 @@ private:
     const Document& m_document;
     Parts m_parts;
     QTimer m_messageEnd, m_tick;
+    CIRect m_result;
     QString m_progressText; // empty when nothing is shown
     QPointer<QWidget> m_formerFocus;
     QList<QPointer<QWidget>> m_offered; // the buttons

@@ -4,6 +4,12 @@
 
 #include <QMouseEvent>
 
+namespace {
+
+constexpr int kLeastStretch = 80; // percent: narrower letters can't be read so small
+
+} // namespace
+
 CaptionLabel::CaptionLabel(const QString& text, QWidget* parent)
     : QLabel(parent)
     , m_fullText(text)
@@ -16,6 +22,13 @@ CaptionLabel::CaptionLabel(const QString& text, QWidget* parent)
 void CaptionLabel::resizeEvent(QResizeEvent* event)
 {
     QLabel::resizeEvent(event);
+    QFont fitting = font();
+    for (int stretch = 100; stretch >= kLeastStretch; stretch -= 5) {
+        fitting.setStretch(stretch);
+        if (QFontMetricsF(fitting).horizontalAdvance(m_fullText) <= width())
+            break;
+    }
+    setFont(fitting);
     setText(ellipsizedText(m_fullText, font(), float(width())));
 }
 

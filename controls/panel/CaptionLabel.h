@@ -3,7 +3,7 @@
 
 #include <QLabel>
 
-/// Shows as much of its text as fits. Never takes the keyboard.
+/// Shows as much of its text as fits, in narrower letters if need be. Never takes the keyboard.
 class CaptionLabel : public QLabel {
     Q_OBJECT
 public:

@@ -26,4 +26,6 @@ public:
 
     /// What the input holds when such a filter is newly chosen; nothing for an unknown key.
     virtual CIValue standardValueForKey(const CIFilter& filter, const std::string& key) = 0;
+    /// How much longer than declared a slider may become, for the picture asks for larger numbers.
+    virtual double sliderGrowthForKey(const CIFilter&, const std::string&) { return 1; }
 };

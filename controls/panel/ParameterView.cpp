@@ -146,7 +146,10 @@ void ParameterView::addSliderForFilterKeyMaster(
     NumberLook look{.min = input.sliderMin.value_or(input.min.value_or(0)),
         .max = input.sliderMax.value_or(input.max.value_or(0)),
         .unitClass = unitClassOf(input.kind),
-        .whole = input.kind == InputKind::Integer || input.kind == InputKind::Count};
+        .whole = input.kind == InputKind::Integer || input.kind == InputKind::Count,
+        .growth = newMaster.sliderGrowthForKey(*newFilter, newKey),
+        .least = input.min,
+        .most = input.max};
     if (input.defaultValue.isNumber())
         look.mark = input.defaultValue.toDouble();
     addNumberRow(keyCaption(), look, std::move(value));

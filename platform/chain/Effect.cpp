@@ -8,8 +8,9 @@ namespace {
 
 constexpr double kSide = 128; // px of the longer side: enough to see a tenth of a picture
 constexpr int kLeastChange = 4; // of 255; less is not noticed
-constexpr int kLeastSpread = 16;
-constexpr double kStrays = 0.02; // share of pixels that may lie outside a spread
+constexpr int kLeastSpread = 40; // also of 255: less is a pattern in one color
+constexpr double kLeastShown = 0.005; // share of pixels
+constexpr double kStrays = 0.03; // share of pixels that may lie outside a spread
 
 CIBitmap seen(const CIImage& image, const CIRect& area, double scale, CIRenderControl* control)
 {
@@ -63,7 +64,7 @@ bool isEmpty(const CIBitmap& bitmap)
         for (std::size_t x = 3; x < row.size(); x += 4)
             opaque += row[x] >= kLeastChange;
     }
-    return opaque < kStrays / 4 * bitmap.width() * bitmap.height();
+    return opaque < kLeastShown * bitmap.width() * bitmap.height();
 }
 
 } // namespace

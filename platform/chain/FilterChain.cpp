@@ -88,6 +88,26 @@ CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSi
     return output ? layOver(background, output) : background;
 }
 
+bool isLargerThanPicture(const CIFilter& filter, const CIImage& result, const CIImage& picture)
+{
+    const auto categories = filter.attributes().find(kCIAttributeFilterCategories);
+    if (!result || !picture || categories->second.toArray().front() == CIValue(kCICategoryGeometryAdjustment))
+        return false;
+    return !picture.extent().contains(result.extent());
+}
+
+CIImage filteredPictureOfSameSize(CIFilter& filter, const CIImage& picture, CIPoint viewSize)
+{
+    const CIImage result = filteredPicture(filter, picture, viewSize);
+    if (!isLargerThanPicture(filter, result, picture))
+        return result;
+    const char* const key = pictureKey(filter);
+    filter.setValueForKey(picture.clampedToExtent(), key);
+    const CIImage endless = filter.attributesForKey(key) ? filter.outputImage() : result;
+    filter.setValueForKey(picture, key);
+    return croppedTo(endless, picture.extent());
+}
+
 CIImage foldedLayers(const std::vector<CIImage>& layers)
 {
     if (layers.empty())

@@ -27,6 +27,12 @@ bool filterHasMissingImage(const CIFilter& filter);
 /// The input that receives the picture and "inputExtent" are set in `filter` on the way.
 CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSize);
 
+/// True if the result reaches beyond the picture, as that of a blur does. Filters that change the geometry are to.
+bool isLargerThanPicture(const CIFilter& filter, const CIImage& result, const CIImage& picture);
+/// The same as `filteredPicture`, in the picture's frame if it would be larger: the picture's edges then go on without
+/// end, and don't become transparent.
+CIImage filteredPictureOfSameSize(CIFilter& filter, const CIImage& picture, CIPoint viewSize);
+
 /// Each layer over those before it; null without layers.
 CIImage foldedLayers(const std::vector<CIImage>& layers);
 

@@ -2,6 +2,7 @@
 
 #include "app/catalogue/CataloguePictures.h"
 #include "app/catalogue/OutlineView.h"
+#include "app/catalogue/Thumbnail.h"
 #include "platform/foundation/UserDefaults.h"
 #include "ui_MainWindow.h"
 
@@ -45,20 +46,21 @@ protected:
 TEST_F(CataloguePicturesTest, ShowWhatAFilterMakesOfTheOpenPicture)
 {
     openPicture(pictureFile("plain.png", 120, 80));
-    const int before = ui.listView->visualRect(ui.listView->model()->index(0, 0)).height();
+    const int with = ui.listView->visualRect(ui.listView->model()->index(0, 0)).height();
     const QColor inverted = invertedColor();
-    EXPECT_NE(shown("CIColorInvert"), inverted) << "not asked for yet";
-
-    action("actionThumbnails")->trigger();
-    EXPECT_GT(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), before);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000));
+
+    const auto isLit = [&] { return shown("CIExposureAdjust").green() > kPictureColor.green() + 10; };
+    EXPECT_TRUE(QTest::qWaitFor(isLit, 10000)) << "0 EV would show nothing";
 
     openPicture(pictureFile("other.png", 60, 90));
     perform(&Controller::rotateLeft);
     EXPECT_TRUE(QTest::qWaitFor([&] { return shown("CIColorInvert") == inverted; }, 10000)) << "made anew";
 
     action("actionThumbnails")->trigger();
-    EXPECT_EQ(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), before);
+    EXPECT_LT(ui.listView->visualRect(ui.listView->model()->index(0, 0)).height(), with);
+    EXPECT_NE(shown("CIColorInvert"), inverted);
+    EXPECT_FALSE(UserDefaults::standardUserDefaults().objectForKey(QStringLiteral("FilterThumbnails")).toBool());
 }
 
 TEST(CataloguePictures, AreMadeForTheLatestPictureOnly)
@@ -82,7 +84,7 @@ TEST(CataloguePictures, AreMadeForTheLatestPictureOnly)
     pictures.setPicture(plain(1)); // while the first may be in work
     EXPECT_TRUE(isMade("any"));
     const QImage made = pictures.pictureFor("any");
-    EXPECT_EQ(made.size(), kFavouriteThumbnail * 2);
+    EXPECT_EQ(made.size(), CataloguePictures::kSize * 2);
     EXPECT_EQ(made.pixelColor(40, 25), QColor(Qt::white));
 
     pictures.pictureFor("nothing");

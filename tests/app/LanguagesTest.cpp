@@ -13,6 +13,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QRegularExpression>
+#include <QTest>
 #include <QTranslator>
 
 #include <map>
@@ -89,6 +90,29 @@ TEST_P(LanguagesTest, TheHelpBookNamesMenusAsTheyAre)
         }
     }
     EXPECT_GE(named, 5);
+}
+
+TEST_P(LanguagesTest, ThePanelSaysAllOfItIn240Points)
+{
+    UserDefaults::standardUserDefaults().removeObjectForKey(QStringLiteral("StartFiltersFitted"));
+    ui.splitter->setSizes({248, 10'000, 240});
+    openPicture(pictureFile("large.png", 800, 600));
+    const auto expectWhole = [this] {
+        QCoreApplication::processEvents();
+        EXPECT_EQ(ui.controlPanel->width(), 240);
+        for (const auto* button : ui.fitRow->findChildren<QAbstractButton*>())
+            if (button->isVisible()) {
+                EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+            }
+        EXPECT_GE(ui.fitNoticeField->height(), ui.fitNoticeField->heightForWidth(ui.fitNoticeField->width()));
+    };
+    pick("CIGaussianBlur");
+    ASSERT_TRUE(ui.fitNotice->isVisible());
+    ASSERT_TRUE(ui.keepSizeBox->isVisible());
+    expectWhole();
+    pick("CIVignette");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return ui.fitNotice->isVisible(); }, 30'000));
+    expectWhole();
 }
 
 INSTANTIATE_TEST_SUITE_P(InEach, LanguagesTest, testing::Values("en", "de", "fr"));

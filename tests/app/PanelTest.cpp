@@ -85,6 +85,7 @@ TEST_F(PanelTest, RowsNeitherOverlapNorHideAnything)
                     EXPECT_FALSE(part->toolTip().isEmpty()) << part->objectName().toStdString();
                     if (const auto* caption = qobject_cast<CaptionLabel*>(part)) {
                         EXPECT_LE(caption->fontMetrics().horizontalAdvance(caption->text()), caption->width());
+                        EXPECT_TRUE(caption->toolTip().startsWith(caption->fullText())) << "all of a cut one";
                         continue;
                     }
                     EXPECT_FALSE(part->accessibleName().isEmpty()) << part->objectName().toStdString();

@@ -1,5 +1,5 @@
-// filter_pages DOCS-FOLDER: every filter of the catalogue as the window first shows it, on one sheet
-// (contact_sheet.jpg), and one line for each in the table at the end of filters.md.
+// filter_pages DOCS-FOLDER: every filter of the catalogue on the picture that the window starts with, with values that
+// fit it, on one sheet (contact_sheet.jpg), and one line for each in the table at the end of filters.md.
 #include "app/Controller.h"
 #include "app/window/MainWindow.h"
 #include "platform/coreimage/CIFilter.h"
@@ -118,6 +118,7 @@ int main(int argc, char** argv)
         table += QStringLiteral("\n### %1\n\n| filter | name | inputs |\n|---|---|---|\n").arg(group->label);
         for (const auto& row : group->rows) {
             controller.addFilterIndex(row->className, 0);
+            controller.fitInputs();
             sheet.add(thumbnail(controller, context), row->name);
             table += tableLine(row->className);
         }

@@ -119,7 +119,7 @@ public:
     }
     bool run()
     {
-        m_window.commands().action("actionThumbnails").trigger();
+        m_window.commands().action("actionStartFitted").setChecked(true);
         takeFavourites();
         takeSearch();
         takeSettings();
@@ -188,7 +188,7 @@ private:
     {
         pick("CIColorControls");
         const QRect panel = placeOf(*ui.controlPanel);
-        m_camera.take("panel.png", QRect(panel.x(), panel.y(), panel.width(), 116));
+        m_camera.take("panel.png", QRect(panel.x(), panel.y(), panel.width(), 156));
         m_camera.take("histogram.png", placeOf(*ui.histogramRow));
         m_camera.take("zoom.png", around(*ui.compareBtn, *ui.actualSizeBtn, 4));
     }

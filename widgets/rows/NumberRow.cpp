@@ -3,6 +3,10 @@
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
 
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
 NumberRow::NumberRow(QWidget* panel, const NumberLook& look, ValueBinding value)
     : ValueRow(panel, std::move(value))
     , slider(new ValueSlider(panel))
@@ -27,8 +31,22 @@ NumberRow::NumberRow(QWidget* panel, const NumberLook& look, ValueBinding value)
 void NumberRow::show()
 {
     const CIValue number = m_value.get();
+    makeRoomFor(number.toDouble());
     slider->setValue(m_look.position(number.toDouble()));
     showText(m_look.text(double(number.toFloat())));
+}
+
+void NumberRow::makeRoomFor(double number)
+{
+    if (m_look.growth == 0 || !slider->isEnabled() || !std::isfinite(number))
+        return;
+    constexpr double kEndless = std::numeric_limits<double>::infinity();
+    double low = slider->minimum(), high = slider->maximum();
+    if (number > high)
+        high = std::max(high, std::min(std::max(number, m_look.max * m_look.growth), m_look.most.value_or(kEndless)));
+    if (number < low)
+        low = std::min(low, std::max(std::min(number, m_look.min * m_look.growth), m_look.least.value_or(-kEndless)));
+    slider->setRange(low, high);
 }
 
 void NumberRow::showText(const QString& text)

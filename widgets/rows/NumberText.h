@@ -47,6 +47,10 @@ struct NumberLook {
     bool isFactor = false; // the slider stands at its power of ten
     /// Of the readout, shown in the user's language. Numbers are rounded to them, and typed ones kept within the range.
     std::optional<int> decimals = {};
+    /// When a number lies beyond the slider's range, the range becomes so many times as long, and longer if that is not
+    /// enough, but not beyond `least` and `most`. 0 leaves it as it is.
+    double growth = 0;
+    std::optional<double> least = {}, most = {};
 
     double position(double stored) const; // of the slider
     double numberAt(double position) const;

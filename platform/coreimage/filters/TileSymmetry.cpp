@@ -252,9 +252,8 @@ CIInputAttributes turn()
 }
 CIInputAttributes tileWidth(std::optional<double> identity = 100)
 {
-    return fitted(distance("inputWidth", "Width",
-                      {.standard = 100, .min = 0, .sliderMin = 1, .sliderMax = 200, .identity = identity}),
-        75);
+    return distance(
+        "inputWidth", "Width", {.standard = 100, .min = 0, .sliderMin = 1, .sliderMax = 200, .identity = identity});
 }
 CIInputAttributes acuteAngle()
 {
