@@ -617,6 +617,30 @@
         <source>Before and after show the file as it was opened, not the picture without the filter</source>
         <translation>Vorher und nachher zeigen die Datei, wie sie geöffnet wurde, nicht das Bild ohne den Filter</translation>
     </message>
+    <message>
+        <source>F&amp;it to Picture</source>
+        <translation>An das &amp;Bild anpassen</translation>
+    </message>
+    <message>
+        <source>Gives the filter values that suit the size of the picture</source>
+        <translation>Gibt dem Filter Werte, die zur Größe des Bildes passen</translation>
+    </message>
+    <message>
+        <source>&amp;Start Filters Fitted to the Picture</source>
+        <translation>Filter mit an&amp;gepassten Werten beginnen</translation>
+    </message>
+    <message>
+        <source>Filters start with values that suit the size of the picture</source>
+        <translation>Filter beginnen mit Werten, die zur Größe des Bildes passen</translation>
+    </message>
+    <message>
+        <source>Filters in Colu&amp;mns</source>
+        <translation>Filter in S&amp;palten</translation>
+    </message>
+    <message>
+        <source>Shows the filters as larger pictures beside each other</source>
+        <translation>Zeigt die Filter als größere Bilder nebeneinander</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2348,6 +2372,29 @@
     </message>
 </context>
 <context>
+    <name>FilterOptions</name>
+    <message>
+        <source>Standard values are made for small pictures. Start filters with values that fit this one?</source>
+        <translation>Standardwerte sind für kleine Bilder gemacht. Sollen Filter mit Werten beginnen, die zu diesem passen?</translation>
+    </message>
+    <message>
+        <source>Standard values suit a small picture.</source>
+        <translation>Standardwerte passen zu einem kleinen Bild.</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message>
+        <source>Standard Values</source>
+        <translation>Standardwerte</translation>
+    </message>
+    <message>
+        <source>Always Fit</source>
+        <translation>Immer anpassen</translation>
+    </message>
+</context>
+<context>
     <name>FilterView</name>
     <message>
         <source>Text</source>
@@ -3541,6 +3588,30 @@
         <source>Export the picture into a file of any format</source>
         <translation>Das Bild in eine Datei beliebigen Formats exportieren</translation>
     </message>
+    <message>
+        <source>Shows the filters as larger pictures beside each other</source>
+        <translation>Zeigt die Filter als größere Bilder nebeneinander</translation>
+    </message>
+    <message>
+        <source>Filters in columns</source>
+        <translation>Filter in Spalten</translation>
+    </message>
+    <message>
+        <source>Gives the filter values that suit the size of the picture</source>
+        <translation>Gibt dem Filter Werte, die zur Größe des Bildes passen</translation>
+    </message>
+    <message>
+        <source>Fit to Picture</source>
+        <translation>An das Bild anpassen</translation>
+    </message>
+    <message>
+        <source>Cuts the result to the picture, without transparent edges</source>
+        <translation>Schneidet das Ergebnis auf das Bild zu, ohne durchsichtige Ränder</translation>
+    </message>
+    <message>
+        <source>Keep the picture’s size</source>
+        <translation>Bildgröße beibehalten</translation>
+    </message>
 </context>
 <context>
     <name>Mode</name>
@@ -4385,6 +4456,10 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>Randomize Inputs</source>
         <translation>Zufällige Werte</translation>
     </message>
+    <message>
+        <source>Fit to Picture</source>
+        <translation>An das Bild anpassen</translation>
+    </message>
 </context>
 <context>
     <name>StatusRow</name>
@@ -4417,6 +4492,11 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source> · result: %1 × %2 px</source>
+        <comment>after the picture&apos;s size, for a result that is larger</comment>
+        <translation> · Ergebnis: %1 × %2 px</translation>
     </message>
 </context>
 <context>

@@ -617,6 +617,30 @@
         <source>Before and after show the file as it was opened, not the picture without the filter</source>
         <translation>Avant et après montrent le fichier tel qu’il a été ouvert, non l’image sans le filtre</translation>
     </message>
+    <message>
+        <source>F&amp;it to Picture</source>
+        <translation>Adapter à l’&amp;image</translation>
+    </message>
+    <message>
+        <source>Gives the filter values that suit the size of the picture</source>
+        <translation>Donne au filtre des valeurs adaptées à la taille de l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Start Filters Fitted to the Picture</source>
+        <translation>Commencer par &amp;des valeurs adaptées</translation>
+    </message>
+    <message>
+        <source>Filters start with values that suit the size of the picture</source>
+        <translation>Les filtres commencent par des valeurs adaptées à la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Filters in Colu&amp;mns</source>
+        <translation>Filtres en co&amp;lonnes</translation>
+    </message>
+    <message>
+        <source>Shows the filters as larger pictures beside each other</source>
+        <translation>Montre les filtres en images plus grandes, côte à côte</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2348,6 +2372,29 @@
     </message>
 </context>
 <context>
+    <name>FilterOptions</name>
+    <message>
+        <source>Standard values are made for small pictures. Start filters with values that fit this one?</source>
+        <translation>Les valeurs par défaut sont faites pour de petites images. Commencer par des valeurs adaptées à celle-ci ?</translation>
+    </message>
+    <message>
+        <source>Standard values suit a small picture.</source>
+        <translation>Les valeurs par défaut conviennent à une petite image.</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Adapter</translation>
+    </message>
+    <message>
+        <source>Standard Values</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Always Fit</source>
+        <translation>Toujours adapter</translation>
+    </message>
+</context>
+<context>
     <name>FilterView</name>
     <message>
         <source>Text</source>
@@ -3541,6 +3588,30 @@
         <source>Export the picture into a file of any format</source>
         <translation>Exporter l’image dans un fichier de n’importe quel format</translation>
     </message>
+    <message>
+        <source>Shows the filters as larger pictures beside each other</source>
+        <translation>Montre les filtres en images plus grandes, côte à côte</translation>
+    </message>
+    <message>
+        <source>Filters in columns</source>
+        <translation>Filtres en colonnes</translation>
+    </message>
+    <message>
+        <source>Gives the filter values that suit the size of the picture</source>
+        <translation>Donne au filtre des valeurs adaptées à la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Fit to Picture</source>
+        <translation>Adapter à l’image</translation>
+    </message>
+    <message>
+        <source>Cuts the result to the picture, without transparent edges</source>
+        <translation>Coupe le résultat au cadre de l’image, sans bords transparents</translation>
+    </message>
+    <message>
+        <source>Keep the picture’s size</source>
+        <translation>Garder la taille de l’image</translation>
+    </message>
 </context>
 <context>
     <name>Mode</name>
@@ -4385,6 +4456,10 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>Randomize Inputs</source>
         <translation>Réglages au hasard</translation>
     </message>
+    <message>
+        <source>Fit to Picture</source>
+        <translation>Adapter à l’image</translation>
+    </message>
 </context>
 <context>
     <name>StatusRow</name>
@@ -4417,6 +4492,11 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>%1: %2</source>
         <comment>file name, what is wrong</comment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source> · result: %1 × %2 px</source>
+        <comment>after the picture&apos;s size, for a result that is larger</comment>
+        <translation> · résultat : %1 × %2 px</translation>
     </message>
 </context>
 <context>
