@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <QTemporaryDir>
 
+#include <random>
+
 namespace {
 
 using testing::ElementsAre;
@@ -17,12 +19,23 @@ StoredRecord record(const CIDictionary& values)
     return record;
 }
 
+/// Of pixels that can't be packed.
+CIImage largePicture()
+{
+    CIBitmap bitmap(200, 200);
+    std::mt19937 random(1);
+    for (int y = 0; y < bitmap.height(); ++y)
+        for (std::uint8_t& byte : bitmap.mutableRow<std::uint8_t>(y))
+            byte = std::uint8_t(random());
+    return CIImage::fromBitmap(bitmap);
+}
+
 TEST(FilterSettings, ComeBackFromARecordWithoutWhatIsDamaged)
 {
     const QTemporaryDir folder;
     const QString list = folder.filePath("list.cbor");
-    StoredRecord stored = record({{"class", "CIGaussianBlur"}, {"inputRadius", 3.5}, {"ButtonImage", "large"},
-        {"inputImage", CIImage::fromBitmap(CIBitmap(200, 200))}});
+    StoredRecord stored = record(
+        {{"class", "CIGaussianBlur"}, {"inputRadius", 3.5}, {"ButtonImage", "large"}, {"inputImage", largePicture()}});
     stored["inputOther"] = QByteArray("no archive");
     ASSERT_TRUE(writeStoredRecords({stored}, list));
     const FilterSettings settings = settingsFrom(readStoredRecords(list)->front(), "ButtonImage");
