@@ -111,6 +111,7 @@ void MainWindow::dress()
                   "#filterHintField { padding: 12px 16px; }"
                   "#fitNotice { background: %5; border-radius: 6px; }"
                   "#fitNotice QLabel { color: %2; }"
+                  "#fitNotice QPushButton { min-height: 22px; }"
                   "#favouritesRow, #histogramRow { background: %1; border: none; border-top: 1px solid %3; }",
                 look.panel, look.text, look.separator, look.secondaryText, look.hover));
     ui->mainTabView->setStyleSheet(sheet("#openGLSuperView, #customEffSuperView { background: %1; }", look.surround));
