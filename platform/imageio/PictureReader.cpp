@@ -35,6 +35,13 @@ bool claimsTooMuch(const PictureInput& input, int width, int height)
         && double(width) * height > kMaxPixelsPerByte * (double(input.size()) + kHeaderBytes);
 }
 
+/// Decoders hold some rows of all bands, of which at most four are shown: a few bytes of a file may claim a thousand.
+bool hasTooManyBands(const VipsImagePtr& image)
+{
+    constexpr int kMostBands = 64; // some more than the files of layered editors have channels
+    return vips_image_get_bands(image.get()) > kMostBands;
+}
+
 /// At most `maxSide` pixels on the longer side. Transparent pixels don't bleed into their neighbors.
 VipsImagePtr reducedTo(VipsImagePtr image, int maxSide, bool isPremultiplied)
 {
@@ -69,6 +76,8 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
     const int width = vips_image_get_width(picture.image.get()), height = vips_image_get_height(picture.image.get());
     if (std::int64_t(width) * height > options.maxPixels)
         return tooLarge(input, width, height);
+    if (hasTooManyBands(picture.image))
+        return input.failure(Reason::StrangePixels);
     if (claimsTooMuch(input, width, height)) {
         imageLog(input.name() + " has too few bytes for its size.");
         return damaged(input);

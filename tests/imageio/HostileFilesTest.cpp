@@ -115,7 +115,7 @@ TEST_F(HostileFiles, HugeClaimsCostNoMemory)
         expectSound(readPicture(file));
         EXPECT_FALSE(readPicture(file)) << name;
     }
-    EXPECT_LT(peakMegabytes() - before, 600) << "though what other tests gave back may still be held";
+    EXPECT_LT(peakMegabytes() - before, 400) << "though what other tests gave back may still be held";
 
     const Result<CIBitmap> large = readPicture(pngFile(30000, 30000, 8, 6, bytesOf({1, 2, 3})));
     EXPECT_THAT(large.message(), HasSubstr("30000 × 30000"));
