@@ -5,6 +5,7 @@
 #include "app/window/MainWindow.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/Log.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 #include "platform/quartz/TextRenderer.h"
 #include "translations/Translations.h"
 
@@ -37,6 +38,7 @@ int main(int argc, char** argv)
     if (!request->newWindow && instance.start(pictures) == OneInstance::Start::HandedOver)
         return 0;
 
+    ReaderProcess::prepare();
     CITextRenderer::install(std::make_shared<TextRenderer>());
     Appearance::shared().dressApplication();
     MainWindow window;

@@ -1,6 +1,6 @@
 #include "files/ImageInfo.h"
 
-#include "platform/imageio/PictureProperties.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 #include "ui_ImageInfo.h"
 
 #include <QFile>
@@ -121,7 +121,7 @@ void ImageInfo::showURL(const QUrl& url)
     }
     mFilePath->setText(mUrl.toLocalFile());
     const Result<PictureFileProperties> read =
-        readPictureProperties(QFile::encodeName(mUrl.toLocalFile()).toStdString());
+        ReaderProcess(QFile::encodeName(mUrl.toLocalFile()).toStdString()).readProperties();
     if (!read) {
         mFileType->setText(none);
         mFileSize->setText(none);

@@ -1,7 +1,7 @@
 #include "app/catalogue/Thumbnail.h"
 
 #include "platform/coreimage/CIContext.h"
-#include "platform/imageio/PictureReader.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 
 #include <QDataStream>
 #include <QIODevice>
@@ -127,7 +127,7 @@ QImage thumbnailOfTiff(const QByteArray& bytes)
         ReadOptions options;
         options.maxPixels = 1'000'000;
         const std::span content(bytes.data(), std::size_t(bytes.size()));
-        if (const Result<CIBitmap> read = readPicture(std::as_bytes(content), options))
+        if (const Result<CIBitmap> read = ReaderProcess(std::as_bytes(content)).readPicture(options))
             image = imageOfBitmap(*read);
     }
     if (image.width() > 0)

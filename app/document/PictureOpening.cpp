@@ -3,6 +3,7 @@
 #include "app/document/Document.h"
 #include "platform/chain/Baking.h"
 #include "platform/imageio/LooseThread.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -21,6 +22,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kLarge = 8e6; // px; smaller pictures are there at once
+constexpr std::uintmax_t kFewestLargeBytes = 100'000; // files of so many pixels hardly have fewer
 
 std::string fileOf(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
@@ -36,11 +38,15 @@ PictureRead pictureOf(const Result<CIBitmap>& read)
 /// Large files of some formats are decoded in half the time or less when they are decoded no larger than that.
 std::optional<CIImage> reducedPicture(const std::string& file, const ReadOptions& options)
 {
-    const Result<PictureInfo> info = readPictureInfo(file);
+    std::error_code error;
+    if (std::filesystem::file_size(file, error) < kFewestLargeBytes || error)
+        return {};
+    ReaderProcess reader(file);
+    const Result<PictureInfo> info = reader.readInfo();
     if (!info || !fileFormat(info.value().format).readsReduced
         || double(info.value().width) * info.value().height < kLarge)
         return {};
-    const Result<CIBitmap> reduced = readPicture(file, options);
+    const Result<CIBitmap> reduced = reader.readPicture(options);
     if (!reduced)
         return {};
     const CIBitmap& bitmap = reduced.value();
@@ -57,9 +63,10 @@ PictureRead readPictureFile(const QString& path, const ReadOptions& options)
 {
     const std::string file = fileOf(path);
     try {
-        PictureRead read = pictureOf(readPicture(file, options));
+        ReaderProcess reader(file);
+        PictureRead read = pictureOf(reader.readPicture(options));
         if (read.image)
-            read.metadata = PictureMetadata::ofFile(file);
+            read.metadata = reader.readMetadata();
         return read;
     } catch (const std::bad_alloc&) {
         return {.failure = Failure{Reason::NoMemoryToOpen, fileOf(QFileInfo(path).fileName())}};
@@ -69,7 +76,8 @@ PictureRead readPictureFile(const QString& path, const ReadOptions& options)
 PictureRead readPictureData(const QByteArray& data, const ReadOptions& options)
 {
     try {
-        return pictureOf(readPicture(std::as_bytes(std::span(data.data(), std::size_t(data.size()))), options));
+        const std::span content(data.data(), std::size_t(data.size()));
+        return pictureOf(ReaderProcess(std::as_bytes(content)).readPicture(options));
     } catch (const std::bad_alloc&) {
         return {.failure = Failure{Reason::NoMemoryToOpen}};
     }

@@ -5,7 +5,7 @@
 #include "app/document/ReplacedFiles.h"
 #include "app/document/SessionJournal.h"
 #include "platform/foundation/Log.h"
-#include "platform/imageio/PictureMetadata.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 #include "widgets/AlertPanel.h"
 
 #include <QApplication>
@@ -59,7 +59,7 @@ void Session::restore(const SessionState& state)
     m_document.setFilePath(QString::fromStdString(state.value("path").toString()));
     m_document.setPicture(image);
     const std::string described = state.value("metadataOf").toString();
-    m_document.setMetadata(described.empty() ? nullptr : PictureMetadata::ofFile(described));
+    m_document.setMetadata(described.empty() ? nullptr : ReaderProcess(described).readMetadata());
     m_edits.restore(state);
     m_document.undoManager().removeAllActions();
     m_document.setSaved();

@@ -28,7 +28,7 @@ std::shared_ptr<Job> jobFor(const PictureInput& input, const ReadOptions& option
     job->input = input;
     if (input.path().empty()) {
         job->content.assign(input.memory().begin(), input.memory().end());
-        if (Result<PictureInput> copy = PictureInput::fromMemory(job->content))
+        if (Result<PictureInput> copy = PictureInput::fromMemory(job->content, input.name()))
             job->input = *copy;
     }
     job->options = options;

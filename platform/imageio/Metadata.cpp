@@ -1,9 +1,7 @@
 // Exif, IPTC and XMP, read by Exiv2.
+#include "platform/imageio/Exiv2Image.h"
 #include "platform/imageio/ImageLog.h"
-#include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PropertyTree.h"
-
-#include <exiv2/exiv2.hpp>
 
 #include <algorithm>
 #include <array>
@@ -121,17 +119,16 @@ void prepareExiv2()
 
 std::string plainPath(const std::filesystem::path& file) { return std::filesystem::absolute(file).string(); }
 
-void addMetadata(const std::filesystem::path& file, Properties& properties)
+void addMetadata(const PictureInput& input, Properties& properties)
 {
-    prepareExiv2();
     try {
-        const auto image = Exiv2::ImageFactory::open(plainPath(file));
+        const auto image = exiv2Image(input);
         image->readMetadata();
         addExif(image->exifData(), properties);
         addIptc(image->iptcData(), properties);
         addXmp(image->xmpData(), properties);
     } catch (const std::exception& error) { // also for formats that carry no metadata
-        imageLog(file.filename().string() + ": " + error.what());
+        imageLog(input.name() + ": " + error.what());
     }
     dropEmptyGroups(properties);
 }

@@ -1,8 +1,9 @@
 #include "platform/imageio/MetadataCopy.h"
 
+#include "platform/imageio/Exiv2Image.h"
 #include "platform/imageio/ImageLog.h"
-
-#include <exiv2/exiv2.hpp>
+#include "platform/imageio/InputReading.h"
+#include "platform/imageio/Parcel.h"
 
 #include <algorithm>
 #include <array>
@@ -136,6 +137,13 @@ void putExif(const PictureMetadata::Entries& entries, Exiv2::ExifData& target, i
     target["Exif.Photo.PixelYDimension"] = std::uint32_t(height);
 }
 
+std::string_view textOf(const Exiv2::byte* bytes, std::size_t size)
+{
+    return {reinterpret_cast<const char*>(bytes), bytes ? size : 0};
+}
+
+const Exiv2::byte* bytesOf(const std::string& text) { return reinterpret_cast<const Exiv2::byte*>(text.data()); }
+
 } // namespace
 
 std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height)
@@ -216,13 +224,61 @@ std::shared_ptr<const PictureMetadata> PictureMetadata::withoutPlace() const
 
 std::shared_ptr<const PictureMetadata> PictureMetadata::ofFile(const std::filesystem::path& file)
 {
-    imageio::prepareExiv2();
+    const Result<imageio::PictureInput> input = imageio::PictureInput::fromFile(file);
+    return input ? imageio::readMetadata(*input) : nullptr;
+}
+
+std::shared_ptr<const PictureMetadata> imageio::readMetadata(const PictureInput& input)
+{
     try {
-        const auto image = Exiv2::ImageFactory::open(imageio::plainPath(file));
+        const auto image = exiv2Image(input);
         image->readMetadata();
-        std::unique_ptr<Entries> entries = imageio::entriesOf(*image);
-        return entries ? std::make_shared<const PictureMetadata>(file, std::move(entries)) : nullptr;
+        std::unique_ptr<PictureMetadata::Entries> entries = entriesOf(*image);
+        return entries ? std::make_shared<const PictureMetadata>(input.path(), std::move(entries)) : nullptr;
     } catch (const std::exception& error) { // also for formats that carry no metadata
+        imageLog(input.name() + ": " + error.what());
+        return nullptr;
+    }
+}
+
+std::string imageio::packed(const PictureMetadata& metadata)
+{
+    const PictureMetadata::Entries& entries = metadata.entries();
+    const bool isBig = entries.byteOrder == Exiv2::bigEndian;
+    Exiv2::ExifData copy = entries.exif; // the encoder drops what doesn't fit
+    Exiv2::Blob exif;
+    Exiv2::ExifParser::encode(exif, isBig ? Exiv2::bigEndian : Exiv2::littleEndian, copy);
+    const Exiv2::DataBuf iptc = Exiv2::IptcParser::encode(entries.iptc);
+    std::string xmp;
+    if (!entries.xmp.empty())
+        Exiv2::XmpParser::encode(xmp, entries.xmp);
+    Parcel parcel;
+    parcel.put(entries.dotsPerInch).putText(textOf(exif.data(), exif.size()));
+#if EXIV2_TEST_VERSION(0, 28, 0)
+    parcel.putText(textOf(iptc.c_data(), iptc.size()));
+#else
+    parcel.putText(textOf(iptc.pData_, std::size_t(iptc.size_)));
+#endif
+    return parcel.putText(xmp).bytes();
+}
+
+std::shared_ptr<const PictureMetadata> imageio::unpackedMetadata(
+    const std::filesystem::path& file, std::string_view bytes)
+{
+    prepareExiv2();
+    try {
+        Unpacking parcel(bytes);
+        auto entries = std::make_unique<PictureMetadata::Entries>();
+        entries->dotsPerInch = parcel.take<double>();
+        const std::string exif = parcel.takeText(), iptc = parcel.takeText(), xmp = parcel.takeText();
+        if (!exif.empty())
+            entries->byteOrder = Exiv2::ExifParser::decode(entries->exif, bytesOf(exif), std::uint32_t(exif.size()));
+        if (!iptc.empty())
+            Exiv2::IptcParser::decode(entries->iptc, bytesOf(iptc), std::uint32_t(iptc.size()));
+        if (!xmp.empty())
+            Exiv2::XmpParser::decode(entries->xmp, xmp);
+        return std::make_shared<const PictureMetadata>(file, std::move(entries));
+    } catch (const std::exception& error) {
         imageLog(file.filename().string() + ": " + error.what());
         return nullptr;
     }

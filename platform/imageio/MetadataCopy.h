@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace imageio {
@@ -22,5 +23,10 @@ std::vector<std::byte> withMetadata(
 
 /// The Exif entries as a block that starts with "Exif\0\0"; empty when there are none or they don't fit.
 std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height);
+
+/// What another process needs to have the same metadata.
+std::string packed(const PictureMetadata& metadata);
+/// Null when these bytes aren't such; `file` is where they come from.
+std::shared_ptr<const PictureMetadata> unpackedMetadata(const std::filesystem::path& file, std::string_view bytes);
 
 } // namespace imageio

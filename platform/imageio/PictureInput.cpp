@@ -21,7 +21,7 @@ Result<PictureInput> PictureInput::fromFile(const fs::path& path)
         return input.failure(Reason::IsFolder);
     if (status.type() != fs::file_type::regular) // a pipe or a device could block for ever
         return input.failure(Reason::NotOrdinary);
-    if (std::FILE* file = std::fopen(path.c_str(), "rb"))
+    if (std::FILE* file = std::fopen(path.c_str(), "rbe"))
         input.m_file = std::shared_ptr<std::FILE>(file, CloseFile());
     else
         return input.failure(Reason::CannotRead, std::strerror(errno));
@@ -32,9 +32,10 @@ Result<PictureInput> PictureInput::fromFile(const fs::path& path)
     return input;
 }
 
-Result<PictureInput> PictureInput::fromMemory(std::span<const std::byte> content)
+Result<PictureInput> PictureInput::fromMemory(std::span<const std::byte> content, const std::string& name)
 {
     PictureInput input;
+    input.m_name = name;
     input.m_memory = content;
     input.m_size = content.size();
     if (content.empty())

@@ -16,9 +16,9 @@ class PictureInput {
 public:
     /// Fails when there is no regular, readable file with at least one byte.
     static Result<PictureInput> fromFile(const std::filesystem::path&);
-    static Result<PictureInput> fromMemory(std::span<const std::byte>);
+    static Result<PictureInput> fromMemory(std::span<const std::byte>, const std::string& name = {});
 
-    /// Of the file, without its folder; empty for memory.
+    /// Of the file, without its folder; empty for memory that came from none.
     const std::string& name() const { return m_name; }
     Failure failure(Reason reason, const std::string& detail = {}) const { return {reason, m_name, detail}; }
     const FileFormat* format() const { return m_format; } // null for an unknown one
@@ -34,6 +34,8 @@ public:
     /// A path for libraries that read only files; empty for memory.
     const std::filesystem::path& path() const { return m_path; }
     std::span<const std::byte> memory() const { return m_memory; }
+    /// Of the opened file; -1 for memory.
+    int descriptor() const { return m_file ? ::fileno(m_file.get()) : -1; }
 
 private:
     struct CloseFile {

@@ -1,6 +1,7 @@
 #include "platform/imageio/PictureProperties.h"
 
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/InputReading.h"
 #include "platform/imageio/PictureColor.h"
 #include "platform/imageio/PictureLoad.h"
 #include "platform/imageio/PropertyTree.h"
@@ -84,9 +85,9 @@ void addPixels(const PictureInput& input, const OpenPicture& picture, const Pict
         addGif(image, properties);
 }
 
-Result<PictureFileProperties> propertiesOf(const PictureInput& input, const std::filesystem::path& file)
+Result<PictureFileProperties> propertiesOf(const PictureInput& input)
 {
-    const Result<PictureInfo> info = readPictureInfo(file);
+    const Result<PictureInfo> info = imageio::readPictureInfo(input);
     if (!info)
         return info.failure();
     PictureFileProperties result;
@@ -105,7 +106,7 @@ Result<PictureFileProperties> propertiesOf(const PictureInput& input, const std:
         addValue(properties, "ColorModel", "RGB");
     }
     addFormatHeaders(input, properties);
-    addMetadata(file, properties);
+    addMetadata(input, properties);
     sortProperties(properties);
     return result;
 }
@@ -114,12 +115,16 @@ Result<PictureFileProperties> propertiesOf(const PictureInput& input, const std:
 
 Result<PictureFileProperties> readPictureProperties(const std::filesystem::path& file)
 {
-    const Result<PictureInput> input = PictureInput::fromFile(file);
+    return imageio::readPictureProperties(PictureInput::fromFile(file));
+}
+
+Result<PictureFileProperties> imageio::readPictureProperties(const Result<PictureInput>& input)
+{
     if (!input)
         return input.failure();
     try {
         useVips();
-        return propertiesOf(*input, file);
+        return propertiesOf(*input);
     } catch (const std::exception& error) {
         imageLog(input->name() + ": " + error.what());
         return input->failure(Reason::CannotRead);

@@ -2,6 +2,7 @@
 
 #include "platform/imageio/DecodeInTime.h"
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/InputReading.h"
 #include "platform/imageio/PictureColor.h"
 #include "platform/imageio/PictureLoad.h"
 #include "platform/imageio/PictureSink.h"
@@ -121,13 +122,6 @@ Result<CIBitmap> readChecked(const Result<PictureInput>& input, const ReadOption
     }
 }
 
-Result<CIBitmap> logged(Result<CIBitmap> result)
-{
-    if (!result)
-        imageLog(result.message());
-    return result;
-}
-
 int bitsPerComponent(VipsImage* image)
 {
     const auto format = vips_image_get_format(image);
@@ -152,19 +146,31 @@ PictureInfo infoOf(const OpenPicture& picture, PictureFormat format)
 
 } // namespace
 
+Result<CIBitmap> imageio::readPicture(const Result<PictureInput>& input, const ReadOptions& options)
+{
+    Result<CIBitmap> result = readChecked(input, options);
+    if (!result)
+        imageLog(result.message());
+    return result;
+}
+
 Result<CIBitmap> readPicture(const std::filesystem::path& file, const ReadOptions& options)
 {
-    return logged(readChecked(PictureInput::fromFile(file), options));
+    return imageio::readPicture(PictureInput::fromFile(file), options);
 }
 
 Result<CIBitmap> readPicture(std::span<const std::byte> content, const ReadOptions& options)
 {
-    return logged(readChecked(PictureInput::fromMemory(content), options));
+    return imageio::readPicture(PictureInput::fromMemory(content), options);
 }
 
 Result<PictureInfo> readPictureInfo(const std::filesystem::path& file)
 {
-    const Result<PictureInput> input = PictureInput::fromFile(file);
+    return imageio::readPictureInfo(PictureInput::fromFile(file));
+}
+
+Result<PictureInfo> imageio::readPictureInfo(const Result<PictureInput>& input)
+{
     if (!input)
         return input.failure();
     if (!input->format())

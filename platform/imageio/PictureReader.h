@@ -9,6 +9,8 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <span>
 #include <string>
 
@@ -19,6 +21,9 @@ struct ReadOptions {
     std::chrono::seconds timeLimit{120};
     const std::atomic<bool>* cancelled = nullptr; // set from another thread to give up; the result is then a failure
     std::atomic<float>* progress = nullptr; // 0 to 1 of the pixels; stays as it is where nobody can tell
+    /// Gives zeroed memory for that many bytes of pixels, and throws std::bad_alloc when it can't. The bitmap's own if
+    /// empty.
+    std::function<std::shared_ptr<std::byte>(std::size_t bytes)> memory{};
 };
 
 /// What the header of a picture file says.

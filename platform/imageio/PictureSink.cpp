@@ -24,9 +24,8 @@ struct Placement {
 
 bool swapsSides(int orientation) { return orientation >= 5 && orientation <= 8; }
 
-Placement placementFor(int orientation, CIBitmap& bitmap)
+Placement placementFor(int orientation, const CIBitmap& bitmap, std::byte* first)
 {
-    std::byte* const first = bitmap.mutableRow(0);
     const auto pixel = std::ptrdiff_t(bytesPerPixel(bitmap.format()));
     const auto line = std::ptrdiff_t(bitmap.bytesPerRow());
     std::byte* const topRight = first + pixel * (bitmap.width() - 1);
@@ -93,11 +92,10 @@ public:
         m_format = format == VIPS_FORMAT_UCHAR ? CIFormat::RGBA8
             : format == VIPS_FORMAT_USHORT     ? CIFormat::RGBA16
                                                : CIFormat::RGBAf;
-        requireMemory(width, height, m_format, options);
         const bool swaps = swapsSides(orientation);
-        m_bitmap = CIBitmap(swaps ? height : width, swaps ? width : height, m_format, alpha,
-            m_format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : CIColorSpace::SRGB);
-        m_placement = placementFor(orientation, m_bitmap);
+        NewBitmap target = bitmapFor(swaps ? height : width, swaps ? width : height, m_format, alpha, options);
+        m_bitmap = std::move(target.bitmap);
+        m_placement = placementFor(orientation, m_bitmap, target.pixels);
     }
 
     SinkResult pull(VipsImage* image)
@@ -176,12 +174,30 @@ private:
 
 } // namespace
 
-void requireMemory(int width, int height, CIFormat format, const ReadOptions& options)
+std::int64_t mostBytes(const ReadOptions& options)
 {
     constexpr std::int64_t kShareOfMemory = 2; // filters and the history need some, too
-    const std::int64_t most = options.maxBytes > 0 ? options.maxBytes : physicalMemory() / kShareOfMemory;
-    if (std::int64_t(width) * height > most / std::int64_t(bytesPerPixel(format)))
+    return options.maxBytes > 0 ? options.maxBytes : physicalMemory() / kShareOfMemory;
+}
+
+void requireMemory(int width, int height, CIFormat format, const ReadOptions& options)
+{
+    if (std::int64_t(width) * height > mostBytes(options) / std::int64_t(bytesPerPixel(format)))
         throw std::bad_alloc();
+}
+
+NewBitmap bitmapFor(int width, int height, CIFormat format, CIAlpha alpha, const ReadOptions& options)
+{
+    requireMemory(width, height, format, options);
+    const CIColorSpace space = format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : CIColorSpace::SRGB;
+    const std::size_t rowBytes = std::size_t(width) * bytesPerPixel(format);
+    if (options.memory) {
+        const std::shared_ptr<std::byte> memory = options.memory(rowBytes * std::size_t(height));
+        return {CIBitmap(memory.get(), width, height, rowBytes, format, alpha, space, memory), memory.get()};
+    }
+    NewBitmap made{CIBitmap(width, height, format, alpha, space), nullptr};
+    made.pixels = made.bitmap.mutableRow(0);
+    return made;
 }
 
 SinkResult pullIntoBitmap(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options)

@@ -21,7 +21,7 @@ void addValue(Properties& properties, std::string_view key, std::string value);
 void sortProperties(Properties& properties);
 
 /// Exif, GPS, IPTC, TIFF and XMP, as far as the file has them.
-void addMetadata(const std::filesystem::path& file, Properties& properties);
+void addMetadata(const PictureInput& input, Properties& properties);
 
 /// What the format's own headers say: {JFIF} and {PNG}.
 void addFormatHeaders(const PictureInput& input, Properties& properties);

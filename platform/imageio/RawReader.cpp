@@ -62,31 +62,29 @@ void setDeveloping(LibRaw& raw, bool halfSize)
 }
 
 /// Turns rows that hold packed RGB at their start into RGBA, from the end, in place.
-void spreadRows(CIBitmap& bitmap)
+void spreadRows(std::uint16_t* row, int width, int height)
 {
-    for (int y = 0; y < bitmap.height(); ++y) {
-        const auto row = bitmap.mutableRow<std::uint16_t>(y);
-        for (std::size_t x = std::size_t(bitmap.width()); x-- > 0;) {
+    for (int y = 0; y < height; ++y, row += 4 * std::ptrdiff_t(width))
+        for (std::size_t x = std::size_t(width); x-- > 0;) {
             const std::uint16_t red = row[3 * x], green = row[3 * x + 1], blue = row[3 * x + 2];
             row[4 * x] = red;
             row[4 * x + 1] = green;
             row[4 * x + 2] = blue;
             row[4 * x + 3] = 65535;
         }
-    }
 }
 
-Result<CIBitmap> developed(LibRaw& raw, const PictureInput& input)
+Result<CIBitmap> developed(LibRaw& raw, const PictureInput& input, const ReadOptions& options)
 {
     int width = 0, height = 0, colors = 0, bits = 0;
     raw.get_mem_image_format(&width, &height, &colors, &bits);
     if (width <= 0 || height <= 0 || colors != 3 || bits != 16)
         return input.failure(Reason::StrangePixels);
-    CIBitmap bitmap(width, height, CIFormat::RGBA16, CIAlpha::Opaque);
-    if (const int error = raw.copy_mem_image(bitmap.mutableRow(0), int(bitmap.bytesPerRow()), 0))
+    const NewBitmap target = bitmapFor(width, height, CIFormat::RGBA16, CIAlpha::Opaque, options);
+    if (const int error = raw.copy_mem_image(target.pixels, int(target.bitmap.bytesPerRow()), 0))
         return failureOf(input, error);
-    spreadRows(bitmap);
-    return bitmap;
+    spreadRows(reinterpret_cast<std::uint16_t*>(target.pixels), width, height);
+    return target.bitmap;
 }
 
 } // namespace
@@ -123,7 +121,7 @@ Result<CIBitmap> readRaw(const PictureInput& input, const ReadOptions& options)
     int error = raw->unpack();
     if (!error)
         error = raw->dcraw_process();
-    return error ? Result<CIBitmap>(failureOf(input, error, options)) : developed(*raw, input);
+    return error ? Result<CIBitmap>(failureOf(input, error, options)) : developed(*raw, input, options);
 }
 
 } // namespace imageio

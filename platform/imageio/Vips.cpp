@@ -6,6 +6,8 @@
 #include <mutex>
 #include <stdexcept>
 
+#include <vips/vector.h>
+
 namespace imageio {
 
 namespace {
@@ -23,10 +25,9 @@ void forwardWarning(const char* domain, GLogLevelFlags, const char* text, void*)
 void blockUnusedLoaders()
 {
     vips_operation_block_set("VipsForeignLoad", TRUE);
-    for (const char* wanted :
-        {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadTiff", "VipsForeignLoadNsgif",
-            "VipsForeignLoadWebp", "VipsForeignLoadHeif", "VipsForeignLoadJxl", "VipsForeignLoadSvg",
-            "VipsForeignLoadPdf", "VipsForeignLoadOpenexr", "VipsForeignLoadRad", "VipsForeignLoadMagick"})
+    for (const char* wanted : {"VipsForeignLoadJpeg", "VipsForeignLoadPng", "VipsForeignLoadTiff",
+             "VipsForeignLoadNsgif", "VipsForeignLoadWebp", "VipsForeignLoadHeif", "VipsForeignLoadJxl",
+             "VipsForeignLoadSvg", "VipsForeignLoadPdf", "VipsForeignLoadRad", "VipsForeignLoadMagick"})
         vips_operation_block_set(wanted, FALSE);
 }
 
@@ -36,6 +37,9 @@ void startVips()
         throw std::runtime_error("libvips does not start: " + takeVipsError());
     vips_cache_set_max(0); // every file is read once
     vips_concurrency_set(2);
+#if VIPS_MAJOR_VERSION == 8 && VIPS_MINOR_VERSION < 15
+    vips_vector_set_enabled(FALSE); // it would write code of its own, which a reading process may not
+#endif
     blockUnusedLoaders();
     g_log_set_handler("VIPS", GLogLevelFlags(G_LOG_LEVEL_WARNING | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_MESSAGE),
         forwardWarning, nullptr);

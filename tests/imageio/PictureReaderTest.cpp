@@ -29,6 +29,24 @@ void expectNear(const Pixel& actual, const Pixel& expected, double tolerance)
         EXPECT_NEAR(actual[i], expected[i], tolerance) << "component " << i;
 }
 
+TEST(ExrReader, ShowsTheDisplayWindow)
+{
+    Bytes file = exrFile();
+    const Bytes name = bytesOf("displayWindow");
+    const auto found = std::ranges::search(file, name).begin();
+    ASSERT_NE(found, file.end());
+    // After its type and size: the last column and the last row.
+    const auto last = found + std::ptrdiff_t(name.size() + sizeof "" + sizeof "box2i" + 4 + 8);
+    std::ranges::copy(bytesOf({2, 0, 0, 0, 1, 0, 0, 0}), last);
+    const Result<CIBitmap> read = readPicture(file);
+    ASSERT_TRUE(read) << read.message();
+    EXPECT_EQ(read->width(), 3);
+    EXPECT_EQ(read->height(), 2);
+    EXPECT_THAT(pixelAt(*read, 0, 0), ::testing::ElementsAre(2, 0.5, 0.25, 1));
+    EXPECT_THAT(pixelAt(*read, 2, 0), ::testing::Each(0)) << "no data there";
+    EXPECT_THAT(pixelAt(*read, 0, 1), ::testing::Each(0));
+}
+
 TEST(PictureReader, ReadsEveryKindOfPng)
 {
     const CIBitmap rgb = read(pngFile(2, 2, 8, 2, bytesOf({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12})));

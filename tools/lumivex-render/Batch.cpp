@@ -152,7 +152,7 @@ private:
 
     void process(const BatchFile& file)
     {
-        const Result<CIBitmap> read = readPicture(file.input, {.cancelled = &m_stop});
+        const Result<CIBitmap> read = file.reader->readPicture({.cancelled = &m_stop});
         if (!read)
             throw std::runtime_error(read.message());
         const CIImage result = filtered(CIImage::fromBitmap(*read));
@@ -164,7 +164,7 @@ private:
         const CIBitmap bitmap = renderedBitmap(m_context, result, read->format(), &m_control);
         if (bitmap.isNull())
             throw std::bad_alloc();
-        const std::shared_ptr<const PictureMetadata> metadata = PictureMetadata::ofFile(file.input);
+        const std::shared_ptr<const PictureMetadata> metadata = file.reader->readMetadata();
         const Result<void> written = writePicture(bitmap, file.output,
             {.format = file.format,
                 .dotsPerInch = metadata ? metadata->dotsPerInch() : 0,

@@ -38,14 +38,17 @@ bool BatchFiles::identify(const fs::path& file, FileIdentity& identity)
 
 BatchFile BatchFiles::plan(const fs::path& input)
 {
-    const Result<PictureInfo> info = readPictureInfo(input);
+    const auto reader = std::make_shared<ReaderProcess>(input);
+    const Result<PictureInfo> info = reader->readInfo();
+    ReaderProcess::prepare(); // the next one gets ready meanwhile
     if (!info)
         throw std::runtime_error(info.message());
     // That of the picture's own content, whatever its name says. Icons have sides of their own, so a filtered one may
     // fit into none.
     const FileFormat& format = fileFormat(info->format);
     const bool isKept = format.encode && !format.isIcon;
-    BatchFile file{input, m_folder / input.filename(), isKept ? format.format : PictureFormat::Png, memoryFor(*info)};
+    BatchFile file{
+        input, m_folder / input.filename(), isKept ? format.format : PictureFormat::Png, memoryFor(*info), reader};
     if (!isKept)
         file.output.replace_extension(".png");
     FileIdentity identity;

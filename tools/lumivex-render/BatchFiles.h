@@ -1,8 +1,8 @@
 // Which file of a batch goes where, and how much memory it takes on the way.
 #pragma once
 
-#include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -14,6 +14,7 @@ struct BatchFile {
     std::filesystem::path input, output;
     PictureFormat format = PictureFormat::Png;
     std::int64_t memory = 0; // bytes, about
+    std::shared_ptr<ReaderProcess> reader{}; // of the input
 };
 
 /// Hands out the targets. One thread at a time.

@@ -4,8 +4,8 @@
 
 #include "platform/coreimage/CIContext.h"
 #include "platform/coreimage/Fitting.h"
-#include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
+#include "platform/imageio/reader_process/ReaderProcess.h"
 
 #include <algorithm>
 #include <chrono>
@@ -47,7 +47,7 @@ CIFormat setInputs(CIFilter& filter, const Arguments& arguments)
     for (const auto& [key, file] : arguments.images) {
         if (!inputNamed(filter, key).isImage())
             throw UsageError(key + " is not a picture; use --set " + key + "=value");
-        const Result<CIBitmap> bitmap = readPicture(std::filesystem::path(file));
+        const Result<CIBitmap> bitmap = ReaderProcess(std::filesystem::path(file)).readPicture();
         if (!bitmap)
             throw UsageError(key + ": " + bitmap.message());
         if (bitmap->format() == CIFormat::RGBA16 || bitmap->format() == CIFormat::RGBAf)

@@ -61,10 +61,10 @@ protected:
         EXPECT_TRUE(writePicture(bitmap, folder / "in" / name, {.format = format}));
     }
     /// The exit status; standard output and error are in `output` and `errors`.
-    int run(const std::string& arguments, const std::string& before = {})
+    int run(const std::string& arguments, const std::string& before = {}, const fs::path& program = LUMIVEX_RENDER)
     {
         const std::string command = "cd '" + folder.string() + "' && env -u DISPLAY -u WAYLAND_DISPLAY XDG_DATA_HOME='"
-            + folder.string() + "' " + before + " '" LUMIVEX_RENDER "' " + arguments + " >out.txt 2>err.txt";
+            + folder.string() + "' " + before + " '" + program.string() + "' " + arguments + " >out.txt 2>err.txt";
         const int status = std::system(command.c_str());
         output = contentOf("out.txt");
         errors = contentOf("err.txt");
@@ -130,6 +130,21 @@ TEST_F(BatchProgram, NamesFilesThatFailAndGoesOn)
         EXPECT_THAT(errors, HasSubstr("lumivex-render: " + std::string(name) + ": ")) << "each with its reason";
     EXPECT_EQ(std::ranges::count(errors, '\n'), 4);
     EXPECT_EQ(firstByte("out/a.png"), 0);
+}
+
+TEST_F(BatchProgram, LosesOneFileToOneCrash)
+{
+    write("a.png", PictureFormat::Png);
+    write("c.png", PictureFormat::Png);
+    std::ofstream(folder / "in/b.qoi") << "qoif order:crash";
+    fs::create_directories(folder / "bin");
+    fs::copy(LUMIVEX_RENDER, folder / "bin/lumivex-render"); // readers beside the program come first
+    fs::copy(LUMIVEX_MISBEHAVING_READER, folder / "bin/lumivex-read");
+    EXPECT_EQ(run("--favourite Invert in/a.png in/b.qoi in/c.png -o out", {}, folder / "bin/lumivex-render"), 1);
+    EXPECT_THAT(errors, HasSubstr("in/b.qoi: “b.qoi” is damaged"));
+    EXPECT_EQ(std::ranges::count(errors, '\n'), 1);
+    EXPECT_EQ(firstByte("out/a.png"), 0);
+    EXPECT_EQ(firstByte("out/c.png"), 0);
 }
 
 TEST_F(BatchProgram, NeverWritesOverAnInput)
