@@ -25,7 +25,8 @@ QByteArray pdfOf(const CIBitmap& plain)
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(kPointsPerInch);
-    writer.setPageSize(QPageSize(QSizeF(plain.width(), plain.height()), QPageSize::Point));
+    writer.setPageSize(QPageSize(QSizeF(plain.width(), plain.height()), QPageSize::Point, {},
+        QPageSize::ExactMatch)); // no paper of nearly that size
     writer.setPageMargins({});
     QPainter page(&writer);
     page.setRenderHint(QPainter::LosslessImageRendering);

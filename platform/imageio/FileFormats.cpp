@@ -31,7 +31,8 @@ int writeHeif(VipsImage* image, VipsTarget* target, const WriteOptions& options,
 {
     const bool isDeep = vips_image_get_format(image) == VIPS_FORMAT_USHORT;
     return vips_heifsave_target(image, target, "compression", compression, "Q", qualityOf(options), "lossless",
-        gboolean(options.isLossless), "bitdepth", isDeep ? fileFormat(options.format).writtenBits : 8, "subsample_mode",
+        gboolean(options.isLossless), "strip", !vips_image_get_typeof(image, VIPS_META_EXIF_NAME), "bitdepth",
+        isDeep ? fileFormat(options.format).writtenBits : 8, "subsample_mode",
         options.isLossless ? VIPS_FOREIGN_SUBSAMPLE_OFF : chromaOf(options), nullptr);
 }
 

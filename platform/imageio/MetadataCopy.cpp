@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <iterator>
 #include <span>
@@ -127,14 +128,22 @@ std::unique_ptr<PictureMetadata::Entries> entriesOf(const Exiv2::Image& image)
     return isEmpty(*entries) && entries->dotsPerInch == 0 ? nullptr : std::move(entries);
 }
 
-void putExif(const PictureMetadata::Entries& entries, Exiv2::ExifData& target, int width, int height)
+void putExif(const PictureMetadata::Entries& entries, Exiv2::ExifData& target, const NewFile& about)
 {
     for (const Exiv2::Exifdatum& datum : entries.exif)
         target[datum.key()].setValue(&datum.value());
     target["Exif.Image.Orientation"] = kUpright;
     target["Exif.Photo.ColorSpace"] = kSrgb;
-    target["Exif.Photo.PixelXDimension"] = std::uint32_t(width);
-    target["Exif.Photo.PixelYDimension"] = std::uint32_t(height);
+    target["Exif.Photo.PixelXDimension"] = std::uint32_t(about.width);
+    target["Exif.Photo.PixelYDimension"] = std::uint32_t(about.height);
+    if (about.dotsPerInch <= 0)
+        return;
+    constexpr int kHundredths = 100;
+    constexpr std::uint16_t kInch = 2; // as Exif counts units
+    const Exiv2::URational perInch(std::uint32_t(std::lround(about.dotsPerInch * kHundredths)), kHundredths);
+    for (const char* key : {"Exif.Image.XResolution", "Exif.Image.YResolution"})
+        target[key] = perInch;
+    target["Exif.Image.ResolutionUnit"] = kInch;
 }
 
 std::string_view textOf(const Exiv2::byte* bytes, std::size_t size)
@@ -144,17 +153,29 @@ std::string_view textOf(const Exiv2::byte* bytes, std::size_t size)
 
 const Exiv2::byte* bytesOf(const std::string& text) { return reinterpret_cast<const Exiv2::byte*>(text.data()); }
 
+const PictureMetadata::Entries& entriesOrNone(const PictureMetadata* metadata)
+{
+    static const PictureMetadata::Entries none;
+    return metadata ? metadata->entries() : none;
+}
+
+void logLeftOut(const PictureMetadata* metadata, const std::exception& error)
+{
+    const std::string name = metadata ? metadata->file().filename().string() : "a new file";
+    imageLog("Metadata of " + name + " are left out: " + error.what());
+}
+
 } // namespace
 
-std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height)
+std::vector<std::byte> exifBlock(const PictureMetadata* metadata, const NewFile& about)
 {
-    const PictureMetadata::Entries& entries = metadata.entries();
-    if (entries.exif.empty())
+    const PictureMetadata::Entries& entries = entriesOrNone(metadata);
+    if (entries.exif.empty() && about.dotsPerInch <= 0)
         return {};
     prepareExiv2();
     try {
         Exiv2::ExifData exif;
-        putExif(entries, exif, width, height);
+        putExif(entries, exif, about);
         const bool isBig = entries.byteOrder == Exiv2::bigEndian;
         Exiv2::Blob encoded;
         Exiv2::ExifParser::encode(encoded, isBig ? Exiv2::bigEndian : Exiv2::littleEndian, exif);
@@ -164,16 +185,15 @@ std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int
         block.insert(block.end(), rest.begin(), rest.end());
         return block;
     } catch (const std::exception& error) {
-        imageLog("Metadata of " + metadata.file().filename().string() + " are left out: " + error.what());
+        logLeftOut(metadata, error);
         return {};
     }
 }
 
 std::vector<std::byte> withMetadata(
-    const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height)
+    const PictureMetadata* metadata, std::vector<std::byte> encoded, const NewFile& about)
 {
-    if (isEmpty(metadata.entries()))
-        return encoded;
+    const PictureMetadata::Entries& entries = entriesOrNone(metadata);
     prepareExiv2();
     try {
         const auto to = Exiv2::ImageFactory::open(
@@ -181,13 +201,16 @@ std::vector<std::byte> withMetadata(
         if (!takesAnything(*to))
             return encoded;
         to->readMetadata();
-        if (!metadata.entries().exif.empty()) {
-            putExif(metadata.entries(), to->exifData(), width, height);
-            to->setByteOrder(metadata.entries().byteOrder);
-        }
-        for (const Exiv2::Iptcdatum& datum : metadata.entries().iptc)
+        if (to->mimeType() != "image/tiff") // where they also say how the pixels lie
+            to->clearExifData();
+        const bool hasNoOtherResolution = to->mimeType() == "image/webp";
+        if (!entries.exif.empty() || (hasNoOtherResolution && about.dotsPerInch > 0))
+            putExif(entries, to->exifData(), about);
+        if (entries.byteOrder != Exiv2::invalidByteOrder)
+            to->setByteOrder(entries.byteOrder);
+        for (const Exiv2::Iptcdatum& datum : entries.iptc)
             to->iptcData().add(datum);
-        for (const Exiv2::Xmpdatum& datum : metadata.entries().xmp)
+        for (const Exiv2::Xmpdatum& datum : entries.xmp)
             to->xmpData().add(datum);
         to->writeMetadata();
         Exiv2::BasicIo& bytes = to->io();
@@ -196,7 +219,7 @@ std::vector<std::byte> withMetadata(
         const auto* first = reinterpret_cast<const std::byte*>(bytes.mmap());
         return {first, first + bytes.size()};
     } catch (const std::exception& error) { // also for formats that carry no metadata
-        imageLog("Metadata of " + metadata.file().filename().string() + " are left out: " + error.what());
+        logLeftOut(metadata, error);
         return encoded;
     }
 }

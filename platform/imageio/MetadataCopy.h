@@ -16,13 +16,19 @@ void prepareExiv2();
 /// The file's name for Exiv2, which takes some relative ones for addresses in the network or for standard input.
 std::string plainPath(const std::filesystem::path& file);
 
-/// `encoded` (a picture file, `width` x `height` px, upright, sRGB) with these entries. `encoded` itself where the
+/// What a new file, which is upright and in sRGB, says of itself beside the entries that it is given.
+struct NewFile {
+    int width, height; // px
+    double dotsPerInch; // 0 for none
+};
+
+/// `encoded` with these entries (null for none) instead of those that its encoder made. `encoded` itself where the
 /// format takes nothing or the entries don't fit, with a line in the log.
 std::vector<std::byte> withMetadata(
-    const PictureMetadata& metadata, std::vector<std::byte> encoded, int width, int height);
+    const PictureMetadata* metadata, std::vector<std::byte> encoded, const NewFile& about);
 
-/// The Exif entries as a block that starts with "Exif\0\0"; empty when there are none or they don't fit.
-std::vector<std::byte> exifBlock(const PictureMetadata& metadata, int width, int height);
+/// The Exif entries as a block that starts with "Exif\0\0"; empty when there is nothing to say or they don't fit.
+std::vector<std::byte> exifBlock(const PictureMetadata* metadata, const NewFile& about);
 
 /// What another process needs to have the same metadata.
 std::string packed(const PictureMetadata& metadata);

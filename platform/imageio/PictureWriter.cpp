@@ -3,6 +3,7 @@
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PictureRows.h"
+#include "platform/imageio/ResolutionTags.h"
 
 #include <algorithm>
 #include <atomic>
@@ -11,6 +12,7 @@
 #include <new>
 
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -55,9 +57,14 @@ bool isInsideImage(const WriteOptions& options)
     return options.format == PictureFormat::Avif || options.format == PictureFormat::Heif;
 }
 
-void attachExif(VipsImage* image, const PictureMetadata& metadata)
+NewFile aboutFile(const CIBitmap& bitmap, const WriteOptions& options)
 {
-    const std::vector<std::byte> block = exifBlock(metadata, vips_image_get_width(image), vips_image_get_height(image));
+    return {bitmap.width(), bitmap.height(), options.dotsPerInch};
+}
+
+void attachExif(VipsImage* image, const PictureMetadata* metadata, const NewFile& about)
+{
+    const std::vector<std::byte> block = exifBlock(metadata, about);
     if (!block.empty())
         vips_image_set_blob_copy(image, VIPS_META_EXIF_NAME, block.data(), block.size());
 }
@@ -77,8 +84,8 @@ bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& op
     if (image) {
         if (fileFormat(options.format).writtenBits < 32)
             attachSrgbProfile(image.get());
-        if (options.metadata && isInsideImage(options))
-            attachExif(image.get(), *options.metadata);
+        if (isInsideImage(options))
+            attachExif(image.get(), options.metadata.get(), aboutFile(bitmap, options));
         if (options.dotsPerInch > 0)
             image = derive([&](VipsImage** out) { // libvips counts dots per millimeter
                 const double resolution = options.dotsPerInch / 25.4;
@@ -108,7 +115,7 @@ public:
         for (int attempt = 0; attempt < 100 && m_descriptor < 0; ++attempt) {
             m_path =
                 m_target.parent_path() / (".lumivex-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
-            m_descriptor = ::open(m_path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
+            m_descriptor = ::open(m_path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0666);
             if (m_descriptor < 0 && errno != EEXIST)
                 break;
         }
@@ -194,16 +201,40 @@ bool writeAll(int descriptor, std::span<const std::byte> bytes)
     return true;
 }
 
+/// Libvips puts more into these files than it was given.
+bool isReworked(const WriteOptions& options)
+{
+    return options.format == PictureFormat::Jpeg || options.format == PictureFormat::WebP
+        || (options.format == PictureFormat::Png && options.dotsPerInch <= 0);
+}
+
+/// In place, since the file may be large.
+void dropTiffResolution(int descriptor)
+{
+    struct stat status { };
+    ::fstat(descriptor, &status);
+    const std::size_t size = std::size_t(status.st_size);
+    void* const bytes = ::mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, descriptor, 0);
+    if (bytes == MAP_FAILED)
+        return;
+    imageio::dropTiffResolution({static_cast<std::byte*>(bytes), size});
+    ::munmap(bytes, size);
+}
+
 bool encodeInto(int descriptor, const CIBitmap& bitmap, const WriteOptions& options)
 {
-    if (options.metadata) {
+    if (options.metadata || isReworked(options)) {
         const Result<std::vector<std::byte>> encoded = encodePicture(bitmap, options);
         errno = 0;
         return encoded && writeAll(descriptor, *encoded);
     }
     errno = 0;
     const TargetPtr target(vips_target_new_to_descriptor(descriptor));
-    return encodeTo(target.get(), bitmap, options);
+    if (!encodeTo(target.get(), bitmap, options))
+        return false;
+    if (options.format == PictureFormat::Tiff && options.dotsPerInch <= 0)
+        dropTiffResolution(descriptor);
+    return true;
 }
 
 bool isCancelled(const WriteOptions& options) { return options.control && options.control->isCancelled(); }
@@ -261,8 +292,9 @@ Result<std::vector<std::byte>> encodePicture(const CIBitmap& bitmap, const Write
         if (!first)
             return failure;
         std::vector<std::byte> bytes(first, first + size);
-        if (options.metadata && !isInsideImage(options))
-            return withMetadata(*options.metadata, std::move(bytes), bitmap.width(), bitmap.height());
+        if ((options.metadata && !isInsideImage(options)) || isReworked(options))
+            bytes = withMetadata(options.metadata.get(), std::move(bytes), aboutFile(bitmap, options));
+        storeResolution(options.format, options.dotsPerInch, bytes);
         return bytes;
     } catch (const std::exception& error) {
         imageLog(error.what());

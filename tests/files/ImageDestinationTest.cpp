@@ -69,6 +69,13 @@ TEST_F(ImageDestinationTest, PdfHasOnePageOfThePicturesSizeAndAllItsDetail)
         EXPECT_EQ(std::memcmp(back->row(y), picture.row(y), 83 * 4), 0) << "row " << y;
 }
 
+TEST_F(ImageDestinationTest, PdfPagesAreOfNoPaperSize)
+{
+    ASSERT_TRUE(writePdf(colored(597, 843), path("p.pdf")));
+    const QString info = answerOf("pdfinfo", {path("p.pdf")});
+    EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+597 x 843 pts"))) << "nearly that of A4";
+}
+
 TEST_F(ImageDestinationTest, StoresTheResolution)
 {
     ASSERT_TRUE(export1PathTypeDpi(colored(40, 30), path("p.png"), "public.png", 150));

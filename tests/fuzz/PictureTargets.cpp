@@ -48,7 +48,7 @@ void fuzzMetadata(FuzzBytes content)
     require(properties || !properties.message().empty());
     if (const auto metadata = PictureMetadata::ofFile(file.path()))
         for (const std::vector<std::byte>& target : targets) {
-            const std::vector<std::byte> written = imageio::withMetadata(*metadata, target, 4, 4);
+            const std::vector<std::byte> written = imageio::withMetadata(metadata.get(), target, {4, 4, 0});
             const Result<CIBitmap> back = readPicture(written);
             require(back && back->width() == 4); // whatever the entries, the picture is whole
         }

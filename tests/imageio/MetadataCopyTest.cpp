@@ -81,6 +81,40 @@ TEST_F(MetadataCopy, CarriesWhatStaysTrueIntoEveryFormatThatTakesIt)
     }
 }
 
+TEST_F(MetadataCopy, AddsNothingThatNobodyAskedFor)
+{
+    const CIBitmap bitmap = noiseBitmap(30, 41, CIFormat::RGBA8, CIAlpha::Opaque);
+    const auto carried = PictureMetadata::ofFile(photograph());
+    for (const PictureFormat format :
+        {PictureFormat::Jpeg, PictureFormat::Png, PictureFormat::Tiff, PictureFormat::WebP, PictureFormat::Avif}) {
+        if (!canWrite(fileFormat(format)))
+            continue;
+        SCOPED_TRACE(fileFormat(format).name);
+        const fs::path file = folder.path() / "plain";
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = format}));
+        EXPECT_EQ(valueOf(file, "{Exif}", "ColorSpace") + valueOf(file, "{Exif}", "ExifVersion"), "");
+        EXPECT_EQ(valueOf(file, "{TIFF}", "XResolution") + valueOf(file, "{TIFF}", "ResolutionUnit"), "");
+        EXPECT_EQ(valueOf(file, "{PNG}", "XPixelsPerMeter") + valueOf(file, "{JFIF}", "XDensity"),
+            format == PictureFormat::Jpeg ? "1" : "")
+            << "the pixels are squares";
+        const Result<CIBitmap> back = readPicture(file);
+        ASSERT_TRUE(back) << back.message();
+        EXPECT_EQ(back->height(), 41);
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = format, .metadata = carried}));
+        EXPECT_EQ(valueOf(file, "{TIFF}", "Model"), "Camera");
+        EXPECT_NE(valueOf(file, "{Exif}", "ColorSpace"), "Uncalibrated");
+        if (format != PictureFormat::Avif) { // whose encoder puts one into every Exif
+            EXPECT_EQ(valueOf(file, "{TIFF}", "XResolution"), "");
+        }
+        ASSERT_TRUE(writePicture(bitmap, file, {.format = format, .dotsPerInch = 300, .metadata = carried}));
+        const std::string dots = valueOf(file, "{TIFF}", "XResolution");
+        if (format == PictureFormat::Png)
+            EXPECT_EQ(valueOf(file, "{PNG}", "XPixelsPerMeter"), "11811");
+        else
+            EXPECT_EQ(dots, format == PictureFormat::Tiff && dots != "300" ? "118" : "300") << "per centimeter";
+    }
+}
+
 TEST_F(MetadataCopy, WritesThePictureWhereThereIsNothingToCarry)
 {
     const CIBitmap bitmap = noiseBitmap(9, 7, CIFormat::RGBA8, CIAlpha::Opaque);

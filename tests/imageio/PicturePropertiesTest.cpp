@@ -127,7 +127,7 @@ TEST_F(PictureProperties, KnowTheHeadersOfEachFormat)
     const Result<std::vector<std::byte>> jpeg =
         encodePicture(noiseBitmap(8, 8, CIFormat::RGBA8, CIAlpha::Opaque), {.format = PictureFormat::Jpeg});
     ASSERT_TRUE(jpeg);
-    append(jfif, Bytes(jpeg->begin() + 2, jpeg->end()));
+    append(jfif, Bytes(jpeg->begin() + std::ptrdiff_t(jfif.size()), jpeg->end())); // instead of its own
     const std::vector<PictureProperty> ofJpeg = propertiesOf(folder.write("jfif.jpg", jfif));
     EXPECT_EQ(valueAt(ofJpeg, "{JFIF}/DensityUnit"), "Dots per inch");
     EXPECT_EQ(valueAt(ofJpeg, "{JFIF}/XDensity"), "96");
