@@ -19,6 +19,9 @@ void takeAsCopy(QDropEvent& event)
     event.accept();
 }
 
+/// The drag comes from a program that means something else by its file.
+bool isPictureItself(const QMimeData& data) { return data.hasImage() || data.hasFormat(QStringLiteral("image/tiff")); }
+
 } // namespace
 
 ControlledCanvas::ControlledCanvas(CanvasScrollView* scrollView, const Drops& drops)
@@ -84,7 +87,8 @@ void ControlledCanvas::setDragEnter(bool over)
 void ControlledCanvas::dragEnterEvent(QDragEnterEvent* event)
 {
     const QString path = m_drops.file(*event->mimeData());
-    if (!(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !m_drops.isWanted(path)) {
+    if (!(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !m_drops.isWanted(path)
+        || isPictureItself(*event->mimeData())) {
         event->ignore();
         return;
     }
@@ -94,14 +98,11 @@ void ControlledCanvas::dragEnterEvent(QDragEnterEvent* event)
 
 void ControlledCanvas::dragLeaveEvent(QDragLeaveEvent*) { setDragEnter(false); }
 
-/// With a picture itself among the data, the drag came from a program that means something else by the file.
 void ControlledCanvas::dropEvent(QDropEvent* event)
 {
     setDragEnter(false);
     takeAsCopy(*event);
     const QMimeData& data = *event->mimeData();
-    if (data.hasImage() || data.hasFormat(QStringLiteral("image/tiff")))
-        return;
-    if (const QString path = firstDroppedFile(data); m_master && !path.isEmpty())
+    if (const QString path = firstDroppedFile(data); m_master && !path.isEmpty() && !isPictureItself(data))
         m_master->takeDroppedFile(path);
 }

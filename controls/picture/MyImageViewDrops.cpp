@@ -7,15 +7,16 @@
 
 namespace {
 
-/// Lies over a part of the window and lets the mouse through.
+/// Lies over a part of the window and lets the mouse through. A child of the window itself: the part may be a splitter,
+/// to which each child is a pane.
 class DropHighlight : public QWidget {
 public:
     explicit DropHighlight(QWidget* area)
-        : QWidget(area)
+        : QWidget(area->window())
     {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setAttribute(Qt::WA_NoSystemBackground);
-        setGeometry(area->rect());
+        setGeometry(QRect(area->mapTo(area->window(), QPoint()), area->size()));
     }
 
 protected:

@@ -242,6 +242,34 @@ TEST_F(EditsTest, BrokenClipboardGivesNoPictureAndTheWayBack)
     EXPECT_EQ(shown(), kPicture);
 }
 
+TEST_F(EditsTest, ADropOnThePictureMovesNothingInTheWindow)
+{
+    open(kPicture);
+    window.show();
+    QWidget& view = *ui.pictureScrollView->imageView();
+    const QList<int> panes = ui.splitter->sizes();
+    const QPoint place = ui.pictureScrollView->viewport()->mapTo(&window, QPoint(5, 5));
+    const QString file = pictureFile("framed.png", 8, 6);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file)});
+    const QImage before = window.grab().toImage();
+    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QApplication::processEvents();
+    EXPECT_EQ(ui.splitter->count(), 3);
+    EXPECT_EQ(ui.splitter->sizes(), panes);
+    EXPECT_NE(window.grab().toImage(), before) << "there is a frame";
+    const QWidget* under = window.childAt(place);
+    EXPECT_TRUE(under && ui.pictureScrollView->isAncestorOf(under)) << "the frame doesn't catch the drop";
+    QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
+    QApplication::sendEvent(&view, &dropped);
+    waitUntilIdle();
+    EXPECT_EQ(controller.getFilePath(), file);
+    EXPECT_EQ(controller.backImage().extent().width, 8);
+    EXPECT_TRUE(RecentFiles::list().contains(file));
+}
+
 TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
 {
     open(kPicture);

@@ -78,6 +78,7 @@ TEST_F(ImageViewTest, ADroppedFileBecomesThePicture)
     master.log.clear();
     Files withPicture({"/p/one.png"});
     withPicture.setImageData(QImage(2, 2, QImage::Format_RGB32));
+    EXPECT_FALSE(accepts(view, withPicture)) << "what would do nothing isn't framed";
     drop(view, withPicture);
     EXPECT_TRUE(master.log.empty()) << "picture data and a file: not ours";
 }
