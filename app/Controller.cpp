@@ -48,7 +48,7 @@ Controller::Controller(MainWindow& window)
     , m_cropping(m_document, window.centralWidget(), [this] { updateMainBtnState(); })
     , m_clipboard(m_document, [this] { return laterEffectedImage(); })
     , m_saving(m_document, &window, [this] { return laterEffectedImage(); },
-          {[this] { m_session.markClean(); }, [this] { exportImg(); }, [this] { terminate(); }})
+          {[this] { m_session.markClean(), pathChanged(); }, [this] { exportImg(); }, [this] { terminate(); }})
     , m_exporting(
           m_document, &window, [this] { return laterEffectedImage(); }, [this] { m_session.markClean(); })
     , m_session(m_document, m_opening, &window,

@@ -1,11 +1,15 @@
 #include "files/ImageInfo.h"
 
+#include "platform/imageio/LooseThread.h"
 #include "platform/imageio/reader_process/ReaderProcess.h"
 #include "ui_ImageInfo.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 
 #include <chrono>
+#include <mutex>
 
 namespace {
 
@@ -57,7 +61,20 @@ QTreeWidgetItem* itemOf(const PropertyNode& node)
     return item;
 }
 
+/// Differs when another file has taken the name; empty when there is none.
+QString versionOf(const QUrl& url)
+{
+    const QFileInfo file(url.toLocalFile());
+    return file.exists() ? file.lastModified().toString(Qt::ISODateWithMs) + QString::number(file.size()) : QString();
+}
+
 } // namespace
+
+/// Shared with the thread, which may outlive the panel.
+struct ImageInfo::Reading {
+    std::mutex mutex; // held to set the panel, and to look at it from the thread
+    ImageInfo* panel = nullptr; // null when nobody wants the result
+};
 
 ImageInfo::ImageInfo(QWidget* window)
     : QDialog(window, Qt::Tool)
@@ -74,6 +91,7 @@ ImageInfo::ImageInfo(QWidget* window)
 
 ImageInfo::~ImageInfo()
 {
+    giveUpReading();
     if (sharedPanel == this)
         sharedPanel = nullptr;
 }
@@ -109,29 +127,48 @@ void ImageInfo::setMyURL(const QUrl& url)
 
 void ImageInfo::showURL(const QUrl& url)
 {
-    if (url == mUrl)
+    const QString version = versionOf(url);
+    if (url == mUrl && (version.isEmpty() || version == m_version))
         return;
+    giveUpReading();
     mUrl = url;
-    const QString none = tr("n/a");
+    m_version = version;
     if (mUrl.isEmpty()) {
-        for (QLabel* field : {mFilePath, mFileType, mFileSize})
-            field->setText(none);
-        showTree({});
+        show(Failure{Reason::NoFile});
         return;
     }
-    mFilePath->setText(mUrl.toLocalFile());
-    const Result<PictureFileProperties> read =
-        ReaderProcess(QFile::encodeName(mUrl.toLocalFile()).toStdString()).readProperties();
-    if (!read) {
-        mFileType->setText(none);
-        mFileSize->setText(none);
-        showTree({});
+    m_reading = std::make_shared<Reading>();
+    m_reading->panel = this;
+    imageio::runOnLooseThread([reading = m_reading, file = QFile::encodeName(url.toLocalFile()).toStdString()] {
+        const Result<PictureFileProperties> read = ReaderProcess(file).readProperties();
+        const std::lock_guard lock(reading->mutex);
+        if (reading->panel)
+            QMetaObject::invokeMethod(
+                reading->panel,
+                [reading, read] {
+                    if (reading->panel)
+                        reading->panel->show(read);
+                },
+                Qt::QueuedConnection);
+    });
+}
+
+void ImageInfo::giveUpReading()
+{
+    if (!m_reading)
         return;
-    }
-    const QString type = QString::fromStdString(read->typeIdentifier);
+    imageio::giveUpLooseThread();
+    const std::lock_guard lock(m_reading->mutex);
+    m_reading->panel = nullptr;
+}
+
+void ImageInfo::show(const Result<PictureFileProperties>& read)
+{
+    const QString none = tr("n/a"), type = read ? QString::fromStdString(read->typeIdentifier) : none;
+    mFilePath->setText(mUrl.isEmpty() ? none : mUrl.toLocalFile());
     mFileType->setText(m_types.value(type, type));
-    mFileSize->setText(tr("%1 bytes").arg(read->fileSize));
-    showTree(propTree(read->properties));
+    mFileSize->setText(read ? tr("%1 bytes").arg(read->fileSize) : none);
+    showTree(read ? propTree(read->properties) : std::vector<PropertyNode>());
 }
 
 void ImageInfo::showTree(std::vector<PropertyNode> tree)

@@ -1,16 +1,18 @@
 // The panel that shows what a picture file says about itself.
 #pragma once
 
+#include "platform/imageio/PictureProperties.h"
+
 #include <QDialog>
 #include <QHash>
 #include <QUrl>
 
+#include <memory>
 #include <vector>
 
 class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
-struct PictureProperty;
 
 /// A line of the property tree. The keys are the columns' names.
 struct PropertyNode {
@@ -31,7 +33,7 @@ public:
     /// Has the shared panel (the first that was made) show the file soon, after what is going on now; an empty URL for
     /// no file.
     static void setMyURL(const QUrl& url);
-    /// Does so now. Nothing when that file is shown already.
+    /// Does so as soon as the file is read. Nothing when that file is shown already and is as it was.
     void showURL(const QUrl& url);
 
     /// Lines for a file's properties, in their order.
@@ -44,11 +46,16 @@ public:
     void setTypes(const QHash<QString, QString>& types) { m_types = types; }
 
 private:
+    struct Reading;
+    void giveUpReading();
+    void show(const Result<PictureFileProperties>& read);
     void showTree(std::vector<PropertyNode> tree);
 
     QTreeWidget* mOView;
     QLabel *mFilePath, *mFileType, *mFileSize;
     std::vector<PropertyNode> mTree;
     QUrl mUrl;
+    QString m_version; // of the file
+    std::shared_ptr<Reading> m_reading;
     QHash<QString, QString> m_types; // uniform type identifier to what is shown
 };

@@ -65,6 +65,21 @@ TEST_F(SaveAsTest, AFolderThatIsMissingInLowerCaseIsAskedAboutBeforeAnythingChan
     EXPECT_TRUE(QFile::exists(lower + "/again.jpeg"));
 }
 
+TEST_F(SaveAsTest, TheInformationPanelShowsTheFileThatWasWritten)
+{
+    auto* size = window.findChild<ImageInfo*>()->findChild<QLabel*>("mFileSize");
+    const auto showsSizeOf = [&](const QString& path) {
+        return QTest::qWaitFor(
+            [&] { return size->text().startsWith(QString::number(QFile(path).size()) + ' '); }, 20'000);
+    };
+    EXPECT_TRUE(showsSizeOf(former));
+    answering("Use Chosen Folder", [&] { saveAs(chosen + "/Shown"); });
+    EXPECT_TRUE(showsSizeOf(chosen + "/shown.jpeg"));
+    perform(&Controller::resizeImageHeight, 7.0f, 5.0f);
+    answering("OK", [&] { perform(&Controller::saveImg); });
+    EXPECT_TRUE(showsSizeOf(chosen + "/shown.jpeg"));
+}
+
 TEST_F(SaveAsTest, TheAnswerIsRememberedIfWished)
 {
     QTimer::singleShot(50, [] {
