@@ -298,6 +298,7 @@ public:
 private:
     void connectDocument();
     void connectInterface();
+    void chooseEffect(const QString& className);
     void showPicture();
     void showItem();
     void pathChanged();

@@ -175,5 +175,5 @@ bool DataSource::outlineViewShouldEditTableColumnItem(const QString&, const Outl
 QString DataSource::outlineViewToolTipOfItem(const OutlineItem* item) const
 {
     const FilterRow* row = asRow(item);
-    return row ? row->className : QString();
+    return row ? shownFilterDescription(row->className.toStdString()) : QString();
 }

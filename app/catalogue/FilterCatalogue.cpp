@@ -7,10 +7,19 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <QAction>
+#include <QMenu>
 
 namespace {
 
 const QString kThumbnailsKey = QStringLiteral("FilterThumbnails"), kColumnsKey = QStringLiteral("FilterColumns");
+const QString kPinnedKey = QStringLiteral("PinnedFilters"), kRecentKey = QStringLiteral("RecentFilters");
+constexpr qsizetype kMostRecent = 5;
+
+QString classOf(const OutlineItem* item)
+{
+    const auto* row = dynamic_cast<const FilterRow*>(item);
+    return row ? row->className : QString();
+}
 
 } // namespace
 
@@ -19,17 +28,27 @@ FilterCatalogue::FilterCatalogue(OutlineView& list, FilterGrid& grid, Choices ch
     , m_grid(grid)
     , m_choices(choices)
     , m_filters(filters)
-    , m_rows(m_dataSource, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
+    , m_shown(m_dataSource)
+    , m_rows(m_shown, {DataSource::kTitleColumn, DataSource::kMarkerColumn})
     , m_pictures([this](const QString& name, const CIImage& picture) { return pictureOf(name, picture, false); },
           [this](const QString& name, const CIImage& picture) { return pictureOf(name, picture, true); })
 {
-    m_search.setSourceModel(&m_rows);
-    m_list.setModel(&m_search);
+    const UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    m_pinned = defaults.objectForKey(kPinnedKey).toStringList();
+    m_recent = defaults.objectForKey(kRecentKey).toStringList();
+    m_shown.setOnTop(m_pinned, m_recent);
+    m_list.setModel(&m_rows);
     m_list.expandAll();
+    m_list.setStars([this](const OutlineItem* item) {
+        const QString className = classOf(item);
+        return className.isEmpty() ? std::nullopt : std::optional(m_pinned.contains(className));
+    });
+    m_list.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&m_list, &OutlineView::starClicked, this, [this](const OutlineItem* row) { togglePinned(classOf(row)); });
+    connect(&m_list, &QWidget::customContextMenuRequested, this, &FilterCatalogue::showContextMenu);
     m_grid.follow(m_list);
     for (QWidget* viewport : {m_list.viewport(), m_grid.viewport()})
         connect(&m_pictures, &CataloguePictures::pictureReady, viewport, qOverload<>(&QWidget::update));
-    const UserDefaults& defaults = UserDefaults::standardUserDefaults();
     const QVariant thumbnails = defaults.objectForKey(kThumbnailsKey);
     m_choices.thumbnails.setChecked(!thumbnails.isValid() || thumbnails.toBool());
     m_choices.columns.setChecked(m_choices.thumbnails.isChecked() && defaults.objectForKey(kColumnsKey).toBool());
@@ -42,25 +61,73 @@ void FilterCatalogue::selectClass(const QString& className)
     m_list.selectItem(m_chosenRow);
 }
 
-void FilterCatalogue::toggle(const OutlineItem* group)
+bool FilterCatalogue::clicked(const OutlineItem* row)
 {
-    if (m_dataSource.outlineViewIsItemExpandable(group))
-        m_list.setItemExpanded(group, !m_list.isItemExpanded(group));
+    const auto* effect = dynamic_cast<const EffectLink*>(row);
+    if (effect)
+        emit effectAsked(effect->className);
+    else if (m_shown.outlineViewIsItemExpandable(row))
+        m_list.setItemExpanded(row, !m_list.isItemExpanded(row));
+    return effect;
 }
 
 void FilterCatalogue::searchFilters(const QString& text)
 {
-    const QSignalBlocker ours(m_list); // rows that go away choose nothing
-    m_search.setText(text);
+    m_shown.search(text);
+    m_rows.reloadData();
     m_list.expandAll();
-    m_list.deselectAll();
     m_list.selectItem(m_chosenRow);
+    if (m_shown.isSearching())
+        m_list.scrollToTop();
 }
 
 void FilterCatalogue::takeFirstMatch()
 {
-    m_list.selectRow(m_search.firstMatch());
+    if (m_shown.isNear())
+        return m_list.enter();
+    m_list.takeRow(m_rows.index(0, 0, m_rows.index(0, 0)));
     m_list.setFocus();
+}
+
+// --- on top ---
+
+void FilterCatalogue::togglePinned(const QString& className)
+{
+    if (m_pinned.removeAll(className) == 0)
+        m_pinned.append(className);
+    UserDefaults::standardUserDefaults().setObjectForKey(m_pinned, kPinnedKey);
+    showOnTop();
+}
+
+void FilterCatalogue::noteUsed(const QString& className)
+{
+    m_recent.removeAll(className);
+    m_recent.prepend(className);
+    m_recent.resize(std::min(m_recent.size(), kMostRecent));
+    UserDefaults::standardUserDefaults().setObjectForKey(m_recent, kRecentKey);
+    showOnTop();
+}
+
+void FilterCatalogue::showOnTop()
+{
+    const auto fill = [this] {
+        m_shown.setOnTop(m_pinned, m_recent);
+        m_rows.reloadData();
+    };
+    m_list.refill(fill, m_list.selectedItem() ? m_chosenRow : nullptr);
+}
+
+void FilterCatalogue::showContextMenu(const QPoint& place)
+{
+    const QModelIndex under = m_list.indexAt(place);
+    const QModelIndex row = under.isValid() ? under : m_list.currentIndex();
+    const QString className = classOf(row.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    if (className.isEmpty())
+        return;
+    QMenu menu(&m_list);
+    menu.addAction(m_pinned.contains(className) ? tr("Unpin") : tr("Pin to the Top"), this,
+        [this, className] { togglePinned(className); });
+    menu.exec(m_list.viewport()->mapToGlobal(place));
 }
 
 // --- pictures ---

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "app/catalogue/CataloguePictures.h"
-#include "app/catalogue/CatalogueSearch.h"
-#include "app/catalogue/DataSource.h"
+#include "app/catalogue/FilterList.h"
 #include "app/catalogue/OutlineModel.h"
 
 class FilterGrid;
@@ -12,7 +11,8 @@ class OutlineView;
 class QAction;
 
 /// Fills the list, searches in it, and shows in it what each filter makes of the picture if `thumbnails` is checked, or
-/// in columns in its place if `columns` is; both are remembered.
+/// in columns in its place if `columns` is; both are
+/// remembered. So are the filters that are pinned and those that were used.
 class FilterCatalogue : public QObject {
     Q_OBJECT
 
@@ -21,25 +21,40 @@ public:
         QAction &thumbnails, &columns;
     };
     FilterCatalogue(OutlineView& list, FilterGrid& grid, Choices choices, FilterMaker& filters);
+    /// That can be found, too. `icon` is that of their mode.
+    void addEffects(const std::vector<std::shared_ptr<BaseEffect>>& prototypes, const QIcon& icon)
+    {
+        m_shown.addEffects(prototypes, icon);
+    }
 
     void setPicture(const CIImage& picture);
     /// The row whose filter is the current one, which the search may hide; null for none. Selects nothing by itself.
-    void setChosenRow(const OutlineItem* row) { m_chosenRow = row; }
+    void setChosenRow(const OutlineItem* row) { m_chosenRow = m_shown.rowInGroup(row); }
     /// Chooses and selects the first row of that class. Nobody is told.
     void selectClass(const QString& className);
-    /// Folds the group, or unfolds it.
-    void toggle(const OutlineItem* group);
+    /// Of a row that can't be chosen: folds or unfolds a group, or asks for an effect. True when it was an effect.
+    bool clicked(const OutlineItem* row);
 
-    /// Shows only the filters that match; the current filter stays, seen or not.
+    /// Shows only what is found; the current filter stays, seen or not.
     void searchFilters(const QString& text);
-    /// Picks the first filter that is shown.
+    /// Picks the first that was found. What is only near just gets the keyboard.
     void takeFirstMatch();
     void thumbnailsToggled();
     void columnsToggled();
     /// Filters start with other values.
     void renewPictures() { setPicture(m_picture); }
 
+    /// The filter of that class stands on top of the list from now on, or no longer.
+    void togglePinned(const QString& className);
+    /// It is among those last used.
+    void noteUsed(const QString& className);
+
+signals:
+    void effectAsked(const QString& className);
+
 private:
+    void showContextMenu(const QPoint& place);
+    void showOnTop();
     CIImage pictureOf(const QString& filterName, const CIImage& picture, bool isFitted);
     void showThumbnails();
 
@@ -48,9 +63,10 @@ private:
     Choices m_choices;
     FilterMaker& m_filters;
     DataSource m_dataSource;
+    FilterList m_shown;
     OutlineModel m_rows;
-    CatalogueSearch m_search;
     CataloguePictures m_pictures;
     CIImage m_picture;
     const OutlineItem* m_chosenRow = nullptr;
+    QStringList m_pinned, m_recent; // classes; the last used first
 };

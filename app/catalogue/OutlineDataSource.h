@@ -24,6 +24,11 @@ public:
     virtual QVariant outlineViewObjectValueForTableColumnByItem(
         const QString& column, const OutlineItem* item) const = 0;
     virtual bool outlineViewShouldEditTableColumnItem(const QString& column, const OutlineItem* item) const = 0;
-    /// A line for the tool tip and for finding rows under another name; may be empty.
+    /// Rows that can't be selected can be walked over and clicked.
+    virtual bool outlineViewIsItemSelectable(const OutlineItem* item) const
+    {
+        return !outlineViewIsItemExpandable(item);
+    }
+    /// A line for the tool tip; may be empty.
     virtual QString outlineViewToolTipOfItem(const OutlineItem*) const { return {}; }
 };

@@ -59,7 +59,7 @@ QVariant OutlineModel::data(const QModelIndex& index, int role) const
         return {};
     if (role == ItemRole)
         return QVariant::fromValue(item(index));
-    if (role == Qt::ToolTipRole)
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole)
         return m_source.outlineViewToolTipOfItem(item(index));
     if (role != Qt::DisplayRole && role != Qt::DecorationRole)
         return {};
@@ -75,7 +75,9 @@ Qt::ItemFlags OutlineModel::flags(const QModelIndex& index) const
         return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled;
     if (!m_source.outlineViewIsItemExpandable(item(index)))
-        flags |= Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+        flags |= Qt::ItemNeverHasChildren;
+    if (m_source.outlineViewIsItemSelectable(item(index)))
+        flags |= Qt::ItemIsSelectable;
     if (m_source.outlineViewShouldEditTableColumnItem(m_columns.at(index.column()), item(index)))
         flags |= Qt::ItemIsEditable;
     return flags;

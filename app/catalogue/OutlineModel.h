@@ -26,7 +26,6 @@ public:
     int columnCount(const QModelIndex& parent = {}) const override;
     bool hasChildren(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /// Expandable rows can be walked over but not selected.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
 private:

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -21,6 +22,7 @@ constexpr int kChevronSize = 12;
 constexpr int kMarkerSize = 14;
 constexpr int kPictureRowHeight = kFavouriteThumbnail.height() + 11;
 constexpr int kPictureGap = 8;
+constexpr int kStarSize = 14, kStarPlace = 22;
 
 /// Gives rows their height; everything is painted by the view.
 class RowHeight : public QStyledItemDelegate {
@@ -33,7 +35,13 @@ public:
     }
 };
 
-bool isGroup(const QModelIndex& index) { return !(index.flags() & Qt::ItemIsSelectable); }
+bool isGroup(const QModelIndex& index) { return !(index.flags() & Qt::ItemNeverHasChildren); }
+bool canBeSelected(const QModelIndex& index) { return index.flags() & Qt::ItemIsSelectable; }
+
+const OutlineItem* itemAt(const QModelIndex& index)
+{
+    return index.data(OutlineModel::ItemRole).value<const OutlineItem*>();
+}
 
 } // namespace
 
@@ -51,8 +59,8 @@ OutlineView::OutlineView(QWidget* parent)
     setVerticalScrollMode(ScrollPerPixel);
     setItemDelegate(new RowHeight(this));
     connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-        if (isGroup(index))
-            emit groupClicked(index.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+        if (!canBeSelected(index))
+            emit groupClicked(itemAt(index));
     });
 }
 
@@ -80,7 +88,7 @@ void OutlineView::setPictures(Pictures pictures)
 const OutlineItem* OutlineView::selectedItem() const
 {
     const QModelIndexList rows = selectionModel() ? selectionModel()->selectedRows() : QModelIndexList();
-    return rows.isEmpty() ? nullptr : rows.first().data(OutlineModel::ItemRole).value<const OutlineItem*>();
+    return rows.isEmpty() ? nullptr : itemAt(rows.first());
 }
 
 void OutlineView::enter()
@@ -97,7 +105,7 @@ QModelIndex OutlineView::indexOfItem(const OutlineItem* item, const QModelIndex&
 {
     for (int row = 0; item && row < model()->rowCount(parent); ++row) {
         const QModelIndex index = model()->index(row, 0, parent);
-        if (index.data(OutlineModel::ItemRole).value<const OutlineItem*>() == item)
+        if (itemAt(index) == item)
             return index;
         if (const QModelIndex below = indexOfItem(item, index); below.isValid())
             return below;
@@ -119,11 +127,38 @@ void OutlineView::deselectAll()
 
 void OutlineView::selectRow(const QModelIndex& index)
 {
-    if (!index.isValid() || isGroup(index))
+    if (!index.isValid() || !canBeSelected(index))
         return;
     setCurrentIndex(index);
     selectionModel()->select(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(index);
+}
+
+void OutlineView::takeRow(const QModelIndex& index)
+{
+    if (index.isValid() && !canBeSelected(index))
+        emit groupClicked(itemAt(index));
+    else
+        selectRow(index);
+}
+
+void OutlineView::refill(const std::function<void()>& fill, const OutlineItem* selected)
+{
+    const QSignalBlocker quiet(this);
+    const QModelIndex first = indexAt(QPoint(0, 0));
+    const OutlineItem* anchor = first.isValid() ? itemAt(first) : nullptr;
+    const int before = visualRect(first).top();
+    std::vector<const OutlineItem*> folded;
+    for (int row = 0; row < model()->rowCount(); ++row)
+        if (const QModelIndex group = model()->index(row, 0); !isExpanded(group))
+            folded.push_back(itemAt(group));
+    fill();
+    expandAll();
+    for (const OutlineItem* group : folded)
+        collapse(indexOfItem(group));
+    selectRow(indexOfItem(selected));
+    if (const QModelIndex now = indexOfItem(anchor); now.isValid())
+        verticalScrollBar()->setValue(verticalScrollBar()->value() + visualRect(now).top() - before);
 }
 
 void OutlineView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
@@ -136,7 +171,7 @@ void OutlineView::selectionChanged(const QItemSelection& selected, const QItemSe
 QItemSelectionModel::SelectionFlags OutlineView::selectionCommand(const QModelIndex& index, const QEvent* event) const
 {
     const bool byKey = event && event->type() == QEvent::KeyPress;
-    if (byKey && index.isValid() && isGroup(index))
+    if (byKey && index.isValid() && !canBeSelected(index))
         return QItemSelectionModel::NoUpdate;
     return QTreeView::selectionCommand(index, event);
 }
@@ -151,10 +186,7 @@ void OutlineView::keyPressEvent(QKeyEvent* event)
 {
     const QModelIndex current = currentIndex();
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && current.isValid()) {
-        if (isGroup(current))
-            emit groupClicked(current.data(OutlineModel::ItemRole).value<const OutlineItem*>());
-        else
-            selectRow(current);
+        takeRow(current);
         return;
     }
     if (event->key() == Qt::Key_Escape) {
@@ -169,6 +201,36 @@ void OutlineView::keyPressEvent(QKeyEvent* event)
     if (!event->text().isEmpty() && event->text().front().isPrint())
         m_typed.start();
     QTreeView::keyPressEvent(event);
+}
+
+// --- stars ---
+
+void OutlineView::setStars(Stars stars)
+{
+    m_stars = std::move(stars);
+    viewport()->update();
+}
+
+std::optional<bool> OutlineView::starOf(const QModelIndex& cell) const
+{
+    return m_stars && cell.column() == 0 ? m_stars(itemAt(cell)) : std::nullopt;
+}
+
+QRect OutlineView::starPlace(const QModelIndex& cell) const
+{
+    const QRect rect = visualRect(cell.siblingAtColumn(0));
+    return QStyle::alignedRect(
+        layoutDirection(), Qt::AlignVCenter | Qt::AlignTrailing, QSize(kStarPlace, rect.height()), rect);
+}
+
+void OutlineView::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex row = indexAt(event->position().toPoint()).siblingAtColumn(0);
+    if (event->button() == Qt::LeftButton && row.isValid() && starOf(row)
+        && starPlace(row).contains(event->position().toPoint()))
+        emit starClicked(itemAt(row));
+    else
+        QTreeView::mousePressEvent(event);
 }
 
 void OutlineView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
@@ -195,13 +257,13 @@ void OutlineView::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
         painter->drawRoundedRect(highlight.adjusted(0.75, 0.75, -0.75, -0.75), 5, 5);
     }
     for (int column = 0; column < model()->columnCount(index.parent()); ++column)
-        paintCell(*painter, index.siblingAtColumn(column), selected);
+        paintCell(*painter, index.siblingAtColumn(column), selected, hovered);
     if (isGroup(index))
         drawBranches(painter, row, index);
     painter->restore();
 }
 
-void OutlineView::paintCell(QPainter& painter, const QModelIndex& cell, bool selected) const
+void OutlineView::paintCell(QPainter& painter, const QModelIndex& cell, bool selected, bool hovered) const
 {
     const Look& look = Appearance::shared().look();
     const QRect rect = visualRect(cell);
@@ -223,6 +285,15 @@ void OutlineView::paintCell(QPainter& painter, const QModelIndex& cell, bool sel
         place = paintPicture(painter, cell,
             layoutDirection() == Qt::RightToLeft ? place.adjusted(0, 0, indentation(), 0)
                                                  : place.adjusted(-indentation(), 0, 0, 0)); // names need the room
+    if (const std::optional<bool> star = starOf(cell); star && (*star || hovered)) {
+        const QString name = *star ? QStringLiteral("favourite-filled") : QStringLiteral("favourite");
+        const QRect around = starPlace(cell);
+        const QRect spot(around.center() - QPoint(kStarSize / 2, kStarSize / 2), QSize(kStarSize, kStarSize));
+        tintedIcon(name, *star && !selected ? IconTint::Accent : IconTint::Text)
+            .paint(&painter, spot, Qt::AlignCenter, selected ? QIcon::Selected : QIcon::Normal);
+        place = layoutDirection() == Qt::RightToLeft ? place.adjusted(kStarPlace, 0, 0, 0)
+                                                     : place.adjusted(0, 0, -kStarPlace, 0);
+    }
     painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeading,
         QFontMetrics(drawnFont).elidedText(text, Qt::ElideRight, place.width()));
 }
@@ -232,7 +303,7 @@ QRect OutlineView::paintPicture(QPainter& painter, const QModelIndex& cell, cons
 {
     const QSize size = kFavouriteThumbnail;
     const QRect spot = QStyle::alignedRect(layoutDirection(), Qt::AlignVCenter | Qt::AlignLeading, size, place);
-    const QImage picture = m_pictures(cell.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    const QImage picture = m_pictures(itemAt(cell));
     painter.save();
     QPainterPath outline;
     outline.addRoundedRect(spot, 3, 3);

@@ -1,5 +1,6 @@
 #include "app/modes/EffectList.h"
 
+#include "controls/panel/FilterNames.h"
 #include "platform/foundation/TintedIcon.h"
 
 #include <QCoreApplication>
@@ -53,5 +54,5 @@ QVariant EffectList::outlineViewObjectValueForTableColumnByItem(const QString& c
 QString EffectList::outlineViewToolTipOfItem(const OutlineItem* item) const
 {
     const BaseEffect* effect = effectOf(item);
-    return effect ? translated(effect->tips()) : QString();
+    return effect ? shownFilterDescription(effect->className()) : QString();
 }

@@ -7,6 +7,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 EffectMode::EffectMode(
     const ModeParts& parts, EffectList effects, std::string sessionKey, FavouritesFamily family, Document& document)
     : Mode(parts,
@@ -29,6 +31,14 @@ void EffectMode::choose(const OutlineItem* row)
     if (chosen)
         m_document.setWasChanged(true);
 }
+
+int EffectMode::rowOf(const QString& className) const
+{
+    const auto found = std::ranges::find(prototypes(), className.toStdString(), &BaseEffect::className);
+    return found == prototypes().end() ? -1 : int(found - prototypes().begin());
+}
+
+void EffectMode::chooseClass(const QString& className) { list().selectRow(m_rows.index(rowOf(className), 0)); }
 
 /// What the undo steps of the former one would change is gone, so they go with it.
 void EffectMode::setEffect(const std::shared_ptr<BaseEffect>& effect)

@@ -13,6 +13,10 @@ class EffectMode : public Mode {
 
 public:
     BaseEffect* effect() const { return m_effect.get(); }
+    const std::vector<std::shared_ptr<BaseEffect>>& prototypes() const { return m_effects.prototypes(); }
+    bool hasClass(const QString& className) const { return rowOf(className) >= 0; }
+    /// As a click on its row in the list does.
+    void chooseClass(const QString& className);
 
     bool hasItem() const override { return m_effect != nullptr; }
     void choose(const OutlineItem* row) override;
@@ -29,9 +33,8 @@ protected:
     /// Of the effect, for the title; empty without one.
     QString effectName() const;
 
-    const std::vector<std::shared_ptr<BaseEffect>>& prototypes() const { return m_effects.prototypes(); }
-
 private:
+    int rowOf(const QString& className) const; // negative when there is none
     void setEffect(const std::shared_ptr<BaseEffect>& effect);
     std::shared_ptr<BaseEffect> effectFrom(const CIDictionary& saved) const;
 

@@ -72,9 +72,8 @@ void StandardMode::choose(const OutlineItem* row)
         m_tools.options.filterChosen(currentFilter, m_document.picture(), {view.width, view.height});
         return;
     }
-    if (row)
-        m_tools.catalogue.toggle(row);
-    clear();
+    if (!row || !m_tools.catalogue.clicked(row))
+        clear();
 }
 
 void StandardMode::dropItem()
@@ -136,6 +135,8 @@ void StandardMode::pictureChanged()
 
 void StandardMode::apply(const std::function<void()>& done)
 {
+    if (currentFilter)
+        m_tools.catalogue.noteUsed(QString::fromStdString(currentFilter->name()));
     const CIImage applied = movedToOrigin(coreImageResult());
     if (!applied || !currentFilter) {
         if (applied)

@@ -1,12 +1,15 @@
-// Names of filters and inputs in the user's language. The engine says them in English.
+// Names of filters and inputs in the user's language, and what filters are for. The engine says them in English.
 #pragma once
+
+#include "platform/chain/FilterWords.h"
 
 #include <string>
 
 #include <QCoreApplication>
 #include <QString>
 
-inline constexpr char kFilterContext[] = "Filter", kInputContext[] = "Input";
+inline constexpr char kFilterContext[] = "Filter", kInputContext[] = "Input",
+                      kDescriptionContext[] = "FilterDescription", kSearchWordsContext[] = "FilterSearchWords";
 
 /// Of a filter's display name.
 inline QString shownFilterName(const std::string& displayName)
@@ -18,4 +21,17 @@ inline QString shownFilterName(const std::string& displayName)
 inline QString shownInputName(const std::string& displayName)
 {
     return QCoreApplication::translate(kInputContext, displayName.c_str());
+}
+
+/// What a class of filters or effects does, in a sentence; empty when nobody says.
+inline QString shownFilterDescription(const std::string& className)
+{
+    const FilterWords* words = filterWords(className);
+    return words ? QCoreApplication::translate(kDescriptionContext, words->description.c_str()) : QString();
+}
+
+/// Of a FilterWords.
+inline QString shownSearchWords(const std::string& searchWords)
+{
+    return QCoreApplication::translate(kSearchWordsContext, searchWords.c_str());
 }

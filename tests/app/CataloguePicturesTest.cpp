@@ -33,10 +33,7 @@ protected:
     QColor shown(const QString& className)
     {
         ui.searchField->setText(className);
-        const QAbstractItemModel& model = *ui.listView->model();
-        const QModelIndexList found =
-            model.match(model.index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
-        const QRect cell = ui.listView->visualRect(found.value(0));
+        const QRect cell = ui.listView->visualRect(rowOf(className));
         const QImage image = ui.listView->viewport()->grab().toImage();
         return image.pixelColor(
             QPoint(cell.left() + kFavouriteThumbnail.width() / 2, cell.center().y()) * image.devicePixelRatio());

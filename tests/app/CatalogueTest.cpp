@@ -1,4 +1,3 @@
-#include "app/catalogue/CatalogueSearch.h"
 #include "app/catalogue/DataSource.h"
 #include "app/catalogue/OutlineModel.h"
 
@@ -80,33 +79,6 @@ TEST(Catalogue, IsAModelWhoseGroupsCanNotBeSelected)
     EXPECT_FALSE(group.flags() & Qt::ItemIsSelectable);
     EXPECT_TRUE(row.flags() & Qt::ItemIsSelectable);
     EXPECT_EQ(row.data(OutlineModel::ItemRole).value<const OutlineItem*>(), source.groups()[1]->rows[2].get());
-}
-
-TEST(CatalogueSearch, FindsByDisplayNameClassNameAndGroup)
-{
-    const DataSource source;
-    OutlineModel model(source, {"1", "0"});
-    CatalogueSearch search;
-    search.setSourceModel(&model);
-    const auto found = [&](const QString& text) {
-        search.setText(text);
-        QStringList names;
-        for (int group = 0; group < search.rowCount(); ++group)
-            for (int row = 0; row < search.rowCount(search.index(group, 0)); ++row)
-                names << search.index(row, 0, search.index(group, 0)).data(Qt::ToolTipRole).toString();
-        return names;
-    };
-    const QStringList all = found("");
-    EXPECT_TRUE(found("  BLUR gauss ").contains("CIGaussianBlur"));
-    for (const QString& name : found("BLUR gauss"))
-        EXPECT_TRUE(name.contains("Gauss")) << name.toStdString();
-    EXPECT_EQ(found("CIGaussianBlur"), QStringList("CIGaussianBlur"));
-    EXPECT_EQ(search.firstMatch().data().toString(), "Gaussian Blur");
-    EXPECT_EQ(search.rowCount(), 1) << "groups without a match go away";
-    EXPECT_TRUE(found("no such filter").isEmpty());
-    EXPECT_FALSE(search.firstMatch().isValid());
-    EXPECT_EQ(found("focus").size(), inCategories({"CICategorySharpen", "CICategoryBlur"}).size());
-    EXPECT_EQ(found(""), all);
 }
 
 } // namespace

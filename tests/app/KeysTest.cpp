@@ -136,9 +136,11 @@ TEST_F(KeysTest, TheCatalogueIsSearchedByKeysAlone)
     QTest::keyClicks(ui.searchField, "gaussian"); // over the old text
     EXPECT_EQ(ui.searchField->text(), "gaussian");
     QTest::keyClick(ui.searchField, Qt::Key_Down);
-    QTest::keyClick(ui.listView, Qt::Key_Down);
+    QTest::keyClick(ui.listView, Qt::Key_Up);
     ASSERT_TRUE(controller.getCurrentFilter()) << "walking over a group drops nothing";
     EXPECT_EQ(controller.getCurrentFilter()->name(), "CIMotionBlur");
+    QTest::keyClick(ui.listView, Qt::Key_Down);
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CIGaussianBlur");
     QTest::keyClick(ui.listView, Qt::Key_Down);
     EXPECT_EQ(controller.getCurrentFilter()->name(), "CIGaussianGradient");
     QTest::keyClick(ui.listView, Qt::Key_Return);

@@ -60,19 +60,28 @@ void WindowTest::pick(const QString& className)
     const DataSource source;
     const FilterRow* wanted = source.rowForClass(className);
     ASSERT_TRUE(wanted) << className.toStdString();
-    OutlineView& list = *ui.listView;
-    const QModelIndexList found = list.model()->match(
-        list.model()->index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
-    ASSERT_EQ(found.size(), 1);
-    click(found.first().data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    const QModelIndex found = rowOf(className);
+    ASSERT_TRUE(found.isValid());
+    click(found.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+}
+
+QModelIndex WindowTest::rowOf(const QString& className) const
+{
+    const QAbstractItemModel& model = *ui.listView->model();
+    for (int i = model.rowCount() - 1; i >= 0; --i)
+        for (int j = 0; j < model.rowCount(model.index(i, 0)); ++j) {
+            const QModelIndex index = model.index(j, 0, model.index(i, 0));
+            const auto* row =
+                dynamic_cast<const FilterRow*>(index.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+            if (row && row->className == className)
+                return index;
+        }
+    return {};
 }
 
 const OutlineItem* WindowTest::groupOf(const QString& className) const
 {
-    const OutlineView& list = *ui.listView;
-    const QModelIndexList found = list.model()->match(
-        list.model()->index(0, 0), Qt::ToolTipRole, className, 1, Qt::MatchExactly | Qt::MatchRecursive);
-    return found.isEmpty() ? nullptr : found.first().parent().data(OutlineModel::ItemRole).value<const OutlineItem*>();
+    return rowOf(className).parent().data(OutlineModel::ItemRole).value<const OutlineItem*>();
 }
 
 void WindowTest::answering(const QString& button, const std::function<void()>& operation)

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 #include <QMenu>
+#include <QModelIndex>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -31,6 +32,7 @@ protected:
         waitUntilIdle();
     }
     void pick(const QString& className); // a filter, as by a click
+    QModelIndex rowOf(const QString& className) const; // the one in its group
     const OutlineItem* groupOf(const QString& className) const;
     void click(const OutlineItem* row);
     QAction* action(const char* name) const { return window.findChild<QAction*>(QLatin1String(name)); }

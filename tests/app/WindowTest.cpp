@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 
+#include "app/catalogue/OutlineModel.h"
 #include "app/catalogue/OutlineView.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
@@ -67,7 +68,8 @@ TEST_F(WindowTest, SearchingKeepsTheFilterAndReturnTakesTheFirstMatch)
     pick("CIGaussianBlur");
     const std::shared_ptr<CIFilter> blur = controller.getCurrentFilter();
     const OutlineItem* row = ui.listView->selectedItem();
-    QTest::keyClicks(ui.searchField, "no such filter");
+    QTest::keyClicks(ui.searchField, "crop unicorn"); // is only near
+    QTest::keyClick(ui.searchField, Qt::Key_Return);
     EXPECT_EQ(controller.getCurrentFilter(), blur);
     EXPECT_FALSE(ui.listView->selectedItem());
     ui.searchField->clear();
@@ -79,6 +81,57 @@ TEST_F(WindowTest, SearchingKeepsTheFilterAndReturnTakesTheFirstMatch)
     ASSERT_TRUE(controller.getCurrentFilter());
     EXPECT_EQ(controller.getCurrentFilter()->name(), "CICrop");
     EXPECT_TRUE(controller.isControlsPresent());
+}
+
+TEST_F(WindowTest, KeepsOnTopOfTheListWhatIsPinnedAndWhatWasApplied)
+{
+    const auto top = [this] { return ui.listView->model()->index(0, 0).data().toString(); };
+    const auto place = [this] { return ui.listView->visualRect(rowOf("CICrop")); };
+    const auto clickStar = [&](const QModelIndex& row) {
+        const QRect cell = ui.listView->visualRect(row);
+        QTest::mouseClick(ui.listView->viewport(), Qt::LeftButton, {}, cell.center() + QPoint(cell.width() / 2 - 8, 0));
+    };
+    openPicture(pictureFile("plain.png", 40, 30));
+    const OutlineItem* folded = groupOf("CIVignette");
+    ui.listView->setItemExpanded(folded, false);
+    const QRect before = place();
+    clickStar(rowOf("CICrop"));
+    EXPECT_EQ(top(), "Pinned");
+    EXPECT_FALSE(controller.getCurrentFilter()) << "a star chooses nothing";
+    EXPECT_EQ(place(), before) << "nothing moves under the mouse";
+    EXPECT_FALSE(ui.listView->isItemExpanded(folded));
+
+    pick("CIColorInvert");
+    perform(&Controller::applyBtn);
+    EXPECT_EQ(ui.listView->model()->index(1, 0).data().toString(), "Recently Used");
+    {
+        MainWindow second;
+        Controller secondController(second);
+        const QAbstractItemModel& model = *second.interface().listView->model();
+        EXPECT_EQ(model.index(0, 0, model.index(0, 0)).data().toString(), "Crop") << "remembered";
+        EXPECT_EQ(model.index(0, 0, model.index(1, 0)).data().toString(), "Color Invert");
+    }
+    const QModelIndex pinned = ui.listView->model()->index(0, 0, ui.listView->model()->index(0, 0));
+    click(pinned.data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CICrop");
+    ui.listView->scrollToTop();
+    clickStar(pinned);
+    EXPECT_EQ(top(), "Recently Used");
+    ASSERT_TRUE(ui.listView->selectedItem()) << "the one in its group";
+    UserDefaults::standardUserDefaults().removeObjectForKey("RecentFilters");
+}
+
+TEST_F(WindowTest, ChoosesAnEffectThatWasFoundInItsMode)
+{
+    pick("CIGaussianBlur");
+    QTest::keyClicks(ui.searchField, "plasma");
+    QTest::keyClick(ui.searchField, Qt::Key_Return);
+    EXPECT_TRUE(action("actionCustom")->isChecked());
+    ASSERT_TRUE(controller.getCurrentCustomEffect());
+    EXPECT_EQ(controller.getCurrentCustomEffect()->className(), "plasmaEffect");
+    action("actionStandard")->trigger();
+    EXPECT_TRUE(controller.getCurrentFilter()) << "still there";
 }
 
 TEST_F(WindowTest, ArrowsWalkTheListAndReturnFoldsGroups)

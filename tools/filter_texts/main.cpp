@@ -1,4 +1,4 @@
-// filter_texts: the names of all filters and inputs, as source text that lupdate reads.
+// filter_texts: the names of all filters and inputs and what they are for, as source text that lupdate reads.
 #include "controls/panel/FilterNames.h"
 #include "controls/panel/ParameterText.h"
 #include "platform/coreimage/CIFilter.h"
@@ -29,6 +29,13 @@ int main()
         }
     }
     inputs.erase("");
+    std::set<std::string> descriptions, searchWords;
+    for (const auto& [className, words] : allFilterWords()) {
+        descriptions.insert(words.description);
+        searchWords.insert(words.searchWords);
+    }
     print(kFilterContext, filters);
     print(kInputContext, inputs);
+    print(kDescriptionContext, descriptions);
+    print(kSearchWordsContext, searchWords);
 }

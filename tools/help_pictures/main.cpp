@@ -136,8 +136,9 @@ private:
     void pick(const char* className)
     {
         const QAbstractItemModel& model = *ui.listView->model();
-        const QModelIndexList found = model.match(model.index(0, 0), Qt::ToolTipRole, QString::fromLatin1(className), 1,
-            Qt::MatchExactly | Qt::MatchRecursive);
+        const QString name = QString::fromStdString(CIFilter::localizedNameForFilterName(className));
+        const QModelIndexList found =
+            model.match(model.index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly | Qt::MatchRecursive);
         pickRow(*ui.listView, found.value(0));
     }
     void waitUntilIdle()
@@ -179,7 +180,7 @@ private:
     void takeSearch()
     {
         ui.searchField->setFocus();
-        QTest::keyClicks(ui.searchField, "halftone");
+        QTest::keyClicks(ui.searchField, "old photo");
         QTest::qWait(kThumbnailsTime);
         m_camera.take("search.png", placeOf(*ui.searchField).adjusted(-8, -8, 8, 228));
         ui.searchField->clear();

@@ -1,0 +1,158 @@
+#include "app/catalogue/FilterList.h"
+
+#include "controls/panel/FilterNames.h"
+
+#include <algorithm>
+
+FilterList::FilterList(const DataSource& filters)
+    : m_filters(filters)
+{
+    m_pinned.label = QCoreApplication::translate("FilterList", "Pinned");
+    m_recent.label = QCoreApplication::translate("FilterList", "Recently Used");
+    m_foundEffects.label = QCoreApplication::translate("FilterList", "Effects");
+    for (const auto& group : m_filters.groups())
+        for (const auto& row : group->rows) {
+            const std::string className = row->className.toStdString();
+            const QString english = QString::fromStdString(CIFilter::localizedNameForFilterName(className));
+            index(row.get(), className, {.name = english}, {.name = row->name, .category = group->label});
+        }
+    arrange();
+}
+
+void FilterList::addEffects(const std::vector<std::shared_ptr<BaseEffect>>& prototypes, const QIcon& icon)
+{
+    for (const std::shared_ptr<BaseEffect>& effect : prototypes) {
+        const std::string className = effect->className(), name = effect->myname();
+        const QString shown = QCoreApplication::translate("BaseEffect", name.c_str());
+        EffectLink& link = *m_effects.emplace_back(std::make_unique<EffectLink>());
+        link.className = QString::fromStdString(className);
+        link.name = shown;
+        link.icon = icon;
+        index(&link, className, {.name = QString::fromStdString(name)}, {.name = shown});
+    }
+}
+
+/// English finds everything in all languages, but categories, which few know in another one than they see.
+void FilterList::index(
+    const OutlineItem* row, const std::string& className, const IndexedTexts& english, IndexedTexts shown)
+{
+    std::vector<IndexedTexts> languages{english};
+    if (const FilterWords* words = filterWords(className)) {
+        languages[0].searchWords = QString::fromStdString(words->searchWords);
+        languages[0].description = QString::fromStdString(words->description);
+        shown.searchWords = shownSearchWords(words->searchWords);
+        shown.description = shownFilterDescription(className);
+    }
+    languages.push_back(std::move(shown));
+    m_index.add(row, QString::fromStdString(className), languages);
+}
+
+// --- what is shown ---
+
+void FilterList::search(const QString& text)
+{
+    m_isSearching = !text.trimmed().isEmpty();
+    m_isNear = false;
+    m_found.rows.clear();
+    m_foundEffects.rows.clear();
+    if (m_isSearching) {
+        const FilterIndex::Found found = m_index.find(text);
+        m_isNear = found.isNear;
+        m_found.label = !found.isNear ? QCoreApplication::translate("FilterList", "Found")
+            : found.rows.empty()      ? QCoreApplication::translate("FilterList", "Nothing found")
+                                      : QCoreApplication::translate("FilterList", "Nothing found. Nearest:");
+        for (const OutlineItem* row : found.rows)
+            (dynamic_cast<const EffectLink*>(row) ? m_foundEffects : m_found).rows.push_back(row);
+    }
+    arrange();
+}
+
+void FilterList::setOnTop(const QStringList& pinned, const QStringList& recent)
+{
+    QStringList others = recent;
+    others.removeIf([&](const QString& name) { return pinned.contains(name); });
+    m_copies.clear();
+    fill(m_pinned, pinned);
+    fill(m_recent, others);
+    arrange();
+}
+
+void FilterList::fill(RowGroup& group, const QStringList& classNames)
+{
+    group.rows.clear();
+    for (const QString& className : classNames)
+        if (const FilterRow* row = m_filters.rowForClass(className)) {
+            m_copies.push_back(std::make_unique<FilterRow>(*row));
+            group.rows.push_back(m_copies.back().get());
+        }
+}
+
+void FilterList::arrange()
+{
+    m_shown.clear();
+    if (m_isSearching) {
+        if (!m_found.rows.empty() || m_foundEffects.rows.empty())
+            m_shown.push_back(&m_found);
+        if (!m_foundEffects.rows.empty())
+            m_shown.push_back(&m_foundEffects);
+        return;
+    }
+    for (const RowGroup* group : {&m_pinned, &m_recent})
+        if (!group->rows.empty())
+            m_shown.push_back(group);
+    for (const auto& group : m_filters.groups())
+        m_shown.push_back(group.get());
+}
+
+const OutlineItem* FilterList::rowInGroup(const OutlineItem* row) const
+{
+    const auto copy = std::ranges::find_if(m_copies, [&](const auto& known) { return known.get() == row; });
+    return copy == m_copies.end() ? row : m_filters.rowForClass((*copy)->className);
+}
+
+// --- as an outline ---
+
+int FilterList::outlineViewNumberOfChildrenOfItem(const OutlineItem* item) const
+{
+    if (!item)
+        return int(m_shown.size());
+    const auto* group = dynamic_cast<const RowGroup*>(item);
+    return group ? int(group->rows.size()) : m_filters.outlineViewNumberOfChildrenOfItem(item);
+}
+
+bool FilterList::outlineViewIsItemExpandable(const OutlineItem* item) const
+{
+    return dynamic_cast<const RowGroup*>(item) || m_filters.outlineViewIsItemExpandable(item);
+}
+
+/// Walking over an effect's row must not change the mode.
+bool FilterList::outlineViewIsItemSelectable(const OutlineItem* item) const
+{
+    return dynamic_cast<const FilterRow*>(item);
+}
+
+const OutlineItem* FilterList::outlineViewChildOfItem(int index, const OutlineItem* item) const
+{
+    if (index < 0 || index >= outlineViewNumberOfChildrenOfItem(item))
+        return nullptr;
+    if (!item)
+        return m_shown[std::size_t(index)];
+    const auto* group = dynamic_cast<const RowGroup*>(item);
+    return group ? group->rows[std::size_t(index)] : m_filters.outlineViewChildOfItem(index, item);
+}
+
+QVariant FilterList::outlineViewObjectValueForTableColumnByItem(const QString& column, const OutlineItem* item) const
+{
+    const bool isMarker = column == DataSource::kMarkerColumn;
+    if (const auto* group = dynamic_cast<const RowGroup*>(item))
+        return isMarker ? QVariant() : QVariant(group->label);
+    if (const auto* effect = dynamic_cast<const EffectLink*>(item))
+        return isMarker ? QVariant::fromValue(effect->icon) : QVariant(effect->name);
+    return m_filters.outlineViewObjectValueForTableColumnByItem(column, item);
+}
+
+QString FilterList::outlineViewToolTipOfItem(const OutlineItem* item) const
+{
+    const auto* effect = dynamic_cast<const EffectLink*>(item);
+    return effect ? shownFilterDescription(effect->className.toStdString()) : m_filters.outlineViewToolTipOfItem(item);
+}
