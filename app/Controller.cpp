@@ -1,5 +1,6 @@
 #include "app/Controller.h"
 
+#include "app/catalogue/LooksPopup.h"
 #include "app/catalogue/OutlineView.h"
 #include "app/commands/FilledMenus.h"
 #include "app/document/PictureOpening.h"
@@ -14,6 +15,7 @@
 #include "platform/coreimage/Fitting.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/foundation/ResourcePaths.h"
+#include "platform/foundation/TintedIcon.h"
 #include "ui_MainWindow.h"
 #include "widgets/DocPageControl.h"
 #include "widgets/GradientButton.h"
@@ -144,8 +146,31 @@ void Controller::connectInterface()
     connect(&m_modes, &ModeSwitch::itemChanged, this, &Controller::showItem);
     connect(ui.searchField, &QLineEdit::textChanged, &m_catalogue, &FilterCatalogue::searchFilters);
     connect(ui.searchField, &QLineEdit::returnPressed, &m_catalogue, &FilterCatalogue::takeFirstMatch);
+    m_catalogue.addEffects(m_threeD.prototypes(), tintedIcon(QStringLiteral("mode-3d")));
+    m_catalogue.addEffects(m_custom.prototypes(), tintedIcon(QStringLiteral("mode-custom")));
+    connect(&m_catalogue, &FilterCatalogue::effectAsked, this, &Controller::chooseEffect);
+    connect(&m_catalogue, &FilterCatalogue::lookAsked, &m_standard, &StandardMode::chooseLook);
     connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
+}
+
+void Controller::showLooks()
+{
+    if (!m_looks) {
+        m_looks = new LooksPopup(&m_window);
+        connect(m_looks, &LooksPopup::chosen, &m_standard, &StandardMode::chooseLook);
+    }
+    m_looks->popUp(*ui.looksBtn, m_document.picture());
+}
+
+/// In its mode, which is on from now on.
+void Controller::chooseEffect(const QString& className)
+{
+    for (EffectMode* mode : std::initializer_list<EffectMode*>{&m_threeD, &m_custom})
+        if (mode->hasClass(className)) {
+            m_modes.changeFilterMode(&mode->button());
+            mode->chooseClass(className);
+        }
 }
 
 void Controller::awakeFromNib()

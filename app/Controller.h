@@ -47,6 +47,7 @@
 #include <functional>
 #include <memory>
 
+class LooksPopup;
 class MyImageView;
 class MyOGLView;
 class OutlineView;
@@ -237,6 +238,7 @@ public:
     void addFavourite();
     /// The one that is switched on in the current mode.
     void removeSelectedFavourite();
+    void showLooks();
     bool hasSelectedFavourite() const { return m_modes.current().selectedFavourite(); }
     void addFavorites() { m_standard.addFavourite(); }
     void addFavorites3D() { m_threeD.addFavourite(); }
@@ -324,6 +326,7 @@ private:
     QMenu* contentMenuOutlet;
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;
+    QPointer<LooksPopup> m_looks;
 
     FilterMaker m_filters;
     ParameterChanges m_changes;

@@ -64,7 +64,9 @@ void FilterCatalogue::selectClass(const QString& className)
 bool FilterCatalogue::clicked(const OutlineItem* row)
 {
     const auto* effect = dynamic_cast<const EffectLink*>(row);
-    if (effect)
+    if (effect && effect->look)
+        emit lookAsked(effect->look);
+    else if (effect)
         emit effectAsked(effect->className);
     else if (m_shown.outlineViewIsItemExpandable(row))
         m_list.setItemExpanded(row, !m_list.isItemExpanded(row));

@@ -51,6 +51,7 @@ public:
 
 signals:
     void effectAsked(const QString& className);
+    void lookAsked(const PictureLook* look);
 
 private:
     void showContextMenu(const QPoint& place);

@@ -1,50 +1,78 @@
 #include "app/catalogue/FilterList.h"
 
 #include "controls/panel/FilterNames.h"
+#include "platform/foundation/TintedIcon.h"
 
 #include <algorithm>
+#include <utility>
 
 FilterList::FilterList(const DataSource& filters)
     : m_filters(filters)
 {
     m_pinned.label = QCoreApplication::translate("FilterList", "Pinned");
     m_recent.label = QCoreApplication::translate("FilterList", "Recently Used");
-    m_foundEffects.label = QCoreApplication::translate("FilterList", "Effects");
-    for (const auto& group : m_filters.groups())
-        for (const auto& row : group->rows) {
-            const std::string className = row->className.toStdString();
-            const QString english = QString::fromStdString(CIFilter::localizedNameForFilterName(className));
-            index(row.get(), className, {.name = english}, {.name = row->name, .category = group->label});
-        }
+    m_foundEffects.label = QCoreApplication::translate("FilterList", "Looks and Effects");
     arrange();
 }
 
 void FilterList::addEffects(const std::vector<std::shared_ptr<BaseEffect>>& prototypes, const QIcon& icon)
 {
     for (const std::shared_ptr<BaseEffect>& effect : prototypes) {
-        const std::string className = effect->className(), name = effect->myname();
-        const QString shown = QCoreApplication::translate("BaseEffect", name.c_str());
         EffectLink& link = *m_effects.emplace_back(std::make_unique<EffectLink>());
-        link.className = QString::fromStdString(className);
-        link.name = shown;
+        link.className = QString::fromStdString(effect->className());
+        link.englishName = QString::fromStdString(effect->myname());
+        link.name = QCoreApplication::translate("BaseEffect", effect->myname().c_str());
+        link.description = shownFilterDescription(effect->className());
         link.icon = icon;
-        index(&link, className, {.name = QString::fromStdString(name)}, {.name = shown});
     }
 }
 
-/// English finds everything in all languages, but categories, which few know in another one than they see.
-void FilterList::index(
-    const OutlineItem* row, const std::string& className, const IndexedTexts& english, IndexedTexts shown)
+void FilterList::addLooks()
 {
-    std::vector<IndexedTexts> languages{english};
-    if (const FilterWords* words = filterWords(className)) {
-        languages[0].searchWords = QString::fromStdString(words->searchWords);
-        languages[0].description = QString::fromStdString(words->description);
-        shown.searchWords = shownSearchWords(words->searchWords);
-        shown.description = shownFilterDescription(className);
+    for (const PictureLook& look : looks()) {
+        EffectLink& link = *m_effects.emplace_back(std::make_unique<EffectLink>());
+        link.englishName = QString::fromLatin1(look.name);
+        link.name = shownLookText(look.name);
+        link.description = shownLookText(look.description);
+        link.icon = tintedIcon(QStringLiteral("looks"));
+        link.look = &look;
     }
-    languages.push_back(std::move(shown));
-    m_index.add(row, QString::fromStdString(className), languages);
+}
+
+/// At the first search, since the start must not wait for it. English finds everything in all languages, but
+/// categories, which few know in another one than they see.
+void FilterList::buildIndex()
+{
+    if (std::exchange(m_isIndexed, true))
+        return;
+    const auto index = [this](const OutlineItem* row, const std::string& className, const QString& english,
+                           IndexedTexts shown) {
+        std::vector<IndexedTexts> languages{{.name = english}};
+        if (const FilterWords* words = filterWords(className)) {
+            languages[0].searchWords = QString::fromStdString(words->searchWords);
+            languages[0].description = QString::fromStdString(words->description);
+            shown.searchWords = shownSearchWords(words->searchWords);
+            shown.description = shownFilterDescription(className);
+        }
+        languages.push_back(std::move(shown));
+        m_index.add(row, QString::fromStdString(className), languages);
+    };
+    for (const auto& group : m_filters.groups())
+        for (const auto& row : group->rows) {
+            const std::string className = row->className.toStdString();
+            const QString english = QString::fromStdString(CIFilter::localizedNameForFilterName(className));
+            index(row.get(), className, english, {.name = row->name, .category = group->label});
+        }
+    for (const auto& link : m_effects)
+        index(link.get(), link->className.toStdString(), link->englishName, {.name = link->name});
+    addLooks();
+    for (const auto& link : m_effects)
+        if (const PictureLook* look = link->look) {
+            const IndexedTexts english{
+                .name = link->englishName, .searchWords = QString::fromLatin1(look->searchWords)};
+            m_index.add(
+                link.get(), {}, {english, {.name = link->name, .searchWords = shownLookText(look->searchWords)}});
+        }
 }
 
 // --- what is shown ---
@@ -56,6 +84,7 @@ void FilterList::search(const QString& text)
     m_found.rows.clear();
     m_foundEffects.rows.clear();
     if (m_isSearching) {
+        buildIndex();
         const FilterIndex::Found found = m_index.find(text);
         m_isNear = found.isNear;
         m_found.label = !found.isNear ? QCoreApplication::translate("FilterList", "Found")
@@ -154,5 +183,5 @@ QVariant FilterList::outlineViewObjectValueForTableColumnByItem(const QString& c
 QString FilterList::outlineViewToolTipOfItem(const OutlineItem* item) const
 {
     const auto* effect = dynamic_cast<const EffectLink*>(item);
-    return effect ? shownFilterDescription(effect->className.toStdString()) : m_filters.outlineViewToolTipOfItem(item);
+    return effect ? effect->description : m_filters.outlineViewToolTipOfItem(item);
 }

@@ -3,16 +3,18 @@
 
 #include "app/catalogue/DataSource.h"
 #include "app/catalogue/FilterIndex.h"
+#include "app/catalogue/Looks.h"
 #include "effects2d/BaseEffect.h"
 
 #include <QIcon>
 
-/// An effect of another mode, among what was found.
+/// An effect of another mode or a look, among what was found.
 class EffectLink : public OutlineItem {
 public:
-    QString className; // "sketchEffect"
-    QString name;
+    QString className; // "sketchEffect"; empty for a look
+    QString name, englishName, description;
     QIcon icon; // of its mode
+    const PictureLook* look = nullptr;
 };
 
 /// All filters in their groups, below those that are pinned and those that were used; or else what a search found,
@@ -21,6 +23,7 @@ class FilterList : public OutlineDataSource {
 public:
     /// `filters` must outlive the list.
     explicit FilterList(const DataSource& filters);
+    /// Before the first search. Looks are there by themselves.
     void addEffects(const std::vector<std::shared_ptr<BaseEffect>>& prototypes, const QIcon& icon);
 
     /// Shows what is found; all filters for an empty text.
@@ -48,11 +51,13 @@ private:
         std::vector<const OutlineItem*> rows;
     };
     void fill(RowGroup& group, const QStringList& classNames);
-    void index(const OutlineItem* row, const std::string& className, const IndexedTexts& english, IndexedTexts shown);
+    void addLooks();
+    void buildIndex();
     void arrange();
 
     const DataSource& m_filters;
     FilterIndex m_index;
+    bool m_isIndexed = false;
     std::vector<std::unique_ptr<EffectLink>> m_effects;
     std::vector<std::unique_ptr<FilterRow>> m_copies; // a row has one place only
     RowGroup m_pinned, m_recent, m_found, m_foundEffects;

@@ -163,6 +163,10 @@ const std::vector<Command>& Command::all()
                 .hint = QT_TR_NOOP("Forgets the favourite that is switched on"),
                 .keys = {Qt::CTRL | Qt::SHIFT | Qt::Key_D}, .run = &Controller::removeSelectedFavourite,
                 .enabled = &Controller::hasSelectedFavourite},
+            kLine,
+            {.name = "actionLooks", .text = QT_TR_NOOP("&Looks…"),
+                .hint = QT_TR_NOOP("Shows the looks that come with the program"), .icon = "looks", .button = "looksBtn",
+                .run = &Controller::showLooks, .enabled = isMode<Controller::Standard>},
         }},
         {.name = "menuView", .text = QT_TR_NOOP("&View"), .items = {
             {.name = "actionZoomIn", .text = QT_TR_NOOP("Zoom &In"), .hint = QT_TR_NOOP("Shows the picture larger"),

@@ -2,6 +2,7 @@
 
 #include "app/catalogue/FilterCatalogue.h"
 #include "app/catalogue/FilterMaker.h"
+#include "app/catalogue/Looks.h"
 #include "app/catalogue/OutlineView.h"
 #include "app/catalogue/Thumbnail.h"
 #include "app/document/Document.h"
@@ -74,6 +75,21 @@ void StandardMode::choose(const OutlineItem* row)
     }
     if (!row || !m_tools.catalogue.clicked(row))
         clear();
+}
+
+void StandardMode::chooseLook(const PictureLook* look)
+{
+    const FilterSettings settings = settingsOf(*look, m_document.picture());
+    if (!settings.hasClass())
+        return;
+    clear();
+    addFilterIndex(QString::fromLatin1(look->filter), kPanelTag);
+    if (currentFilter)
+        applySettings(settings, *currentFilter);
+    updateLayout(); // the rows were made for the filter's own values
+    m_document.setWasChanged(true);
+    updateView();
+    emit changed();
 }
 
 void StandardMode::dropItem()

@@ -10,6 +10,7 @@ class FilterMaker;
 class FilterOptions;
 class FilterPanel;
 class MyImageView;
+struct PictureLook;
 
 /// Shows the picture through one filter of the catalogue.
 class StandardMode : public Mode {
@@ -39,6 +40,9 @@ public:
     /// The recipe of the picture through the filter. Null when the filter lacks an image.
     CIImage coreImageResult() const;
     CIImage coreImageResultForRect(const CIRect& view) const;
+
+    /// Makes the look's filter the current one, with the look's values on the present picture.
+    void chooseLook(const PictureLook* look);
 
     // --- all inputs at once, if the filter is edited ---
 

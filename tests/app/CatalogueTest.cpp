@@ -4,18 +4,7 @@
 #include <gtest/gtest.h>
 #include <QAbstractItemModelTester>
 
-#include <algorithm>
-
 namespace {
-
-QStringList inCategories(const std::vector<std::string>& categories)
-{
-    QStringList names;
-    for (const std::string& category : categories)
-        for (const std::string& name : CIFilter::filterNamesInCategory(category))
-            names << QString::fromStdString(name);
-    return names;
-}
 
 TEST(Catalogue, SkipsNamesWithoutAFilterAndTellsDisplayNames)
 {

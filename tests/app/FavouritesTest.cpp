@@ -1,5 +1,7 @@
 #include "WindowFixture.h"
 
+#include "app/catalogue/LooksPopup.h"
+#include "app/catalogue/OutlineModel.h"
 #include "app/catalogue/OutlineView.h"
 #include "app/catalogue/Thumbnail.h"
 #include "platform/foundation/KeyedArchive.h"
@@ -86,6 +88,32 @@ TEST_F(FavouritesTest, BringFilterAndSettingsBackAndGoAwayAtTheSecondPress)
     press(twirl);
     controller.escapeEffect();
     EXPECT_FALSE(twirl->isChecked());
+}
+
+TEST_F(FavouritesTest, LooksComeWithTheProgramAndStayOutOfTheUsersOwn)
+{
+    openPicture(pictureFile("plain.png", 90, 60));
+    QTest::mouseClick(ui.looksBtn, Qt::LeftButton);
+    auto* popup = window.findChild<LooksPopup*>();
+    ASSERT_TRUE(popup && popup->isVisible());
+    ASSERT_EQ(popup->count(), 12);
+    const auto picture = [&](int row) { return popup->item(row)->icon().pixmap(80, 50).toImage(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture(0) != picture(6) && picture(6) != picture(8); }, 20000))
+        << "each has a picture of its own";
+    QTest::keyClick(popup, Qt::Key_Down);
+    QTest::mouseClick(popup->viewport(), Qt::LeftButton, {}, popup->visualItemRect(popup->item(8)).center());
+    EXPECT_FALSE(popup->isVisible());
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CIFalseColor");
+    EXPECT_EQ(ui.m_pageController->pageCount(), 0);
+
+    QTest::keyClicks(ui.searchField, "polaroid");
+    const QModelIndex group = ui.listView->model()->index(1, 0);
+    EXPECT_EQ(group.data().toString(), "Looks and Effects");
+    click(ui.listView->model()->index(0, 0, group).data(OutlineModel::ItemRole).value<const OutlineItem*>());
+    ASSERT_TRUE(controller.getCurrentFilter());
+    EXPECT_EQ(controller.getCurrentFilter()->name(), "CIBlendWithMask");
+    EXPECT_TRUE(controller.wasChanged());
 }
 
 TEST_F(FavouritesTest, RemovingTheOneThatIsShownClearsTheEffect)
