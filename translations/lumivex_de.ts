@@ -641,6 +641,14 @@
         <source>Shows the filters as larger pictures beside each other</source>
         <translation>Zeigt die Filter als größere Bilder nebeneinander</translation>
     </message>
+    <message>
+        <source>&amp;Looks…</source>
+        <translation>&amp;Looks …</translation>
+    </message>
+    <message>
+        <source>Shows the looks that come with the program</source>
+        <translation>Zeigt die Looks, die zum Programm gehören</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2372,6 +2380,1035 @@
     </message>
 </context>
 <context>
+    <name>FilterCatalogue</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Lösen</translation>
+    </message>
+    <message>
+        <source>Pin to the Top</source>
+        <translation>Oben anheften</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDescription</name>
+    <message>
+        <source>Adds fine even grain, which also hides bands in skies.</source>
+        <translation>Fügt feines, gleichmäßiges Korn hinzu, das auch Streifen im Himmel verdeckt.</translation>
+    </message>
+    <message>
+        <source>Adds the light of both pictures.</source>
+        <translation>Zählt das Licht beider Bilder zusammen.</translation>
+    </message>
+    <message>
+        <source>Adds the picture to the background, up to white.</source>
+        <translation>Zählt das Bild zum Hintergrund hinzu, bis Weiß.</translation>
+    </message>
+    <message>
+        <source>Bends red, green and blue by a curve each.</source>
+        <translation>Biegt Rot, Grün und Blau durch je eine Kurve.</translation>
+    </message>
+    <message>
+        <source>Bends red, green, blue and opacity by a formula each.</source>
+        <translation>Biegt Rot, Grün, Blau und Deckkraft nach je einer Formel.</translation>
+    </message>
+    <message>
+        <source>Bends the picture around a circle.</source>
+        <translation>Biegt das Bild um einen Kreis.</translation>
+    </message>
+    <message>
+        <source>Bends the tones by a curve through five points.</source>
+        <translation>Biegt die Töne durch eine Kurve mit fünf Punkten.</translation>
+    </message>
+    <message>
+        <source>Black and white with dramatic contrast.</source>
+        <translation>Schwarzweiß mit dramatischem Kontrast.</translation>
+    </message>
+    <message>
+        <source>Black and white with gentle contrast.</source>
+        <translation>Schwarzweiß mit sanftem Kontrast.</translation>
+    </message>
+    <message>
+        <source>Black and white with the picture&apos;s own contrast.</source>
+        <translation>Schwarzweiß mit dem Kontrast des Bildes.</translation>
+    </message>
+    <message>
+        <source>Bluish shadows and creamy lights, like an instant camera&apos;s print.</source>
+        <translation>Bläuliche Schatten und cremefarbene Lichter, wie ein Sofortbild.</translation>
+    </message>
+    <message>
+        <source>Blurs as a camera lens does: lights become discs with a bright rim.</source>
+        <translation>Zeichnet weich wie ein Objektiv: Lichter werden zu Scheiben mit hellem Rand.</translation>
+    </message>
+    <message>
+        <source>Blurs as strongly as a mask is light: keeps some parts sharp.</source>
+        <translation>Zeichnet so stark weich, wie eine Maske hell ist: Teile bleiben scharf.</translation>
+    </message>
+    <message>
+        <source>Blurs evenly over a square: quick and a little hard.</source>
+        <translation>Zeichnet gleichmäßig über ein Quadrat weich: schnell und etwas hart.</translation>
+    </message>
+    <message>
+        <source>Blurs over a disc, like a picture that is out of focus.</source>
+        <translation>Zeichnet über eine Scheibe weich, wie bei falscher Entfernung.</translation>
+    </message>
+    <message>
+        <source>Blurs softly and evenly.</source>
+        <translation>Zeichnet sanft und gleichmäßig weich.</translation>
+    </message>
+    <message>
+        <source>Breaks the picture into patches of one color, like stained glass.</source>
+        <translation>Zerlegt das Bild in einfarbige Scherben, wie ein Kirchenfenster.</translation>
+    </message>
+    <message>
+        <source>Brightens linear light values for display (sRGB).</source>
+        <translation>Hellt lineare Lichtwerte für die Anzeige auf (sRGB).</translation>
+    </message>
+    <message>
+        <source>Brightens shadows and recovers highlights.</source>
+        <translation>Hellt Schatten auf und holt Zeichnung in Lichter zurück.</translation>
+    </message>
+    <message>
+        <source>Brightens the background like two projectors on one wall.</source>
+        <translation>Hellt den Hintergrund auf wie zwei Projektoren auf einer Wand.</translation>
+    </message>
+    <message>
+        <source>Brightens the background where the picture is light, up to a blaze.</source>
+        <translation>Hellt den Hintergrund auf, wo das Bild hell ist, bis zum Gleißen.</translation>
+    </message>
+    <message>
+        <source>Brings the second picture with a moving bar of light, like a copier.</source>
+        <translation>Bringt das zweite Bild mit einem wandernden Lichtbalken, wie ein Kopierer.</translation>
+    </message>
+    <message>
+        <source>Brings the second picture with a wave, as a stone does in water.</source>
+        <translation>Bringt das zweite Bild mit einer Welle, wie ein Stein im Wasser.</translation>
+    </message>
+    <message>
+        <source>Burns or dodges strongly, as the picture is dark or light.</source>
+        <translation>Belichtet stark nach oder wedelt ab, je nachdem ob das Bild dunkel oder hell ist.</translation>
+    </message>
+    <message>
+        <source>Changes the pictures under a flash of light.</source>
+        <translation>Wechselt die Bilder unter einem Lichtblitz.</translation>
+    </message>
+    <message>
+        <source>Colors the background with the picture&apos;s hue and saturation.</source>
+        <translation>Färbt den Hintergrund mit Farbton und Sättigung des Bildes.</translation>
+    </message>
+    <message>
+        <source>Colors the picture like a heat camera: dark is blue, light is hot.</source>
+        <translation>Färbt das Bild wie eine Wärmebildkamera: Dunkles ist blau, Helles heiß.</translation>
+    </message>
+    <message>
+        <source>Continues the pixels at a rectangle&apos;s edges without end.</source>
+        <translation>Setzt die Punkte am Rand eines Rechtecks endlos fort.</translation>
+    </message>
+    <message>
+        <source>Continues the pixels at the edges without end after moving and turning the picture.</source>
+        <translation>Setzt nach dem Verschieben und Drehen die Randpunkte endlos fort.</translation>
+    </message>
+    <message>
+        <source>Converts a depth map into a disparity map.</source>
+        <translation>Wandelt eine Tiefenkarte in eine Disparitätskarte um.</translation>
+    </message>
+    <message>
+        <source>Converts a disparity map into a depth map.</source>
+        <translation>Wandelt eine Disparitätskarte in eine Tiefenkarte um.</translation>
+    </message>
+    <message>
+        <source>Cool, with blue shadows and greenish lights, like cross-processed film.</source>
+        <translation>Kühl, mit blauen Schatten und grünlichen Lichtern, wie crossentwickelter Film.</translation>
+    </message>
+    <message>
+        <source>Corrects the white balance: warmer or cooler, greener or pinker.</source>
+        <translation>Berichtigt den Weißabgleich: wärmer oder kühler, grüner oder rosiger.</translation>
+    </message>
+    <message>
+        <source>Counts color values of an area in steps of exposure, for very bright pictures.</source>
+        <translation>Zählt die Farbwerte einer Fläche in Belichtungsstufen, für sehr helle Bilder.</translation>
+    </message>
+    <message>
+        <source>Counts how often each color value occurs in an area.</source>
+        <translation>Zählt, wie oft jeder Farbwert in einer Fläche vorkommt.</translation>
+    </message>
+    <message>
+        <source>Counts how often each color value occurs in an area; see-through pixels count less.</source>
+        <translation>Zählt, wie oft jeder Farbwert in einer Fläche vorkommt; Durchsichtiges zählt weniger.</translation>
+    </message>
+    <message>
+        <source>Covers the picture with irregular patches of color.</source>
+        <translation>Überzieht das Bild mit unregelmäßigen Farbflecken.</translation>
+    </message>
+    <message>
+        <source>Covers the picture with soft waves of color.</source>
+        <translation>Überzieht das Bild mit weichen Farbwellen.</translation>
+    </message>
+    <message>
+        <source>Cuts the picture into a white line drawing, like a woodcut.</source>
+        <translation>Macht aus dem Bild eine weiße Strichzeichnung, wie ein Holzschnitt.</translation>
+    </message>
+    <message>
+        <source>Darkens all that lies outside a circle.</source>
+        <translation>Dunkelt ab, was außerhalb eines Kreises liegt.</translation>
+    </message>
+    <message>
+        <source>Darkens by the picture&apos;s dark parts and brightens by its light ones, like a harsh lamp.</source>
+        <translation>Dunkelt ab, wo das Bild dunkel, und hellt auf, wo es hell ist, wie eine harte Lampe.</translation>
+    </message>
+    <message>
+        <source>Darkens display values (sRGB) back to linear light.</source>
+        <translation>Dunkelt Anzeigewerte (sRGB) zu linearem Licht ab.</translation>
+    </message>
+    <message>
+        <source>Darkens or brightens evenly, as the picture is dark or light.</source>
+        <translation>Dunkelt gleichmäßig ab oder hellt auf, je nachdem ob das Bild dunkel oder hell ist.</translation>
+    </message>
+    <message>
+        <source>Darkens the background by what the picture lacks of white.</source>
+        <translation>Dunkelt den Hintergrund um das ab, was dem Bild an Weiß fehlt.</translation>
+    </message>
+    <message>
+        <source>Darkens the background like a transparency laid on it.</source>
+        <translation>Dunkelt den Hintergrund ab wie eine aufgelegte Folie.</translation>
+    </message>
+    <message>
+        <source>Darkens the background where the picture is dark, with rich colors.</source>
+        <translation>Dunkelt den Hintergrund ab, wo das Bild dunkel ist, mit satten Farben.</translation>
+    </message>
+    <message>
+        <source>Darkens the corners gently, as a simple lens does.</source>
+        <translation>Dunkelt die Ecken sanft ab, wie ein einfaches Objektiv.</translation>
+    </message>
+    <message>
+        <source>Dims bright parts into a soft, dark veil.</source>
+        <translation>Dämpft helle Teile zu einem weichen, dunklen Schleier.</translation>
+    </message>
+    <message>
+        <source>Dissolves the first picture along the light and dark of a mask.</source>
+        <translation>Löst das erste Bild nach Hell und Dunkel einer Maske auf.</translation>
+    </message>
+    <message>
+        <source>Divides the picture by the background: equal parts become white.</source>
+        <translation>Teilt das Bild durch den Hintergrund: Gleiches wird weiß.</translation>
+    </message>
+    <message>
+        <source>Divides the picture into hexagons of one color.</source>
+        <translation>Teilt das Bild in einfarbige Sechsecke.</translation>
+    </message>
+    <message>
+        <source>Divides the picture into squares of one color.</source>
+        <translation>Teilt das Bild in einfarbige Quadrate.</translation>
+    </message>
+    <message>
+        <source>Draws a burst of colored lines from a point.</source>
+        <translation>Zeichnet ein Bündel farbiger Linien aus einem Punkt.</translation>
+    </message>
+    <message>
+        <source>Draws a checkerboard of two colors.</source>
+        <translation>Zeichnet ein Schachbrett aus zwei Farben.</translation>
+    </message>
+    <message>
+        <source>Draws a color wheel with all hues.</source>
+        <translation>Zeichnet einen Farbkreis mit allen Farbtönen.</translation>
+    </message>
+    <message>
+        <source>Draws a filled rectangle with round corners.</source>
+        <translation>Zeichnet ein gefülltes Rechteck mit runden Ecken.</translation>
+    </message>
+    <message>
+        <source>Draws a histogram as a chart.</source>
+        <translation>Zeichnet ein Histogramm als Diagramm.</translation>
+    </message>
+    <message>
+        <source>Draws a passage between two colors along a line, gentle at both ends.</source>
+        <translation>Zeichnet einen Übergang zwischen zwei Farben entlang einer Linie, sanft an beiden Enden.</translation>
+    </message>
+    <message>
+        <source>Draws a passage between two colors from the inside out.</source>
+        <translation>Zeichnet einen Übergang zwischen zwei Farben von innen nach außen.</translation>
+    </message>
+    <message>
+        <source>Draws a rectangle with soft edges.</source>
+        <translation>Zeichnet ein Rechteck mit weichem Rand.</translation>
+    </message>
+    <message>
+        <source>Draws a rectangular line with round corners, such as a frame.</source>
+        <translation>Zeichnet eine rechteckige Linie mit runden Ecken, etwa als Rahmen.</translation>
+    </message>
+    <message>
+        <source>Draws a ring of colored rays, as around a lamp in fog.</source>
+        <translation>Zeichnet einen Ring aus farbigen Strahlen, wie um eine Lampe im Nebel.</translation>
+    </message>
+    <message>
+        <source>Draws a rosette of ellipses that changes with each press of Generate.</source>
+        <translation>Zeichnet eine Rosette aus Ellipsen, die sich bei jedem Druck auf Erzeugen ändert.</translation>
+    </message>
+    <message>
+        <source>Draws a shining star with a cross of rays.</source>
+        <translation>Zeichnet einen leuchtenden Stern mit gekreuzten Strahlen.</translation>
+    </message>
+    <message>
+        <source>Draws a soft round spot of color.</source>
+        <translation>Zeichnet einen weichen, runden Farbfleck.</translation>
+    </message>
+    <message>
+        <source>Draws a star of light with many spikes around a point.</source>
+        <translation>Zeichnet einen Lichtstern mit vielen Zacken um einen Punkt.</translation>
+    </message>
+    <message>
+        <source>Draws a sun with rays of light.</source>
+        <translation>Zeichnet eine Sonne mit Lichtstrahlen.</translation>
+    </message>
+    <message>
+        <source>Draws an even passage between two colors along a line.</source>
+        <translation>Zeichnet einen gleichmäßigen Übergang zwischen zwei Farben entlang einer Linie.</translation>
+    </message>
+    <message>
+        <source>Draws lines from a list of points.</source>
+        <translation>Zeichnet Linien aus einer Liste von Punkten.</translation>
+    </message>
+    <message>
+        <source>Draws one line that folds until it fills the picture.</source>
+        <translation>Zeichnet eine Linie, die sich faltet, bis sie das Bild füllt.</translation>
+    </message>
+    <message>
+        <source>Draws stripes of two colors.</source>
+        <translation>Zeichnet Streifen in zwei Farben.</translation>
+    </message>
+    <message>
+        <source>Draws the colors on a circle outwards in straight streaks.</source>
+        <translation>Zieht die Farben eines Kreises in geraden Strahlen nach außen.</translation>
+    </message>
+    <message>
+        <source>Draws the outlines in black and leaves the rest see-through.</source>
+        <translation>Zeichnet die Umrisse schwarz und lässt den Rest durchsichtig.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in black and white rings.</source>
+        <translation>Zeichnet das Bild in schwarzen und weißen Ringen.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in black dots on white, like a newspaper.</source>
+        <translation>Zeichnet das Bild in schwarzen Punkten auf Weiß, wie in der Zeitung.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in parallel lines of varying width.</source>
+        <translation>Zeichnet das Bild in parallelen Linien wechselnder Breite.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in two layers of crossing lines.</source>
+        <translation>Zeichnet das Bild in zwei Lagen sich kreuzender Linien.</translation>
+    </message>
+    <message>
+        <source>Draws the picture together towards a point.</source>
+        <translation>Zieht das Bild zu einem Punkt hin zusammen.</translation>
+    </message>
+    <message>
+        <source>Draws thin white lines along clear edges, on black.</source>
+        <translation>Zeichnet dünne weiße Linien an deutlichen Kanten, auf Schwarz.</translation>
+    </message>
+    <message>
+        <source>Enlarges a small picture so that its edges follow those of the large one.</source>
+        <translation>Vergrößert ein kleines Bild so, dass seine Kanten denen des großen folgen.</translation>
+    </message>
+    <message>
+        <source>Enlarges a small picture, or smooths a mask, along the edges of a guide picture.</source>
+        <translation>Vergrößert ein kleines Bild oder glättet eine Maske entlang der Kanten eines Leitbildes.</translation>
+    </message>
+    <message>
+        <source>Enlivens pale colors and spares skin.</source>
+        <translation>Belebt blasse Farben und schont Haut.</translation>
+    </message>
+    <message>
+        <source>Fades from the first picture into the second.</source>
+        <translation>Blendet vom ersten Bild ins zweite.</translation>
+    </message>
+    <message>
+        <source>Fills everything with colored noise.</source>
+        <translation>Füllt alles mit farbigem Rauschen.</translation>
+    </message>
+    <message>
+        <source>Fills everything with one color.</source>
+        <translation>Füllt alles mit einer Farbe.</translation>
+    </message>
+    <message>
+        <source>Fills squares with small turned copies of what lies below them.</source>
+        <translation>Füllt Quadrate mit kleinen, gedrehten Kopien dessen, was unter ihnen liegt.</translation>
+    </message>
+    <message>
+        <source>Finds an area&apos;s most opaque pixel.</source>
+        <translation>Findet den deckendsten Bildpunkt einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Finds an area&apos;s most see-through pixel.</source>
+        <translation>Findet den durchsichtigsten Bildpunkt einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Finds the greatest red, green, blue and opacity of an area.</source>
+        <translation>Findet Rot, Grün, Blau und Deckkraft einer Fläche, jeweils den größten Wert.</translation>
+    </message>
+    <message>
+        <source>Finds the least and the greatest red of an area.</source>
+        <translation>Findet das kleinste und größte Rot einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Finds the least and the greatest values of an area, side by side.</source>
+        <translation>Findet die kleinsten und größten Werte einer Fläche, nebeneinander.</translation>
+    </message>
+    <message>
+        <source>Finds the least red, green, blue and opacity of an area.</source>
+        <translation>Findet Rot, Grün, Blau und Deckkraft einer Fläche, jeweils den kleinsten Wert.</translation>
+    </message>
+    <message>
+        <source>Finds the main colors of an area, as a palette.</source>
+        <translation>Findet die Hauptfarben einer Fläche, als Palette.</translation>
+    </message>
+    <message>
+        <source>Finds the rectangle in which there is any red.</source>
+        <translation>Findet das Rechteck, in dem Rot vorkommt.</translation>
+    </message>
+    <message>
+        <source>Finds where in the picture each color of a palette lies on average.</source>
+        <translation>Findet, wo im Bild jede Farbe einer Palette im Mittel liegt.</translation>
+    </message>
+    <message>
+        <source>Fits the picture to another shape by cutting some and stretching the edges more than the middle.</source>
+        <translation>Bringt das Bild in eine andere Form: schneidet etwas ab und dehnt die Ränder stärker als die Mitte.</translation>
+    </message>
+    <message>
+        <source>Fits very bright lights (HDR) into what a display can show.</source>
+        <translation>Bringt sehr helle Lichter (HDR) in den Bereich, den ein Bildschirm zeigt.</translation>
+    </message>
+    <message>
+        <source>Gently darkens or brightens, like a soft lamp.</source>
+        <translation>Dunkelt sanft ab oder hellt auf, wie eine weiche Lampe.</translation>
+    </message>
+    <message>
+        <source>Gives each lightness a color of a gradient picture.</source>
+        <translation>Gibt jeder Helligkeit eine Farbe aus einem Verlaufsbild.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s hues.</source>
+        <translation>Gibt dem Hintergrund die Farbtöne des Bildes.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s lightness and keeps its own colors.</source>
+        <translation>Gibt dem Hintergrund die Helligkeit des Bildes und lässt ihm seine Farben.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s saturation.</source>
+        <translation>Gibt dem Hintergrund die Sättigung des Bildes.</translation>
+    </message>
+    <message>
+        <source>Grades colors by two tables (LUTs), which a mask mixes.</source>
+        <translation>Ändert Farben nach zwei Tabellen (LUTs), die eine Maske mischt.</translation>
+    </message>
+    <message>
+        <source>Grows dark parts into rectangles.</source>
+        <translation>Lässt Dunkles zu Rechtecken wachsen.</translation>
+    </message>
+    <message>
+        <source>Grows dark parts into round blobs and swallows light detail.</source>
+        <translation>Lässt Dunkles zu runden Flecken wachsen und verschluckt helle Einzelheiten.</translation>
+    </message>
+    <message>
+        <source>Grows light parts into rectangles.</source>
+        <translation>Lässt Helles zu Rechtecken wachsen.</translation>
+    </message>
+    <message>
+        <source>Grows light parts into round blobs and swallows dark detail.</source>
+        <translation>Lässt Helles zu runden Flecken wachsen und verschluckt dunkle Einzelheiten.</translation>
+    </message>
+    <message>
+        <source>Keeps a rectangle of the picture and cuts off the rest.</source>
+        <translation>Behält ein Rechteck des Bildes und schneidet den Rest weg.</translation>
+    </message>
+    <message>
+        <source>Keeps a strip sharp and vivid and blurs the rest, so that scenes look like models.</source>
+        <translation>Hält einen Streifen scharf und kräftig und zeichnet den Rest weich, sodass alles wie ein Modell aussieht.</translation>
+    </message>
+    <message>
+        <source>Keeps each color between a least and a greatest value.</source>
+        <translation>Hält jede Farbe zwischen einem kleinsten und einem größten Wert.</translation>
+    </message>
+    <message>
+        <source>Keeps the darker of both pictures in each color.</source>
+        <translation>Behält in jeder Farbe das Dunklere beider Bilder.</translation>
+    </message>
+    <message>
+        <source>Keeps the greater value of both pictures in each color.</source>
+        <translation>Behält in jeder Farbe den größeren Wert beider Bilder.</translation>
+    </message>
+    <message>
+        <source>Keeps the lighter of both pictures in each color.</source>
+        <translation>Behält in jeder Farbe das Hellere beider Bilder.</translation>
+    </message>
+    <message>
+        <source>Keeps the smaller value of both pictures in each color.</source>
+        <translation>Behält in jeder Farbe den kleineren Wert beider Bilder.</translation>
+    </message>
+    <message>
+        <source>Lays a ring of glass on the picture.</source>
+        <translation>Legt einen Ring aus Glas auf das Bild.</translation>
+    </message>
+    <message>
+        <source>Lays a round bar of glass on the picture.</source>
+        <translation>Legt einen runden Glasstab auf das Bild.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is blue.</source>
+        <translation>Legt ein zweites Bild über dieses, wo eine Maske blau ist.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is light.</source>
+        <translation>Legt ein zweites Bild über dieses, wo eine Maske hell ist.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is opaque.</source>
+        <translation>Legt ein zweites Bild über dieses, wo eine Maske deckt.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is red.</source>
+        <translation>Legt ein zweites Bild über dieses, wo eine Maske rot ist.</translation>
+    </message>
+    <message>
+        <source>Lays the picture on the background, but only where the background is.</source>
+        <translation>Legt das Bild auf den Hintergrund, aber nur, wo dieser ist.</translation>
+    </message>
+    <message>
+        <source>Lays the picture over the background.</source>
+        <translation>Legt das Bild über den Hintergrund.</translation>
+    </message>
+    <message>
+        <source>Leaves only a few steps of each color, like a poster.</source>
+        <translation>Lässt von jeder Farbe nur wenige Stufen, wie auf einem Plakat.</translation>
+    </message>
+    <message>
+        <source>Lets bright parts glow softly beyond their edges.</source>
+        <translation>Lässt helle Teile sanft über ihre Ränder leuchten.</translation>
+    </message>
+    <message>
+        <source>Lightens or darkens the middle tones; black and white stay.</source>
+        <translation>Hellt mittlere Töne auf oder dunkelt sie ab; Schwarz und Weiß bleiben.</translation>
+    </message>
+    <message>
+        <source>Lights the picture as a relief, with the surface of a shaded ball.</source>
+        <translation>Beleuchtet das Bild als Relief, mit der Oberfläche einer schattierten Kugel.</translation>
+    </message>
+    <message>
+        <source>Lights the picture with a lamp and leaves the rest dark.</source>
+        <translation>Beleuchtet das Bild mit einer Lampe und lässt den Rest dunkel.</translation>
+    </message>
+    <message>
+        <source>Looks colors up in a table (LUT) that is made for a color space.</source>
+        <translation>Schlägt Farben in einer Tabelle (LUT) nach, die für einen Farbraum gemacht ist.</translation>
+    </message>
+    <message>
+        <source>Looks colors up in a table (LUT), for film looks and color grading.</source>
+        <translation>Schlägt Farben in einer Tabelle (LUT) nach, für Filmlooks und Farbkorrektur.</translation>
+    </message>
+    <message>
+        <source>Makes a QR code of a text or a web address.</source>
+        <translation>Macht aus einem Text oder einer Internetadresse einen QR-Code.</translation>
+    </message>
+    <message>
+        <source>Makes a dark gray picture of each pixel&apos;s weakest color.</source>
+        <translation>Macht ein dunkles Graubild aus der schwächsten Farbe jedes Bildpunkts.</translation>
+    </message>
+    <message>
+        <source>Makes a light gray picture of each pixel&apos;s strongest color.</source>
+        <translation>Macht ein helles Graubild aus der stärksten Farbe jedes Bildpunkts.</translation>
+    </message>
+    <message>
+        <source>Makes a pale blue negative, like an X-ray plate.</source>
+        <translation>Macht ein blassblaues Negativ, wie eine Röntgenplatte.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a narrow triangle, mirrored in twelve directions.</source>
+        <translation>Macht ein Muster aus einem schmalen Dreieck, in zwölf Richtungen gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a patch, mirrored to all four sides.</source>
+        <translation>Macht ein Muster aus einem Stück, nach allen vier Seiten gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a patch, repeated side by side.</source>
+        <translation>Macht ein Muster aus einem Stück, Seite an Seite wiederholt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a slanted patch and its mirror image.</source>
+        <translation>Macht ein Muster aus einem schrägen Stück und seinem Spiegelbild.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a square, turned by quarters.</source>
+        <translation>Macht ein Muster aus einem Quadrat, viertelweise gedreht.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a triangle, mirrored in eight directions.</source>
+        <translation>Macht ein Muster aus einem Dreieck, in acht Richtungen gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a triangle, mirrored in six directions.</source>
+        <translation>Macht ein Muster aus einem Dreieck, in sechs Richtungen gespiegelt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of hexagons, turned in six steps.</source>
+        <translation>Macht ein Muster aus Sechsecken, in sechs Schritten gedreht.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of rows, each second one mirrored and shifted.</source>
+        <translation>Macht ein Muster aus Reihen, jede zweite gespiegelt und versetzt.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of triangles that point up and down by turns.</source>
+        <translation>Macht ein Muster aus Dreiecken, die abwechselnd nach oben und unten zeigen.</translation>
+    </message>
+    <message>
+        <source>Makes a stacked barcode, as on boarding passes, of a message.</source>
+        <translation>Macht aus einer Nachricht einen Stapelcode, wie auf Bordkarten.</translation>
+    </message>
+    <message>
+        <source>Makes a striped barcode, as on parcels, of a message.</source>
+        <translation>Macht aus einer Nachricht einen Strichcode, wie auf Paketen.</translation>
+    </message>
+    <message>
+        <source>Makes an Aztec code, as on railway tickets, of a message.</source>
+        <translation>Macht aus einer Nachricht einen Aztec-Code, wie auf Bahnfahrkarten.</translation>
+    </message>
+    <message>
+        <source>Makes converging lines parallel, upright and level ones alike.</source>
+        <translation>Richtet stürzende Linien auf, senkrechte und waagerechte zugleich.</translation>
+    </message>
+    <message>
+        <source>Makes dark parts see-through and light parts white.</source>
+        <translation>Macht dunkle Teile durchsichtig und helle weiß.</translation>
+    </message>
+    <message>
+        <source>Makes each color either full or nothing, at a limit you set.</source>
+        <translation>Macht jede Farbe voll oder gar nicht, ab einer Grenze, die Sie wählen.</translation>
+    </message>
+    <message>
+        <source>Makes hills of the white shapes of a mask: black at the rim, white inside.</source>
+        <translation>Macht Hügel aus den weißen Formen einer Maske: schwarz am Rand, weiß im Innern.</translation>
+    </message>
+    <message>
+        <source>Makes level lines parallel that run together to the left or right.</source>
+        <translation>Macht waagerechte Linien parallel, die nach links oder rechts zusammenlaufen.</translation>
+    </message>
+    <message>
+        <source>Makes one column of the mean colors of an area&apos;s rows.</source>
+        <translation>Macht eine Spalte aus den mittleren Farben der Zeilen einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Makes one pixel of an area&apos;s mean color.</source>
+        <translation>Macht einen Bildpunkt aus der mittleren Farbe einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Makes one row of the mean colors of an area&apos;s columns.</source>
+        <translation>Macht eine Zeile aus den mittleren Farben der Spalten einer Fläche.</translation>
+    </message>
+    <message>
+        <source>Makes paper white and writing dark, as from a scanner.</source>
+        <translation>Macht Papier weiß und Schrift dunkel, wie vom Scanner.</translation>
+    </message>
+    <message>
+        <source>Makes the picture lighter or darker, as a longer or shorter exposure would.</source>
+        <translation>Macht das Bild heller oder dunkler, wie eine längere oder kürzere Belichtung.</translation>
+    </message>
+    <message>
+        <source>Makes upright lines parallel, such as those of a building seen from below.</source>
+        <translation>Richtet stürzende Linien auf, etwa an einem von unten aufgenommenen Gebäude.</translation>
+    </message>
+    <message>
+        <source>Mirrors a sector of the picture around a point.</source>
+        <translation>Spiegelt einen Sektor des Bildes um einen Punkt.</translation>
+    </message>
+    <message>
+        <source>Mirrors a triangle of the picture without end; the copies fade outwards.</source>
+        <translation>Spiegelt ein Dreieck des Bildes endlos; die Kopien werden nach außen dunkler.</translation>
+    </message>
+    <message>
+        <source>Mixes red, green and blue with each other by formulas up to the square.</source>
+        <translation>Mischt Rot, Grün und Blau miteinander nach Formeln bis zum Quadrat.</translation>
+    </message>
+    <message>
+        <source>Mixes red, green, blue and opacity by weights.</source>
+        <translation>Mischt Rot, Grün, Blau und Deckkraft nach Gewichten.</translation>
+    </message>
+    <message>
+        <source>Mixes the picture with a second one by an amount.</source>
+        <translation>Mischt das Bild zu einem Anteil mit einem zweiten.</translation>
+    </message>
+    <message>
+        <source>Moves each pixel as far as a second picture is light or dark there.</source>
+        <translation>Verschiebt jeden Bildpunkt so weit, wie ein zweites Bild dort hell oder dunkel ist.</translation>
+    </message>
+    <message>
+        <source>Moves, turns, scales and slants the picture as a whole.</source>
+        <translation>Verschiebt, dreht, skaliert und schert das ganze Bild.</translation>
+    </message>
+    <message>
+        <source>Multiplies both pictures, also in opacity.</source>
+        <translation>Multipliziert beide Bilder, auch ihre Deckkraft.</translation>
+    </message>
+    <message>
+        <source>Opens a round hole and pushes the picture outwards around it.</source>
+        <translation>Öffnet ein rundes Loch und drängt das Bild darum nach außen.</translation>
+    </message>
+    <message>
+        <source>Paints the picture in round dots on white.</source>
+        <translation>Malt das Bild in runden Tupfen auf Weiß.</translation>
+    </message>
+    <message>
+        <source>Pale colors and grayed blacks, like a faded print.</source>
+        <translation>Blasse Farben und graue Schwärzen, wie auf einem verblichenen Abzug.</translation>
+    </message>
+    <message>
+        <source>Prints the picture in dots of four inks, like a magazine under a magnifier.</source>
+        <translation>Druckt das Bild in Punkten aus vier Farben, wie eine Zeitschrift unter der Lupe.</translation>
+    </message>
+    <message>
+        <source>Pulls the corners of a part of the picture to four places.</source>
+        <translation>Zieht die Ecken eines Bildteils an vier Stellen.</translation>
+    </message>
+    <message>
+        <source>Pulls the picture&apos;s corners to four places.</source>
+        <translation>Zieht die Ecken des Bildes an vier Stellen.</translation>
+    </message>
+    <message>
+        <source>Puts the picture into itself again and again, along a spiral.</source>
+        <translation>Setzt das Bild immer wieder in sich selbst, entlang einer Spirale.</translation>
+    </message>
+    <message>
+        <source>Raises the background&apos;s contrast and colors it with the picture.</source>
+        <translation>Hebt den Kontrast des Hintergrunds und färbt ihn mit dem Bild.</translation>
+    </message>
+    <message>
+        <source>Reads the picture&apos;s colors as Lab values and shows them.</source>
+        <translation>Liest die Farben des Bildes als Lab-Werte und zeigt sie.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 25 neighbors by weights of your own.</source>
+        <translation>Berechnet jeden Bildpunkt neu aus 25 Nachbarn mit eigenen Gewichten.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 49 neighbors by weights of your own.</source>
+        <translation>Berechnet jeden Bildpunkt neu aus 49 Nachbarn mit eigenen Gewichten.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 9 neighbors in its column by weights of your own.</source>
+        <translation>Berechnet jeden Bildpunkt neu aus 9 Nachbarn seiner Spalte mit eigenen Gewichten.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 9 neighbors in its row by weights of your own.</source>
+        <translation>Berechnet jeden Bildpunkt neu aus 9 Nachbarn seiner Zeile mit eigenen Gewichten.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from its 9 neighbors by weights of your own.</source>
+        <translation>Berechnet jeden Bildpunkt neu aus 9 Nachbarn mit eigenen Gewichten.</translation>
+    </message>
+    <message>
+        <source>Redraws the picture as a comic: dark outlines, flat colors, printed dots.</source>
+        <translation>Zeichnet das Bild als Comic: dunkle Umrisse, flächige Farben, gedruckte Punkte.</translation>
+    </message>
+    <message>
+        <source>Removes single specks and keeps edges.</source>
+        <translation>Entfernt einzelne Pünktchen und erhält Kanten.</translation>
+    </message>
+    <message>
+        <source>Repaints the picture with the colors of a palette picture only.</source>
+        <translation>Malt das Bild nur mit den Farben eines Palettenbildes.</translation>
+    </message>
+    <message>
+        <source>Repeats the middle of the picture and leaves its corners as they are.</source>
+        <translation>Wiederholt die Mitte des Bildes und lässt die Ecken, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Repeats the picture on a floor that runs into the distance.</source>
+        <translation>Wiederholt das Bild auf einem Boden, der in die Ferne läuft.</translation>
+    </message>
+    <message>
+        <source>Repeats the picture without end, moved, turned or scaled.</source>
+        <translation>Wiederholt das Bild endlos, verschoben, gedreht oder skaliert.</translation>
+    </message>
+    <message>
+        <source>Replaces only what is darker or lighter than the picture allows.</source>
+        <translation>Ersetzt nur, was dunkler oder heller ist, als das Bild erlaubt.</translation>
+    </message>
+    <message>
+        <source>Replaces up to three ranges of colors by others.</source>
+        <translation>Ersetzt bis zu drei Farbbereiche durch andere Farben.</translation>
+    </message>
+    <message>
+        <source>Resizes the picture and keeps fine detail crisp.</source>
+        <translation>Ändert die Größe des Bildes und erhält feine Einzelheiten.</translation>
+    </message>
+    <message>
+        <source>Resizes the picture; two numbers decide between soft and crisp.</source>
+        <translation>Ändert die Größe des Bildes; zwei Zahlen bestimmen, ob weich oder scharf.</translation>
+    </message>
+    <message>
+        <source>Scatters random shapes over the picture: rectangles, circles, flowers, balls, lights.</source>
+        <translation>Streut zufällige Formen über das Bild: Rechtecke, Kreise, Blumen, Bälle, Lichter.</translation>
+    </message>
+    <message>
+        <source>Sets brightness, contrast and saturation.</source>
+        <translation>Stellt Helligkeit, Kontrast und Sättigung ein.</translation>
+    </message>
+    <message>
+        <source>Sharpens edges, or with a wide radius brings out local contrast.</source>
+        <translation>Schärft Kanten oder hebt, mit großem Radius, den örtlichen Kontrast.</translation>
+    </message>
+    <message>
+        <source>Sharpens light and dark only, without colored fringes.</source>
+        <translation>Schärft nur Hell und Dunkel, ohne farbige Säume.</translation>
+    </message>
+    <message>
+        <source>Shows dark in one color and light in another.</source>
+        <translation>Zeigt Dunkles in der einen und Helles in der anderen Farbe.</translation>
+    </message>
+    <message>
+        <source>Shows hard square pixels where later steps enlarge the picture.</source>
+        <translation>Zeigt harte, quadratische Bildpunkte, wo spätere Schritte das Bild vergrößern.</translation>
+    </message>
+    <message>
+        <source>Shows how differently the eye sees the colors of two pictures.</source>
+        <translation>Zeigt, wie verschieden das Auge die Farben zweier Bilder sieht.</translation>
+    </message>
+    <message>
+        <source>Shows how far each place is from the red parts of a mask.</source>
+        <translation>Zeigt, wie weit jede Stelle von den roten Teilen einer Maske entfernt ist.</translation>
+    </message>
+    <message>
+        <source>Shows how far two pictures differ, color by color.</source>
+        <translation>Zeigt, wie weit zwei Bilder Farbe für Farbe auseinanderliegen.</translation>
+    </message>
+    <message>
+        <source>Shows how much light and dark differ within reach: glowing outlines.</source>
+        <translation>Zeigt, wie weit Hell und Dunkel in der Umgebung auseinanderliegen: leuchtende Umrisse.</translation>
+    </message>
+    <message>
+        <source>Shows how steeply colors rise to the right (red) and upwards (green), over a wider reach.</source>
+        <translation>Zeigt, wie steil Farben nach rechts (rot) und oben (grün) ansteigen, über ein größeres Stück.</translation>
+    </message>
+    <message>
+        <source>Shows how steeply colors rise to the right (red) and upwards (green).</source>
+        <translation>Zeigt, wie steil Farben nach rechts (rot) und oben (grün) ansteigen.</translation>
+    </message>
+    <message>
+        <source>Shows in white what strikes the eye first.</source>
+        <translation>Zeigt weiß, was zuerst ins Auge fällt.</translation>
+    </message>
+    <message>
+        <source>Shows the difference of both pictures, softly: middle tones become gray.</source>
+        <translation>Zeigt den Unterschied beider Bilder sanft: Mittlere Töne werden grau.</translation>
+    </message>
+    <message>
+        <source>Shows the difference of both pictures: equal parts become black.</source>
+        <translation>Zeigt den Unterschied beider Bilder: Gleiches wird schwarz.</translation>
+    </message>
+    <message>
+        <source>Shows the edges in their colors, on black.</source>
+        <translation>Zeigt die Kanten in ihren Farben, auf Schwarz.</translation>
+    </message>
+    <message>
+        <source>Shows the picture in browns, like a very old photograph.</source>
+        <translation>Zeigt das Bild in Brauntönen, wie ein sehr altes Foto.</translation>
+    </message>
+    <message>
+        <source>Shows the picture in shades of one color.</source>
+        <translation>Zeigt das Bild in Abstufungen einer Farbe.</translation>
+    </message>
+    <message>
+        <source>Shows the picture on a curved surface that you turn in space.</source>
+        <translation>Zeigt das Bild auf einer gebogenen Fläche, die Sie im Raum drehen.</translation>
+    </message>
+    <message>
+        <source>Shows the picture only where the background is not.</source>
+        <translation>Zeigt das Bild nur, wo der Hintergrund nicht ist.</translation>
+    </message>
+    <message>
+        <source>Shows the picture only where the background is.</source>
+        <translation>Zeigt das Bild nur, wo der Hintergrund ist.</translation>
+    </message>
+    <message>
+        <source>Shows the picture through glass with the relief of a texture.</source>
+        <translation>Zeigt das Bild durch Glas mit dem Relief einer Struktur.</translation>
+    </message>
+    <message>
+        <source>Shows the second picture through growing round holes.</source>
+        <translation>Zeigt das zweite Bild durch wachsende runde Löcher.</translation>
+    </message>
+    <message>
+        <source>Shrinks the picture so that small bright spots survive.</source>
+        <translation>Verkleinert das Bild so, dass kleine helle Punkte erhalten bleiben.</translation>
+    </message>
+    <message>
+        <source>Slides the first picture away in bars.</source>
+        <translation>Schiebt das erste Bild in Balken weg.</translation>
+    </message>
+    <message>
+        <source>Smears the picture along a direction, as if it had moved.</source>
+        <translation>Verwischt das Bild in einer Richtung, als hätte es sich bewegt.</translation>
+    </message>
+    <message>
+        <source>Smears the picture towards a point, as if zoomed during the exposure.</source>
+        <translation>Verwischt das Bild zu einem Punkt hin, wie beim Zoomen während der Aufnahme.</translation>
+    </message>
+    <message>
+        <source>Smooths away fine noise and sharpens what is left.</source>
+        <translation>Glättet feines Rauschen und schärft, was übrig ist.</translation>
+    </message>
+    <message>
+        <source>Splits the picture into black and white at the limit that suits it best.</source>
+        <translation>Teilt das Bild an der günstigsten Grenze in Schwarz und Weiß.</translation>
+    </message>
+    <message>
+        <source>Stretches the middle of the picture and leaves its corners as they are.</source>
+        <translation>Dehnt die Mitte des Bildes und lässt die Ecken, wie sie sind.</translation>
+    </message>
+    <message>
+        <source>Strong colors, deep shadows and clear lights, like slide film.</source>
+        <translation>Kräftige Farben, tiefe Schatten und klare Lichter, wie auf Diafilm.</translation>
+    </message>
+    <message>
+        <source>Swells the picture along a line, like a fold.</source>
+        <translation>Wölbt das Bild entlang einer Linie, wie eine Falte.</translation>
+    </message>
+    <message>
+        <source>Swells the picture around a point, or dents it.</source>
+        <translation>Wölbt das Bild um einen Punkt auf oder ein.</translation>
+    </message>
+    <message>
+        <source>Takes the background&apos;s light away from the picture.</source>
+        <translation>Zieht das Licht des Hintergrunds vom Bild ab.</translation>
+    </message>
+    <message>
+        <source>The same from 25 neighbors, for colors only: opacity stays.</source>
+        <translation>Dasselbe aus 25 Nachbarn, nur für Farben: Die Deckkraft bleibt.</translation>
+    </message>
+    <message>
+        <source>The same from 49 neighbors, for colors only: opacity stays.</source>
+        <translation>Dasselbe aus 49 Nachbarn, nur für Farben: Die Deckkraft bleibt.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors in a column, for colors only: opacity stays.</source>
+        <translation>Dasselbe aus 9 Nachbarn der Spalte, nur für Farben: Die Deckkraft bleibt.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors in a row, for colors only: opacity stays.</source>
+        <translation>Dasselbe aus 9 Nachbarn der Zeile, nur für Farben: Die Deckkraft bleibt.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors, for colors only: opacity stays.</source>
+        <translation>Dasselbe aus 9 Nachbarn, nur für Farben: Die Deckkraft bleibt.</translation>
+    </message>
+    <message>
+        <source>Tints the picture as if white had another color.</source>
+        <translation>Färbt das Bild, als hätte Weiß eine andere Farbe.</translation>
+    </message>
+    <message>
+        <source>Turns a slanted quadrilateral, such as a page or a sign, into an upright rectangle.</source>
+        <translation>Macht aus einem schrägen Viereck, etwa einer Seite oder einem Schild, ein gerades Rechteck.</translation>
+    </message>
+    <message>
+        <source>Turns all colors around the color wheel.</source>
+        <translation>Dreht alle Farben um den Farbkreis.</translation>
+    </message>
+    <message>
+        <source>Turns light into dark and each color into its opposite.</source>
+        <translation>Macht aus Hell Dunkel und aus jeder Farbe ihr Gegenteil.</translation>
+    </message>
+    <message>
+        <source>Turns the first picture like a page that throws a shadow.</source>
+        <translation>Blättert das erste Bild um wie eine Seite, die Schatten wirft.</translation>
+    </message>
+    <message>
+        <source>Turns the first picture like a page.</source>
+        <translation>Blättert das erste Bild um wie eine Seite.</translation>
+    </message>
+    <message>
+        <source>Turns the picture by a small angle and enlarges it until its frame is full.</source>
+        <translation>Dreht das Bild um einen kleinen Winkel und vergrößert es, bis der Rahmen gefüllt ist.</translation>
+    </message>
+    <message>
+        <source>Turns the picture in space, as if the camera had been held otherwise.</source>
+        <translation>Dreht das Bild im Raum, als wäre die Kamera anders gehalten worden.</translation>
+    </message>
+    <message>
+        <source>Turns the picture into a pencil drawing.</source>
+        <translation>Macht aus dem Bild eine Bleistiftzeichnung.</translation>
+    </message>
+    <message>
+        <source>Turns the picture like a whirlpool, many times around its eye.</source>
+        <translation>Dreht das Bild wie ein Strudel viele Male um sein Auge.</translation>
+    </message>
+    <message>
+        <source>Twists the picture around a point, most in the middle.</source>
+        <translation>Verdreht das Bild um einen Punkt, am stärksten in der Mitte.</translation>
+    </message>
+    <message>
+        <source>Unfolds the second picture like an accordion.</source>
+        <translation>Faltet das zweite Bild auf wie ein Akkordeon.</translation>
+    </message>
+    <message>
+        <source>Warm colors and slightly open blacks, like an old transfer print.</source>
+        <translation>Warme Farben und leicht geöffnete Schwärzen, wie ein alter Umdruck.</translation>
+    </message>
+    <message>
+        <source>Winds the colors on a circle outwards into a spiral tunnel.</source>
+        <translation>Windet die Farben eines Kreises nach außen zu einem Spiraltunnel.</translation>
+    </message>
+    <message>
+        <source>Wipes the second picture over the first.</source>
+        <translation>Wischt das zweite Bild über das erste.</translation>
+    </message>
+    <message>
+        <source>Wraps the picture around a solid such as a cube or a ball, which you turn.</source>
+        <translation>Legt das Bild um einen Körper wie Würfel oder Kugel, den Sie drehen.</translation>
+    </message>
+    <message>
+        <source>Writes a text in several fonts and colors over the picture.</source>
+        <translation>Schreibt einen Text in mehreren Schriften und Farben über das Bild.</translation>
+    </message>
+    <message>
+        <source>Writes a text over the picture.</source>
+        <translation>Schreibt einen Text über das Bild.</translation>
+    </message>
+    <message>
+        <source>Writes the picture&apos;s colors as Lab values: lightness, green to red, blue to yellow.</source>
+        <translation>Schreibt die Farben des Bildes als Lab-Werte: Helligkeit, Grün bis Rot, Blau bis Gelb.</translation>
+    </message>
+</context>
+<context>
+    <name>FilterList</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+    <message>
+        <source>Recently Used</source>
+        <translation>Zuletzt benutzt</translation>
+    </message>
+    <message>
+        <source>Looks and Effects</source>
+        <translation>Looks und Effekte</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Gefunden</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Nothing found. Nearest:</source>
+        <translation>Nichts gefunden. Am nächsten:</translation>
+    </message>
+</context>
+<context>
     <name>FilterOptions</name>
     <message>
         <source>Standard values are made for small pictures. Start filters with values that fit this one?</source>
@@ -2392,6 +3429,969 @@
     <message>
         <source>Always Fit</source>
         <translation>Immer anpassen</translation>
+    </message>
+</context>
+<context>
+    <name>FilterSearchWords</name>
+    <message>
+        <source>3d, cube, sphere, ball, globe, cylinder, cone, pyramid, ring, object, texture, planet, box</source>
+        <translation>3d, würfel, kugel, ball, globus, zylinder, kegel, pyramide, ring, körper, planet</translation>
+    </message>
+    <message>
+        <source>3d, surface, curved, flag, bend, paper, rotate, tilt, page</source>
+        <translation>3d, fläche, gebogen, fahne, biegen, papier, drehen, kippen, seite</translation>
+    </message>
+    <message>
+        <source>add, dodge, lighten, blend mode, glow</source>
+        <translation>addieren, abwedeln, aufhellen, füllmethode, leuchten</translation>
+    </message>
+    <message>
+        <source>add, plus, sum, lighter, double exposure, blend</source>
+        <translation>addieren, summe, heller, doppelbelichtung, mischen</translation>
+    </message>
+    <message>
+        <source>aspect ratio, widescreen, stretch, fit, 16:9, format</source>
+        <translation>seitenverhältnis, format, breitbild, dehnen, anpassen, 16:9</translation>
+    </message>
+    <message>
+        <source>attention, eye catcher, saliency, subject, mask, analysis</source>
+        <translation>blickfang, aufmerksamkeit, motiv, maske, analyse</translation>
+    </message>
+    <message>
+        <source>average color, mean, reduce, statistics</source>
+        <translation>durchschnitt, mittelwert, mittlere farbe, statistik</translation>
+    </message>
+    <message>
+        <source>average, mean, columns, profile, statistics</source>
+        <translation>durchschnitt, mittelwert, spalten, profil, statistik</translation>
+    </message>
+    <message>
+        <source>average, mean, rows, profile, statistics</source>
+        <translation>durchschnitt, mittelwert, zeilen, profil, statistik</translation>
+    </message>
+    <message>
+        <source>aztec code, barcode, ticket, 2d code, matrix code</source>
+        <translation>aztec-code, barcode, fahrkarte, 2d-code</translation>
+    </message>
+    <message>
+        <source>barcode, bar code, strip code, label, parcel, code 128</source>
+        <translation>strichcode, barcode, paket, etikett, code 128</translation>
+    </message>
+    <message>
+        <source>barcode, boarding pass, pdf417, stacked code, ticket, id card</source>
+        <translation>barcode, strichcode, bordkarte, pdf417, stapelcode, fahrkarte, ausweis</translation>
+    </message>
+    <message>
+        <source>bars, blinds, strips, slide, transition</source>
+        <translation>balken, jalousie, streifen, schieben, übergang</translation>
+    </message>
+    <message>
+        <source>black and white, film noir, dramatic, high contrast, monochrome, grayscale, bw, gray, dark, desaturate, look</source>
+        <translation>schwarzweiß, schwarz-weiß, dramatisch, hoher kontrast, graustufen, sw, grau, dunkel, entsättigen, look</translation>
+    </message>
+    <message>
+        <source>black and white, grayscale, desaturate, gray, bw, monochrome, remove color, neutral, colorless, look</source>
+        <translation>schwarzweiß, schwarz-weiß, graustufen, entsättigen, grau, sw, farbe entfernen, farblos, look</translation>
+    </message>
+    <message>
+        <source>black and white, monochrome, grayscale, gray, bw, desaturate, soft, film, look</source>
+        <translation>schwarzweiß, schwarz-weiß, graustufen, grau, sw, entsättigen, monochrom, film, look</translation>
+    </message>
+    <message>
+        <source>blend, double exposure, fade, opacity, combine, two pictures, crossfade, overlay</source>
+        <translation>mischen, überblenden, doppelbelichtung, deckkraft, zwei bilder, verbinden</translation>
+    </message>
+    <message>
+        <source>blur, soften, soft, smooth, unsharp, blurry, background blur, hide detail</source>
+        <translation>weichzeichnen, unschärfe, unscharf, weich, verwischen, verschwommen, hintergrund unscharf</translation>
+    </message>
+    <message>
+        <source>bokeh, lens blur, out of focus, blur, defocus, background blur, portrait, light discs</source>
+        <translation>bokeh, unscharf, weichzeichnen, hintergrund unscharf, porträt, lichtkreise, unschärfe</translation>
+    </message>
+    <message>
+        <source>bounding box, bounds, red, find, mask</source>
+        <translation>umgebendes rechteck, grenzen, rot, finden, maske</translation>
+    </message>
+    <message>
+        <source>brightness, contrast, saturation, color, brighten, lighten, darken, desaturate, colorful, adjust, enhance, improve</source>
+        <translation>helligkeit, kontrast, sättigung, farbe, aufhellen, abdunkeln, entsättigen, farbig, heller, dunkler, verbessern</translation>
+    </message>
+    <message>
+        <source>bulge, fisheye, magnify, swell, lens, big nose, fish eye</source>
+        <translation>wölben, beule, fischauge, vergrößern, lupe, blähen, knollennase</translation>
+    </message>
+    <message>
+        <source>bulge, fold, crease, ridge</source>
+        <translation>falte, wölben, beule, knick</translation>
+    </message>
+    <message>
+        <source>burn, darken, blend mode, contrast</source>
+        <translation>nachbelichten, abdunkeln, füllmethode, kontrast</translation>
+    </message>
+    <message>
+        <source>burn, darken, blend mode, subtract</source>
+        <translation>nachbelichten, abdunkeln, füllmethode, abziehen</translation>
+    </message>
+    <message>
+        <source>cartoon, comic, manga, toon, drawing, illustration, anime, graphic novel</source>
+        <translation>comic, zeichentrick, cartoon, manga, zeichnung, illustration</translation>
+    </message>
+    <message>
+        <source>channel mixer, formula, coefficients, color mixing, cross process</source>
+        <translation>kanalmixer, formel, koeffizienten, farben mischen, crossentwicklung</translation>
+    </message>
+    <message>
+        <source>channel mixer, swap channels, opacity, transparency, matrix, color channels, fade out, bgr</source>
+        <translation>kanalmixer, kanäle tauschen, deckkraft, transparenz, durchsichtig, matrix, farbkanäle</translation>
+    </message>
+    <message>
+        <source>chess, checkers, checkerboard, squares, pattern, chequered, transparency grid</source>
+        <translation>schachbrett, karo, quadrate, muster, kariert</translation>
+    </message>
+    <message>
+        <source>clip, limit, clamp, range, levels, cut off</source>
+        <translation>begrenzen, beschneiden, bereich, tonwerte</translation>
+    </message>
+    <message>
+        <source>clipping mask, on top, overlay, composite</source>
+        <translation>schnittmaske, darüber, überlagern, montage</translation>
+    </message>
+    <message>
+        <source>color wheel, rainbow, hues, spectrum, color circle, color picker</source>
+        <translation>farbkreis, farbrad, regenbogen, farbtöne, spektrum</translation>
+    </message>
+    <message>
+        <source>colorize, blend mode, hue, saturation, tint</source>
+        <translation>einfärben, füllmethode, farbton, sättigung</translation>
+    </message>
+    <message>
+        <source>compare, difference, delta e, color difference, analysis</source>
+        <translation>vergleichen, unterschied, farbabstand, delta e, analyse</translation>
+    </message>
+    <message>
+        <source>copier, scanner, light bar, scan, transition</source>
+        <translation>kopierer, scanner, lichtbalken, übergang</translation>
+    </message>
+    <message>
+        <source>crop, cut, trim, cut out</source>
+        <translation>zuschneiden, beschneiden, freistellen, ausschnitt, abschneiden</translation>
+    </message>
+    <message>
+        <source>cross process, cool, cold, blue, green, lomo, film, look, retro, teal</source>
+        <translation>crossentwicklung, kühl, kalt, blau, grün, lomo, film, look, retro</translation>
+    </message>
+    <message>
+        <source>curve, curves, contrast, levels, gradation, shadows, highlights, midtones, black point, s-curve</source>
+        <translation>kurve, gradationskurve, gradation, kontrast, tonwerte, schatten, lichter, mitteltöne, schwarzpunkt</translation>
+    </message>
+    <message>
+        <source>curves, rgb curves, gradation, color curves, levels, tone</source>
+        <translation>kurven, gradation, farbkurven, tonwerte, gradationskurve</translation>
+    </message>
+    <message>
+        <source>darker, blend mode, minimum</source>
+        <translation>dunkler, abdunkeln, füllmethode, minimum</translation>
+    </message>
+    <message>
+        <source>darkest, dark gray, grayscale, black and white</source>
+        <translation>dunkelste farbe, dunkelgrau, graustufen, schwarzweiß</translation>
+    </message>
+    <message>
+        <source>denoise, noise reduction, reduce noise, grain removal, smooth skin, skin, iso noise, clean, high iso</source>
+        <translation>entrauschen, rauschen, rauschen entfernen, haut glätten, haut, körnung entfernen, säubern</translation>
+    </message>
+    <message>
+        <source>depth map, disparity, convert, stereo, 3d</source>
+        <translation>tiefenkarte, disparität, umwandeln, stereo, 3d</translation>
+    </message>
+    <message>
+        <source>difference, compare, blend mode, invert</source>
+        <translation>unterschied, differenz, vergleichen, füllmethode</translation>
+    </message>
+    <message>
+        <source>difference, compare, subtract, spot the difference, changes, analysis</source>
+        <translation>unterschied, differenz, vergleichen, abziehen, änderungen, analyse</translation>
+    </message>
+    <message>
+        <source>dilate, grow, expand, thicken, blocks, morphology</source>
+        <translation>aufweiten, wachsen, verdicken, blöcke, morphologie</translation>
+    </message>
+    <message>
+        <source>dilate, grow, expand, thicken, bright spots, morphology, paint, oil painting</source>
+        <translation>aufweiten, wachsen, verdicken, helle flecken, morphologie, malerei, ölgemälde</translation>
+    </message>
+    <message>
+        <source>displace, displacement map, glitch, ripple, texture, wobble, warp, water</source>
+        <translation>verschieben, versetzen, störung, wellen, struktur, wasser</translation>
+    </message>
+    <message>
+        <source>distance, glow outline, feather, mask, distance field</source>
+        <translation>abstand, entfernung, umriss, maske</translation>
+    </message>
+    <message>
+        <source>divide, flat field, blend mode, brighten</source>
+        <translation>teilen, dividieren, füllmethode, aufhellen</translation>
+    </message>
+    <message>
+        <source>dodge, lighten, brighten, blend mode, glow</source>
+        <translation>abwedeln, aufhellen, füllmethode, leuchten</translation>
+    </message>
+    <message>
+        <source>droste, spiral, recursion, picture in picture, infinity, endless</source>
+        <translation>droste, spirale, bild im bild, unendlich, endlos, rekursion</translation>
+    </message>
+    <message>
+        <source>duotone, two colors, colorize, false color, tint, pop art, bicolor, split tone</source>
+        <translation>duplex, duoton, zwei farben, einfärben, falschfarben, zweifarbig, pop-art</translation>
+    </message>
+    <message>
+        <source>edges, edge detection, outline, contour, line drawing, find edges, trace</source>
+        <translation>kanten, kantenerkennung, umriss, kontur, strichzeichnung</translation>
+    </message>
+    <message>
+        <source>emboss, relief, metal, 3d, chrome, material, plastic, bevel, stone</source>
+        <translation>prägen, relief, metall, 3d, chrom, material, kunststoff, stein</translation>
+    </message>
+    <message>
+        <source>erode, shrink, thin, blocks, morphology</source>
+        <translation>abtragen, schrumpfen, verdünnen, blöcke, morphologie</translation>
+    </message>
+    <message>
+        <source>erode, shrink, thin, dark spots, morphology, paint, oil painting</source>
+        <translation>abtragen, schrumpfen, verdünnen, dunkle flecken, morphologie, malerei, ölgemälde</translation>
+    </message>
+    <message>
+        <source>exclusion, difference, blend mode, soft</source>
+        <translation>ausschluss, unterschied, füllmethode, sanft</translation>
+    </message>
+    <message>
+        <source>exposure, brightness, brighten, lighten, darken, too dark, too bright, underexposed, overexposed, ev, light</source>
+        <translation>belichtung, helligkeit, aufhellen, abdunkeln, heller, dunkler, zu dunkel, zu hell, unterbelichtet, überbelichtet, licht</translation>
+    </message>
+    <message>
+        <source>extend edges, stretched edges, smear, endless</source>
+        <translation>rand fortsetzen, randpunkte, verschmieren, endlos</translation>
+    </message>
+    <message>
+        <source>extend edges, stretched edges, smear, extend canvas</source>
+        <translation>rand fortsetzen, randpunkte, verschmieren, leinwand erweitern</translation>
+    </message>
+    <message>
+        <source>fade, crossfade, dissolve, transition</source>
+        <translation>überblenden, auflösen, übergang</translation>
+    </message>
+    <message>
+        <source>faded, vintage, old photo, pale, retro, washed out, matte, film, look, faded film</source>
+        <translation>verblasst, altes foto, blass, vintage, retro, ausgewaschen, matt, film, look</translation>
+    </message>
+    <message>
+        <source>fill, solid color, one color, plain, background</source>
+        <translation>füllen, farbfläche, eine farbe, einfarbig, hintergrund</translation>
+    </message>
+    <message>
+        <source>find edges, edge detection, neon, outline, contour, glowing edges</source>
+        <translation>kanten finden, kantenerkennung, neon, umriss, kontur, leuchtende kanten</translation>
+    </message>
+    <message>
+        <source>flare, lens flare, star, sun, spikes, starburst, light</source>
+        <translation>lichtreflex, blendenfleck, stern, sonne, zacken, licht</translation>
+    </message>
+    <message>
+        <source>flash, burst, sun, light, transition</source>
+        <translation>blitz, sonne, licht, übergang</translation>
+    </message>
+    <message>
+        <source>floor, perspective, tile, horizon, repeat, 3d, ground</source>
+        <translation>boden, fußboden, perspektive, kacheln, horizont, wiederholen, 3d</translation>
+    </message>
+    <message>
+        <source>fold, accordion, transition, leporello</source>
+        <translation>falten, akkordeon, ziehharmonika, übergang, leporello</translation>
+    </message>
+    <message>
+        <source>formula, curve, levels, coefficients, cubic, tone</source>
+        <translation>formel, kurve, tonwerte, koeffizienten</translation>
+    </message>
+    <message>
+        <source>frame, border, outline, rounded corners, rectangle, line, box, edge</source>
+        <translation>rahmen, rand, umrandung, bilderrahmen, runde ecken, rechteck, linie</translation>
+    </message>
+    <message>
+        <source>frosted glass, glass, rain, bathroom window, water, texture, relief</source>
+        <translation>milchglas, glas, regen, badfenster, wasser, struktur, relief</translation>
+    </message>
+    <message>
+        <source>gamma, midtones, brighten, lighten, darken, brightness, tone</source>
+        <translation>gamma, mitteltöne, aufhellen, abdunkeln, helligkeit</translation>
+    </message>
+    <message>
+        <source>gloomy, dark, moody, mist, fog, sad, dull, soft</source>
+        <translation>düster, dunkel, trüb, nebel, schleier, traurig, weich</translation>
+    </message>
+    <message>
+        <source>glow, dreamy, bloom, soft light, soft focus, shine, halo, orton, romantic, haze, diffuse</source>
+        <translation>leuchten, verträumt, glühen, weiches licht, schein, strahlen, romantisch, dunst</translation>
+    </message>
+    <message>
+        <source>gradient map, colorize, tone map, duotone, tritone, map, recolor</source>
+        <translation>verlaufsumsetzung, einfärben, duplex, farbtabelle, umfärben</translation>
+    </message>
+    <message>
+        <source>gradient, color gradient, fade, blend of colors, background, sky</source>
+        <translation>verlauf, farbverlauf, übergang, hintergrund, himmel</translation>
+    </message>
+    <message>
+        <source>gradient, radial, circle, spot, background, round</source>
+        <translation>verlauf, radial, kreis, fleck, hintergrund, rund</translation>
+    </message>
+    <message>
+        <source>gradient, slope, edges, edge detection, analysis, normal map</source>
+        <translation>steigung, gefälle, kanten, kantenerkennung, analyse</translation>
+    </message>
+    <message>
+        <source>gradient, slope, edges, texture, analysis</source>
+        <translation>steigung, gefälle, kanten, struktur, analyse</translation>
+    </message>
+    <message>
+        <source>gradient, soft gradient, smooth, fade, background</source>
+        <translation>verlauf, farbverlauf, weicher verlauf, sanft, hintergrund</translation>
+    </message>
+    <message>
+        <source>gradient, soft spot, glow, radial, circle, fade</source>
+        <translation>verlauf, weicher fleck, schein, kreis, rund</translation>
+    </message>
+    <message>
+        <source>grain, film grain, noise, add noise, banding, dither, analog, iso</source>
+        <translation>korn, filmkorn, rauschen, körnung, rauschen hinzufügen, streifen, analog</translation>
+    </message>
+    <message>
+        <source>grid, mesh, lines, net, wireframe</source>
+        <translation>gitter, netz, linien, drahtgitter</translation>
+    </message>
+    <message>
+        <source>guided filter, refine mask, edges, smoothing, matting</source>
+        <translation>leitbild, maske verfeinern, kanten, glätten</translation>
+    </message>
+    <message>
+        <source>halftone, print, newspaper, magazine, cmyk, ink dots, offset, pop art, comic dots</source>
+        <translation>raster, rasterdruck, zeitung, zeitschrift, vierfarbdruck, druck, farbpunkte, pop-art</translation>
+    </message>
+    <message>
+        <source>halo, ring of light, lens flare, lamp, corona, rainbow ring, glow</source>
+        <translation>halo, lichtring, lichthof, blendenfleck, lampe, regenbogen, heiligenschein</translation>
+    </message>
+    <message>
+        <source>hard light, contrast, blend mode</source>
+        <translation>hartes licht, kontrast, füllmethode</translation>
+    </message>
+    <message>
+        <source>hatching, crosshatch, engraving, etching, banknote, halftone, lines</source>
+        <translation>schraffur, kreuzschraffur, kupferstich, radierung, banknote, raster, linien</translation>
+    </message>
+    <message>
+        <source>hdr, tone mapping, high dynamic range, highlights, headroom, compress lights</source>
+        <translation>hdr, dynamikumfang, lichter, tonwertkompression</translation>
+    </message>
+    <message>
+        <source>heat map, thermal, infrared, heat camera, thermography, heat vision</source>
+        <translation>wärmebild, thermografie, infrarot, hitze, wärmebildkamera</translation>
+    </message>
+    <message>
+        <source>height map, bevel, relief, emboss, bump map, depth, 3d text</source>
+        <translation>höhenkarte, relief, prägen, kante, tiefe</translation>
+    </message>
+    <message>
+        <source>hilbert curve, maze, labyrinth, fractal, space filling, circuit, lines</source>
+        <translation>hilbert-kurve, irrgarten, labyrinth, fraktal, schaltkreis, linien</translation>
+    </message>
+    <message>
+        <source>histogram, chart, graph, diagram, distribution</source>
+        <translation>histogramm, diagramm, grafik, verteilung</translation>
+    </message>
+    <message>
+        <source>histogram, count, statistics, distribution, analysis</source>
+        <translation>histogramm, zählen, statistik, verteilung, analyse</translation>
+    </message>
+    <message>
+        <source>histogram, hdr, stops, exposure, statistics</source>
+        <translation>histogramm, hdr, blendenstufen, belichtung, statistik</translation>
+    </message>
+    <message>
+        <source>hole, black hole, gap, push away</source>
+        <translation>loch, schwarzes loch, öffnung</translation>
+    </message>
+    <message>
+        <source>holes, dots, bubbles, circles, transition</source>
+        <translation>löcher, punkte, blasen, kreise, übergang</translation>
+    </message>
+    <message>
+        <source>honeycomb, hexagon, mosaic, pixel, tiles, censor</source>
+        <translation>wabe, sechseck, mosaik, pixel, kacheln, unkenntlich</translation>
+    </message>
+    <message>
+        <source>hue, change colors, color shift, shift colors, rotate colors, psychedelic, recolor</source>
+        <translation>farbton, farben ändern, farben verschieben, umfärben, psychedelisch</translation>
+    </message>
+    <message>
+        <source>hue, recolor, blend mode</source>
+        <translation>farbton, umfärben, füllmethode</translation>
+    </message>
+    <message>
+        <source>kaleidoscope, mirror, mandala, symmetry, star, snowflake</source>
+        <translation>kaleidoskop, spiegeln, mandala, symmetrie, stern, schneeflocke</translation>
+    </message>
+    <message>
+        <source>kaleidoscope, mirror, triangle, symmetry, fade, pattern</source>
+        <translation>kaleidoskop, spiegeln, dreieck, symmetrie, muster</translation>
+    </message>
+    <message>
+        <source>kernel, column, custom filter, weights</source>
+        <translation>faltung, spalte, eigener filter, gewichte</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, custom filter, weights</source>
+        <translation>faltung, matrix, eigener filter, gewichte</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, custom filter, weights, emboss</source>
+        <translation>faltung, matrix, eigener filter, gewichte, prägen</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, emboss, sharpen, custom filter, weights, edge</source>
+        <translation>faltung, matrix, prägen, schärfen, eigener filter, gewichte, kanten</translation>
+    </message>
+    <message>
+        <source>kernel, row, custom filter, weights</source>
+        <translation>faltung, zeile, eigener filter, gewichte</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, converging lines, buildings, architecture, straighten</source>
+        <translation>stürzende linien, trapez, entzerren, perspektive, gebäude, architektur</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, converging lines, facade, straighten</source>
+        <translation>trapez, entzerren, perspektive, fluchtlinien, fassade</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, falling lines, converging lines, buildings, architecture, tower, straighten</source>
+        <translation>stürzende linien, trapez, entzerren, perspektive, gebäude, architektur, turm</translation>
+    </message>
+    <message>
+        <source>lab, cielab, color space, convert</source>
+        <translation>lab, cielab, farbraum, umwandeln</translation>
+    </message>
+    <message>
+        <source>lab, cielab, color space, convert, analysis</source>
+        <translation>lab, cielab, farbraum, umwandeln, analyse</translation>
+    </message>
+    <message>
+        <source>lens blur, out of focus, blur, defocus, bokeh, disc</source>
+        <translation>unscharf, unschärfe, weichzeichnen, bokeh, scheibe</translation>
+    </message>
+    <message>
+        <source>lighter, blend mode, maximum, fireworks, star trails</source>
+        <translation>heller, aufhellen, füllmethode, maximum, feuerwerk, sternspuren</translation>
+    </message>
+    <message>
+        <source>lightest, bright gray, grayscale, black and white, value</source>
+        <translation>hellste farbe, hellgrau, graustufen, schwarzweiß</translation>
+    </message>
+    <message>
+        <source>linear light, contrast, blend mode</source>
+        <translation>lineares licht, kontrast, füllmethode</translation>
+    </message>
+    <message>
+        <source>lines, engraving, etching, banknote, halftone, scan lines, woodcut</source>
+        <translation>linien, kupferstich, radierung, banknote, raster, holzschnitt</translation>
+    </message>
+    <message>
+        <source>lines, rays, burst, beams, starburst, speed lines</source>
+        <translation>linien, strahlen, bündel, strahlenkranz</translation>
+    </message>
+    <message>
+        <source>luminosity, lightness, blend mode</source>
+        <translation>luminanz, helligkeit, füllmethode</translation>
+    </message>
+    <message>
+        <source>lut, color grading, color lookup, cube, 3d lut, look up table, grade</source>
+        <translation>lut, farbkorrektur, farbtabelle, farbraum</translation>
+    </message>
+    <message>
+        <source>lut, color grading, color lookup, cube, film look, 3d lut, look up table, grade, cinematic</source>
+        <translation>lut, farbkorrektur, farbtabelle, filmlook, kino, farblook</translation>
+    </message>
+    <message>
+        <source>magnifier, glass, lens, bar, rod, loupe</source>
+        <translation>lupe, glas, linse, stab, vergrößerungsglas</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, combine, blue</source>
+        <translation>maske, überblenden, hintergrund, montage, verbinden, blau</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, combine, red</source>
+        <translation>maske, überblenden, hintergrund, montage, verbinden, rot</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, cut out, combine, alpha, replace background</source>
+        <translation>maske, überblenden, hintergrund, freistellen, montage, verbinden, hintergrund ersetzen</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, cut out, combine, replace background, layer mask</source>
+        <translation>maske, überblenden, hintergrund, freistellen, montage, verbinden, hintergrund ersetzen</translation>
+    </message>
+    <message>
+        <source>mask, cut out, intersect, inside, composite</source>
+        <translation>maske, ausschneiden, schnittmenge, innen, montage</translation>
+    </message>
+    <message>
+        <source>mask, cut out, outside, punch out, composite</source>
+        <translation>maske, ausschneiden, außen, ausstanzen, montage</translation>
+    </message>
+    <message>
+        <source>mask, dissolve, crumble, disintegrate, transition</source>
+        <translation>maske, auflösen, zerfallen, übergang</translation>
+    </message>
+    <message>
+        <source>maximum, brightest, lightest, statistics</source>
+        <translation>maximum, größter wert, hellste stelle, statistik</translation>
+    </message>
+    <message>
+        <source>maximum, lighter, lighten, blend</source>
+        <translation>maximum, heller, aufhellen, mischen</translation>
+    </message>
+    <message>
+        <source>maximum, opaque, opacity, alpha, statistics</source>
+        <translation>maximum, deckend, deckkraft, alpha, statistik</translation>
+    </message>
+    <message>
+        <source>minimum, darker, darken, blend</source>
+        <translation>minimum, dunkler, abdunkeln, mischen</translation>
+    </message>
+    <message>
+        <source>minimum, darkest, statistics</source>
+        <translation>minimum, kleinster wert, dunkelste stelle, statistik</translation>
+    </message>
+    <message>
+        <source>minimum, maximum, range, contrast, statistics</source>
+        <translation>minimum, maximum, bereich, kontrast, statistik</translation>
+    </message>
+    <message>
+        <source>minimum, maximum, range, red, statistics</source>
+        <translation>minimum, maximum, bereich, rot, statistik</translation>
+    </message>
+    <message>
+        <source>minimum, transparent, opacity, alpha, statistics</source>
+        <translation>minimum, durchsichtig, deckkraft, alpha, statistik</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, hexagon, tile, snowflake, symmetry</source>
+        <translation>spiegeln, muster, kaleidoskop, sechseck, kacheln, schneeflocke, symmetrie</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, tile, symmetry, star, rosette</source>
+        <translation>spiegeln, muster, kaleidoskop, kacheln, symmetrie, stern, rosette</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, tile, symmetry, wallpaper, ornament</source>
+        <translation>spiegeln, muster, kaleidoskop, kacheln, symmetrie, tapete, ornament</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, tile, symmetry, wallpaper, reflect, ornament</source>
+        <translation>spiegeln, muster, kacheln, symmetrie, tapete, ornament</translation>
+    </message>
+    <message>
+        <source>monochrome, tint, colorize, one color, cyanotype, toned, blue tint, duotone</source>
+        <translation>einfarbig, monochrom, tönen, einfärben, eine farbe, cyanotypie, blauton</translation>
+    </message>
+    <message>
+        <source>motion, speed, movement, blur, panning, camera shake, directional blur</source>
+        <translation>bewegung, geschwindigkeit, tempo, verwischen, mitziehen, verwackeln, bewegungsunschärfe</translation>
+    </message>
+    <message>
+        <source>multiply, darken, blend, mask</source>
+        <translation>multiplizieren, abdunkeln, mischen, maske</translation>
+    </message>
+    <message>
+        <source>multiply, darken, shadow, slide, blend mode, texture</source>
+        <translation>multiplizieren, abdunkeln, schatten, dia, füllmethode, struktur</translation>
+    </message>
+    <message>
+        <source>nearest neighbor, hard pixels, pixel art, no smoothing, enlarge</source>
+        <translation>nächster nachbar, harte pixel, pixelkunst, ohne glättung, vergrößern</translation>
+    </message>
+    <message>
+        <source>negative, invert, inverse, reverse colors, film negative, opposite</source>
+        <translation>negativ, invertieren, umkehren, farben umkehren, filmnegativ</translation>
+    </message>
+    <message>
+        <source>newspaper, halftone, dots, newsprint, print, raster, black and white dots</source>
+        <translation>zeitung, raster, punkte, zeitungsdruck, druck</translation>
+    </message>
+    <message>
+        <source>noise, random, static, color noise, snow, tv snow, texture, grain</source>
+        <translation>rauschen, zufall, farbrauschen, fernsehschnee, schnee, struktur</translation>
+    </message>
+    <message>
+        <source>op art, tiles, optical art, mosaic, squares, pattern</source>
+        <translation>op-art, kacheln, mosaik, quadrate, muster</translation>
+    </message>
+    <message>
+        <source>outline, edges, neon, contour, morphology</source>
+        <translation>umriss, kanten, neon, kontur, morphologie</translation>
+    </message>
+    <message>
+        <source>overlay, contrast, texture, blend mode</source>
+        <translation>überlagern, ineinanderkopieren, kontrast, struktur, füllmethode</translation>
+    </message>
+    <message>
+        <source>overlay, on top, layer, normal, composite, watermark</source>
+        <translation>überlagern, darüber, ebene, normal, montage, wasserzeichen</translation>
+    </message>
+    <message>
+        <source>page, turn page, book, curl, shadow, transition</source>
+        <translation>seite, umblättern, buch, einrollen, schatten, übergang</translation>
+    </message>
+    <message>
+        <source>page, turn page, book, curl, transition</source>
+        <translation>seite, umblättern, buch, einrollen, übergang</translation>
+    </message>
+    <message>
+        <source>palette, center of color, color position, analysis, tracking</source>
+        <translation>palette, schwerpunkt, farbort, analyse</translation>
+    </message>
+    <message>
+        <source>palette, main colors, dominant colors, color scheme, clusters</source>
+        <translation>palette, hauptfarben, farbschema, gruppen</translation>
+    </message>
+    <message>
+        <source>palette, reduce colors, limited colors, 8 bit, retro game, indexed color, gif, pixel art</source>
+        <translation>palette, farben verringern, wenige farben, indizierte farben, pixelkunst, gif</translation>
+    </message>
+    <message>
+        <source>patchwork, patches, camouflage, blotches, quilt, texture</source>
+        <translation>flickwerk, patchwork, flecken, tarnmuster, struktur</translation>
+    </message>
+    <message>
+        <source>pattern, hexagon, rotate, tile, symmetry, ornament</source>
+        <translation>muster, sechseck, drehen, kacheln, symmetrie, ornament</translation>
+    </message>
+    <message>
+        <source>pattern, mirror, tile, slanted, zigzag, wallpaper</source>
+        <translation>muster, spiegeln, kacheln, schräg, zickzack, tapete</translation>
+    </message>
+    <message>
+        <source>pattern, mirror, tile, wallpaper, footprints, frieze, ornament</source>
+        <translation>muster, spiegeln, kacheln, tapete, fries, ornament</translation>
+    </message>
+    <message>
+        <source>pattern, repeat, tile, wallpaper, ornament</source>
+        <translation>muster, wiederholen, kacheln, tapete, ornament</translation>
+    </message>
+    <message>
+        <source>pattern, rotate, tile, symmetry, wallpaper, pinwheel, ornament</source>
+        <translation>muster, drehen, kacheln, symmetrie, tapete, windrad, ornament</translation>
+    </message>
+    <message>
+        <source>pencil, sketch, drawing, pencil drawing, hand drawn, graphite, draw</source>
+        <translation>bleistift, skizze, zeichnung, bleistiftzeichnung, handgezeichnet, zeichnen</translation>
+    </message>
+    <message>
+        <source>pencil, sketch, line drawing, drawing, outline, ink, coloring page, contour, charcoal</source>
+        <translation>bleistift, skizze, strichzeichnung, zeichnung, umriss, tusche, ausmalbild, kontur, kohle</translation>
+    </message>
+    <message>
+        <source>perspective, corners, distort, 3d, part</source>
+        <translation>perspektive, ecken, verzerren, 3d, ausschnitt</translation>
+    </message>
+    <message>
+        <source>perspective, corners, distort, 3d, skew, mockup, billboard</source>
+        <translation>perspektive, ecken, verzerren, 3d, plakat, schräg</translation>
+    </message>
+    <message>
+        <source>perspective, straighten, scan, whiteboard, document, deskew, unwarp, rectify</source>
+        <translation>entzerren, perspektive, gerade rücken, scannen, tafel, dokument, schild</translation>
+    </message>
+    <message>
+        <source>pin light, replace, blend mode</source>
+        <translation>punktuelles licht, ersetzen, füllmethode</translation>
+    </message>
+    <message>
+        <source>pinch, squeeze, shrink, slim, suck in</source>
+        <translation>kneifen, zusammenziehen, stauchen, schrumpfen, schlanker</translation>
+    </message>
+    <message>
+        <source>pixelate, mosaic, pixel art, censor, hide face, pixel, 8 bit, blocks, anonymize, retro game</source>
+        <translation>verpixeln, mosaik, pixelkunst, zensieren, pixel, gesicht unkenntlich, unkenntlich, klötzchen, anonymisieren</translation>
+    </message>
+    <message>
+        <source>plasma, clouds, psychedelic, colorful, waves, disco, hippie, tie dye</source>
+        <translation>plasma, wolken, psychedelisch, bunt, wellen, disco, batik</translation>
+    </message>
+    <message>
+        <source>pointillism, impressionism, painting, dots, paint, brush, art, oil painting, watercolor</source>
+        <translation>pointillismus, impressionismus, gemälde, tupfen, malen, pinsel, kunst, ölgemälde, aquarell</translation>
+    </message>
+    <message>
+        <source>polaroid, instant camera, retro, vintage, old photo, film, look, seventies, 70s</source>
+        <translation>sofortbild, polaroid, retro, vintage, altes foto, film, look, siebziger</translation>
+    </message>
+    <message>
+        <source>poster, posterize, pop art, flat colors, reduce colors, levels, screen print, banding</source>
+        <translation>plakat, poster, tontrennung, pop-art, farben verringern, flächig, siebdruck, stufen</translation>
+    </message>
+    <message>
+        <source>qr code, qr, barcode, link, web address, url, 2d code, scan code</source>
+        <translation>qr-code, qr, barcode, link, internetadresse, url, 2d-code</translation>
+    </message>
+    <message>
+        <source>remove specks, denoise, despeckle, dust, salt and pepper, noise, scratches, clean</source>
+        <translation>flecken entfernen, entrauschen, staub, kratzer, rauschen, säubern, pünktchen</translation>
+    </message>
+    <message>
+        <source>repeat, nine patch, 9-slice, frame, corners, tile</source>
+        <translation>wiederholen, rahmen, ecken, kacheln</translation>
+    </message>
+    <message>
+        <source>repeat, pattern, tile, wallpaper, seamless, step and repeat</source>
+        <translation>wiederholen, muster, kacheln, tapete, nahtlos</translation>
+    </message>
+    <message>
+        <source>replace color, change color, selective color, color swap, recolor, poster, posterize</source>
+        <translation>farbe ersetzen, farbe ändern, selektive farbe, umfärben, farbtausch, plakat</translation>
+    </message>
+    <message>
+        <source>resize, scale, enlarge, shrink, downscale, upscale, size, thumbnail</source>
+        <translation>größe ändern, skalieren, vergrößern, verkleinern, größe, vorschaubild</translation>
+    </message>
+    <message>
+        <source>resize, scale, enlarge, shrink, upscale, interpolation</source>
+        <translation>größe ändern, skalieren, vergrößern, verkleinern, hochrechnen</translation>
+    </message>
+    <message>
+        <source>resize, scale, shrink, stars, bright spots</source>
+        <translation>größe ändern, skalieren, verkleinern, sterne, helle punkte</translation>
+    </message>
+    <message>
+        <source>ring, glass, lens, donut, torus, magnifier, water drop</source>
+        <translation>ring, glas, linse, reifen, lupe, wassertropfen</translation>
+    </message>
+    <message>
+        <source>rings, halftone, circles, engraving, screen print</source>
+        <translation>ringe, raster, kreise, stich</translation>
+    </message>
+    <message>
+        <source>rosette, spirograph, ellipses, guilloche, flower, pattern, ornament</source>
+        <translation>rosette, spirograf, ellipsen, guilloche, blume, muster, ornament</translation>
+    </message>
+    <message>
+        <source>rotate, move, scale, skew, slant, flip, mirror, shift, turn</source>
+        <translation>drehen, verschieben, skalieren, neigen, scheren, spiegeln, kippen, wenden</translation>
+    </message>
+    <message>
+        <source>rotate, tilt, 3d, perspective, camera, pitch, yaw, roll</source>
+        <translation>drehen, kippen, neigen, 3d, perspektive, kamera</translation>
+    </message>
+    <message>
+        <source>rounded corners, box, rectangle, shape, button, card, panel</source>
+        <translation>runde ecken, rechteck, kasten, form, karte, abgerundet</translation>
+    </message>
+    <message>
+        <source>saturation, desaturate, blend mode</source>
+        <translation>sättigung, entsättigen, füllmethode</translation>
+    </message>
+    <message>
+        <source>scan, document, scanner, paper, whiten, receipt, whiteboard, text, readable, remove shadow</source>
+        <translation>scan, dokument, scanner, papier, beleg, quittung, tafel, lesbar, schatten entfernen</translation>
+    </message>
+    <message>
+        <source>screen, lighten, brighten, light leak, double exposure, blend mode</source>
+        <translation>negativ multiplizieren, aufhellen, doppelbelichtung, füllmethode</translation>
+    </message>
+    <message>
+        <source>selective blur, tilt shift, partial blur, blur background, mask blur, depth, gradient blur</source>
+        <translation>teilweise unscharf, hintergrund unscharf, weichzeichnen, maske, tilt-shift, tiefe, unschärfe</translation>
+    </message>
+    <message>
+        <source>sepia, old photo, vintage, brown, antique, nostalgic, retro, western, old</source>
+        <translation>sepia, altes foto, vintage, braun, antik, nostalgisch, retro, alt</translation>
+    </message>
+    <message>
+        <source>shadows, highlights, hdr, backlight, dynamic range, brighten shadows, fill light, recover, dark faces</source>
+        <translation>schatten, lichter, hdr, gegenlicht, schatten aufhellen, tiefen, aufhellen, dunkle gesichter</translation>
+    </message>
+    <message>
+        <source>shapes, confetti, circles, rectangles, flowers, balloons, random shapes, bubbles, decoration</source>
+        <translation>formen, konfetti, kreise, rechtecke, blumen, luftballons, zufällige formen, seifenblasen</translation>
+    </message>
+    <message>
+        <source>sharpen, sharpness, detail, clarity, local contrast, structure, crisp, unsharp</source>
+        <translation>schärfen, schärfe, details, klarheit, lokaler kontrast, struktur, scharf</translation>
+    </message>
+    <message>
+        <source>sharpen, sharpness, detail, crisp, focus, clear</source>
+        <translation>schärfen, schärfe, details, scharf, deutlich</translation>
+    </message>
+    <message>
+        <source>soft light, contrast, blend mode, gentle</source>
+        <translation>weiches licht, kontrast, füllmethode, sanft</translation>
+    </message>
+    <message>
+        <source>soft rectangle, shadow, drop shadow, box, glow, panel</source>
+        <translation>weiches rechteck, schatten, schlagschatten, kasten, schein</translation>
+    </message>
+    <message>
+        <source>soften, blur, average, smooth</source>
+        <translation>unschärfe, weichzeichnen, unscharf, glätten, mittelwert</translation>
+    </message>
+    <message>
+        <source>spotlight, lamp, lighting, stage light, flashlight, dark surroundings</source>
+        <translation>scheinwerfer, lampe, beleuchtung, bühnenlicht, taschenlampe, spot</translation>
+    </message>
+    <message>
+        <source>srgb, linear, gamma, convert, color space</source>
+        <translation>srgb, linear, gamma, umwandeln, farbraum</translation>
+    </message>
+    <message>
+        <source>srgb, linear, gamma, convert, color space, raw</source>
+        <translation>srgb, linear, gamma, umwandeln, farbraum</translation>
+    </message>
+    <message>
+        <source>stained glass, crystal, mosaic, low poly, polygons, cells, voronoi, shards</source>
+        <translation>kirchenfenster, kristall, mosaik, glasmalerei, vielecke, zellen, scherben</translation>
+    </message>
+    <message>
+        <source>star, sparkle, lens flare, shine, glitter, glint, twinkle, light, cross</source>
+        <translation>stern, funkeln, glitzern, blendenfleck, glanz, licht, kreuz</translation>
+    </message>
+    <message>
+        <source>straighten, horizon, level, rotate, tilt, crooked</source>
+        <translation>begradigen, gerade richten, horizont, ausrichten, schief, wasserwaage</translation>
+    </message>
+    <message>
+        <source>streaks, radial, splash, stretched pixels, rays</source>
+        <translation>strahlen, streifen, kreis, spritzer</translation>
+    </message>
+    <message>
+        <source>stretch, nine patch, 9-slice, widen, frame, corners</source>
+        <translation>dehnen, strecken, rahmen, ecken, verbreitern</translation>
+    </message>
+    <message>
+        <source>stripes, lines, bars, pattern, zebra</source>
+        <translation>streifen, linien, balken, muster, zebra</translation>
+    </message>
+    <message>
+        <source>subtract, minus, darken, blend mode</source>
+        <translation>abziehen, subtrahieren, abdunkeln, füllmethode</translation>
+    </message>
+    <message>
+        <source>sun, sun rays, sunbeams, rays of light, lens flare, sunshine, god rays, light</source>
+        <translation>sonne, sonnenstrahlen, lichtstrahlen, blendenfleck, sonnenschein, licht</translation>
+    </message>
+    <message>
+        <source>swirl, twirl, twist, whirl, spiral, rotate</source>
+        <translation>strudel, verdrehen, wirbel, spirale, drehen</translation>
+    </message>
+    <message>
+        <source>text, caption, meme, title, lettering, watermark, write, words, font, typography</source>
+        <translation>text, beschriftung, meme, titel, schriftzug, wasserzeichen, schreiben, schrift</translation>
+    </message>
+    <message>
+        <source>text, caption, title, lettering, colored text, font, write, words, quote</source>
+        <translation>text, beschriftung, titel, farbiger text, schrift, schreiben, spruch</translation>
+    </message>
+    <message>
+        <source>threshold, automatic threshold, black and white, stencil, binary, text, silhouette, photocopy, line art</source>
+        <translation>schwellwert, automatische schwelle, schwarzweiß, schablone, text, scherenschnitt, fotokopie</translation>
+    </message>
+    <message>
+        <source>threshold, stencil, two tone, hard black and white, photocopy, pop art, silhouette, binary, fax</source>
+        <translation>schwellwert, schwelle, schablone, zwei töne, hartes schwarzweiß, fotokopie, scherenschnitt, pop-art</translation>
+    </message>
+    <message>
+        <source>tilt shift, miniature, depth of field, toy town, shallow focus, diorama, model, background blur</source>
+        <translation>tilt-shift, miniatur, schärfentiefe, tiefenschärfe, modelleisenbahn, spielzeug, hintergrund unscharf</translation>
+    </message>
+    <message>
+        <source>tiny planet, polar, wrap, circle, ring, arc, bend, little planet</source>
+        <translation>kleiner planet, kreis, ring, bogen, biegen, polar, wickeln</translation>
+    </message>
+    <message>
+        <source>transparent, alpha, mask, see through, transparency, remove background, knock out</source>
+        <translation>durchsichtig, transparent, maske, alpha, hintergrund entfernen</translation>
+    </message>
+    <message>
+        <source>triangles, pattern, tile, symmetry, wallpaper</source>
+        <translation>dreiecke, muster, kacheln, symmetrie, tapete</translation>
+    </message>
+    <message>
+        <source>tunnel, spiral, whirl, time tunnel, vortex, wormhole</source>
+        <translation>tunnel, spirale, wirbel, zeittunnel, wurmloch</translation>
+    </message>
+    <message>
+        <source>two luts, lut, color grading, mask, local grading, look up table</source>
+        <translation>zwei luts, lut, farbkorrektur, maske, örtlich, farbtabelle</translation>
+    </message>
+    <message>
+        <source>upsample, upscale, enlarge, edges, depth map, super resolution</source>
+        <translation>hochrechnen, vergrößern, kanten, tiefenkarte</translation>
+    </message>
+    <message>
+        <source>vibrance, vivid, saturation, colorful, skin tones, boost colors, lively, dull colors</source>
+        <translation>dynamik, lebhaft, sättigung, kräftige farben, hauttöne, farben verstärken, fade farben</translation>
+    </message>
+    <message>
+        <source>vignette, dark corners, darken edges, lens, frame, border, lomo</source>
+        <translation>vignette, dunkle ecken, rand abdunkeln, rahmen, rand, lomo</translation>
+    </message>
+    <message>
+        <source>vignette, dark edges, darken edges, spotlight, circle, focus, frame, highlight subject</source>
+        <translation>vignette, dunkler rand, rand abdunkeln, kreis, rahmen, motiv betonen</translation>
+    </message>
+    <message>
+        <source>vivid light, contrast, strong, blend mode</source>
+        <translation>strahlendes licht, kontrast, stark, füllmethode</translation>
+    </message>
+    <message>
+        <source>vivid, slide film, strong colors, punchy, film, look, saturated, chrome, summer</source>
+        <translation>lebhaft, diafilm, kräftige farben, film, look, knackig, chrom, sommer</translation>
+    </message>
+    <message>
+        <source>vortex, whirlpool, swirl, twist, whirl, spiral, tornado</source>
+        <translation>strudel, wirbel, verdrehen, spirale, wirbelsturm</translation>
+    </message>
+    <message>
+        <source>warm, vintage, retro, old photo, golden, sunset, film, look, cozy</source>
+        <translation>warm, vintage, retro, altes foto, golden, sonnenuntergang, film, look</translation>
+    </message>
+    <message>
+        <source>water, wave, ripple, pond, drop, transition</source>
+        <translation>wasser, welle, teich, tropfen, übergang</translation>
+    </message>
+    <message>
+        <source>white balance, temperature, color temperature, tint, warm, cool, warmer, cooler, kelvin, color cast, orange, indoor light</source>
+        <translation>weißabgleich, farbtemperatur, temperatur, tönung, warm, kühl, wärmer, kühler, kelvin, farbstich, kunstlicht</translation>
+    </message>
+    <message>
+        <source>white balance, white point, tint, color cast, warm, cool, color filter</source>
+        <translation>weißabgleich, weißpunkt, tönung, farbstich, warm, kühl, farbfilter</translation>
+    </message>
+    <message>
+        <source>wipe, swipe, slide, transition</source>
+        <translation>wischen, schieben, übergang</translation>
+    </message>
+    <message>
+        <source>woodcut, linocut, engraving, line drawing, drawing, stencil, scraper board</source>
+        <translation>holzschnitt, linolschnitt, stich, strichzeichnung, zeichnung, schablone</translation>
+    </message>
+    <message>
+        <source>x-ray, xray, radiograph, negative, bones, medical, hospital</source>
+        <translation>röntgen, röntgenbild, negativ, knochen, medizin</translation>
+    </message>
+    <message>
+        <source>zoom, speed, radial blur, blur, explosion, rush, tunnel</source>
+        <translation>zoom, geschwindigkeit, tempo, strahlen, verwischen, explosion, sog</translation>
     </message>
 </context>
 <context>
@@ -3411,6 +5411,160 @@
     </message>
 </context>
 <context>
+    <name>Look</name>
+    <message>
+        <source>Film Grain</source>
+        <translation>Filmkorn</translation>
+    </message>
+    <message>
+        <source>The fine grain of analog film.</source>
+        <translation>Das feine Korn von analogem Film.</translation>
+    </message>
+    <message>
+        <source>grain, film grain, analog, noise</source>
+        <translation>korn, filmkorn, körnung, analog, rauschen</translation>
+    </message>
+    <message>
+        <source>Faded Film</source>
+        <translation>Verblasster Film</translation>
+    </message>
+    <message>
+        <source>Pale colors and open blacks, as after years.</source>
+        <translation>Blasse Farben und offene Schwärzen, wie nach Jahren.</translation>
+    </message>
+    <message>
+        <source>faded, vintage, old photo, retro, matte</source>
+        <translation>verblasst, vintage, altes foto, retro, matt</translation>
+    </message>
+    <message>
+        <source>Cross Process</source>
+        <translation>Crossentwicklung</translation>
+    </message>
+    <message>
+        <source>Blue shadows and greenish lights, as from film in the wrong bath.</source>
+        <translation>Blaue Schatten und grünliche Lichter, wie von Film im falschen Bad.</translation>
+    </message>
+    <message>
+        <source>cross process, lomo, cool, retro</source>
+        <translation>crossentwicklung, lomo, kühl, retro</translation>
+    </message>
+    <message>
+        <source>Soft Portrait</source>
+        <translation>Weiches Porträt</translation>
+    </message>
+    <message>
+        <source>A gentle glow over skin and lights.</source>
+        <translation>Ein sanftes Leuchten auf Haut und Lichtern.</translation>
+    </message>
+    <message>
+        <source>portrait, soft, glow, dreamy, skin, wedding</source>
+        <translation>porträt, weich, leuchten, verträumt, haut, hochzeit</translation>
+    </message>
+    <message>
+        <source>Dramatic Black and White</source>
+        <translation>Dramatisches Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Deep blacks and bright whites without any color.</source>
+        <translation>Tiefes Schwarz und helles Weiß ohne jede Farbe.</translation>
+    </message>
+    <message>
+        <source>black and white, dramatic, noir, high contrast</source>
+        <translation>schwarzweiß, schwarz-weiß, dramatisch, hoher kontrast</translation>
+    </message>
+    <message>
+        <source>Tilt-Shift</source>
+        <translation>Tilt-Shift</translation>
+    </message>
+    <message>
+        <source>A sharp, vivid strip in a blurred scene, which looks like a model.</source>
+        <translation>Ein scharfer, kräftiger Streifen in unscharfer Umgebung, die wie ein Modell aussieht.</translation>
+    </message>
+    <message>
+        <source>tilt shift, miniature, model, toy town</source>
+        <translation>tilt-shift, miniatur, modell, spielzeugstadt</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>A white border inside the picture&apos;s edges.</source>
+        <translation>Ein weißer Rand innerhalb der Bildkanten.</translation>
+    </message>
+    <message>
+        <source>frame, border, white border, mat</source>
+        <translation>rahmen, rand, weißer rand, passepartout</translation>
+    </message>
+    <message>
+        <source>Instant Print</source>
+        <translation>Sofortbild</translation>
+    </message>
+    <message>
+        <source>The creamy border of an instant print, wide at the bottom.</source>
+        <translation>Der cremefarbene Rand eines Sofortbilds, unten breit.</translation>
+    </message>
+    <message>
+        <source>polaroid, instant camera, frame, border, retro</source>
+        <translation>polaroid, sofortbild, rahmen, rand, retro</translation>
+    </message>
+    <message>
+        <source>Duotone</source>
+        <translation>Duplex</translation>
+    </message>
+    <message>
+        <source>Night blue for dark, warm cream for light.</source>
+        <translation>Nachtblau für Dunkel, warmes Creme für Hell.</translation>
+    </message>
+    <message>
+        <source>duotone, two colors, split tone</source>
+        <translation>duplex, duoton, zwei farben</translation>
+    </message>
+    <message>
+        <source>Glitch</source>
+        <translation>Bildstörung</translation>
+    </message>
+    <message>
+        <source>Bands of the picture slip aside, as in bad reception.</source>
+        <translation>Streifen des Bildes rutschen zur Seite, wie bei schlechtem Empfang.</translation>
+    </message>
+    <message>
+        <source>glitch, broken, television, error, vhs</source>
+        <translation>glitch, bildstörung, kaputt, fernseher, fehler, vhs</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Buntstift</translation>
+    </message>
+    <message>
+        <source>A drawing in colored pencils.</source>
+        <translation>Eine Zeichnung mit Buntstiften.</translation>
+    </message>
+    <message>
+        <source>pencil, drawing, sketch, colored pencil, crayon</source>
+        <translation>bleistift, zeichnung, skizze, buntstift, malstift</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Plakat</translation>
+    </message>
+    <message>
+        <source>A few flat colors, as from a silk screen.</source>
+        <translation>Wenige flächige Farben, wie im Siebdruck.</translation>
+    </message>
+    <message>
+        <source>poster, pop art, flat colors, screen print</source>
+        <translation>plakat, poster, pop-art, flächige farben, siebdruck</translation>
+    </message>
+</context>
+<context>
+    <name>LooksPopup</name>
+    <message>
+        <source>Looks</source>
+        <translation>Looks</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Lumivex</source>
@@ -3499,10 +5653,6 @@
     <message>
         <source>Search filters</source>
         <translation>Filter suchen</translation>
-    </message>
-    <message>
-        <source>Shows the filters whose name holds what you type. Return takes the first one.</source>
-        <translation>Zeigt die Filter, deren Name den eingegebenen Text enthält. Die Eingabetaste nimmt den ersten.</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -3611,6 +5761,14 @@
     <message>
         <source>Keep the picture’s size</source>
         <translation>Bildgröße beibehalten</translation>
+    </message>
+    <message>
+        <source>Finds filters by their name and by what they do: “old photo”, “sharpen”, “frame”. Return takes the first one.</source>
+        <translation>Findet Filter nach ihrem Namen und nach dem, was sie tun: „altes Foto“, „schärfen“, „Rahmen“. Die Eingabetaste nimmt den ersten.</translation>
+    </message>
+    <message>
+        <source>Looks</source>
+        <translation>Looks</translation>
     </message>
 </context>
 <context>

@@ -641,6 +641,14 @@
         <source>Shows the filters as larger pictures beside each other</source>
         <translation>Montre les filtres en images plus grandes, côte à côte</translation>
     </message>
+    <message>
+        <source>&amp;Looks…</source>
+        <translation>&amp;Rendus…</translation>
+    </message>
+    <message>
+        <source>Shows the looks that come with the program</source>
+        <translation>Montre les rendus fournis avec le programme</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -2372,6 +2380,1035 @@
     </message>
 </context>
 <context>
+    <name>FilterCatalogue</name>
+    <message>
+        <source>Unpin</source>
+        <translation>Détacher</translation>
+    </message>
+    <message>
+        <source>Pin to the Top</source>
+        <translation>Épingler en haut</translation>
+    </message>
+</context>
+<context>
+    <name>FilterDescription</name>
+    <message>
+        <source>Adds fine even grain, which also hides bands in skies.</source>
+        <translation>Ajoute un grain fin et régulier, qui cache aussi les bandes des ciels.</translation>
+    </message>
+    <message>
+        <source>Adds the light of both pictures.</source>
+        <translation>Additionne la lumière des deux images.</translation>
+    </message>
+    <message>
+        <source>Adds the picture to the background, up to white.</source>
+        <translation>Ajoute l’image au fond, jusqu’au blanc.</translation>
+    </message>
+    <message>
+        <source>Bends red, green and blue by a curve each.</source>
+        <translation>Courbe le rouge, le vert et le bleu séparément.</translation>
+    </message>
+    <message>
+        <source>Bends red, green, blue and opacity by a formula each.</source>
+        <translation>Courbe rouge, vert, bleu et opacité par une formule chacun.</translation>
+    </message>
+    <message>
+        <source>Bends the picture around a circle.</source>
+        <translation>Courbe l’image autour d’un cercle.</translation>
+    </message>
+    <message>
+        <source>Bends the tones by a curve through five points.</source>
+        <translation>Courbe les tons par une courbe à cinq points.</translation>
+    </message>
+    <message>
+        <source>Black and white with dramatic contrast.</source>
+        <translation>Noir et blanc au contraste dramatique.</translation>
+    </message>
+    <message>
+        <source>Black and white with gentle contrast.</source>
+        <translation>Noir et blanc au contraste doux.</translation>
+    </message>
+    <message>
+        <source>Black and white with the picture&apos;s own contrast.</source>
+        <translation>Noir et blanc au contraste de l’image.</translation>
+    </message>
+    <message>
+        <source>Bluish shadows and creamy lights, like an instant camera&apos;s print.</source>
+        <translation>Ombres bleutées et lumières crème, comme une photo instantanée.</translation>
+    </message>
+    <message>
+        <source>Blurs as a camera lens does: lights become discs with a bright rim.</source>
+        <translation>Floute comme un objectif : les lumières deviennent des disques au bord brillant.</translation>
+    </message>
+    <message>
+        <source>Blurs as strongly as a mask is light: keeps some parts sharp.</source>
+        <translation>Floute autant qu’un masque est clair : des parties restent nettes.</translation>
+    </message>
+    <message>
+        <source>Blurs evenly over a square: quick and a little hard.</source>
+        <translation>Floute également sur un carré : rapide et un peu dur.</translation>
+    </message>
+    <message>
+        <source>Blurs over a disc, like a picture that is out of focus.</source>
+        <translation>Floute sur un disque, comme une image hors foyer.</translation>
+    </message>
+    <message>
+        <source>Blurs softly and evenly.</source>
+        <translation>Floute avec douceur et régularité.</translation>
+    </message>
+    <message>
+        <source>Breaks the picture into patches of one color, like stained glass.</source>
+        <translation>Casse l’image en éclats d’une seule couleur, comme un vitrail.</translation>
+    </message>
+    <message>
+        <source>Brightens linear light values for display (sRGB).</source>
+        <translation>Éclaircit les valeurs de lumière linéaire pour l’affichage (sRGB).</translation>
+    </message>
+    <message>
+        <source>Brightens shadows and recovers highlights.</source>
+        <translation>Éclaircit les ombres et récupère les hautes lumières.</translation>
+    </message>
+    <message>
+        <source>Brightens the background like two projectors on one wall.</source>
+        <translation>Éclaircit le fond comme deux projecteurs sur un mur.</translation>
+    </message>
+    <message>
+        <source>Brightens the background where the picture is light, up to a blaze.</source>
+        <translation>Éclaircit le fond là où l’image est claire, jusqu’à éblouir.</translation>
+    </message>
+    <message>
+        <source>Brings the second picture with a moving bar of light, like a copier.</source>
+        <translation>Amène la seconde image avec une barre de lumière, comme un copieur.</translation>
+    </message>
+    <message>
+        <source>Brings the second picture with a wave, as a stone does in water.</source>
+        <translation>Amène la seconde image avec une onde, comme un caillou dans l’eau.</translation>
+    </message>
+    <message>
+        <source>Burns or dodges strongly, as the picture is dark or light.</source>
+        <translation>Densifie ou éclaircit fortement, selon que l’image est sombre ou claire.</translation>
+    </message>
+    <message>
+        <source>Changes the pictures under a flash of light.</source>
+        <translation>Change d’image sous un éclair de lumière.</translation>
+    </message>
+    <message>
+        <source>Colors the background with the picture&apos;s hue and saturation.</source>
+        <translation>Colore le fond avec la teinte et la saturation de l’image.</translation>
+    </message>
+    <message>
+        <source>Colors the picture like a heat camera: dark is blue, light is hot.</source>
+        <translation>Colore l’image comme une caméra thermique : le sombre est bleu, le clair brûlant.</translation>
+    </message>
+    <message>
+        <source>Continues the pixels at a rectangle&apos;s edges without end.</source>
+        <translation>Prolonge sans fin les pixels des bords d’un rectangle.</translation>
+    </message>
+    <message>
+        <source>Continues the pixels at the edges without end after moving and turning the picture.</source>
+        <translation>Prolonge sans fin les pixels des bords après déplacement et rotation.</translation>
+    </message>
+    <message>
+        <source>Converts a depth map into a disparity map.</source>
+        <translation>Convertit une carte de profondeur en carte de disparité.</translation>
+    </message>
+    <message>
+        <source>Converts a disparity map into a depth map.</source>
+        <translation>Convertit une carte de disparité en carte de profondeur.</translation>
+    </message>
+    <message>
+        <source>Cool, with blue shadows and greenish lights, like cross-processed film.</source>
+        <translation>Froid, aux ombres bleues et lumières verdâtres, comme un film au traitement croisé.</translation>
+    </message>
+    <message>
+        <source>Corrects the white balance: warmer or cooler, greener or pinker.</source>
+        <translation>Corrige la balance des blancs : plus chaud ou plus froid, plus vert ou plus rose.</translation>
+    </message>
+    <message>
+        <source>Counts color values of an area in steps of exposure, for very bright pictures.</source>
+        <translation>Compte les couleurs d’une zone par degrés d’exposition, pour des images très lumineuses.</translation>
+    </message>
+    <message>
+        <source>Counts how often each color value occurs in an area.</source>
+        <translation>Compte chaque valeur de couleur d’une zone.</translation>
+    </message>
+    <message>
+        <source>Counts how often each color value occurs in an area; see-through pixels count less.</source>
+        <translation>Compte chaque valeur de couleur d’une zone ; le transparent compte moins.</translation>
+    </message>
+    <message>
+        <source>Covers the picture with irregular patches of color.</source>
+        <translation>Couvre l’image de taches de couleur irrégulières.</translation>
+    </message>
+    <message>
+        <source>Covers the picture with soft waves of color.</source>
+        <translation>Couvre l’image de douces vagues de couleur.</translation>
+    </message>
+    <message>
+        <source>Cuts the picture into a white line drawing, like a woodcut.</source>
+        <translation>Taille l’image en dessin au trait blanc, comme une gravure sur bois.</translation>
+    </message>
+    <message>
+        <source>Darkens all that lies outside a circle.</source>
+        <translation>Assombrit ce qui se trouve hors d’un cercle.</translation>
+    </message>
+    <message>
+        <source>Darkens by the picture&apos;s dark parts and brightens by its light ones, like a harsh lamp.</source>
+        <translation>Assombrit par le sombre de l’image et éclaircit par le clair, comme une lampe crue.</translation>
+    </message>
+    <message>
+        <source>Darkens display values (sRGB) back to linear light.</source>
+        <translation>Assombrit les valeurs d’affichage (sRGB) en lumière linéaire.</translation>
+    </message>
+    <message>
+        <source>Darkens or brightens evenly, as the picture is dark or light.</source>
+        <translation>Assombrit ou éclaircit également, selon que l’image est sombre ou claire.</translation>
+    </message>
+    <message>
+        <source>Darkens the background by what the picture lacks of white.</source>
+        <translation>Assombrit le fond de ce qui manque de blanc à l’image.</translation>
+    </message>
+    <message>
+        <source>Darkens the background like a transparency laid on it.</source>
+        <translation>Assombrit le fond comme un transparent posé dessus.</translation>
+    </message>
+    <message>
+        <source>Darkens the background where the picture is dark, with rich colors.</source>
+        <translation>Assombrit le fond là où l’image est sombre, en couleurs denses.</translation>
+    </message>
+    <message>
+        <source>Darkens the corners gently, as a simple lens does.</source>
+        <translation>Assombrit doucement les coins, comme un objectif simple.</translation>
+    </message>
+    <message>
+        <source>Dims bright parts into a soft, dark veil.</source>
+        <translation>Voile les parties claires d’une douce obscurité.</translation>
+    </message>
+    <message>
+        <source>Dissolves the first picture along the light and dark of a mask.</source>
+        <translation>Dissout la première image selon le clair et le sombre d’un masque.</translation>
+    </message>
+    <message>
+        <source>Divides the picture by the background: equal parts become white.</source>
+        <translation>Divise l’image par le fond : ce qui est égal devient blanc.</translation>
+    </message>
+    <message>
+        <source>Divides the picture into hexagons of one color.</source>
+        <translation>Divise l’image en hexagones d’une seule couleur.</translation>
+    </message>
+    <message>
+        <source>Divides the picture into squares of one color.</source>
+        <translation>Divise l’image en carrés d’une seule couleur.</translation>
+    </message>
+    <message>
+        <source>Draws a burst of colored lines from a point.</source>
+        <translation>Tire d’un point une gerbe de lignes colorées.</translation>
+    </message>
+    <message>
+        <source>Draws a checkerboard of two colors.</source>
+        <translation>Dessine un damier de deux couleurs.</translation>
+    </message>
+    <message>
+        <source>Draws a color wheel with all hues.</source>
+        <translation>Dessine un cercle chromatique avec toutes les teintes.</translation>
+    </message>
+    <message>
+        <source>Draws a filled rectangle with round corners.</source>
+        <translation>Dessine un rectangle plein aux coins ronds.</translation>
+    </message>
+    <message>
+        <source>Draws a histogram as a chart.</source>
+        <translation>Dessine un histogramme.</translation>
+    </message>
+    <message>
+        <source>Draws a passage between two colors along a line, gentle at both ends.</source>
+        <translation>Dessine un passage entre deux couleurs le long d’une ligne, doux aux deux bouts.</translation>
+    </message>
+    <message>
+        <source>Draws a passage between two colors from the inside out.</source>
+        <translation>Dessine un passage entre deux couleurs du centre vers l’extérieur.</translation>
+    </message>
+    <message>
+        <source>Draws a rectangle with soft edges.</source>
+        <translation>Dessine un rectangle aux bords doux.</translation>
+    </message>
+    <message>
+        <source>Draws a rectangular line with round corners, such as a frame.</source>
+        <translation>Dessine une ligne rectangulaire aux coins ronds, comme un cadre.</translation>
+    </message>
+    <message>
+        <source>Draws a ring of colored rays, as around a lamp in fog.</source>
+        <translation>Dessine un anneau de rayons colorés, comme autour d’une lampe dans la brume.</translation>
+    </message>
+    <message>
+        <source>Draws a rosette of ellipses that changes with each press of Generate.</source>
+        <translation>Dessine une rosace d’ellipses qui change à chaque clic sur Générer.</translation>
+    </message>
+    <message>
+        <source>Draws a shining star with a cross of rays.</source>
+        <translation>Dessine une étoile brillante aux rayons croisés.</translation>
+    </message>
+    <message>
+        <source>Draws a soft round spot of color.</source>
+        <translation>Dessine une tache de couleur ronde et douce.</translation>
+    </message>
+    <message>
+        <source>Draws a star of light with many spikes around a point.</source>
+        <translation>Dessine une étoile de lumière aux nombreuses pointes autour d’un point.</translation>
+    </message>
+    <message>
+        <source>Draws a sun with rays of light.</source>
+        <translation>Dessine un soleil et ses rayons de lumière.</translation>
+    </message>
+    <message>
+        <source>Draws an even passage between two colors along a line.</source>
+        <translation>Dessine un passage régulier entre deux couleurs le long d’une ligne.</translation>
+    </message>
+    <message>
+        <source>Draws lines from a list of points.</source>
+        <translation>Dessine des lignes d’après une liste de points.</translation>
+    </message>
+    <message>
+        <source>Draws one line that folds until it fills the picture.</source>
+        <translation>Dessine une ligne qui se plie jusqu’à remplir l’image.</translation>
+    </message>
+    <message>
+        <source>Draws stripes of two colors.</source>
+        <translation>Dessine des rayures de deux couleurs.</translation>
+    </message>
+    <message>
+        <source>Draws the colors on a circle outwards in straight streaks.</source>
+        <translation>Étire vers l’extérieur les couleurs d’un cercle, en traits droits.</translation>
+    </message>
+    <message>
+        <source>Draws the outlines in black and leaves the rest see-through.</source>
+        <translation>Trace les contours en noir et laisse le reste transparent.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in black and white rings.</source>
+        <translation>Dessine l’image en anneaux noirs et blancs.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in black dots on white, like a newspaper.</source>
+        <translation>Dessine l’image en points noirs sur blanc, comme un journal.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in parallel lines of varying width.</source>
+        <translation>Dessine l’image en lignes parallèles de largeur variable.</translation>
+    </message>
+    <message>
+        <source>Draws the picture in two layers of crossing lines.</source>
+        <translation>Dessine l’image en deux couches de lignes croisées.</translation>
+    </message>
+    <message>
+        <source>Draws the picture together towards a point.</source>
+        <translation>Resserre l’image vers un point.</translation>
+    </message>
+    <message>
+        <source>Draws thin white lines along clear edges, on black.</source>
+        <translation>Trace de fines lignes blanches sur les contours nets, sur fond noir.</translation>
+    </message>
+    <message>
+        <source>Enlarges a small picture so that its edges follow those of the large one.</source>
+        <translation>Agrandit une petite image dont les contours suivent ceux de la grande.</translation>
+    </message>
+    <message>
+        <source>Enlarges a small picture, or smooths a mask, along the edges of a guide picture.</source>
+        <translation>Agrandit une petite image, ou lisse un masque, le long des contours d’une image guide.</translation>
+    </message>
+    <message>
+        <source>Enlivens pale colors and spares skin.</source>
+        <translation>Ravive les couleurs pâles et ménage la peau.</translation>
+    </message>
+    <message>
+        <source>Fades from the first picture into the second.</source>
+        <translation>Passe en fondu de la première image à la seconde.</translation>
+    </message>
+    <message>
+        <source>Fills everything with colored noise.</source>
+        <translation>Remplit tout de bruit coloré.</translation>
+    </message>
+    <message>
+        <source>Fills everything with one color.</source>
+        <translation>Remplit tout d’une couleur.</translation>
+    </message>
+    <message>
+        <source>Fills squares with small turned copies of what lies below them.</source>
+        <translation>Remplit des carrés de petites copies tournées de ce qu’ils recouvrent.</translation>
+    </message>
+    <message>
+        <source>Finds an area&apos;s most opaque pixel.</source>
+        <translation>Trouve le pixel le plus opaque d’une zone.</translation>
+    </message>
+    <message>
+        <source>Finds an area&apos;s most see-through pixel.</source>
+        <translation>Trouve le pixel le plus transparent d’une zone.</translation>
+    </message>
+    <message>
+        <source>Finds the greatest red, green, blue and opacity of an area.</source>
+        <translation>Trouve les plus grandes valeurs de rouge, vert, bleu et opacité d’une zone.</translation>
+    </message>
+    <message>
+        <source>Finds the least and the greatest red of an area.</source>
+        <translation>Trouve le plus petit et le plus grand rouge d’une zone.</translation>
+    </message>
+    <message>
+        <source>Finds the least and the greatest values of an area, side by side.</source>
+        <translation>Trouve les plus petites et plus grandes valeurs d’une zone, côte à côte.</translation>
+    </message>
+    <message>
+        <source>Finds the least red, green, blue and opacity of an area.</source>
+        <translation>Trouve les plus petites valeurs de rouge, vert, bleu et opacité d’une zone.</translation>
+    </message>
+    <message>
+        <source>Finds the main colors of an area, as a palette.</source>
+        <translation>Trouve les couleurs principales d’une zone, en palette.</translation>
+    </message>
+    <message>
+        <source>Finds the rectangle in which there is any red.</source>
+        <translation>Trouve le rectangle où il y a du rouge.</translation>
+    </message>
+    <message>
+        <source>Finds where in the picture each color of a palette lies on average.</source>
+        <translation>Trouve où chaque couleur d’une palette se situe en moyenne dans l’image.</translation>
+    </message>
+    <message>
+        <source>Fits the picture to another shape by cutting some and stretching the edges more than the middle.</source>
+        <translation>Donne à l’image une autre forme : en coupe un peu et étire les bords plus que le milieu.</translation>
+    </message>
+    <message>
+        <source>Fits very bright lights (HDR) into what a display can show.</source>
+        <translation>Ramène les lumières très vives (HDR) à ce qu’un écran peut montrer.</translation>
+    </message>
+    <message>
+        <source>Gently darkens or brightens, like a soft lamp.</source>
+        <translation>Assombrit ou éclaircit en douceur, comme une lampe douce.</translation>
+    </message>
+    <message>
+        <source>Gives each lightness a color of a gradient picture.</source>
+        <translation>Donne à chaque clarté une couleur d’une image de dégradé.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s hues.</source>
+        <translation>Donne au fond les teintes de l’image.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s lightness and keeps its own colors.</source>
+        <translation>Donne au fond la luminosité de l’image et lui laisse ses couleurs.</translation>
+    </message>
+    <message>
+        <source>Gives the background the picture&apos;s saturation.</source>
+        <translation>Donne au fond la saturation de l’image.</translation>
+    </message>
+    <message>
+        <source>Grades colors by two tables (LUTs), which a mask mixes.</source>
+        <translation>Change les couleurs par deux tables (LUT) qu’un masque mélange.</translation>
+    </message>
+    <message>
+        <source>Grows dark parts into rectangles.</source>
+        <translation>Fait grandir le sombre en rectangles.</translation>
+    </message>
+    <message>
+        <source>Grows dark parts into round blobs and swallows light detail.</source>
+        <translation>Fait grandir le sombre en taches rondes et avale les détails clairs.</translation>
+    </message>
+    <message>
+        <source>Grows light parts into rectangles.</source>
+        <translation>Fait grandir le clair en rectangles.</translation>
+    </message>
+    <message>
+        <source>Grows light parts into round blobs and swallows dark detail.</source>
+        <translation>Fait grandir le clair en taches rondes et avale les détails sombres.</translation>
+    </message>
+    <message>
+        <source>Keeps a rectangle of the picture and cuts off the rest.</source>
+        <translation>Garde un rectangle de l’image et coupe le reste.</translation>
+    </message>
+    <message>
+        <source>Keeps a strip sharp and vivid and blurs the rest, so that scenes look like models.</source>
+        <translation>Garde une bande nette et vive et floute le reste : la scène a l’air d’une maquette.</translation>
+    </message>
+    <message>
+        <source>Keeps each color between a least and a greatest value.</source>
+        <translation>Tient chaque couleur entre une valeur minimale et une maximale.</translation>
+    </message>
+    <message>
+        <source>Keeps the darker of both pictures in each color.</source>
+        <translation>Garde dans chaque couleur le plus sombre des deux images.</translation>
+    </message>
+    <message>
+        <source>Keeps the greater value of both pictures in each color.</source>
+        <translation>Garde dans chaque couleur la plus grande valeur des deux images.</translation>
+    </message>
+    <message>
+        <source>Keeps the lighter of both pictures in each color.</source>
+        <translation>Garde dans chaque couleur le plus clair des deux images.</translation>
+    </message>
+    <message>
+        <source>Keeps the smaller value of both pictures in each color.</source>
+        <translation>Garde dans chaque couleur la plus petite valeur des deux images.</translation>
+    </message>
+    <message>
+        <source>Lays a ring of glass on the picture.</source>
+        <translation>Pose un anneau de verre sur l’image.</translation>
+    </message>
+    <message>
+        <source>Lays a round bar of glass on the picture.</source>
+        <translation>Pose une barre de verre ronde sur l’image.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is blue.</source>
+        <translation>Pose une seconde image sur celle-ci là où un masque est bleu.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is light.</source>
+        <translation>Pose une seconde image sur celle-ci là où un masque est clair.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is opaque.</source>
+        <translation>Pose une seconde image sur celle-ci là où un masque est opaque.</translation>
+    </message>
+    <message>
+        <source>Lays a second picture over this one where a mask is red.</source>
+        <translation>Pose une seconde image sur celle-ci là où un masque est rouge.</translation>
+    </message>
+    <message>
+        <source>Lays the picture on the background, but only where the background is.</source>
+        <translation>Pose l’image sur le fond, mais seulement là où est le fond.</translation>
+    </message>
+    <message>
+        <source>Lays the picture over the background.</source>
+        <translation>Pose l’image sur le fond.</translation>
+    </message>
+    <message>
+        <source>Leaves only a few steps of each color, like a poster.</source>
+        <translation>Ne laisse que quelques degrés de chaque couleur, comme une affiche.</translation>
+    </message>
+    <message>
+        <source>Lets bright parts glow softly beyond their edges.</source>
+        <translation>Fait rayonner doucement les parties claires au-delà de leurs bords.</translation>
+    </message>
+    <message>
+        <source>Lightens or darkens the middle tones; black and white stay.</source>
+        <translation>Éclaircit ou assombrit les tons moyens ; le noir et le blanc restent.</translation>
+    </message>
+    <message>
+        <source>Lights the picture as a relief, with the surface of a shaded ball.</source>
+        <translation>Éclaire l’image comme un relief, avec la surface d’une boule ombrée.</translation>
+    </message>
+    <message>
+        <source>Lights the picture with a lamp and leaves the rest dark.</source>
+        <translation>Éclaire l’image d’une lampe et laisse le reste dans l’ombre.</translation>
+    </message>
+    <message>
+        <source>Looks colors up in a table (LUT) that is made for a color space.</source>
+        <translation>Cherche les couleurs dans une table (LUT) faite pour un espace de couleurs.</translation>
+    </message>
+    <message>
+        <source>Looks colors up in a table (LUT), for film looks and color grading.</source>
+        <translation>Cherche les couleurs dans une table (LUT), pour des rendus de film et l’étalonnage.</translation>
+    </message>
+    <message>
+        <source>Makes a QR code of a text or a web address.</source>
+        <translation>Fait un QR code d’un texte ou d’une adresse web.</translation>
+    </message>
+    <message>
+        <source>Makes a dark gray picture of each pixel&apos;s weakest color.</source>
+        <translation>Fait une image grise et sombre de la couleur la plus faible de chaque pixel.</translation>
+    </message>
+    <message>
+        <source>Makes a light gray picture of each pixel&apos;s strongest color.</source>
+        <translation>Fait une image grise et claire de la couleur la plus forte de chaque pixel.</translation>
+    </message>
+    <message>
+        <source>Makes a pale blue negative, like an X-ray plate.</source>
+        <translation>Fait un négatif bleu pâle, comme une radiographie.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a narrow triangle, mirrored in twelve directions.</source>
+        <translation>Fait un motif d’un triangle étroit, en miroir dans douze directions.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a patch, mirrored to all four sides.</source>
+        <translation>Fait un motif d’un morceau, en miroir des quatre côtés.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a patch, repeated side by side.</source>
+        <translation>Fait un motif d’un morceau, répété côte à côte.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a slanted patch and its mirror image.</source>
+        <translation>Fait un motif d’un morceau penché et de son reflet.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a square, turned by quarters.</source>
+        <translation>Fait un motif d’un carré, tourné par quarts.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a triangle, mirrored in eight directions.</source>
+        <translation>Fait un motif d’un triangle, en miroir dans huit directions.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of a triangle, mirrored in six directions.</source>
+        <translation>Fait un motif d’un triangle, en miroir dans six directions.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of hexagons, turned in six steps.</source>
+        <translation>Fait un motif d’hexagones, tourné en six pas.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of rows, each second one mirrored and shifted.</source>
+        <translation>Fait un motif de rangées, une sur deux en miroir et décalée.</translation>
+    </message>
+    <message>
+        <source>Makes a pattern of triangles that point up and down by turns.</source>
+        <translation>Fait un motif de triangles, pointe en haut et en bas tour à tour.</translation>
+    </message>
+    <message>
+        <source>Makes a stacked barcode, as on boarding passes, of a message.</source>
+        <translation>Fait d’un message un code empilé, comme sur les cartes d’embarquement.</translation>
+    </message>
+    <message>
+        <source>Makes a striped barcode, as on parcels, of a message.</source>
+        <translation>Fait d’un message un code-barres, comme sur les colis.</translation>
+    </message>
+    <message>
+        <source>Makes an Aztec code, as on railway tickets, of a message.</source>
+        <translation>Fait d’un message un code Aztec, comme sur les billets de train.</translation>
+    </message>
+    <message>
+        <source>Makes converging lines parallel, upright and level ones alike.</source>
+        <translation>Redresse les lignes qui convergent, verticales et horizontales à la fois.</translation>
+    </message>
+    <message>
+        <source>Makes dark parts see-through and light parts white.</source>
+        <translation>Rend les parties sombres transparentes et les claires blanches.</translation>
+    </message>
+    <message>
+        <source>Makes each color either full or nothing, at a limit you set.</source>
+        <translation>Met chaque couleur à tout ou rien, à une limite que vous choisissez.</translation>
+    </message>
+    <message>
+        <source>Makes hills of the white shapes of a mask: black at the rim, white inside.</source>
+        <translation>Fait des collines des formes blanches d’un masque : noires au bord, blanches dedans.</translation>
+    </message>
+    <message>
+        <source>Makes level lines parallel that run together to the left or right.</source>
+        <translation>Rend parallèles les lignes horizontales qui se rejoignent à gauche ou à droite.</translation>
+    </message>
+    <message>
+        <source>Makes one column of the mean colors of an area&apos;s rows.</source>
+        <translation>Fait une colonne des couleurs moyennes des lignes d’une zone.</translation>
+    </message>
+    <message>
+        <source>Makes one pixel of an area&apos;s mean color.</source>
+        <translation>Fait un pixel de la couleur moyenne d’une zone.</translation>
+    </message>
+    <message>
+        <source>Makes one row of the mean colors of an area&apos;s columns.</source>
+        <translation>Fait une ligne des couleurs moyennes des colonnes d’une zone.</translation>
+    </message>
+    <message>
+        <source>Makes paper white and writing dark, as from a scanner.</source>
+        <translation>Blanchit le papier et noircit l’écriture, comme un scanner.</translation>
+    </message>
+    <message>
+        <source>Makes the picture lighter or darker, as a longer or shorter exposure would.</source>
+        <translation>Éclaircit ou assombrit l’image, comme une pose plus longue ou plus courte.</translation>
+    </message>
+    <message>
+        <source>Makes upright lines parallel, such as those of a building seen from below.</source>
+        <translation>Redresse les verticales, comme celles d’un bâtiment vu d’en bas.</translation>
+    </message>
+    <message>
+        <source>Mirrors a sector of the picture around a point.</source>
+        <translation>Reflète un secteur de l’image autour d’un point.</translation>
+    </message>
+    <message>
+        <source>Mirrors a triangle of the picture without end; the copies fade outwards.</source>
+        <translation>Reflète sans fin un triangle de l’image ; les copies s’assombrissent vers l’extérieur.</translation>
+    </message>
+    <message>
+        <source>Mixes red, green and blue with each other by formulas up to the square.</source>
+        <translation>Mélange rouge, vert et bleu entre eux par des formules jusqu’au carré.</translation>
+    </message>
+    <message>
+        <source>Mixes red, green, blue and opacity by weights.</source>
+        <translation>Mélange rouge, vert, bleu et opacité selon des poids.</translation>
+    </message>
+    <message>
+        <source>Mixes the picture with a second one by an amount.</source>
+        <translation>Mélange l’image avec une seconde, dans une proportion.</translation>
+    </message>
+    <message>
+        <source>Moves each pixel as far as a second picture is light or dark there.</source>
+        <translation>Déplace chaque pixel selon la clarté d’une seconde image à cet endroit.</translation>
+    </message>
+    <message>
+        <source>Moves, turns, scales and slants the picture as a whole.</source>
+        <translation>Déplace, tourne, agrandit et incline toute l’image.</translation>
+    </message>
+    <message>
+        <source>Multiplies both pictures, also in opacity.</source>
+        <translation>Multiplie les deux images, et leur opacité.</translation>
+    </message>
+    <message>
+        <source>Opens a round hole and pushes the picture outwards around it.</source>
+        <translation>Ouvre un trou rond et repousse l’image tout autour.</translation>
+    </message>
+    <message>
+        <source>Paints the picture in round dots on white.</source>
+        <translation>Peint l’image en touches rondes sur blanc.</translation>
+    </message>
+    <message>
+        <source>Pale colors and grayed blacks, like a faded print.</source>
+        <translation>Couleurs pâles et noirs grisés, comme un tirage fané.</translation>
+    </message>
+    <message>
+        <source>Prints the picture in dots of four inks, like a magazine under a magnifier.</source>
+        <translation>Imprime l’image en points de quatre encres, comme un magazine à la loupe.</translation>
+    </message>
+    <message>
+        <source>Pulls the corners of a part of the picture to four places.</source>
+        <translation>Tire les coins d’une partie de l’image vers quatre endroits.</translation>
+    </message>
+    <message>
+        <source>Pulls the picture&apos;s corners to four places.</source>
+        <translation>Tire les coins de l’image vers quatre endroits.</translation>
+    </message>
+    <message>
+        <source>Puts the picture into itself again and again, along a spiral.</source>
+        <translation>Met l’image dans elle-même à l’infini, en spirale.</translation>
+    </message>
+    <message>
+        <source>Raises the background&apos;s contrast and colors it with the picture.</source>
+        <translation>Relève le contraste du fond et le colore avec l’image.</translation>
+    </message>
+    <message>
+        <source>Reads the picture&apos;s colors as Lab values and shows them.</source>
+        <translation>Lit les couleurs de l’image comme valeurs Lab et les montre.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 25 neighbors by weights of your own.</source>
+        <translation>Recalcule chaque pixel à partir de 25 voisins, avec vos propres poids.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 49 neighbors by weights of your own.</source>
+        <translation>Recalcule chaque pixel à partir de 49 voisins, avec vos propres poids.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 9 neighbors in its column by weights of your own.</source>
+        <translation>Recalcule chaque pixel à partir de 9 voisins de sa colonne, avec vos propres poids.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from 9 neighbors in its row by weights of your own.</source>
+        <translation>Recalcule chaque pixel à partir de 9 voisins de sa ligne, avec vos propres poids.</translation>
+    </message>
+    <message>
+        <source>Recomputes each pixel from its 9 neighbors by weights of your own.</source>
+        <translation>Recalcule chaque pixel à partir de 9 voisins, avec vos propres poids.</translation>
+    </message>
+    <message>
+        <source>Redraws the picture as a comic: dark outlines, flat colors, printed dots.</source>
+        <translation>Redessine l’image en bande dessinée : contours sombres, aplats, points imprimés.</translation>
+    </message>
+    <message>
+        <source>Removes single specks and keeps edges.</source>
+        <translation>Enlève les petits points isolés et garde les contours.</translation>
+    </message>
+    <message>
+        <source>Repaints the picture with the colors of a palette picture only.</source>
+        <translation>Repeint l’image avec les seules couleurs d’une image palette.</translation>
+    </message>
+    <message>
+        <source>Repeats the middle of the picture and leaves its corners as they are.</source>
+        <translation>Répète le milieu de l’image et laisse ses coins tels quels.</translation>
+    </message>
+    <message>
+        <source>Repeats the picture on a floor that runs into the distance.</source>
+        <translation>Répète l’image sur un sol qui file au loin.</translation>
+    </message>
+    <message>
+        <source>Repeats the picture without end, moved, turned or scaled.</source>
+        <translation>Répète l’image sans fin, déplacée, tournée ou agrandie.</translation>
+    </message>
+    <message>
+        <source>Replaces only what is darker or lighter than the picture allows.</source>
+        <translation>Ne remplace que ce qui est plus sombre ou plus clair que l’image ne le permet.</translation>
+    </message>
+    <message>
+        <source>Replaces up to three ranges of colors by others.</source>
+        <translation>Remplace jusqu’à trois plages de couleurs par d’autres.</translation>
+    </message>
+    <message>
+        <source>Resizes the picture and keeps fine detail crisp.</source>
+        <translation>Change la taille de l’image et garde les détails fins.</translation>
+    </message>
+    <message>
+        <source>Resizes the picture; two numbers decide between soft and crisp.</source>
+        <translation>Change la taille de l’image ; deux nombres choisissent entre douceur et netteté.</translation>
+    </message>
+    <message>
+        <source>Scatters random shapes over the picture: rectangles, circles, flowers, balls, lights.</source>
+        <translation>Sème sur l’image des formes au hasard : rectangles, cercles, fleurs, balles, lumières.</translation>
+    </message>
+    <message>
+        <source>Sets brightness, contrast and saturation.</source>
+        <translation>Règle la luminosité, le contraste et la saturation.</translation>
+    </message>
+    <message>
+        <source>Sharpens edges, or with a wide radius brings out local contrast.</source>
+        <translation>Accentue les contours ou, avec un grand rayon, le contraste local.</translation>
+    </message>
+    <message>
+        <source>Sharpens light and dark only, without colored fringes.</source>
+        <translation>Renforce la netteté du clair et du sombre seuls, sans franges colorées.</translation>
+    </message>
+    <message>
+        <source>Shows dark in one color and light in another.</source>
+        <translation>Montre le sombre dans une couleur et le clair dans une autre.</translation>
+    </message>
+    <message>
+        <source>Shows hard square pixels where later steps enlarge the picture.</source>
+        <translation>Montre des pixels durs et carrés là où des étapes suivantes agrandissent l’image.</translation>
+    </message>
+    <message>
+        <source>Shows how differently the eye sees the colors of two pictures.</source>
+        <translation>Montre combien l’œil voit différentes les couleurs de deux images.</translation>
+    </message>
+    <message>
+        <source>Shows how far each place is from the red parts of a mask.</source>
+        <translation>Montre à quelle distance chaque endroit est des parties rouges d’un masque.</translation>
+    </message>
+    <message>
+        <source>Shows how far two pictures differ, color by color.</source>
+        <translation>Montre l’écart de deux images, couleur par couleur.</translation>
+    </message>
+    <message>
+        <source>Shows how much light and dark differ within reach: glowing outlines.</source>
+        <translation>Montre l’écart entre clair et sombre alentour : des contours lumineux.</translation>
+    </message>
+    <message>
+        <source>Shows how steeply colors rise to the right (red) and upwards (green), over a wider reach.</source>
+        <translation>Montre la pente des couleurs vers la droite (rouge) et le haut (vert), sur une plus grande portée.</translation>
+    </message>
+    <message>
+        <source>Shows how steeply colors rise to the right (red) and upwards (green).</source>
+        <translation>Montre la pente des couleurs vers la droite (rouge) et le haut (vert).</translation>
+    </message>
+    <message>
+        <source>Shows in white what strikes the eye first.</source>
+        <translation>Montre en blanc ce qui attire l’œil en premier.</translation>
+    </message>
+    <message>
+        <source>Shows the difference of both pictures, softly: middle tones become gray.</source>
+        <translation>Montre doucement la différence des deux images : les tons moyens deviennent gris.</translation>
+    </message>
+    <message>
+        <source>Shows the difference of both pictures: equal parts become black.</source>
+        <translation>Montre la différence des deux images : ce qui est égal devient noir.</translation>
+    </message>
+    <message>
+        <source>Shows the edges in their colors, on black.</source>
+        <translation>Montre les contours dans leurs couleurs, sur fond noir.</translation>
+    </message>
+    <message>
+        <source>Shows the picture in browns, like a very old photograph.</source>
+        <translation>Montre l’image en bruns, comme une très vieille photo.</translation>
+    </message>
+    <message>
+        <source>Shows the picture in shades of one color.</source>
+        <translation>Montre l’image dans les tons d’une seule couleur.</translation>
+    </message>
+    <message>
+        <source>Shows the picture on a curved surface that you turn in space.</source>
+        <translation>Montre l’image sur une surface courbe que vous tournez dans l’espace.</translation>
+    </message>
+    <message>
+        <source>Shows the picture only where the background is not.</source>
+        <translation>Ne montre l’image que là où le fond n’est pas.</translation>
+    </message>
+    <message>
+        <source>Shows the picture only where the background is.</source>
+        <translation>Ne montre l’image que là où est le fond.</translation>
+    </message>
+    <message>
+        <source>Shows the picture through glass with the relief of a texture.</source>
+        <translation>Montre l’image à travers un verre au relief d’une texture.</translation>
+    </message>
+    <message>
+        <source>Shows the second picture through growing round holes.</source>
+        <translation>Montre la seconde image par des trous ronds qui grandissent.</translation>
+    </message>
+    <message>
+        <source>Shrinks the picture so that small bright spots survive.</source>
+        <translation>Réduit l’image sans perdre les petits points lumineux.</translation>
+    </message>
+    <message>
+        <source>Slides the first picture away in bars.</source>
+        <translation>Fait glisser la première image en bandes.</translation>
+    </message>
+    <message>
+        <source>Smears the picture along a direction, as if it had moved.</source>
+        <translation>Étale l’image dans une direction, comme si elle avait bougé.</translation>
+    </message>
+    <message>
+        <source>Smears the picture towards a point, as if zoomed during the exposure.</source>
+        <translation>Étale l’image vers un point, comme un zoom pendant la pose.</translation>
+    </message>
+    <message>
+        <source>Smooths away fine noise and sharpens what is left.</source>
+        <translation>Lisse le bruit fin et accentue le reste.</translation>
+    </message>
+    <message>
+        <source>Splits the picture into black and white at the limit that suits it best.</source>
+        <translation>Partage l’image en noir et blanc à la limite qui lui va le mieux.</translation>
+    </message>
+    <message>
+        <source>Stretches the middle of the picture and leaves its corners as they are.</source>
+        <translation>Étire le milieu de l’image et laisse ses coins tels quels.</translation>
+    </message>
+    <message>
+        <source>Strong colors, deep shadows and clear lights, like slide film.</source>
+        <translation>Couleurs vives, ombres profondes et lumières claires, comme une diapositive.</translation>
+    </message>
+    <message>
+        <source>Swells the picture along a line, like a fold.</source>
+        <translation>Gonfle l’image le long d’une ligne, comme un pli.</translation>
+    </message>
+    <message>
+        <source>Swells the picture around a point, or dents it.</source>
+        <translation>Gonfle l’image autour d’un point, ou la creuse.</translation>
+    </message>
+    <message>
+        <source>Takes the background&apos;s light away from the picture.</source>
+        <translation>Enlève à l’image la lumière du fond.</translation>
+    </message>
+    <message>
+        <source>The same from 25 neighbors, for colors only: opacity stays.</source>
+        <translation>Le même avec 25 voisins, pour les couleurs seules : l’opacité reste.</translation>
+    </message>
+    <message>
+        <source>The same from 49 neighbors, for colors only: opacity stays.</source>
+        <translation>Le même avec 49 voisins, pour les couleurs seules : l’opacité reste.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors in a column, for colors only: opacity stays.</source>
+        <translation>Le même avec 9 voisins de la colonne, pour les couleurs seules : l’opacité reste.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors in a row, for colors only: opacity stays.</source>
+        <translation>Le même avec 9 voisins de la ligne, pour les couleurs seules : l’opacité reste.</translation>
+    </message>
+    <message>
+        <source>The same from 9 neighbors, for colors only: opacity stays.</source>
+        <translation>Le même avec 9 voisins, pour les couleurs seules : l’opacité reste.</translation>
+    </message>
+    <message>
+        <source>Tints the picture as if white had another color.</source>
+        <translation>Teinte l’image comme si le blanc avait une autre couleur.</translation>
+    </message>
+    <message>
+        <source>Turns a slanted quadrilateral, such as a page or a sign, into an upright rectangle.</source>
+        <translation>Fait d’un quadrilatère penché, page ou panneau, un rectangle droit.</translation>
+    </message>
+    <message>
+        <source>Turns all colors around the color wheel.</source>
+        <translation>Fait tourner toutes les couleurs autour du cercle chromatique.</translation>
+    </message>
+    <message>
+        <source>Turns light into dark and each color into its opposite.</source>
+        <translation>Change le clair en sombre et chaque couleur en son contraire.</translation>
+    </message>
+    <message>
+        <source>Turns the first picture like a page that throws a shadow.</source>
+        <translation>Tourne la première image comme une page qui jette une ombre.</translation>
+    </message>
+    <message>
+        <source>Turns the first picture like a page.</source>
+        <translation>Tourne la première image comme une page.</translation>
+    </message>
+    <message>
+        <source>Turns the picture by a small angle and enlarges it until its frame is full.</source>
+        <translation>Tourne l’image d’un petit angle et l’agrandit pour remplir le cadre.</translation>
+    </message>
+    <message>
+        <source>Turns the picture in space, as if the camera had been held otherwise.</source>
+        <translation>Tourne l’image dans l’espace, comme si l’appareil avait été tenu autrement.</translation>
+    </message>
+    <message>
+        <source>Turns the picture into a pencil drawing.</source>
+        <translation>Fait de l’image un dessin au crayon.</translation>
+    </message>
+    <message>
+        <source>Turns the picture like a whirlpool, many times around its eye.</source>
+        <translation>Fait tourner l’image en tourbillon, plusieurs fois autour de son œil.</translation>
+    </message>
+    <message>
+        <source>Twists the picture around a point, most in the middle.</source>
+        <translation>Tord l’image autour d’un point, surtout au milieu.</translation>
+    </message>
+    <message>
+        <source>Unfolds the second picture like an accordion.</source>
+        <translation>Déplie la seconde image comme un accordéon.</translation>
+    </message>
+    <message>
+        <source>Warm colors and slightly open blacks, like an old transfer print.</source>
+        <translation>Couleurs chaudes et noirs un peu ouverts, comme un ancien report.</translation>
+    </message>
+    <message>
+        <source>Winds the colors on a circle outwards into a spiral tunnel.</source>
+        <translation>Enroule vers l’extérieur les couleurs d’un cercle en tunnel spiral.</translation>
+    </message>
+    <message>
+        <source>Wipes the second picture over the first.</source>
+        <translation>Fait glisser la seconde image sur la première.</translation>
+    </message>
+    <message>
+        <source>Wraps the picture around a solid such as a cube or a ball, which you turn.</source>
+        <translation>Enveloppe de l’image un solide, cube ou boule, que vous tournez.</translation>
+    </message>
+    <message>
+        <source>Writes a text in several fonts and colors over the picture.</source>
+        <translation>Écrit sur l’image un texte en plusieurs polices et couleurs.</translation>
+    </message>
+    <message>
+        <source>Writes a text over the picture.</source>
+        <translation>Écrit un texte sur l’image.</translation>
+    </message>
+    <message>
+        <source>Writes the picture&apos;s colors as Lab values: lightness, green to red, blue to yellow.</source>
+        <translation>Écrit les couleurs de l’image en valeurs Lab : clarté, vert à rouge, bleu à jaune.</translation>
+    </message>
+</context>
+<context>
+    <name>FilterList</name>
+    <message>
+        <source>Pinned</source>
+        <translation>Épinglés</translation>
+    </message>
+    <message>
+        <source>Recently Used</source>
+        <translation>Récemment utilisés</translation>
+    </message>
+    <message>
+        <source>Looks and Effects</source>
+        <translation>Rendus et effets</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Trouvés</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Rien trouvé</translation>
+    </message>
+    <message>
+        <source>Nothing found. Nearest:</source>
+        <translation>Rien trouvé. Au plus près :</translation>
+    </message>
+</context>
+<context>
     <name>FilterOptions</name>
     <message>
         <source>Standard values are made for small pictures. Start filters with values that fit this one?</source>
@@ -2392,6 +3429,969 @@
     <message>
         <source>Always Fit</source>
         <translation>Toujours adapter</translation>
+    </message>
+</context>
+<context>
+    <name>FilterSearchWords</name>
+    <message>
+        <source>3d, cube, sphere, ball, globe, cylinder, cone, pyramid, ring, object, texture, planet, box</source>
+        <translation>3d, cube, sphère, boule, globe, cylindre, cône, pyramide, anneau, objet, planète</translation>
+    </message>
+    <message>
+        <source>3d, surface, curved, flag, bend, paper, rotate, tilt, page</source>
+        <translation>3d, surface, courbe, drapeau, courber, papier, tourner, incliner, page</translation>
+    </message>
+    <message>
+        <source>add, dodge, lighten, blend mode, glow</source>
+        <translation>ajouter, densité, éclaircir, mode de fusion, lueur</translation>
+    </message>
+    <message>
+        <source>add, plus, sum, lighter, double exposure, blend</source>
+        <translation>ajouter, additionner, somme, plus clair, surimpression, mélanger</translation>
+    </message>
+    <message>
+        <source>aspect ratio, widescreen, stretch, fit, 16:9, format</source>
+        <translation>format, proportions, écran large, étirer, adapter, 16:9</translation>
+    </message>
+    <message>
+        <source>attention, eye catcher, saliency, subject, mask, analysis</source>
+        <translation>attention, saillance, sujet, masque, analyse</translation>
+    </message>
+    <message>
+        <source>average color, mean, reduce, statistics</source>
+        <translation>moyenne, couleur moyenne, statistique</translation>
+    </message>
+    <message>
+        <source>average, mean, columns, profile, statistics</source>
+        <translation>moyenne, colonnes, profil, statistique</translation>
+    </message>
+    <message>
+        <source>average, mean, rows, profile, statistics</source>
+        <translation>moyenne, lignes, profil, statistique</translation>
+    </message>
+    <message>
+        <source>aztec code, barcode, ticket, 2d code, matrix code</source>
+        <translation>code aztec, code-barres, billet, code 2d</translation>
+    </message>
+    <message>
+        <source>barcode, bar code, strip code, label, parcel, code 128</source>
+        <translation>code-barres, colis, étiquette, code 128</translation>
+    </message>
+    <message>
+        <source>barcode, boarding pass, pdf417, stacked code, ticket, id card</source>
+        <translation>code-barres, carte d’embarquement, pdf417, billet, carte d’identité</translation>
+    </message>
+    <message>
+        <source>bars, blinds, strips, slide, transition</source>
+        <translation>bandes, stores, rayures, glisser, transition</translation>
+    </message>
+    <message>
+        <source>black and white, film noir, dramatic, high contrast, monochrome, grayscale, bw, gray, dark, desaturate, look</source>
+        <translation>noir et blanc, film noir, dramatique, contraste fort, niveaux de gris, nb, gris, sombre, désaturer, rendu</translation>
+    </message>
+    <message>
+        <source>black and white, grayscale, desaturate, gray, bw, monochrome, remove color, neutral, colorless, look</source>
+        <translation>noir et blanc, niveaux de gris, désaturer, gris, nb, enlever la couleur, neutre, rendu</translation>
+    </message>
+    <message>
+        <source>black and white, monochrome, grayscale, gray, bw, desaturate, soft, film, look</source>
+        <translation>noir et blanc, niveaux de gris, gris, nb, désaturer, monochrome, film, rendu</translation>
+    </message>
+    <message>
+        <source>blend, double exposure, fade, opacity, combine, two pictures, crossfade, overlay</source>
+        <translation>mélanger, surimpression, double exposition, opacité, deux images, combiner, fondu</translation>
+    </message>
+    <message>
+        <source>blur, soften, soft, smooth, unsharp, blurry, background blur, hide detail</source>
+        <translation>flou, flouter, adoucir, doux, brouiller, arrière-plan flou</translation>
+    </message>
+    <message>
+        <source>bokeh, lens blur, out of focus, blur, defocus, background blur, portrait, light discs</source>
+        <translation>bokeh, flou d’objectif, flou, arrière-plan flou, portrait, disques de lumière</translation>
+    </message>
+    <message>
+        <source>bounding box, bounds, red, find, mask</source>
+        <translation>rectangle englobant, limites, rouge, trouver, masque</translation>
+    </message>
+    <message>
+        <source>brightness, contrast, saturation, color, brighten, lighten, darken, desaturate, colorful, adjust, enhance, improve</source>
+        <translation>luminosité, contraste, saturation, couleur, éclaircir, assombrir, désaturer, coloré, améliorer</translation>
+    </message>
+    <message>
+        <source>bulge, fisheye, magnify, swell, lens, big nose, fish eye</source>
+        <translation>gonfler, bosse, œil de poisson, loupe, grossir, fisheye, gros nez</translation>
+    </message>
+    <message>
+        <source>bulge, fold, crease, ridge</source>
+        <translation>pli, bosse, gonfler, relief</translation>
+    </message>
+    <message>
+        <source>burn, darken, blend mode, contrast</source>
+        <translation>densité, assombrir, mode de fusion, contraste</translation>
+    </message>
+    <message>
+        <source>burn, darken, blend mode, subtract</source>
+        <translation>densité, assombrir, mode de fusion, soustraire</translation>
+    </message>
+    <message>
+        <source>cartoon, comic, manga, toon, drawing, illustration, anime, graphic novel</source>
+        <translation>bande dessinée, bd, dessin animé, cartoon, comic, manga, dessin, illustration</translation>
+    </message>
+    <message>
+        <source>channel mixer, formula, coefficients, color mixing, cross process</source>
+        <translation>mélangeur de couches, formule, coefficients, traitement croisé</translation>
+    </message>
+    <message>
+        <source>channel mixer, swap channels, opacity, transparency, matrix, color channels, fade out, bgr</source>
+        <translation>mélangeur de couches, échanger les couches, opacité, transparence, matrice</translation>
+    </message>
+    <message>
+        <source>chess, checkers, checkerboard, squares, pattern, chequered, transparency grid</source>
+        <translation>damier, échiquier, carreaux, carrés, motif</translation>
+    </message>
+    <message>
+        <source>clip, limit, clamp, range, levels, cut off</source>
+        <translation>limiter, écrêter, plage, niveaux</translation>
+    </message>
+    <message>
+        <source>clipping mask, on top, overlay, composite</source>
+        <translation>masque d’écrêtage, dessus, superposer, montage</translation>
+    </message>
+    <message>
+        <source>color wheel, rainbow, hues, spectrum, color circle, color picker</source>
+        <translation>cercle chromatique, roue des couleurs, arc-en-ciel, teintes, spectre</translation>
+    </message>
+    <message>
+        <source>colorize, blend mode, hue, saturation, tint</source>
+        <translation>coloriser, mode de fusion, teinte, saturation</translation>
+    </message>
+    <message>
+        <source>compare, difference, delta e, color difference, analysis</source>
+        <translation>comparer, différence, delta e, écart de couleur, analyse</translation>
+    </message>
+    <message>
+        <source>copier, scanner, light bar, scan, transition</source>
+        <translation>copieur, photocopieur, scanner, barre de lumière, transition</translation>
+    </message>
+    <message>
+        <source>crop, cut, trim, cut out</source>
+        <translation>recadrer, rogner, couper, découper, recadrage</translation>
+    </message>
+    <message>
+        <source>cross process, cool, cold, blue, green, lomo, film, look, retro, teal</source>
+        <translation>traitement croisé, froid, bleu, vert, lomo, film, rendu, rétro</translation>
+    </message>
+    <message>
+        <source>curve, curves, contrast, levels, gradation, shadows, highlights, midtones, black point, s-curve</source>
+        <translation>courbe, courbes, contraste, niveaux, gradation, ombres, hautes lumières, tons moyens, point noir</translation>
+    </message>
+    <message>
+        <source>curves, rgb curves, gradation, color curves, levels, tone</source>
+        <translation>courbes, courbes rvb, gradation, niveaux, tons</translation>
+    </message>
+    <message>
+        <source>darker, blend mode, minimum</source>
+        <translation>plus sombre, obscurcir, mode de fusion, minimum</translation>
+    </message>
+    <message>
+        <source>darkest, dark gray, grayscale, black and white</source>
+        <translation>plus sombre, gris sombre, niveaux de gris, noir et blanc</translation>
+    </message>
+    <message>
+        <source>denoise, noise reduction, reduce noise, grain removal, smooth skin, skin, iso noise, clean, high iso</source>
+        <translation>débruiter, réduire le bruit, bruit, lisser la peau, peau, grain, nettoyer</translation>
+    </message>
+    <message>
+        <source>depth map, disparity, convert, stereo, 3d</source>
+        <translation>carte de profondeur, disparité, convertir, stéréo, 3d</translation>
+    </message>
+    <message>
+        <source>difference, compare, blend mode, invert</source>
+        <translation>différence, comparer, mode de fusion</translation>
+    </message>
+    <message>
+        <source>difference, compare, subtract, spot the difference, changes, analysis</source>
+        <translation>différence, comparer, soustraire, changements, analyse</translation>
+    </message>
+    <message>
+        <source>dilate, grow, expand, thicken, blocks, morphology</source>
+        <translation>dilater, grandir, épaissir, blocs, morphologie</translation>
+    </message>
+    <message>
+        <source>dilate, grow, expand, thicken, bright spots, morphology, paint, oil painting</source>
+        <translation>dilater, grandir, épaissir, taches claires, morphologie, peinture, peinture à l’huile</translation>
+    </message>
+    <message>
+        <source>displace, displacement map, glitch, ripple, texture, wobble, warp, water</source>
+        <translation>déplacer, décaler, glitch, bug, ondulation, texture, eau</translation>
+    </message>
+    <message>
+        <source>distance, glow outline, feather, mask, distance field</source>
+        <translation>distance, contour, masque</translation>
+    </message>
+    <message>
+        <source>divide, flat field, blend mode, brighten</source>
+        <translation>diviser, mode de fusion, éclaircir</translation>
+    </message>
+    <message>
+        <source>dodge, lighten, brighten, blend mode, glow</source>
+        <translation>densité, éclaircir, mode de fusion, lueur</translation>
+    </message>
+    <message>
+        <source>droste, spiral, recursion, picture in picture, infinity, endless</source>
+        <translation>droste, spirale, mise en abyme, infini, récursion</translation>
+    </message>
+    <message>
+        <source>duotone, two colors, colorize, false color, tint, pop art, bicolor, split tone</source>
+        <translation>bichromie, deux couleurs, coloriser, fausses couleurs, teinter, pop art</translation>
+    </message>
+    <message>
+        <source>edges, edge detection, outline, contour, line drawing, find edges, trace</source>
+        <translation>contours, détection de contours, silhouette, dessin au trait</translation>
+    </message>
+    <message>
+        <source>emboss, relief, metal, 3d, chrome, material, plastic, bevel, stone</source>
+        <translation>estamper, relief, métal, 3d, chrome, matière, plastique, pierre</translation>
+    </message>
+    <message>
+        <source>erode, shrink, thin, blocks, morphology</source>
+        <translation>éroder, rétrécir, amincir, blocs, morphologie</translation>
+    </message>
+    <message>
+        <source>erode, shrink, thin, dark spots, morphology, paint, oil painting</source>
+        <translation>éroder, rétrécir, amincir, taches sombres, morphologie, peinture, peinture à l’huile</translation>
+    </message>
+    <message>
+        <source>exclusion, difference, blend mode, soft</source>
+        <translation>exclusion, différence, mode de fusion, doux</translation>
+    </message>
+    <message>
+        <source>exposure, brightness, brighten, lighten, darken, too dark, too bright, underexposed, overexposed, ev, light</source>
+        <translation>exposition, luminosité, éclaircir, assombrir, trop sombre, trop clair, sous-exposé, surexposé, lumière</translation>
+    </message>
+    <message>
+        <source>extend edges, stretched edges, smear, endless</source>
+        <translation>prolonger les bords, étaler, sans fin</translation>
+    </message>
+    <message>
+        <source>extend edges, stretched edges, smear, extend canvas</source>
+        <translation>prolonger les bords, étaler, agrandir la toile</translation>
+    </message>
+    <message>
+        <source>fade, crossfade, dissolve, transition</source>
+        <translation>fondu, fondu enchaîné, dissoudre, transition</translation>
+    </message>
+    <message>
+        <source>faded, vintage, old photo, pale, retro, washed out, matte, film, look, faded film</source>
+        <translation>fané, vieille photo, pâle, vintage, rétro, délavé, mat, film, rendu</translation>
+    </message>
+    <message>
+        <source>fill, solid color, one color, plain, background</source>
+        <translation>remplir, couleur unie, une couleur, aplat, fond</translation>
+    </message>
+    <message>
+        <source>find edges, edge detection, neon, outline, contour, glowing edges</source>
+        <translation>trouver les contours, détection de contours, néon, silhouette, contours lumineux</translation>
+    </message>
+    <message>
+        <source>flare, lens flare, star, sun, spikes, starburst, light</source>
+        <translation>reflet d’objectif, éclat, étoile, soleil, pointes, lumière</translation>
+    </message>
+    <message>
+        <source>flash, burst, sun, light, transition</source>
+        <translation>éclair, flash, soleil, lumière, transition</translation>
+    </message>
+    <message>
+        <source>floor, perspective, tile, horizon, repeat, 3d, ground</source>
+        <translation>sol, perspective, carrelage, horizon, répéter, 3d</translation>
+    </message>
+    <message>
+        <source>fold, accordion, transition, leporello</source>
+        <translation>pli, accordéon, transition, dépliant</translation>
+    </message>
+    <message>
+        <source>formula, curve, levels, coefficients, cubic, tone</source>
+        <translation>formule, courbe, niveaux, coefficients</translation>
+    </message>
+    <message>
+        <source>frame, border, outline, rounded corners, rectangle, line, box, edge</source>
+        <translation>cadre, bordure, encadrement, coins ronds, rectangle, ligne, bord</translation>
+    </message>
+    <message>
+        <source>frosted glass, glass, rain, bathroom window, water, texture, relief</source>
+        <translation>verre dépoli, verre, pluie, vitre, eau, texture, relief</translation>
+    </message>
+    <message>
+        <source>gamma, midtones, brighten, lighten, darken, brightness, tone</source>
+        <translation>gamma, tons moyens, éclaircir, assombrir, luminosité</translation>
+    </message>
+    <message>
+        <source>gloomy, dark, moody, mist, fog, sad, dull, soft</source>
+        <translation>sombre, morose, voile, brouillard, triste, terne, doux</translation>
+    </message>
+    <message>
+        <source>glow, dreamy, bloom, soft light, soft focus, shine, halo, orton, romantic, haze, diffuse</source>
+        <translation>lueur, rêveur, rayonner, lumière douce, halo, éclat, romantique, brume</translation>
+    </message>
+    <message>
+        <source>gradient map, colorize, tone map, duotone, tritone, map, recolor</source>
+        <translation>dégradé de couleurs, coloriser, bichromie, table de couleurs, recolorer</translation>
+    </message>
+    <message>
+        <source>gradient, color gradient, fade, blend of colors, background, sky</source>
+        <translation>dégradé, dégradé de couleurs, fond, ciel, passage</translation>
+    </message>
+    <message>
+        <source>gradient, radial, circle, spot, background, round</source>
+        <translation>dégradé, radial, cercle, tache, fond, rond</translation>
+    </message>
+    <message>
+        <source>gradient, slope, edges, edge detection, analysis, normal map</source>
+        <translation>pente, dégradé, contours, détection de contours, analyse</translation>
+    </message>
+    <message>
+        <source>gradient, slope, edges, texture, analysis</source>
+        <translation>pente, dégradé, contours, texture, analyse</translation>
+    </message>
+    <message>
+        <source>gradient, soft gradient, smooth, fade, background</source>
+        <translation>dégradé, dégradé doux, doux, fond</translation>
+    </message>
+    <message>
+        <source>gradient, soft spot, glow, radial, circle, fade</source>
+        <translation>dégradé, tache douce, lueur, cercle, rond</translation>
+    </message>
+    <message>
+        <source>grain, film grain, noise, add noise, banding, dither, analog, iso</source>
+        <translation>grain, grain de film, bruit, ajouter du bruit, bandes, argentique</translation>
+    </message>
+    <message>
+        <source>grid, mesh, lines, net, wireframe</source>
+        <translation>grille, maillage, lignes, filet, fil de fer</translation>
+    </message>
+    <message>
+        <source>guided filter, refine mask, edges, smoothing, matting</source>
+        <translation>filtre guidé, affiner un masque, contours, lisser</translation>
+    </message>
+    <message>
+        <source>halftone, print, newspaper, magazine, cmyk, ink dots, offset, pop art, comic dots</source>
+        <translation>trame, impression, journal, magazine, quadrichromie, points de couleur, pop art</translation>
+    </message>
+    <message>
+        <source>halo, ring of light, lens flare, lamp, corona, rainbow ring, glow</source>
+        <translation>halo, anneau de lumière, reflet d’objectif, lampe, arc-en-ciel, auréole</translation>
+    </message>
+    <message>
+        <source>hard light, contrast, blend mode</source>
+        <translation>lumière crue, contraste, mode de fusion</translation>
+    </message>
+    <message>
+        <source>hatching, crosshatch, engraving, etching, banknote, halftone, lines</source>
+        <translation>hachures, hachures croisées, gravure, eau-forte, billet de banque, trame, lignes</translation>
+    </message>
+    <message>
+        <source>hdr, tone mapping, high dynamic range, highlights, headroom, compress lights</source>
+        <translation>hdr, plage dynamique, hautes lumières, compression des tons</translation>
+    </message>
+    <message>
+        <source>heat map, thermal, infrared, heat camera, thermography, heat vision</source>
+        <translation>thermique, caméra thermique, infrarouge, chaleur, thermographie</translation>
+    </message>
+    <message>
+        <source>height map, bevel, relief, emboss, bump map, depth, 3d text</source>
+        <translation>carte de hauteur, relief, biseau, estamper, profondeur</translation>
+    </message>
+    <message>
+        <source>hilbert curve, maze, labyrinth, fractal, space filling, circuit, lines</source>
+        <translation>courbe de hilbert, labyrinthe, fractale, circuit, lignes</translation>
+    </message>
+    <message>
+        <source>histogram, chart, graph, diagram, distribution</source>
+        <translation>histogramme, graphique, diagramme, répartition</translation>
+    </message>
+    <message>
+        <source>histogram, count, statistics, distribution, analysis</source>
+        <translation>histogramme, compter, statistique, répartition, analyse</translation>
+    </message>
+    <message>
+        <source>histogram, hdr, stops, exposure, statistics</source>
+        <translation>histogramme, hdr, diaphragmes, exposition, statistique</translation>
+    </message>
+    <message>
+        <source>hole, black hole, gap, push away</source>
+        <translation>trou, trou noir, ouverture</translation>
+    </message>
+    <message>
+        <source>holes, dots, bubbles, circles, transition</source>
+        <translation>trous, points, bulles, cercles, transition</translation>
+    </message>
+    <message>
+        <source>honeycomb, hexagon, mosaic, pixel, tiles, censor</source>
+        <translation>nid d’abeille, hexagone, mosaïque, pixels, carreaux, censurer</translation>
+    </message>
+    <message>
+        <source>hue, change colors, color shift, shift colors, rotate colors, psychedelic, recolor</source>
+        <translation>teinte, changer les couleurs, décaler les couleurs, psychédélique, recolorer</translation>
+    </message>
+    <message>
+        <source>hue, recolor, blend mode</source>
+        <translation>teinte, recolorer, mode de fusion</translation>
+    </message>
+    <message>
+        <source>kaleidoscope, mirror, mandala, symmetry, star, snowflake</source>
+        <translation>kaléidoscope, miroir, mandala, symétrie, étoile, flocon</translation>
+    </message>
+    <message>
+        <source>kaleidoscope, mirror, triangle, symmetry, fade, pattern</source>
+        <translation>kaléidoscope, miroir, triangle, symétrie, motif</translation>
+    </message>
+    <message>
+        <source>kernel, column, custom filter, weights</source>
+        <translation>noyau, colonne, filtre personnel, poids</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, custom filter, weights</source>
+        <translation>noyau, matrice, filtre personnel, poids</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, custom filter, weights, emboss</source>
+        <translation>noyau, matrice, filtre personnel, poids, estamper</translation>
+    </message>
+    <message>
+        <source>kernel, matrix, emboss, sharpen, custom filter, weights, edge</source>
+        <translation>noyau, matrice, estamper, accentuer, filtre personnel, poids, contours</translation>
+    </message>
+    <message>
+        <source>kernel, row, custom filter, weights</source>
+        <translation>noyau, ligne, filtre personnel, poids</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, converging lines, buildings, architecture, straighten</source>
+        <translation>trapèze, redresser, perspective, lignes convergentes, bâtiments, architecture</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, converging lines, facade, straighten</source>
+        <translation>trapèze, redresser, perspective, lignes convergentes, façade</translation>
+    </message>
+    <message>
+        <source>keystone, perspective, falling lines, converging lines, buildings, architecture, tower, straighten</source>
+        <translation>trapèze, redresser, perspective, lignes fuyantes, bâtiments, architecture, tour</translation>
+    </message>
+    <message>
+        <source>lab, cielab, color space, convert</source>
+        <translation>lab, cielab, espace de couleurs, convertir</translation>
+    </message>
+    <message>
+        <source>lab, cielab, color space, convert, analysis</source>
+        <translation>lab, cielab, espace de couleurs, convertir, analyse</translation>
+    </message>
+    <message>
+        <source>lens blur, out of focus, blur, defocus, bokeh, disc</source>
+        <translation>flou d’objectif, flou, flouter, bokeh, disque, mise au point</translation>
+    </message>
+    <message>
+        <source>lighter, blend mode, maximum, fireworks, star trails</source>
+        <translation>plus clair, éclaircir, mode de fusion, maximum, feu d’artifice</translation>
+    </message>
+    <message>
+        <source>lightest, bright gray, grayscale, black and white, value</source>
+        <translation>plus clair, gris clair, niveaux de gris, noir et blanc</translation>
+    </message>
+    <message>
+        <source>linear light, contrast, blend mode</source>
+        <translation>lumière linéaire, contraste, mode de fusion</translation>
+    </message>
+    <message>
+        <source>lines, engraving, etching, banknote, halftone, scan lines, woodcut</source>
+        <translation>lignes, gravure, eau-forte, billet de banque, trame, gravure sur bois</translation>
+    </message>
+    <message>
+        <source>lines, rays, burst, beams, starburst, speed lines</source>
+        <translation>lignes, rayons, gerbe, faisceau</translation>
+    </message>
+    <message>
+        <source>luminosity, lightness, blend mode</source>
+        <translation>luminosité, clarté, mode de fusion</translation>
+    </message>
+    <message>
+        <source>lut, color grading, color lookup, cube, 3d lut, look up table, grade</source>
+        <translation>lut, étalonnage, table de couleurs, espace de couleurs</translation>
+    </message>
+    <message>
+        <source>lut, color grading, color lookup, cube, film look, 3d lut, look up table, grade, cinematic</source>
+        <translation>lut, étalonnage, table de couleurs, rendu de film, cinéma</translation>
+    </message>
+    <message>
+        <source>magnifier, glass, lens, bar, rod, loupe</source>
+        <translation>loupe, verre, lentille, barre</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, combine, blue</source>
+        <translation>masque, fondre, fond, montage, combiner, bleu</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, combine, red</source>
+        <translation>masque, fondre, fond, montage, combiner, rouge</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, cut out, combine, alpha, replace background</source>
+        <translation>masque, fondre, fond, détourer, montage, combiner, remplacer le fond</translation>
+    </message>
+    <message>
+        <source>mask, composite, blend, background, cut out, combine, replace background, layer mask</source>
+        <translation>masque, fondre, fond, détourer, montage, combiner, remplacer le fond</translation>
+    </message>
+    <message>
+        <source>mask, cut out, intersect, inside, composite</source>
+        <translation>masque, découper, intersection, dedans, montage</translation>
+    </message>
+    <message>
+        <source>mask, cut out, outside, punch out, composite</source>
+        <translation>masque, découper, dehors, perforer, montage</translation>
+    </message>
+    <message>
+        <source>mask, dissolve, crumble, disintegrate, transition</source>
+        <translation>masque, dissoudre, effriter, transition</translation>
+    </message>
+    <message>
+        <source>maximum, brightest, lightest, statistics</source>
+        <translation>maximum, plus clair, statistique</translation>
+    </message>
+    <message>
+        <source>maximum, lighter, lighten, blend</source>
+        <translation>maximum, plus clair, éclaircir, mélanger</translation>
+    </message>
+    <message>
+        <source>maximum, opaque, opacity, alpha, statistics</source>
+        <translation>maximum, opaque, opacité, alpha, statistique</translation>
+    </message>
+    <message>
+        <source>minimum, darker, darken, blend</source>
+        <translation>minimum, plus sombre, assombrir, mélanger</translation>
+    </message>
+    <message>
+        <source>minimum, darkest, statistics</source>
+        <translation>minimum, plus sombre, statistique</translation>
+    </message>
+    <message>
+        <source>minimum, maximum, range, contrast, statistics</source>
+        <translation>minimum, maximum, plage, contraste, statistique</translation>
+    </message>
+    <message>
+        <source>minimum, maximum, range, red, statistics</source>
+        <translation>minimum, maximum, plage, rouge, statistique</translation>
+    </message>
+    <message>
+        <source>minimum, transparent, opacity, alpha, statistics</source>
+        <translation>minimum, transparent, opacité, alpha, statistique</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, hexagon, tile, snowflake, symmetry</source>
+        <translation>miroir, motif, kaléidoscope, hexagone, carreaux, flocon, symétrie</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, tile, symmetry, star, rosette</source>
+        <translation>miroir, motif, kaléidoscope, carreaux, symétrie, étoile, rosace</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, kaleidoscope, tile, symmetry, wallpaper, ornament</source>
+        <translation>miroir, motif, kaléidoscope, carreaux, symétrie, papier peint, ornement</translation>
+    </message>
+    <message>
+        <source>mirror, pattern, tile, symmetry, wallpaper, reflect, ornament</source>
+        <translation>miroir, motif, carreaux, symétrie, papier peint, ornement</translation>
+    </message>
+    <message>
+        <source>monochrome, tint, colorize, one color, cyanotype, toned, blue tint, duotone</source>
+        <translation>monochrome, teinter, coloriser, une couleur, cyanotype, camaïeu</translation>
+    </message>
+    <message>
+        <source>motion, speed, movement, blur, panning, camera shake, directional blur</source>
+        <translation>mouvement, vitesse, flou de bougé, flou, filé, bougé</translation>
+    </message>
+    <message>
+        <source>multiply, darken, blend, mask</source>
+        <translation>multiplier, assombrir, mélanger, masque</translation>
+    </message>
+    <message>
+        <source>multiply, darken, shadow, slide, blend mode, texture</source>
+        <translation>produit, multiplier, assombrir, ombre, mode de fusion, texture</translation>
+    </message>
+    <message>
+        <source>nearest neighbor, hard pixels, pixel art, no smoothing, enlarge</source>
+        <translation>plus proche voisin, pixels durs, pixel art, sans lissage, agrandir</translation>
+    </message>
+    <message>
+        <source>negative, invert, inverse, reverse colors, film negative, opposite</source>
+        <translation>négatif, inverser, invertir, contraire, inverser les couleurs</translation>
+    </message>
+    <message>
+        <source>newspaper, halftone, dots, newsprint, print, raster, black and white dots</source>
+        <translation>journal, trame, points, impression</translation>
+    </message>
+    <message>
+        <source>noise, random, static, color noise, snow, tv snow, texture, grain</source>
+        <translation>bruit, aléatoire, hasard, neige de télévision, neige, texture</translation>
+    </message>
+    <message>
+        <source>op art, tiles, optical art, mosaic, squares, pattern</source>
+        <translation>op art, carreaux, mosaïque, carrés, motif</translation>
+    </message>
+    <message>
+        <source>outline, edges, neon, contour, morphology</source>
+        <translation>contour, bords, néon, silhouette, morphologie</translation>
+    </message>
+    <message>
+        <source>overlay, contrast, texture, blend mode</source>
+        <translation>incrustation, superposer, contraste, texture, mode de fusion</translation>
+    </message>
+    <message>
+        <source>overlay, on top, layer, normal, composite, watermark</source>
+        <translation>superposer, dessus, calque, normal, montage, filigrane</translation>
+    </message>
+    <message>
+        <source>page, turn page, book, curl, shadow, transition</source>
+        <translation>page, tourner la page, livre, enrouler, ombre, transition</translation>
+    </message>
+    <message>
+        <source>page, turn page, book, curl, transition</source>
+        <translation>page, tourner la page, livre, enrouler, transition</translation>
+    </message>
+    <message>
+        <source>palette, center of color, color position, analysis, tracking</source>
+        <translation>palette, centre, position des couleurs, analyse</translation>
+    </message>
+    <message>
+        <source>palette, main colors, dominant colors, color scheme, clusters</source>
+        <translation>palette, couleurs principales, couleurs dominantes, groupes</translation>
+    </message>
+    <message>
+        <source>palette, reduce colors, limited colors, 8 bit, retro game, indexed color, gif, pixel art</source>
+        <translation>palette, réduire les couleurs, peu de couleurs, couleurs indexées, pixel art, gif</translation>
+    </message>
+    <message>
+        <source>patchwork, patches, camouflage, blotches, quilt, texture</source>
+        <translation>patchwork, taches, camouflage, pièces, texture</translation>
+    </message>
+    <message>
+        <source>pattern, hexagon, rotate, tile, symmetry, ornament</source>
+        <translation>motif, hexagone, tourner, carreaux, symétrie, ornement</translation>
+    </message>
+    <message>
+        <source>pattern, mirror, tile, slanted, zigzag, wallpaper</source>
+        <translation>motif, miroir, carreaux, penché, zigzag, papier peint</translation>
+    </message>
+    <message>
+        <source>pattern, mirror, tile, wallpaper, footprints, frieze, ornament</source>
+        <translation>motif, miroir, carreaux, papier peint, frise, ornement</translation>
+    </message>
+    <message>
+        <source>pattern, repeat, tile, wallpaper, ornament</source>
+        <translation>motif, répéter, carreaux, papier peint, ornement</translation>
+    </message>
+    <message>
+        <source>pattern, rotate, tile, symmetry, wallpaper, pinwheel, ornament</source>
+        <translation>motif, tourner, carreaux, symétrie, papier peint, moulinet, ornement</translation>
+    </message>
+    <message>
+        <source>pencil, sketch, drawing, pencil drawing, hand drawn, graphite, draw</source>
+        <translation>crayon, croquis, dessin, dessin au crayon, esquisse, dessiner</translation>
+    </message>
+    <message>
+        <source>pencil, sketch, line drawing, drawing, outline, ink, coloring page, contour, charcoal</source>
+        <translation>crayon, croquis, dessin au trait, dessin, contour, encre, coloriage, fusain</translation>
+    </message>
+    <message>
+        <source>perspective, corners, distort, 3d, part</source>
+        <translation>perspective, coins, déformer, 3d, partie</translation>
+    </message>
+    <message>
+        <source>perspective, corners, distort, 3d, skew, mockup, billboard</source>
+        <translation>perspective, coins, déformer, 3d, affiche</translation>
+    </message>
+    <message>
+        <source>perspective, straighten, scan, whiteboard, document, deskew, unwarp, rectify</source>
+        <translation>redresser, perspective, numériser, tableau, document, page, panneau</translation>
+    </message>
+    <message>
+        <source>pin light, replace, blend mode</source>
+        <translation>lumière ponctuelle, remplacer, mode de fusion</translation>
+    </message>
+    <message>
+        <source>pinch, squeeze, shrink, slim, suck in</source>
+        <translation>pincer, resserrer, rétrécir, amincir, aspirer</translation>
+    </message>
+    <message>
+        <source>pixelate, mosaic, pixel art, censor, hide face, pixel, 8 bit, blocks, anonymize, retro game</source>
+        <translation>pixeliser, mosaïque, pixel art, censurer, pixels, cacher un visage, anonymiser, 8 bits, jeu rétro</translation>
+    </message>
+    <message>
+        <source>plasma, clouds, psychedelic, colorful, waves, disco, hippie, tie dye</source>
+        <translation>plasma, nuages, psychédélique, coloré, vagues, disco</translation>
+    </message>
+    <message>
+        <source>pointillism, impressionism, painting, dots, paint, brush, art, oil painting, watercolor</source>
+        <translation>pointillisme, impressionnisme, peinture, points, peindre, pinceau, art, peinture à l’huile, aquarelle</translation>
+    </message>
+    <message>
+        <source>polaroid, instant camera, retro, vintage, old photo, film, look, seventies, 70s</source>
+        <translation>photo instantanée, polaroid, rétro, vintage, vieille photo, film, rendu, années 70</translation>
+    </message>
+    <message>
+        <source>poster, posterize, pop art, flat colors, reduce colors, levels, screen print, banding</source>
+        <translation>affiche, postériser, poster, pop art, réduire les couleurs, aplats, sérigraphie, isohélie</translation>
+    </message>
+    <message>
+        <source>qr code, qr, barcode, link, web address, url, 2d code, scan code</source>
+        <translation>qr code, qr, code-barres, lien, adresse web, url, code 2d</translation>
+    </message>
+    <message>
+        <source>remove specks, denoise, despeckle, dust, salt and pepper, noise, scratches, clean</source>
+        <translation>enlever les taches, débruiter, poussière, rayures, bruit, nettoyer</translation>
+    </message>
+    <message>
+        <source>repeat, nine patch, 9-slice, frame, corners, tile</source>
+        <translation>répéter, cadre, coins, carreaux</translation>
+    </message>
+    <message>
+        <source>repeat, pattern, tile, wallpaper, seamless, step and repeat</source>
+        <translation>répéter, motif, carreaux, papier peint, sans raccord</translation>
+    </message>
+    <message>
+        <source>replace color, change color, selective color, color swap, recolor, poster, posterize</source>
+        <translation>remplacer une couleur, changer une couleur, couleur sélective, recolorer, affiche</translation>
+    </message>
+    <message>
+        <source>resize, scale, enlarge, shrink, downscale, upscale, size, thumbnail</source>
+        <translation>taille, redimensionner, agrandir, réduire, échelle, vignette</translation>
+    </message>
+    <message>
+        <source>resize, scale, enlarge, shrink, upscale, interpolation</source>
+        <translation>taille, redimensionner, agrandir, réduire, échelle</translation>
+    </message>
+    <message>
+        <source>resize, scale, shrink, stars, bright spots</source>
+        <translation>taille, redimensionner, réduire, étoiles, points lumineux</translation>
+    </message>
+    <message>
+        <source>ring, glass, lens, donut, torus, magnifier, water drop</source>
+        <translation>anneau, verre, lentille, bouée, loupe, goutte d’eau</translation>
+    </message>
+    <message>
+        <source>rings, halftone, circles, engraving, screen print</source>
+        <translation>anneaux, trame, cercles, gravure</translation>
+    </message>
+    <message>
+        <source>rosette, spirograph, ellipses, guilloche, flower, pattern, ornament</source>
+        <translation>rosace, spirographe, ellipses, guilloche, fleur, motif, ornement</translation>
+    </message>
+    <message>
+        <source>rotate, move, scale, skew, slant, flip, mirror, shift, turn</source>
+        <translation>tourner, pivoter, déplacer, échelle, incliner, rotation, retourner, miroir</translation>
+    </message>
+    <message>
+        <source>rotate, tilt, 3d, perspective, camera, pitch, yaw, roll</source>
+        <translation>tourner, incliner, basculer, 3d, perspective, appareil</translation>
+    </message>
+    <message>
+        <source>rounded corners, box, rectangle, shape, button, card, panel</source>
+        <translation>coins ronds, rectangle, boîte, forme, carte, arrondi</translation>
+    </message>
+    <message>
+        <source>saturation, desaturate, blend mode</source>
+        <translation>saturation, désaturer, mode de fusion</translation>
+    </message>
+    <message>
+        <source>scan, document, scanner, paper, whiten, receipt, whiteboard, text, readable, remove shadow</source>
+        <translation>scan, document, scanner, numériser, papier, reçu, ticket, tableau, lisible, ombre</translation>
+    </message>
+    <message>
+        <source>screen, lighten, brighten, light leak, double exposure, blend mode</source>
+        <translation>superposition, éclaircir, surimpression, mode de fusion</translation>
+    </message>
+    <message>
+        <source>selective blur, tilt shift, partial blur, blur background, mask blur, depth, gradient blur</source>
+        <translation>flou partiel, arrière-plan flou, flou, masque, bascule, profondeur, flouter</translation>
+    </message>
+    <message>
+        <source>sepia, old photo, vintage, brown, antique, nostalgic, retro, western, old</source>
+        <translation>sépia, vieille photo, vintage, brun, ancien, nostalgie, rétro, vieux</translation>
+    </message>
+    <message>
+        <source>shadows, highlights, hdr, backlight, dynamic range, brighten shadows, fill light, recover, dark faces</source>
+        <translation>ombres, hautes lumières, hdr, contre-jour, déboucher les ombres, éclaircir, visages sombres</translation>
+    </message>
+    <message>
+        <source>shapes, confetti, circles, rectangles, flowers, balloons, random shapes, bubbles, decoration</source>
+        <translation>formes, confettis, cercles, rectangles, fleurs, ballons, formes au hasard, bulles</translation>
+    </message>
+    <message>
+        <source>sharpen, sharpness, detail, clarity, local contrast, structure, crisp, unsharp</source>
+        <translation>netteté, accentuer, renforcer, clarté, détails, contraste local, structure, net</translation>
+    </message>
+    <message>
+        <source>sharpen, sharpness, detail, crisp, focus, clear</source>
+        <translation>netteté, accentuer, renforcer, détails, net</translation>
+    </message>
+    <message>
+        <source>soft light, contrast, blend mode, gentle</source>
+        <translation>lumière tamisée, lumière douce, contraste, mode de fusion</translation>
+    </message>
+    <message>
+        <source>soft rectangle, shadow, drop shadow, box, glow, panel</source>
+        <translation>rectangle doux, ombre, ombre portée, boîte, lueur</translation>
+    </message>
+    <message>
+        <source>soften, blur, average, smooth</source>
+        <translation>adoucir, flou, lisser, moyenne, flouter</translation>
+    </message>
+    <message>
+        <source>spotlight, lamp, lighting, stage light, flashlight, dark surroundings</source>
+        <translation>projecteur, lampe, éclairage, lumière de scène, lampe de poche</translation>
+    </message>
+    <message>
+        <source>srgb, linear, gamma, convert, color space</source>
+        <translation>srgb, linéaire, gamma, convertir, espace de couleurs</translation>
+    </message>
+    <message>
+        <source>srgb, linear, gamma, convert, color space, raw</source>
+        <translation>srgb, linéaire, gamma, convertir, espace de couleurs</translation>
+    </message>
+    <message>
+        <source>stained glass, crystal, mosaic, low poly, polygons, cells, voronoi, shards</source>
+        <translation>vitrail, cristal, mosaïque, polygones, cellules, éclats</translation>
+    </message>
+    <message>
+        <source>star, sparkle, lens flare, shine, glitter, glint, twinkle, light, cross</source>
+        <translation>étoile, scintillement, paillettes, reflet d’objectif, éclat, lumière, croix</translation>
+    </message>
+    <message>
+        <source>straighten, horizon, level, rotate, tilt, crooked</source>
+        <translation>redresser, horizon, niveau, tourner, penché, de travers</translation>
+    </message>
+    <message>
+        <source>streaks, radial, splash, stretched pixels, rays</source>
+        <translation>rayons, traînées, cercle, éclaboussure</translation>
+    </message>
+    <message>
+        <source>stretch, nine patch, 9-slice, widen, frame, corners</source>
+        <translation>étirer, cadre, coins, élargir</translation>
+    </message>
+    <message>
+        <source>stripes, lines, bars, pattern, zebra</source>
+        <translation>rayures, lignes, bandes, motif, zèbre</translation>
+    </message>
+    <message>
+        <source>subtract, minus, darken, blend mode</source>
+        <translation>soustraire, moins, assombrir, mode de fusion</translation>
+    </message>
+    <message>
+        <source>sun, sun rays, sunbeams, rays of light, lens flare, sunshine, god rays, light</source>
+        <translation>soleil, rayons de soleil, rayons de lumière, reflet d’objectif, lumière</translation>
+    </message>
+    <message>
+        <source>swirl, twirl, twist, whirl, spiral, rotate</source>
+        <translation>tourbillon, tordre, torsion, spirale, tourner</translation>
+    </message>
+    <message>
+        <source>text, caption, meme, title, lettering, watermark, write, words, font, typography</source>
+        <translation>texte, légende, mème, meme, titre, filigrane, écrire, police</translation>
+    </message>
+    <message>
+        <source>text, caption, title, lettering, colored text, font, write, words, quote</source>
+        <translation>texte, légende, titre, texte coloré, police, écrire, citation</translation>
+    </message>
+    <message>
+        <source>threshold, automatic threshold, black and white, stencil, binary, text, silhouette, photocopy, line art</source>
+        <translation>seuil, seuil automatique, noir et blanc, pochoir, texte, silhouette, photocopie</translation>
+    </message>
+    <message>
+        <source>threshold, stencil, two tone, hard black and white, photocopy, pop art, silhouette, binary, fax</source>
+        <translation>seuil, pochoir, deux tons, noir et blanc dur, photocopie, silhouette, pop art</translation>
+    </message>
+    <message>
+        <source>tilt shift, miniature, depth of field, toy town, shallow focus, diorama, model, background blur</source>
+        <translation>bascule, tilt-shift, miniature, profondeur de champ, maquette, jouet, arrière-plan flou</translation>
+    </message>
+    <message>
+        <source>tiny planet, polar, wrap, circle, ring, arc, bend, little planet</source>
+        <translation>petite planète, cercle, anneau, arc, courber, polaire, enrouler</translation>
+    </message>
+    <message>
+        <source>transparent, alpha, mask, see through, transparency, remove background, knock out</source>
+        <translation>transparent, alpha, masque, transparence, enlever le fond</translation>
+    </message>
+    <message>
+        <source>triangles, pattern, tile, symmetry, wallpaper</source>
+        <translation>triangles, motif, carreaux, symétrie, papier peint</translation>
+    </message>
+    <message>
+        <source>tunnel, spiral, whirl, time tunnel, vortex, wormhole</source>
+        <translation>tunnel, spirale, tourbillon, trou de ver</translation>
+    </message>
+    <message>
+        <source>two luts, lut, color grading, mask, local grading, look up table</source>
+        <translation>deux lut, lut, étalonnage, masque, local, table de couleurs</translation>
+    </message>
+    <message>
+        <source>upsample, upscale, enlarge, edges, depth map, super resolution</source>
+        <translation>agrandir, suréchantillonner, contours, carte de profondeur</translation>
+    </message>
+    <message>
+        <source>vibrance, vivid, saturation, colorful, skin tones, boost colors, lively, dull colors</source>
+        <translation>vibrance, vif, saturation, couleurs vives, tons chair, raviver, couleurs ternes</translation>
+    </message>
+    <message>
+        <source>vignette, dark corners, darken edges, lens, frame, border, lomo</source>
+        <translation>vignettage, vignette, coins sombres, assombrir les bords, cadre, bord, lomo</translation>
+    </message>
+    <message>
+        <source>vignette, dark edges, darken edges, spotlight, circle, focus, frame, highlight subject</source>
+        <translation>vignettage, vignette, bords sombres, assombrir les bords, cercle, cadre</translation>
+    </message>
+    <message>
+        <source>vivid light, contrast, strong, blend mode</source>
+        <translation>lumière vive, contraste, fort, mode de fusion</translation>
+    </message>
+    <message>
+        <source>vivid, slide film, strong colors, punchy, film, look, saturated, chrome, summer</source>
+        <translation>vif, diapositive, couleurs vives, film, rendu, éclatant, chrome, été</translation>
+    </message>
+    <message>
+        <source>vortex, whirlpool, swirl, twist, whirl, spiral, tornado</source>
+        <translation>tourbillon, vortex, tordre, spirale, tornade</translation>
+    </message>
+    <message>
+        <source>warm, vintage, retro, old photo, golden, sunset, film, look, cozy</source>
+        <translation>chaud, vintage, rétro, vieille photo, doré, coucher de soleil, film, rendu</translation>
+    </message>
+    <message>
+        <source>water, wave, ripple, pond, drop, transition</source>
+        <translation>eau, onde, vague, étang, goutte, transition</translation>
+    </message>
+    <message>
+        <source>white balance, temperature, color temperature, tint, warm, cool, warmer, cooler, kelvin, color cast, orange, indoor light</source>
+        <translation>balance des blancs, température de couleur, température, teinte, chaud, froid, kelvin, dominante</translation>
+    </message>
+    <message>
+        <source>white balance, white point, tint, color cast, warm, cool, color filter</source>
+        <translation>balance des blancs, point blanc, teinte, dominante, chaud, froid, filtre coloré</translation>
+    </message>
+    <message>
+        <source>wipe, swipe, slide, transition</source>
+        <translation>balayer, volet, glisser, transition</translation>
+    </message>
+    <message>
+        <source>woodcut, linocut, engraving, line drawing, drawing, stencil, scraper board</source>
+        <translation>gravure sur bois, linogravure, gravure, dessin au trait, dessin, pochoir</translation>
+    </message>
+    <message>
+        <source>x-ray, xray, radiograph, negative, bones, medical, hospital</source>
+        <translation>rayons x, radiographie, radio, négatif, os, médecine</translation>
+    </message>
+    <message>
+        <source>zoom, speed, radial blur, blur, explosion, rush, tunnel</source>
+        <translation>zoom, vitesse, flou radial, flou, explosion, aspiration</translation>
     </message>
 </context>
 <context>
@@ -3411,6 +5411,160 @@
     </message>
 </context>
 <context>
+    <name>Look</name>
+    <message>
+        <source>Film Grain</source>
+        <translation>Grain de film</translation>
+    </message>
+    <message>
+        <source>The fine grain of analog film.</source>
+        <translation>Le grain fin du film argentique.</translation>
+    </message>
+    <message>
+        <source>grain, film grain, analog, noise</source>
+        <translation>grain, grain de film, argentique, bruit</translation>
+    </message>
+    <message>
+        <source>Faded Film</source>
+        <translation>Film fané</translation>
+    </message>
+    <message>
+        <source>Pale colors and open blacks, as after years.</source>
+        <translation>Couleurs pâles et noirs ouverts, comme après des années.</translation>
+    </message>
+    <message>
+        <source>faded, vintage, old photo, retro, matte</source>
+        <translation>fané, vintage, vieille photo, rétro, mat</translation>
+    </message>
+    <message>
+        <source>Cross Process</source>
+        <translation>Traitement croisé</translation>
+    </message>
+    <message>
+        <source>Blue shadows and greenish lights, as from film in the wrong bath.</source>
+        <translation>Ombres bleues et lumières verdâtres, comme un film dans le mauvais bain.</translation>
+    </message>
+    <message>
+        <source>cross process, lomo, cool, retro</source>
+        <translation>traitement croisé, lomo, froid, rétro</translation>
+    </message>
+    <message>
+        <source>Soft Portrait</source>
+        <translation>Portrait doux</translation>
+    </message>
+    <message>
+        <source>A gentle glow over skin and lights.</source>
+        <translation>Une lueur douce sur la peau et les lumières.</translation>
+    </message>
+    <message>
+        <source>portrait, soft, glow, dreamy, skin, wedding</source>
+        <translation>portrait, doux, lueur, rêveur, peau, mariage</translation>
+    </message>
+    <message>
+        <source>Dramatic Black and White</source>
+        <translation>Noir et blanc dramatique</translation>
+    </message>
+    <message>
+        <source>Deep blacks and bright whites without any color.</source>
+        <translation>Des noirs profonds et des blancs éclatants, sans couleur.</translation>
+    </message>
+    <message>
+        <source>black and white, dramatic, noir, high contrast</source>
+        <translation>noir et blanc, dramatique, noir, contraste fort</translation>
+    </message>
+    <message>
+        <source>Tilt-Shift</source>
+        <translation>Effet maquette</translation>
+    </message>
+    <message>
+        <source>A sharp, vivid strip in a blurred scene, which looks like a model.</source>
+        <translation>Une bande nette et vive dans une scène floue, qui a l’air d’une maquette.</translation>
+    </message>
+    <message>
+        <source>tilt shift, miniature, model, toy town</source>
+        <translation>tilt-shift, miniature, maquette, jouet</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Cadre</translation>
+    </message>
+    <message>
+        <source>A white border inside the picture&apos;s edges.</source>
+        <translation>Un bord blanc à l’intérieur de l’image.</translation>
+    </message>
+    <message>
+        <source>frame, border, white border, mat</source>
+        <translation>cadre, bordure, bord blanc, passe-partout</translation>
+    </message>
+    <message>
+        <source>Instant Print</source>
+        <translation>Photo instantanée</translation>
+    </message>
+    <message>
+        <source>The creamy border of an instant print, wide at the bottom.</source>
+        <translation>Le bord crème d’une photo instantanée, large en bas.</translation>
+    </message>
+    <message>
+        <source>polaroid, instant camera, frame, border, retro</source>
+        <translation>polaroid, photo instantanée, cadre, bordure, rétro</translation>
+    </message>
+    <message>
+        <source>Duotone</source>
+        <translation>Bichromie</translation>
+    </message>
+    <message>
+        <source>Night blue for dark, warm cream for light.</source>
+        <translation>Bleu nuit pour le sombre, crème chaude pour le clair.</translation>
+    </message>
+    <message>
+        <source>duotone, two colors, split tone</source>
+        <translation>bichromie, deux couleurs</translation>
+    </message>
+    <message>
+        <source>Glitch</source>
+        <translation>Brouillage</translation>
+    </message>
+    <message>
+        <source>Bands of the picture slip aside, as in bad reception.</source>
+        <translation>Des bandes de l’image glissent, comme une mauvaise réception.</translation>
+    </message>
+    <message>
+        <source>glitch, broken, television, error, vhs</source>
+        <translation>glitch, brouillage, cassé, télévision, erreur, vhs</translation>
+    </message>
+    <message>
+        <source>Pencil</source>
+        <translation>Crayons de couleur</translation>
+    </message>
+    <message>
+        <source>A drawing in colored pencils.</source>
+        <translation>Un dessin aux crayons de couleur.</translation>
+    </message>
+    <message>
+        <source>pencil, drawing, sketch, colored pencil, crayon</source>
+        <translation>crayon, dessin, croquis, crayons de couleur</translation>
+    </message>
+    <message>
+        <source>Poster</source>
+        <translation>Affiche</translation>
+    </message>
+    <message>
+        <source>A few flat colors, as from a silk screen.</source>
+        <translation>Quelques aplats de couleur, comme une sérigraphie.</translation>
+    </message>
+    <message>
+        <source>poster, pop art, flat colors, screen print</source>
+        <translation>affiche, poster, pop art, aplats, sérigraphie</translation>
+    </message>
+</context>
+<context>
+    <name>LooksPopup</name>
+    <message>
+        <source>Looks</source>
+        <translation>Rendus</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Lumivex</source>
@@ -3499,10 +5653,6 @@
     <message>
         <source>Search filters</source>
         <translation>Rechercher un filtre</translation>
-    </message>
-    <message>
-        <source>Shows the filters whose name holds what you type. Return takes the first one.</source>
-        <translation>Montre les filtres dont le nom contient le texte saisi. Entrée prend le premier.</translation>
     </message>
     <message>
         <source>Filters</source>
@@ -3611,6 +5761,14 @@
     <message>
         <source>Keep the picture’s size</source>
         <translation>Garder la taille de l’image</translation>
+    </message>
+    <message>
+        <source>Finds filters by their name and by what they do: “old photo”, “sharpen”, “frame”. Return takes the first one.</source>
+        <translation>Trouve les filtres par leur nom et par ce qu’ils font : « vieille photo », « netteté », « cadre ». Entrée prend le premier.</translation>
+    </message>
+    <message>
+        <source>Looks</source>
+        <translation>Rendus</translation>
     </message>
 </context>
 <context>
