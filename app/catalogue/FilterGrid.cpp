@@ -146,6 +146,11 @@ FilterGrid::FilterGrid(QWidget* parent)
     setVerticalScrollMode(ScrollPerPixel);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setItemDelegate(new Cell(*this));
+    connect(this, &QListView::clicked, this, [this](const QModelIndex& row) {
+        const QModelIndex found = m_rows->inTree(row);
+        if (!(found.flags() & Qt::ItemIsSelectable) && !m_list->model()->hasChildren(found))
+            m_list->takeRow(found); // a look or an effect of another mode
+    });
     QFont small = font();
     small.setPointSizeF(small.pointSizeF() * 0.85);
     setFont(small);

@@ -9,7 +9,7 @@
 namespace {
 
 constexpr int kColumns = 3;
-constexpr QSize kCell(116, 84), kPicture(80, 50); // points
+constexpr QSize kPicture = CataloguePictures::kSize, kCell(124, 96); // points
 
 CIImage lookOf(const QString& name, const CIImage& picture)
 {

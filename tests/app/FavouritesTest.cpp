@@ -97,7 +97,7 @@ TEST_F(FavouritesTest, LooksComeWithTheProgramAndStayOutOfTheUsersOwn)
     auto* popup = window.findChild<LooksPopup*>();
     ASSERT_TRUE(popup && popup->isVisible());
     ASSERT_EQ(popup->count(), 12);
-    const auto picture = [&](int row) { return popup->item(row)->icon().pixmap(80, 50).toImage(); };
+    const auto picture = [&](int row) { return popup->item(row)->icon().pixmap(96, 60).toImage(); };
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture(0) != picture(6) && picture(6) != picture(8); }, 20000))
         << "each has a picture of its own";
     QTest::keyClick(popup, Qt::Key_Down);
