@@ -3,15 +3,18 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cstdio>
-#include <string_view>
 
 namespace {
 
 struct Options {
     QCommandLineParser parser;
     QCommandLineOption help, version, newWindow;
+
+    /// What Qt takes of the command line itself, in front of a display or not.
+    static constexpr const char* kOfQt[] = {"platform", "platformpluginpath", "platformtheme", "plugin", "style",
+        "stylesheet", "qwindowgeometry", "geometry", "qwindowtitle", "title", "qwindowicon", "icon", "display", "name",
+        "session"};
 
     Options()
         : help(parser.addHelpOption())
@@ -20,6 +23,12 @@ struct Options {
               QCoreApplication::translate("CommandLine", "Open a window of its own, whatever else is open."))
     {
         parser.addOption(newWindow);
+        parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+        for (const char* name : kOfQt) {
+            QCommandLineOption option(QLatin1String(name), {}, QStringLiteral("value"));
+            option.setFlags(QCommandLineOption::HiddenFromHelp);
+            parser.addOption(option);
+        }
         parser.setApplicationDescription(
             QCoreApplication::translate("CommandLine", "Edits a picture with live filters."));
         parser.addPositionalArgument(QStringLiteral("picture"),
@@ -33,15 +42,12 @@ struct Options {
 
 bool wantsOnlyText(int argc, const char* const* argv)
 {
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view argument = argv[i];
-        if (argument == "--")
-            return false;
-        if (argument == "-h" || argument == "--help" || argument == "--help-all" || argument == "-v"
-            || argument == "--version")
-            return true;
-    }
-    return false;
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    Options options;
+    return !options.parser.parse(arguments) || options.parser.isSet(options.help)
+        || options.parser.isSet(QStringLiteral("help-all")) || options.parser.isSet(options.version);
 }
 
 int answerInText(const QStringList& arguments)

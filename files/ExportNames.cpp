@@ -44,11 +44,8 @@ const std::vector<const FileFormat*>& exportableFormats()
 
 const FileFormat* formatOfFileName(const QString& name)
 {
-    const QString extension = extensionOf(name);
-    for (const FileFormat* format : exportableFormats())
-        if (hasExtension(*format, extension))
-            return format;
-    return nullptr;
+    const FileFormat* format = formatOfExtension(extensionOf(name).toStdString());
+    return std::ranges::count(exportableFormats(), format) ? format : nullptr;
 }
 
 QString nameInFormat(const QString& name, const FileFormat& format)

@@ -328,6 +328,12 @@ const FileFormat* formatOfType(std::string_view typeIdentifier)
     return firstOf(fileFormats(), [&](const FileFormat& row) { return row.typeIdentifier == typeIdentifier; });
 }
 
+const FileFormat* formatOfExtension(std::string_view extension)
+{
+    return firstOf(
+        fileFormats(), [&](const FileFormat& row) { return std::ranges::count(row.extensions, extension) > 0; });
+}
+
 const FileFormat* formatOfContent(const ReadBytes& read)
 {
     constexpr std::size_t kHeadBytes = 4096, kFewest = 12;

@@ -85,4 +85,5 @@ bool canWrite(const FileFormat&);
 
 /// Null when there is none.
 const FileFormat* formatOfType(std::string_view typeIdentifier);
+const FileFormat* formatOfExtension(std::string_view extension); // in lower case, without the dot
 const FileFormat* formatOfContent(const imageio::ReadBytes&);

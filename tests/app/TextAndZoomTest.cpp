@@ -62,6 +62,8 @@ TEST(CommandLine, TellsAQuestionFromAPictureOfThatName)
     EXPECT_TRUE(asks("a.png", "-h"));
     EXPECT_FALSE(asks("--", "--help"));
     EXPECT_FALSE(asks());
+    EXPECT_TRUE(asks("--bogus")) << "a mistake is told without a display";
+    EXPECT_FALSE(asks("-platform", "offscreen", "-style", "Fusion", "--display", ":1", "a.png")) << "Qt's own";
 
     EXPECT_TRUE(startRequest({"lumivex"})->pictures.isEmpty());
     EXPECT_EQ(startRequest({"lumivex", "a b.png", "c.png"})->pictures, (QStringList{"a b.png", "c.png"}));

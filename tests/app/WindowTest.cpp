@@ -225,7 +225,8 @@ TEST_F(WindowTest, EveryControlHasANameAndEveryIconButtonATip)
 
 TEST(Program, AnswersQuestionsWithoutADisplay)
 {
-    const auto run = [](const QStringList& arguments) {
+    QString errors;
+    const auto run = [&errors](const QStringList& arguments) {
         QProcess program;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
@@ -234,6 +235,7 @@ TEST(Program, AnswersQuestionsWithoutADisplay)
         program.start(QStringLiteral(LUMIVEX_PROGRAM), arguments);
         EXPECT_TRUE(program.waitForFinished());
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
+        errors = QString::fromUtf8(program.readAllStandardError());
         return std::pair{program.exitCode(), QString::fromUtf8(program.readAllStandardOutput())};
     };
     const auto [versionCode, version] = run({"--version"});
@@ -242,7 +244,9 @@ TEST(Program, AnswersQuestionsWithoutADisplay)
     const auto [helpCode, help] = run({"--help"});
     EXPECT_EQ(helpCode, 0);
     EXPECT_TRUE(help.contains("[picture...]"));
-    EXPECT_NE(run({"--help", "--wrong"}).first, 0);
+    EXPECT_EQ(run({"--help", "--wrong"}).first, 2);
+    EXPECT_EQ(run({"--bogus", "a.png"}).first, 2);
+    EXPECT_TRUE(errors.contains("bogus")) << errors.toStdString();
 }
 
 } // namespace

@@ -41,6 +41,13 @@ int parseRepeat(const std::string& text)
     return count;
 }
 
+std::string parseFavourite(const Arguments& arguments, const std::string& name)
+{
+    if (!arguments.favourite.empty())
+        throw UsageError("one favourite at a time: '" + arguments.favourite + "' or '" + name + "'");
+    return name;
+}
+
 /// Gives out the words one after the other.
 class Words {
 public:
@@ -76,7 +83,7 @@ void takeRenderOption(Arguments& arguments, const std::string& word, Words& word
     else if (word == "--repeat")
         arguments.repeat = parseRepeat(words.takeValueOf(word));
     else if (word == "--favourite")
-        arguments.favourite = words.takeValueOf(word);
+        arguments.favourite = parseFavourite(arguments, words.takeValueOf(word));
     else if (word == "--fit")
         arguments.isFitted = true;
     else if (word == "--quiet")
@@ -186,7 +193,7 @@ std::optional<std::vector<double>> parseNumbers(std::string_view text)
 
 std::string usageText()
 {
-    return R"(Renders one filter of the image engine into a PNG file, or applies a favourite of the editor to many files.
+    return R"(Renders one filter of the image engine into a picture file, or applies a favourite of the editor to many files.
 
   lumivex-render --list                  name, display name and categories of every filter
   lumivex-render --describe NAME         the filter's attributes as JSON
@@ -200,7 +207,8 @@ six numbers a,b,c,d,tx,ty for transforms; text as it stands. Inputs that are not
 or with --fit values that suit inputImage (or inputBackgroundImage, or the rectangle), and second pictures made of it.
 Without --rect the filter's whole extent is rendered; where that is infinite, the extent of inputImage,
 or else 512 x 512 pixels at the origin. y points up. --scale is output pixels per picture pixel.
-The output has 16 bits where an input picture has more than 8, else 8.
+The output's extension says its format; without one it is PNG. It has 16 bits where an input picture has more than 8
+and the format has room for them, else 8.
 A mistake is told in one line on standard error, with exit status 2 and no output file.
 
 With --favourite every file is written into the folder under its own name and in its own format, or as .png where that

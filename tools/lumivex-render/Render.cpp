@@ -8,6 +8,7 @@
 #include "platform/imageio/reader_process/ReaderProcess.h"
 
 #include <algorithm>
+#include <cctype>
 #include <chrono>
 #include <cmath>
 
@@ -59,6 +60,19 @@ CIFormat setInputs(CIFilter& filter, const Arguments& arguments)
     for (const auto& [key, text] : arguments.values)
         filter.setValueForKey(inputValue(inputNamed(filter, key), text), key);
     return format;
+}
+
+PictureFormat formatToWrite(const std::filesystem::path& output)
+{
+    std::string extension = output.extension().string();
+    if (extension.empty())
+        return PictureFormat::Png;
+    extension.erase(0, 1);
+    std::ranges::transform(extension, extension.begin(), [](unsigned char c) { return char(std::tolower(c)); });
+    const FileFormat* format = formatOfExtension(extension);
+    if (!format || format->isIcon || !canWrite(*format))
+        throw UsageError("'." + extension + "' files can't be written; use .png, .jpg or .tiff");
+    return format->format;
 }
 
 std::string missingImages(const CIFilter& filter)
@@ -121,6 +135,7 @@ std::shared_ptr<CIFilter> filterNamed(const std::string& name)
 std::optional<RenderTimes> render(const Arguments& arguments)
 {
     const auto filter = filterNamed(arguments.filter);
+    const PictureFormat fileFormat = formatToWrite(arguments.output);
     const CIFormat format = setInputs(*filter, arguments);
     const CIImage image = outputOf(*filter);
     const CIRect rect = rectToRender(*filter, image, arguments);
@@ -137,7 +152,7 @@ std::optional<RenderTimes> render(const Arguments& arguments)
     if (bitmap.isNull())
         throw UsageError("there is not enough memory for the output");
     if (!arguments.output.empty())
-        if (const Result<void> written = writePng(bitmap, arguments.output); !written)
+        if (const Result<void> written = writePicture(bitmap, arguments.output, {.format = fileFormat}); !written)
             throw UsageError(written.message());
     if (arguments.repeat == 0)
         return std::nullopt;

@@ -168,7 +168,7 @@ TEST_F(BatchProgram, RefusesWrongUse)
     const char* mistakes[] = {"--favourite", "--favourite Invert -o out", "--favourite Invert in/a.png",
         "--favourite None in/a.png -o out", "--favourite '' in/a.png -o out", "--favourite Lost in/a.png -o out",
         "--favourite Invert in/a.png --scale 2 -o out", "--favourite Invert in/a.png -o in/a.png",
-        "CIColorInvert --quiet -o out"};
+        "CIColorInvert --quiet -o out", "--favourite Invert --favourite Half in/a.png -o out"};
     for (const char* arguments : mistakes) {
         EXPECT_EQ(run(arguments), 2) << arguments;
         EXPECT_THAT(errors, MatchesRegex("lumivex-render: [^\n]+\n")) << arguments;

@@ -123,6 +123,17 @@ TEST_F(RenderProgram, FitsWhatIsNotSetToThePicture)
     EXPECT_EQ(run("--favourite Some --fit in.png -o .").status, 2);
 }
 
+TEST_F(RenderProgram, WritesTheFormatThatTheNameSays)
+{
+    const std::pair<const char*, const char*> cases[] = {{"out.jpg", "JPEG"}, {"out.TIF", "TIFF"}, {"out", "PNG"}};
+    for (const auto& [name, format] : cases) {
+        EXPECT_EQ(run("CIColorInvert --image inputImage=in.png -o " + std::string(name)).errors, "");
+        const Result<PictureInfo> info = readPictureInfo(folder / name);
+        ASSERT_TRUE(info) << info.message();
+        EXPECT_STREQ(fileFormat(info->format).name, format) << name;
+    }
+}
+
 TEST_F(RenderProgram, TimesRenders)
 {
     const Outcome timed = run("CIGaussianBlur --image inputImage=in.png --repeat 4 -o out.png");
@@ -149,7 +160,8 @@ TEST_F(RenderProgram, SaysMistakesInOneLine)
         "CIGaussianBlur --image inputImage=in.png --rect 0,0,1e6,1e6 -o out.png",
         "CIGaussianBlur --image inputImage=in.png --scale -1 -o out.png",
         "CIGaussianBlur --image inputImage=in.png --repeat 0 -o out.png",
-        "CIGaussianBlur --image inputImage=in.png -o nowhere/out.png"};
+        "CIGaussianBlur --image inputImage=in.png -o nowhere/out.png",
+        "CIGaussianBlur --image inputImage=in.png -o out.xyz", "CIGaussianBlur --image inputImage=in.png -o out.pdf"};
     for (const char* arguments : mistakes) {
         const Outcome outcome = run(arguments);
         EXPECT_EQ(outcome.status, 2) << arguments;
