@@ -135,4 +135,5 @@ struct EffectDeclaration {
     const char* tips; // one line, shown as a tooltip
     CIPoint startPoint{}; // where the anchor of prototypes is
     std::vector<EffectParameter> parameters{}; // in the order of the panel
+    const char* hint = nullptr; // above the panel, if there is something to say
 };

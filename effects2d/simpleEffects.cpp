@@ -74,7 +74,8 @@ const EffectDeclaration& simpleEffects::declaration() const
             {"object_count", &simpleEffects::m_object_count,
                 {QT_TRANSLATE_NOOP("EffectPanel", "Objects count:"),
                     QT_TRANSLATE_NOOP("EffectPanel", "How many objects are drawn")},
-                {.start = 30, .min = 10, .max = 200, .continuous = false}}}};
+                {.start = 30, .min = 10, .max = 200, .continuous = false}}},
+        QT_TRANSLATE_NOOP("BaseEffect", "The objects are thrown by chance. Another type or count throws them anew.")};
     return declared;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -108,6 +109,26 @@ void ReadoutField::keyPressEvent(QKeyEvent* event)
     } else {
         QLineEdit::keyPressEvent(event);
     }
+}
+
+void ReadoutField::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton)
+        return QLineEdit::mouseDoubleClickEvent(event);
+    m_isDoubleClick = true;
+    selectAll();
+}
+
+void ReadoutField::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_isDoubleClick) // a trembling hand leaves all of it selected
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void ReadoutField::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!std::exchange(m_isDoubleClick, false))
+        QLineEdit::mouseReleaseEvent(event);
 }
 
 void ReadoutField::focusInEvent(QFocusEvent* event)

@@ -24,6 +24,9 @@ signals:
 protected:
     bool event(QEvent*) override;
     void keyPressEvent(QKeyEvent*) override;
+    void mouseDoubleClickEvent(QMouseEvent*) override; // the whole number, signs and all
+    void mouseMoveEvent(QMouseEvent*) override;
+    void mouseReleaseEvent(QMouseEvent*) override;
     void focusInEvent(QFocusEvent*) override;
     void focusOutEvent(QFocusEvent*) override;
     void paintEvent(QPaintEvent*) override;
@@ -33,4 +36,5 @@ private:
 
     QString m_shownText;
     bool m_typing = false;
+    bool m_isDoubleClick = false; // until the button is let go
 };

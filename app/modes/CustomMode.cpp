@@ -6,6 +6,8 @@
 #include "effects2d/customEffImageView.h"
 #include "platform/chain/Baking.h"
 
+#include <algorithm>
+
 CustomMode::CustomMode(const ModeParts& parts, customEffImageView& view, Mode& family, Document& document)
     : EffectMode(parts, EffectList(customEffectPrototypes(), EffectList::Marks::Mousing), "effectCustom",
         {QStringLiteral("CustomEffectsFavorites"), {}}, document)
@@ -23,9 +25,13 @@ Mode::Title CustomMode::title() const
 {
     if (!hasItem())
         return {{}, tr("Choose an effect from the list to draw it over the picture or over a color.")};
-    return {effectName(),
-        effect()->isMousing() ? tr("Drag on the picture to move the effect. The arrow keys move it as well.")
-                              : QString()};
+    const EffectDeclaration& declared = effect()->declaration();
+    if (effect()->isMousing())
+        return {effectName(), tr("Drag on the picture to move the effect. The arrow keys move it as well.")};
+    if (declared.hint)
+        return {effectName(), QCoreApplication::translate("BaseEffect", declared.hint)};
+    const bool isEmpty = std::ranges::none_of(declared.parameters, [](const auto& row) { return row.text.label; });
+    return {effectName(), isEmpty ? tr("There is nothing to set here.") : QString()};
 }
 
 CIImage CustomMode::shownImage() { return hasItem() ? effect()->getDrawImage() : CIImage(); }

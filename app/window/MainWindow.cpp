@@ -25,7 +25,9 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
+#include <QStyle>
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -157,8 +159,15 @@ void MainWindow::showTitle(const QString& path, bool isChanged)
 void MainWindow::restoreFrame()
 {
     const QByteArray frame = UserDefaults::standardUserDefaults().objectForKey(kWindowFrameName).toByteArray();
-    if (!restoreGeometry(frame))
-        resize(size().boundedTo(screen()->availableSize())); // small screens, large fonts
+    restoreGeometry(frame);
+    if (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen))
+        return;
+    // Small screens, large fonts: as near as there is room, also for a title bar.
+    const QRect room = screen()->availableGeometry().adjusted(0, style()->pixelMetric(QStyle::PM_TitleBarHeight), 0, 0);
+    QRect place(pos(), size().boundedTo(room.size()));
+    place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
+    setGeometry(place);
 }
 
 void MainWindow::saveFrame() const
@@ -248,7 +257,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
     const QString path = onlyDroppedFile(*event->mimeData());
     const QWidget* under = childAt(event->position().toPoint());
     const bool isRefused = qobject_cast<const MyImageView*>(under) || qobject_cast<const DropImageView*>(under);
-    event->setAccepted(m_controller && !isRefused && !path.isEmpty() && isAcceptableEffectPicture(path));
+    const bool isOurs = qobject_cast<const MyImageView*>(event->source());
+    event->setAccepted(m_controller && !isRefused && !isOurs && !path.isEmpty() && isAcceptableEffectPicture(path));
 }
 
 void MainWindow::dropEvent(QDropEvent* event)

@@ -181,6 +181,18 @@ TEST_F(RowsTest, TypedNumbersAreTakenAsTheyAreUnlessThereAreSteps)
     EXPECT_EQ(stepped.readout->text(), "100.0");
 }
 
+TEST_F(RowsTest, ADoubleClickSelectsTheWholeNumber)
+{
+    value = -0.25;
+    ReadoutField& field = *number({.min = -1, .max = 1}).readout;
+    const QPoint decimals(field.width() / 2, field.height() / 2);
+    QTest::mouseDClick(&field, Qt::LeftButton, {}, decimals);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(field.selectedText(), "-0.25");
+    QTest::keyClicks(&field, "0.5\r");
+    EXPECT_EQ(value.toDouble(), 0.5);
+}
+
 TEST_F(RowsTest, RefusedNumbersAreNotShown)
 {
     value = 1;
