@@ -75,7 +75,8 @@ const EffectDeclaration& EvalEffect::declaration() const
                 {QT_TRANSLATE_NOOP("EffectPanel", "Light color"),
                     QT_TRANSLATE_NOOP("EffectPanel", "The color of the light"),
                     QT_TRANSLATE_NOOP("EffectPanel", "Light Color")},
-                {.start = CIVector{1, 0, 0, 0}, .beside = true, .storage = 3}}}};
+                {.start = CIVector{1, 0, 0, 0}, .beside = true, .storage = 3}},
+            background(), sizeToApply()}};
     return declared;
 }
 
@@ -115,8 +116,7 @@ void EvalEffect::evalDraw()
     if (picture())
         picture()->bind();
 
-    glClearColor(0, 0, 0, 0);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    clearFrame();
     glLoadIdentity();
     glMatrixMode(GL_MODELVIEW);
     glPushMatrix();

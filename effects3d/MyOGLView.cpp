@@ -17,6 +17,7 @@ namespace {
 
 constexpr double kPictureEdge = 0.9; // of half the view
 constexpr qint64 kSlowFrame = 33; // ms
+constexpr int kLargestFrame = 4096, kTile = 2048; // pixels a side: several samples a pixel make larger ones heavy
 constexpr double kDepthScale = 0.5; // bodies and bent surfaces that reach out of the unit cube stay whole
 
 bool isBlank(const QImage& frame)
@@ -52,10 +53,24 @@ public:
     SavedState& operator=(const SavedState&) = delete;
 };
 
-void setProjection(double x, double y, double z)
+/// Pixels a side that are drawn at once.
+int largestFrame(OpenGLDevice& device)
 {
+    GLint most = 0;
+    if (device.makeCurrent())
+        glGetIntegerv(GL_MAX_TEXTURE_SIZE, &most);
+    return std::clamp(int(most), 64, kLargestFrame);
+}
+
+/// Of a frame of `pixels`, so that the tile fills what is drawn into.
+void setProjection(QSize pixels, const QRect& tile, double x, double y, double z)
+{
+    const double width = tile.width(), height = tile.height();
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
+    glTranslated(
+        (pixels.width() - 2 * tile.x() - width) / width, (pixels.height() - 2 * tile.y() - height) / height, 0);
+    glScaled(pixels.width() / width, pixels.height() / height, 1);
     glScaled(x, y, z);
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
@@ -107,40 +122,59 @@ void MyOGLView::redraw()
 
 QImage MyOGLView::drawnFrame(QSize pixels, qreal scale)
 {
-    if (!isUsable())
+    if (pixels.isEmpty() || !isUsable())
         return {};
     if (!m_frame)
         m_frame = std::make_unique<OpenGLFrame>(m_device);
-    if (!m_frame->begin(pixels))
+    const int largest = largestFrame(*m_device), side = std::min(kTile, largest);
+    if (std::max(pixels.width(), pixels.height()) <= largest)
+        return drawnTile(pixels, QRect({0, 0}, pixels), scale);
+    QImage frame(pixels, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&frame); // inactive when there was no memory for the frame
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (int y = 0; y < pixels.height() && !frame.isNull(); y += side)
+        for (int x = 0; x < pixels.width(); x += side) {
+            const QRect tile = QRect(x, y, side, side).intersected(QRect({0, 0}, pixels));
+            const QImage part = drawnTile(pixels, tile, scale);
+            if (part.isNull())
+                return {};
+            painter.drawImage(x, pixels.height() - y - tile.height(), part);
+        }
+    return frame;
+}
+
+QImage MyOGLView::drawnTile(QSize pixels, const QRect& tile, qreal scale)
+{
+    if (!m_frame->begin(tile.size()))
         return {};
     {
         const SavedState saved;
         if (m_device->samples() > 0)
             glEnable(GL_MULTISAMPLE);
         glLineWidth(float(scale));
-        m_picture = PictureTexture::of(controller ? controller->backImage() : CIImage());
+        m_picture = PictureTexture::of(controller ? controller->backImage() : CIImage(), pixels);
         if (BaseEffect* current = effect())
-            drawEffect(*current, pixels);
+            drawEffect(*current, pixels, tile);
         else
-            drawBackImg();
+            drawBackImg(pixels, tile);
     }
     return m_frame->end();
 }
 
-void MyOGLView::drawEffect(BaseEffect& effect, QSize pixels)
+void MyOGLView::drawEffect(BaseEffect& effect, QSize pixels, const QRect& tile)
 {
     const double shorter = std::min(pixels.width(), pixels.height());
-    setProjection(shorter / pixels.width(), shorter / pixels.height(), kDepthScale);
+    setProjection(pixels, tile, shorter / pixels.width(), shorter / pixels.height(), kDepthScale);
     effect.draw();
 }
 
-void MyOGLView::drawBackImg()
+void MyOGLView::drawBackImg(QSize pixels, const QRect& tile)
 {
     glClearColor(0, 0, 0, 0);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     if (!m_picture)
         return;
-    setProjection(1, 1, 1);
+    setProjection(pixels, tile, 1, 1, 1);
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_CULL_FACE);
     glDepthMask(GL_FALSE);
@@ -216,9 +250,11 @@ QImage MyOGLView::ogl_shot()
     return shot;
 }
 
-CIImage MyOGLView::ogl_shot_CI()
+CIImage MyOGLView::ogl_shot_CI() { return shotOfSize(size()); }
+
+CIImage MyOGLView::shotOfSize(QSize pixels)
 {
-    const QImage shot = drawnFrame(size(), 1);
+    const QImage shot = drawnFrame(pixels, double(pixels.width()) / width());
     if (shot.isNull())
         return {};
     return CIImage::fromBitmap(CIBitmap(shot.constBits(), shot.width(), shot.height(), std::size_t(shot.bytesPerLine()),

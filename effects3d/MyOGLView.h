@@ -39,6 +39,9 @@ public:
     QImage ogl_shot();
     /// The same at one pixel a point, its lower left corner at the origin.
     CIImage ogl_shot_CI();
+    /// The same in so many pixels, which are as wide to high as the view. Drawn in tiles where it is larger than
+    /// OpenGL's frames.
+    CIImage shotOfSize(QSize pixels);
 
     /// One frame of that many pixels. Lines are `scale` pixels wide.
     QImage drawnFrame(QSize pixels, qreal scale);
@@ -61,8 +64,10 @@ private:
     BaseEffect* effect() const;
     CIPoint viewPoint(const QMouseEvent& event) const;
     QSize pixelsAt(qreal scale) const;
-    void drawEffect(BaseEffect& effect, QSize pixels);
-    void drawBackImg();
+    /// The part of a frame of `pixels` that starts `tile` pixels from its lower left corner.
+    QImage drawnTile(QSize pixels, const QRect& tile, qreal scale);
+    void drawEffect(BaseEffect& effect, QSize pixels, const QRect& tile);
+    void drawBackImg(QSize pixels, const QRect& tile);
     void drawShown();
     void endTurn();
     void endKeyTurn();

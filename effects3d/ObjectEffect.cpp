@@ -16,7 +16,8 @@ const EffectDeclaration& ObjectEffect::declaration() const
                     .titles = {QT_TRANSLATE_NOOP("EffectPanel", "Sphere"), QT_TRANSLATE_NOOP("EffectPanel", "Cylinder"),
                         QT_TRANSLATE_NOOP("EffectPanel", "Torus"), QT_TRANSLATE_NOOP("EffectPanel", "Cube"),
                         QT_TRANSLATE_NOOP("EffectPanel", "Cone"), QT_TRANSLATE_NOOP("EffectPanel", "Pyramid"),
-                        QT_TRANSLATE_NOOP("EffectPanel", "Disk")}}}}};
+                        QT_TRANSLATE_NOOP("EffectPanel", "Disk")}}},
+            background(), sizeToApply()}};
     return declared;
 }
 
@@ -61,8 +62,7 @@ void ObjectEffect::objectsDraw()
 
 void ObjectEffect::redraw()
 {
-    glClearColor(0, 0, 0, 0);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    clearFrame();
     if (!picture())
         return;
     glEnable(GL_DEPTH_TEST);

@@ -24,12 +24,17 @@ int intOf(GLenum what)
     return value;
 }
 
-/// Texels that the picture needs along its longer side.
-int sideForViewport()
+QSize viewportSize()
 {
     std::array<GLint, 4> viewport{};
     glGetIntegerv(GL_VIEWPORT, viewport.data());
-    const auto [shorter, longer] = std::minmax(viewport[2], viewport[3]);
+    return {viewport[2], viewport[3]};
+}
+
+/// Texels that the picture needs along its longer side.
+int sideForFrame(QSize frame)
+{
+    const int shorter = std::min(frame.width(), frame.height()), longer = std::max(frame.width(), frame.height());
     return std::max(int(kTexelsPerPixel * shorter), int(longer)); // flat, the picture fills the frame
 }
 
@@ -61,13 +66,13 @@ CIBitmap pixelsOf(const CIImage& picture, int level)
 
 } // namespace
 
-std::shared_ptr<PictureTexture> PictureTexture::of(const CIImage& picture)
+std::shared_ptr<PictureTexture> PictureTexture::of(const CIImage& picture, QSize frame)
 {
     static std::weak_ptr<PictureTexture> last;
     const CIRect extent = picture.extent();
     if (picture.isNull() || extent.isEmpty() || extent.isInfinite())
         return {};
-    const int level = levelFor(extent, sideForViewport());
+    const int level = levelFor(extent, sideForFrame(frame.isEmpty() ? viewportSize() : frame));
     std::shared_ptr<PictureTexture> texture = last.lock();
     if (!texture || !texture->m_picture.isSameAs(picture) || texture->m_level > level) {
         texture.reset(new PictureTexture(picture, level));

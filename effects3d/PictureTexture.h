@@ -4,6 +4,8 @@
 #include "effects3d/OpenGL.h"
 #include "platform/coreimage/CIImage.h"
 
+#include <QSize>
+
 #include <memory>
 
 class OpenGLDevice;
@@ -19,7 +21,8 @@ public:
 
     /// To be called while drawing: the context is current and the viewport set. The one before is answered again as
     /// long as it is of the same picture and fine enough. Null when there is no picture, or one without an end.
-    static std::shared_ptr<PictureTexture> of(const CIImage& picture);
+    /// `frame` is what is drawn in the end, in pixels, if it isn't the viewport.
+    static std::shared_ptr<PictureTexture> of(const CIImage& picture, QSize frame = {});
 
     GLuint name() const;
     /// For drawing; beyond the picture it is repeated, or its edge is.

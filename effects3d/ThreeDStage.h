@@ -17,6 +17,8 @@ public:
     /// The picture's size in any unit; 726 x 544 for an empty one. With an effect very long pictures get a sheet that
     /// leaves it room.
     void setProportions(const QSizeF& picture, bool hasEffect);
+    /// The sheet in the unit of the proportions that were set.
+    QSizeF proportions() const { return m_proportions; }
 
 protected:
     void resizeEvent(QResizeEvent*) override;

@@ -1,6 +1,7 @@
 #include "effects3d/TurnedEffect.h"
 
 #include "effects2d/EffectMaster.h"
+#include "effects3d/OpenGL.h"
 #include "effects3d/PictureTexture.h"
 
 namespace {
@@ -36,6 +37,32 @@ void TurnedEffect::loadPicture()
     }
     m_picture = picture;
     m_texture = picture->name();
+}
+
+EffectParameter TurnedEffect::background()
+{
+    return {"backgroundColor", &TurnedEffect::m_backgroundColor,
+        {QT_TRANSLATE_NOOP("EffectPanel", "Background Color:"),
+            QT_TRANSLATE_NOOP("EffectPanel", "What is seen around it; transparent when the color is")},
+        {.start = CIColor(1, 1, 1, 0)}};
+}
+
+EffectParameter TurnedEffect::sizeToApply()
+{
+    return {"appliedSize", &TurnedEffect::m_appliedSize,
+        {QT_TRANSLATE_NOOP("EffectPanel", "Apply in size of:"),
+            QT_TRANSLATE_NOOP("EffectPanel", "How large the picture is that Apply makes")},
+        {.start = OfWindow,
+            .titles = {QT_TRANSLATE_NOOP("EffectPanel", "Window"), QT_TRANSLATE_NOOP("EffectPanel", "Picture")},
+            .storage = ParameterFacts::NotStored}};
+}
+
+void TurnedEffect::clearFrame() const
+{
+    const float alpha = float(m_backgroundColor.alpha()); // the frame is premultiplied
+    glClearColor(float(m_backgroundColor.red()) * alpha, float(m_backgroundColor.green()) * alpha,
+        float(m_backgroundColor.blue()) * alpha, alpha);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
 }
 
 void TurnedEffect::mouseDown(CIPoint point)

@@ -23,10 +23,20 @@ public:
     void mouseUp(CIPoint point) override;
     void setPositionUNDO(float aboutVertical, float aboutHorizontal);
 
+    /// What it becomes when it is applied: as large as it is seen, or as the picture.
+    enum AppliedSize { OfWindow, OfPicture };
+    AppliedSize appliedSize() const { return AppliedSize(m_appliedSize); }
+
 protected:
     using Rotation = std::array<float, 4>; // half degrees about the vertical and the horizontal axis; two unused
 
     virtual Rotation& rotation() = 0;
+
+    /// The last rows of the panel of every such effect.
+    static EffectParameter background();
+    static EffectParameter sizeToApply();
+    /// Clears the frame, in the background's color.
+    void clearFrame() const;
 
     /// Gets the controller's picture as `m_texture`; without one, lets go of it.
     void loadPicture();
@@ -39,5 +49,7 @@ protected:
 
 private:
     std::shared_ptr<PictureTexture> m_picture;
+    CIColor m_backgroundColor; // transparent at first
+    int m_appliedSize = OfWindow;
     CIPoint m_last; // where the mouse was, y down
 };

@@ -53,8 +53,15 @@ CIImage ThreeDMode::shownImage() { return hasItem() ? imageOfShot(m_view.ogl_sho
 
 void ThreeDMode::apply(const std::function<void()>& done)
 {
-    if (const CIImage shot = m_view.ogl_shot_CI())
+    const auto* turned = dynamic_cast<const TurnedEffect*>(effect());
+    const bool isOfPicture = turned && turned->appliedSize() == TurnedEffect::OfPicture && m_document.picture();
+    if (const CIImage shot = isOfPicture ? m_view.shotOfSize(m_stage.proportions().toSize()) : m_view.ogl_shot_CI()) {
         replacePicture(shot);
+        const CIRect extent = shot.extent();
+        const QString text = isOfPicture ? tr("Applied in the picture's size: %1 × %2 pixels", "width, height")
+                                         : tr("Applied in the window's size: %1 × %2 pixels", "width, height");
+        emit m_document.message(text.arg(int(extent.width)).arg(int(extent.height)));
+    }
     done();
 }
 

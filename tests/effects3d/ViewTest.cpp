@@ -49,6 +49,24 @@ TEST_F(ViewTest, ShotsAreUprightAndAsFineAsTheScreen)
     EXPECT_EQ(whole.pixel(3, 3), 0u);
 }
 
+TEST_F(ViewTest, LargeFramesAreDrawnInTilesThatMeet)
+{
+    select<ObjectEffect>();
+    const QSize size(1440, 1080);
+    const QImage small = frame(size);
+    const QImage large = frame(size * 3).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    ASSERT_EQ(large.size(), size);
+    int apart = 0, covered = 0;
+    for (int y = 0; y < size.height(); ++y)
+        for (int x = 0; x < size.width(); ++x) {
+            const QRgb a = small.pixel(x, y), b = large.pixel(x, y);
+            covered += qAlpha(a) > 128;
+            apart += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) > 90;
+        }
+    EXPECT_GT(covered, size.width() * size.height() / 4);
+    EXPECT_LT(apart, covered / 100) << "edges of bands alone";
+}
+
 TEST_F(ViewTest, ADragOf100PointsTurnsBy50DegreesAndIsOneUndoStep)
 {
     const auto object = select<ObjectEffect>();
