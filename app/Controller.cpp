@@ -4,6 +4,7 @@
 #include "app/catalogue/OutlineView.h"
 #include "app/commands/FilledMenus.h"
 #include "app/document/PictureOpening.h"
+#include "app/window/PreferencesPanel.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
 #include "effects2d/customEffImageView.h"
@@ -53,6 +54,7 @@ Controller::Controller(MainWindow& window)
           {[this] { m_session.markClean(), pathChanged(); }, [this] { exportImg(); }, [this] { terminate(); }})
     , m_exporting(
           m_document, &window, [this] { return laterEffectedImage(); }, [this] { m_session.markClean(); })
+    , m_printing(m_document, &window, [this] { return laterEffectedImage(); })
     , m_session(m_document, m_opening, &window,
           {[this](SessionState& state, const CIImage& picture) { m_modes.save(state, picture); },
               [this](const SessionState& state) { m_modes.restore(state); }})
@@ -60,6 +62,7 @@ Controller::Controller(MainWindow& window)
     , ciView(ui.pictureScrollView->imageView())
     , openGLView(ui.openGLStage->openGLView())
     , customEffectsView(ui.customEffectsScrollView->imageView())
+    , m_draggingOut(m_document, ciView, [this] { return laterEffectedImage(); })
     , contentMenuOutlet(&window.commands().contextMenu())
     , m_changes(m_undoManager)
     , m_catalogue(*ui.listView, *ui.filterGrid,
@@ -151,6 +154,7 @@ void Controller::connectInterface()
     connect(&m_catalogue, &FilterCatalogue::effectAsked, this, &Controller::chooseEffect);
     connect(&m_catalogue, &FilterCatalogue::lookAsked, &m_standard, &StandardMode::chooseLook);
     connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
+    connect(ciView, &MyImageView::pictureDragged, this, [this] { m_draggingOut.start(); });
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
 }
 
@@ -244,6 +248,14 @@ void Controller::outlineViewSelectionDidChange(OutlineView& outlineView, const O
 {
     m_modes.current().choose(clicked ? clicked : outlineView.selectedItem());
     showItem();
+}
+
+void Controller::showPreferences()
+{
+    auto* panel = new PreferencesPanel(m_window.centralWidget());
+    connect(panel, &Overlay::closed, this, &Controller::updateMainBtnState);
+    panel->open();
+    updateMainBtnState();
 }
 
 void Controller::fillRecentMenu(QMenu& menu)

@@ -8,8 +8,10 @@
 #include "app/document/Clipboard.h"
 #include "app/document/Cropping.h"
 #include "app/document/Document.h"
+#include "app/document/DraggingOut.h"
 #include "app/document/Exporting.h"
 #include "app/document/Opening.h"
+#include "app/document/Printing.h"
 #include "app/document/Resizing.h"
 #include "app/document/Saving.h"
 #include "app/document/Session.h"
@@ -217,6 +219,8 @@ public:
     void saveImg() { m_saving.save(); }
     void saveImgAs() { runSavePanel(); }
     void exportImg() { m_exporting.run(); }
+    void printImg() { m_printing.run(); }
+    DraggingOut& draggingOut() { return m_draggingOut; }
     void runSavePanel() { m_saving.runPanel(); }
     void savePanelDidEnd(int returnCode, const QString& path) { m_saving.panelDidEnd(returnCode, path); }
     bool saveExistFile() { return m_saving.saveExistFile(); }
@@ -274,6 +278,7 @@ public:
     bool isResizePanelShown() const { return m_resizePanel && m_resizePanel->isVisible(); }
     void fillRecentMenu(QMenu& menu);
     void fillUndoHistoryMenu(QMenu& menu);
+    void showPreferences();
     void displayHelp() { HelpWindow::show(m_window); }
     void orderFrontAboutPanel() { AboutWindow(&m_window).exec(); }
 
@@ -316,6 +321,7 @@ private:
     Clipboard m_clipboard;
     Saving m_saving;
     Exporting m_exporting;
+    Printing m_printing;
     Session m_session;
     UndoManager& m_undoManager; // the document's
 
@@ -323,6 +329,7 @@ private:
     MyImageView* ciView;
     MyOGLView* openGLView;
     customEffImageView* customEffectsView;
+    DraggingOut m_draggingOut;
     QMenu* contentMenuOutlet;
     QPointer<ResizePanel> m_resizePanel;
     QPointer<ImageInfo> infoPanel;

@@ -1,6 +1,7 @@
 #include "files/BeforeAfterView.h"
 
 #include "files/PlainPicture.h"
+#include "widgets/Checkerboard.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -80,8 +81,7 @@ void BeforeAfterView::paintHalf(QPainter& painter, int index, const CIBitmap& bi
         const QPointF corner = place.topLeft() + start / ratio;
         if (bitmap.alpha() != CIAlpha::Opaque) {
             const QRectF shown(corner, QSizeF(bitmap.width(), bitmap.height()) / ratio);
-            painter.fillRect(shown, Qt::white);
-            painter.fillRect(shown, QBrush(QColor(0, 0, 0, 48), Qt::Dense4Pattern));
+            fillCheckerboard(painter, shown);
         }
         painter.drawImage(corner, image);
     }

@@ -48,6 +48,14 @@ void ExportSettings::remember() const
         keyOf(row));
 }
 
+void ExportSettings::forgetAll()
+{
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    defaults.removeObjectForKey(kLastFormat);
+    for (const FileFormat& row : fileFormats())
+        defaults.removeObjectForKey(keyOf(row));
+}
+
 PictureFormat ExportSettings::lastFormat()
 {
     const QString name = UserDefaults::standardUserDefaults().objectForKey(kLastFormat).toString();

@@ -15,6 +15,7 @@ struct ExportSettings {
     /// As they were when the format was last used; the standard ones before that. The size is not remembered.
     static ExportSettings remembered(PictureFormat format);
     void remember() const;
+    static void forgetAll();
     /// Of the last export; JPEG before that.
     static PictureFormat lastFormat();
 };

@@ -23,4 +23,8 @@ const QBrush& checkers()
 
 } // namespace
 
-void fillCheckerboard(QPainter& painter, const QRectF& rect) { painter.fillRect(rect, checkers()); }
+void fillCheckerboard(QPainter& painter, const QRectF& rect)
+{
+    if (rect.isValid())
+        painter.fillRect(rect, checkers());
+}

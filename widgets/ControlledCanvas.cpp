@@ -87,7 +87,8 @@ void ControlledCanvas::setDragEnter(bool over)
 void ControlledCanvas::dragEnterEvent(QDragEnterEvent* event)
 {
     const QString path = m_drops.file(*event->mimeData());
-    if (!(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !m_drops.isWanted(path)
+    const bool isOurs = event->source() == this;
+    if (isOurs || !(event->possibleActions() & Qt::CopyAction) || path.isEmpty() || !m_drops.isWanted(path)
         || isPictureItself(*event->mimeData())) {
         event->ignore();
         return;

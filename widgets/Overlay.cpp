@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int kMargin = 12, kSpacing = 8, kAfterTitle = 16; // points
+const char* const kOpenOverlay = "openOverlay"; // of the window: asked for with every change of a command
 
 } // namespace
 
@@ -65,10 +66,7 @@ Overlay::~Overlay() = default;
 
 Overlay* Overlay::openIn(const QWidget& window)
 {
-    for (auto* overlay : window.findChildren<Overlay*>())
-        if (overlay->m_isOpen)
-            return overlay;
-    return nullptr;
+    return qobject_cast<Overlay*>(window.property(kOpenOverlay).value<QObject*>());
 }
 
 void Overlay::open()
@@ -79,6 +77,7 @@ void Overlay::open()
             m_covered << child;
         }
     m_isOpen = true;
+    window()->setProperty(kOpenOverlay, QVariant::fromValue<QObject*>(this));
     m_page->installEventFilter(this);
     setGeometry(m_page->rect());
     raise();
@@ -92,6 +91,7 @@ bool Overlay::end()
 {
     if (!std::exchange(m_isOpen, false))
         return false;
+    window()->setProperty(kOpenOverlay, QVariant());
     hide();
     for (const QPointer<QWidget>& child : std::exchange(m_covered, {}))
         if (child)

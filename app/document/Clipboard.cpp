@@ -7,6 +7,8 @@
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureWriter.h"
 
+#include <QFileInfo>
+
 namespace {
 
 struct Copied {
@@ -44,13 +46,23 @@ void Clipboard::copy()
 
 void Clipboard::paste()
 {
-    const QByteArray data = m_document.isIdle() ? Pasteboard::generalPasteboard().pictureData() : QByteArray();
-    if (data.isEmpty())
+    if (!m_document.isIdle())
+        return;
+    const QString file = Pasteboard::generalPasteboard().pictureFile();
+    const QByteArray data = file.isEmpty() ? Pasteboard::generalPasteboard().pictureData() : QByteArray();
+    if (file.isEmpty() && data.isEmpty())
         return;
     readBesideWindow(
         m_document, tr("Pasting the picture…"),
-        [data](const ReadOptions& options) { return readPictureData(data, options); },
-        [this](const CIImage& picture) {
+        [data, file](const ReadOptions& options) {
+            return file.isEmpty() ? readPictureData(data, options) : readPictureFile(file, options);
+        },
+        [this, file](const CIImage& picture) {
+            if (!picture && !file.isEmpty()) { // any file may have been copied
+                emit m_document.message(tr("“%1” can't be pasted: %2", "file name, what is wrong")
+                                            .arg(QFileInfo(file).fileName(), m_document.readFailure()));
+                return;
+            }
             m_document.replaceByForeignPicture(picture);
             m_document.undoManager().setActionName(tr("Paste"));
         });

@@ -5,6 +5,7 @@
 #include "app/document/RecentFiles.h"
 #include "widgets/DropFileTypes.h"
 #include "widgets/FilePanel.h"
+#include "widgets/FileThumbnails.h"
 #include "widgets/HeldInput.h"
 
 #include <QApplication>
@@ -13,7 +14,9 @@
 #include <QFileInfo>
 #include <QPushButton>
 #include <QScopedPointer>
+#include <QStandardPaths>
 #include <QTimer>
+#include <QUrl>
 
 #include <chrono>
 #include <optional>
@@ -24,6 +27,15 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kPatience = 300ms; // most pictures are there before
+
+/// To the panel's side bar, if it is there.
+void addPlace(QFileDialog& panel, const QString& folder)
+{
+    QList<QUrl> places = panel.sidebarUrls();
+    const QUrl place = QUrl::fromLocalFile(folder);
+    if (QFileInfo(folder).isDir() && !places.contains(place))
+        panel.setSidebarUrls(places << place);
+}
 
 } // namespace
 
@@ -54,9 +66,11 @@ void Opening::runPanel(QWidget& window)
     panel->setNameFilters(nameFilters());
     panel->setOption(QFileDialog::DontUseNativeDialog); // the desktop's has no place for our button
     addNewWindowButton(*panel);
+    FileThumbnails::installIn(*panel);
     dressFilePanel(*panel);
-    if (!m_document.folder().isEmpty())
-        panel->setDirectory(m_document.folder());
+    const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+    addPlace(*panel, pictures);
+    panel->setDirectory(m_document.folder().isEmpty() && QFileInfo(pictures).isDir() ? pictures : m_document.folder());
     connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
         m_document.setFolder(panel->directory().absolutePath());
         panelDidEnd(code, panel->selectedFiles());

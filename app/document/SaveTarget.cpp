@@ -3,6 +3,9 @@
 #include "files/ExportFormats.h"
 #include "platform/foundation/UserDefaults.h"
 
+#include <algorithm>
+#include <array>
+
 #include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
@@ -12,7 +15,7 @@
 namespace {
 
 const QString kAnswerKey = QStringLiteral("SaveAsFolder"); // when it is to be given without a question
-const QString kMake = QStringLiteral("make"), kKeep = QStringLiteral("keep");
+const std::array<QString, 3> kStored{QString(), QStringLiteral("make"), QStringLiteral("keep")}; // in the enum's order
 
 QString folderOf(const QString& path) { return QFileInfo(path).absolutePath(); }
 
@@ -27,14 +30,27 @@ QString inChosenFolder(const QString& target, const QString& chosen)
     return folderOf(chosen) + QLatin1Char('/') + QFileInfo(target).fileName();
 }
 
-QString givenAnswer() { return UserDefaults::standardUserDefaults().objectForKey(kAnswerKey).toString(); }
-
 } // namespace
+
+SaveTarget::Answer SaveTarget::standingAnswer()
+{
+    const QString stored = UserDefaults::standardUserDefaults().objectForKey(kAnswerKey).toString();
+    const auto found = std::ranges::find(kStored, stored);
+    return found == kStored.end() ? Answer::Ask : Answer(found - kStored.begin());
+}
+
+void SaveTarget::setStandingAnswer(Answer answer)
+{
+    if (answer == Answer::Ask)
+        UserDefaults::standardUserDefaults().removeObjectForKey(kAnswerKey);
+    else
+        UserDefaults::standardUserDefaults().setObjectForKey(kStored[std::size_t(answer)], kAnswerKey);
+}
 
 QString SaveTarget::of(const QString& chosen, const QString& formatName)
 {
     const QString target = exportPath(chosen, formatName);
-    return lacksFolder(target, chosen) && givenAnswer() == kKeep ? inChosenFolder(target, chosen) : target;
+    return lacksFolder(target, chosen) && standingAnswer() == Answer::Keep ? inChosenFolder(target, chosen) : target;
 }
 
 std::optional<QString> SaveTarget::asked(QWidget* window, const QString& chosen, const QString& formatName)
@@ -42,8 +58,8 @@ std::optional<QString> SaveTarget::asked(QWidget* window, const QString& chosen,
     const QString target = exportPath(chosen, formatName);
     if (!lacksFolder(target, chosen))
         return target;
-    QString answer = givenAnswer();
-    if (answer != kMake && answer != kKeep) {
+    Answer answer = standingAnswer();
+    if (answer == Answer::Ask) {
         QMessageBox box(QMessageBox::NoIcon, QStringLiteral("Lumivex"),
             tr("There is no folder “%1”.").arg(folderOf(target)), QMessageBox::Cancel, window);
         box.setWindowModality(Qt::WindowModal);
@@ -56,13 +72,13 @@ std::optional<QString> SaveTarget::asked(QWidget* window, const QString& chosen,
         auto* remembers = new QCheckBox(tr("Don't ask again"));
         box.setCheckBox(remembers);
         box.exec();
-        answer = box.clickedButton() == make ? kMake : box.clickedButton() == keep ? kKeep : QString();
-        if (answer.isEmpty())
+        answer = box.clickedButton() == make ? Answer::Make : box.clickedButton() == keep ? Answer::Keep : Answer::Ask;
+        if (answer == Answer::Ask)
             return {};
         if (remembers->isChecked())
-            UserDefaults::standardUserDefaults().setObjectForKey(answer, kAnswerKey);
+            setStandingAnswer(answer);
     }
-    if (answer == kKeep)
+    if (answer == Answer::Keep)
         return inChosenFolder(target, chosen);
     QDir().mkpath(folderOf(target)); // the save tells why if it still isn't there
     return target;

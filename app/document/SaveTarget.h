@@ -11,6 +11,11 @@ class SaveTarget {
     Q_DECLARE_TR_FUNCTIONS(SaveTarget)
 
 public:
+    /// What happens where the folder in lower case is missing; asked unless the user wanted no more questions.
+    enum class Answer { Ask, Make, Keep };
+    static Answer standingAnswer();
+    static void setStandingAnswer(Answer answer);
+
     /// The path that is written for the one that was chosen, as far as that is known without a question.
     static QString of(const QString& chosen, const QString& formatName);
     /// The same when the user has been asked about a missing folder, or was before and wants no more questions. The

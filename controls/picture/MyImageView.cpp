@@ -3,6 +3,7 @@
 #include "controls/picture/MyImageViewPrivate.h"
 #include "controls/picture/PictureScrollView.h"
 #include "controls/picture/PointMark.h"
+#include "widgets/Checkerboard.h"
 #include "widgets/DropFileTypes.h"
 
 #include <cmath>
@@ -198,6 +199,7 @@ void MyImageView::drawFrame(QPainter& painter, const Layer& layer) const
     const double step = double(zoom) * ratio / frame.scale(); // device pixels per pixel of the frame
     const QImage& pixels = frame.pixels;
 
+    fillCheckerboard(painter, placeOfPixels(layer.picture));
     painter.save();
     painter.translate(toWidget({0, 0}));
     painter.scale(1 / ratio, 1 / ratio);
@@ -211,6 +213,18 @@ void MyImageView::drawFrame(QPainter& painter, const Layer& layer) const
             QRectF(frame.left * step, -frame.top * step, pixels.width() * step, pixels.height() * step), pixels);
     }
     painter.restore();
+}
+
+/// Where the view's whole device pixels show the picture: at its edges they show the surround as well.
+QRectF MyImageView::placeOfPixels(const CIImage& picture) const
+{
+    const CIRect seen = picture.extent().intersected(visibleRect());
+    const double ratio = devicePixelRatioF();
+    const QPointF topLeft = toWidget({seen.left(), seen.top()}) * ratio;
+    const QPointF bottomRight = toWidget({seen.right(), seen.bottom()}) * ratio;
+    constexpr double tiny = 1e-3;
+    return {QPointF(std::ceil(topLeft.x() - tiny), std::ceil(topLeft.y() - tiny)) / ratio,
+        QPointF(std::floor(bottomRight.x() + tiny), std::floor(bottomRight.y() + tiny)) / ratio};
 }
 
 void MyImageView::drawPoints(QPainter& painter) const

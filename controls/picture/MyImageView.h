@@ -47,6 +47,8 @@ public:
     QList<CanvasPoint> canvasPoints() const override;
 
 signals:
+    /// The user drags the picture itself: from where there are no points, or with Ctrl held.
+    void pictureDragged();
     /// There is another `shownFrame`, or none any more.
     void frameShown();
 
@@ -78,6 +80,7 @@ private:
     std::optional<FrameRequest> frameRequest(const CIImage& picture) const;
     void drawFrames(QPainter&) const;
     void drawFrame(QPainter&, const Layer& layer) const;
+    QRectF placeOfPixels(const CIImage& picture) const;
     void drawPoints(QPainter&) const;
     void mouseEntered();
     void mouseExited();

@@ -7,9 +7,13 @@
 
 #include <QCoreApplication>
 #include <QEnterEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLineF>
 
 namespace {
+
+constexpr double kFarDrag = 24; // points: what takes the picture along is no trembling hand
 
 std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
 {
@@ -102,23 +106,34 @@ void MyImageView::pressed(CIPoint point)
     parmKey.clear();
     parmMode = ParmMode::kNothing;
     const std::vector<ControlPoint> points = pointsOf(d->showsOriginal ? nullptr : controller); // none is seen on it
+    const bool isPicture = QGuiApplication::keyboardModifiers() & Qt::ControlModifier;
     // However far away it is: small marks need no aim.
-    if (const auto nearest = nearestControlPoint(points, point)) {
+    if (const auto nearest = nearestControlPoint(points, point); nearest && !isPicture) {
         parmIndex = 0;
         parmKey = points[*nearest].key;
         parmMode = points[*nearest].mode;
         if (d->selected)
             d->selected = nearest;
         beginChange();
+    } else if (controller && controller->backImage().extent().contains(point)) {
+        d->pressed = point;
     }
     update();
 }
 
-void MyImageView::dragged(CIPoint point) { dragGrabbedPoint(point); }
+void MyImageView::dragged(CIPoint point)
+{
+    dragGrabbedPoint(point);
+    if (d->pressed && QLineF(toWidget(*d->pressed), toWidget(point)).length() > kFarDrag) {
+        d->pressed.reset();
+        emit pictureDragged();
+    }
+}
 
 void MyImageView::released(CIPoint point)
 {
     movingNow = false;
+    d->pressed.reset();
     endChange();
     hover(toWidget(point));
     update();

@@ -2,10 +2,12 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
 #include <QPointer>
+#include <QUrl>
 
 namespace {
 
@@ -69,9 +71,19 @@ bool Pasteboard::offersTIFF() const
 {
     if (!m_offersTIFF) {
         const QMimeData* data = clipboardData();
-        m_offersTIFF = data && (data->hasImage() || !bestPictureType(data->formats()).isEmpty());
+        m_offersTIFF =
+            data && (data->hasImage() || !bestPictureType(data->formats()).isEmpty() || !pictureFile().isEmpty());
     }
     return *m_offersTIFF;
+}
+
+QString Pasteboard::pictureFile() const
+{
+    const QMimeData* data = clipboardData();
+    if (!data || data->hasImage() || data->urls().size() != 1)
+        return {};
+    const QString path = data->urls().first().toLocalFile();
+    return QFileInfo(path).isFile() ? path : QString();
 }
 
 QByteArray Pasteboard::pictureData() const

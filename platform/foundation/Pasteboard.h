@@ -16,11 +16,13 @@ class Pasteboard : public QObject {
 public:
     static Pasteboard& generalPasteboard();
 
-    /// True when the clipboard holds a picture in any form that can be read; this counts as TIFF offered. Quick:
-    /// the clipboard's owner, often another program, is asked once after each change.
+    /// True when the clipboard holds a picture in any form that can be read, or a file; this counts as TIFF offered.
+    /// Quick: the clipboard's owner, often another program, is asked once after each change.
     bool offersTIFF() const;
     /// Asks the owner anew, for desktops that tell of changes only the program in front.
     void lookAgain();
+    /// The picture file that was copied in a file manager; empty without exactly one, and with a picture itself.
+    QString pictureFile() const;
     /// The picture as the bytes of a file, in the best form offered (no loss before loss); empty without one.
     QByteArray pictureData() const;
 
