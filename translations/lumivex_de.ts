@@ -185,6 +185,10 @@
         <source>3D Objects Texuture</source>
         <translation>Das Bild auf 3D-Objekten</translation>
     </message>
+    <message>
+        <source>The objects are thrown by chance. Another type or count throws them anew.</source>
+        <translation>Die Objekte sind zufällig verteilt. Eine andere Art oder Anzahl verteilt sie neu.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -222,6 +226,11 @@
     <message>
         <source>Paste</source>
         <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be pasted: %2</source>
+        <comment>file name, what is wrong</comment>
+        <translation>„%1“ lässt sich nicht einfügen: %2</translation>
     </message>
 </context>
 <context>
@@ -649,6 +658,38 @@
         <source>Shows the looks that come with the program</source>
         <translation>Zeigt die Looks, die zum Programm gehören</translation>
     </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;Neues Fenster</translation>
+    </message>
+    <message>
+        <source>Opens another window, with a picture of its own</source>
+        <translation>Öffnet ein weiteres Fenster mit einem eigenen Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>D&amp;rucken…</translation>
+    </message>
+    <message>
+        <source>Puts the result on paper</source>
+        <translation>Bringt das Ergebnis zu Papier</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Closes the window</source>
+        <translation>Schließt das Fenster</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eferences…</source>
+        <translation>E&amp;instellungen…</translation>
+    </message>
+    <message>
+        <source>How the program looks, and what it remembers</source>
+        <translation>Wie das Programm aussieht und was es sich merkt</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -814,6 +855,10 @@
     <message>
         <source>Choose Favourite</source>
         <translation>Favorit wählen</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here.</source>
+        <translation>Hier gibt es nichts einzustellen.</translation>
     </message>
 </context>
 <context>
@@ -1119,6 +1164,26 @@
     <message>
         <source>Object Type</source>
         <translation>Objektart</translation>
+    </message>
+    <message>
+        <source>What is seen around it; transparent when the color is</source>
+        <translation>Was darum herum zu sehen ist; durchsichtig, wenn die Farbe es ist</translation>
+    </message>
+    <message>
+        <source>Apply in size of:</source>
+        <translation>Anwenden in Größe von:</translation>
+    </message>
+    <message>
+        <source>How large the picture is that Apply makes</source>
+        <translation>Wie groß das Bild ist, das „Anwenden“ macht</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
     </message>
 </context>
 <context>
@@ -6729,6 +6794,16 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>Choose an effect from the list to see the picture in space.</source>
         <translation>Wählen Sie einen Effekt aus der Liste, um das Bild im Raum zu sehen.</translation>
     </message>
+    <message>
+        <source>Applied in the picture&apos;s size: %1 × %2 pixels</source>
+        <comment>width, height</comment>
+        <translation>In der Größe des Bildes angewendet: %1 × %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Applied in the window&apos;s size: %1 × %2 pixels</source>
+        <comment>width, height</comment>
+        <translation>In der Größe des Fensters angewendet: %1 × %2 Pixel</translation>
+    </message>
 </context>
 <context>
     <name>ThreeDStage</name>
@@ -6833,6 +6908,115 @@ Alles andere geht auch ohne.</translation>
     <message>
         <source>Remove from the favourites</source>
         <translation>Aus den Favoriten entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>DraggingOut</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Writing the picture…</source>
+        <translation>Das Bild wird geschrieben…</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesPanel</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Takes the choices (Return)</source>
+        <translation>Übernimmt die Auswahl (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance:</source>
+        <translation>&amp;Erscheinungsbild:</translation>
+    </message>
+    <message>
+        <source>Whether the program is drawn light or dark</source>
+        <translation>Ob das Programm hell oder dunkel gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>As the Desktop</source>
+        <translation>Wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Missing folder in Save As:</source>
+        <translation>&amp;Fehlender Ordner bei „Speichern unter“:</translation>
+    </message>
+    <message>
+        <source>What Save As does where the folder in lower case is missing</source>
+        <translation>Was „Speichern unter“ tut, wo der kleingeschriebene Ordner fehlt</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Gewählten Ordner nehmen</translation>
+    </message>
+    <message>
+        <source>Forget the recent pictures (%1)</source>
+        <translation>Die zuletzt geöffneten Bilder vergessen (%1)</translation>
+    </message>
+    <message>
+        <source>Empties the menu Open Recent</source>
+        <translation>Leert das Menü „Zuletzt geöffnet“</translation>
+    </message>
+    <message>
+        <source>Forget the settings of exports</source>
+        <translation>Die Einstellungen des Exports vergessen</translation>
+    </message>
+    <message>
+        <source>Each format starts with its standard settings again</source>
+        <translation>Jedes Format beginnt wieder mit seinen Standardeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Das Bild wird gezeichnet…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to print the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu drucken</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be printed there</source>
+        <translation>Das Bild kann dort nicht gedruckt werden</translation>
+    </message>
+    <message>
+        <source>Printed “%1”</source>
+        <translation>„%1“ gedruckt</translation>
     </message>
 </context>
 </TS>

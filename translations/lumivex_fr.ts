@@ -185,6 +185,10 @@
         <source>3D Objects Texuture</source>
         <translation>L’image sur des objets 3D</translation>
     </message>
+    <message>
+        <source>The objects are thrown by chance. Another type or count throws them anew.</source>
+        <translation>Les objets sont jetés au hasard. Un autre type ou un autre nombre les jette de nouveau.</translation>
+    </message>
 </context>
 <context>
     <name>BeforeAfterView</name>
@@ -222,6 +226,11 @@
     <message>
         <source>Paste</source>
         <translation>Coller</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be pasted: %2</source>
+        <comment>file name, what is wrong</comment>
+        <translation>« %1 » ne peut pas être collé : %2</translation>
     </message>
 </context>
 <context>
@@ -649,6 +658,38 @@
         <source>Shows the looks that come with the program</source>
         <translation>Montre les rendus fournis avec le programme</translation>
     </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;Nouvelle fenêtre</translation>
+    </message>
+    <message>
+        <source>Opens another window, with a picture of its own</source>
+        <translation>Ouvre une autre fenêtre, avec sa propre image</translation>
+    </message>
+    <message>
+        <source>&amp;Print…</source>
+        <translation>I&amp;mprimer…</translation>
+    </message>
+    <message>
+        <source>Puts the result on paper</source>
+        <translation>Met le résultat sur papier</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>&amp;Fermer</translation>
+    </message>
+    <message>
+        <source>Closes the window</source>
+        <translation>Ferme la fenêtre</translation>
+    </message>
+    <message>
+        <source>Pr&amp;eferences…</source>
+        <translation>&amp;Préférences…</translation>
+    </message>
+    <message>
+        <source>How the program looks, and what it remembers</source>
+        <translation>L’aspect du programme, et ce qu’il retient</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -814,6 +855,10 @@
     <message>
         <source>Choose Favourite</source>
         <translation>Choisir un favori</translation>
+    </message>
+    <message>
+        <source>There is nothing to set here.</source>
+        <translation>Il n’y a rien à régler ici.</translation>
     </message>
 </context>
 <context>
@@ -1119,6 +1164,26 @@
     <message>
         <source>Object Type</source>
         <translation>Type d’objet</translation>
+    </message>
+    <message>
+        <source>What is seen around it; transparent when the color is</source>
+        <translation>Ce qui se voit autour ; transparent si la couleur l’est</translation>
+    </message>
+    <message>
+        <source>Apply in size of:</source>
+        <translation>Appliquer à la taille de :</translation>
+    </message>
+    <message>
+        <source>How large the picture is that Apply makes</source>
+        <translation>La taille de l’image que fait Appliquer</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
     </message>
 </context>
 <context>
@@ -6729,6 +6794,16 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>Choose an effect from the list to see the picture in space.</source>
         <translation>Choisissez un effet dans la liste pour voir l’image dans l’espace.</translation>
     </message>
+    <message>
+        <source>Applied in the picture&apos;s size: %1 × %2 pixels</source>
+        <comment>width, height</comment>
+        <translation>Appliqué à la taille de l’image : %1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>Applied in the window&apos;s size: %1 × %2 pixels</source>
+        <comment>width, height</comment>
+        <translation>Appliqué à la taille de la fenêtre : %1 × %2 pixels</translation>
+    </message>
 </context>
 <context>
     <name>ThreeDStage</name>
@@ -6833,6 +6908,115 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Remove from the favourites</source>
         <translation>Retirer des favoris</translation>
+    </message>
+</context>
+<context>
+    <name>DraggingOut</name>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Writing the picture…</source>
+        <translation>Écriture de l’image…</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesPanel</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Takes the choices (Return)</source>
+        <translation>Prend les choix (Entrée)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance:</source>
+        <translation>&amp;Apparence :</translation>
+    </message>
+    <message>
+        <source>Whether the program is drawn light or dark</source>
+        <translation>Si le programme est dessiné clair ou sombre</translation>
+    </message>
+    <message>
+        <source>As the Desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Missing folder in Save As:</source>
+        <translation>Dossier &amp;manquant dans Enregistrer sous :</translation>
+    </message>
+    <message>
+        <source>What Save As does where the folder in lower case is missing</source>
+        <translation>Ce que fait Enregistrer sous quand le dossier en minuscules manque</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Créer le dossier</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Utiliser le dossier choisi</translation>
+    </message>
+    <message>
+        <source>Forget the recent pictures (%1)</source>
+        <translation>Oublier les images récentes (%1)</translation>
+    </message>
+    <message>
+        <source>Empties the menu Open Recent</source>
+        <translation>Vide le menu des fichiers récents</translation>
+    </message>
+    <message>
+        <source>Forget the settings of exports</source>
+        <translation>Oublier les réglages des exportations</translation>
+    </message>
+    <message>
+        <source>Each format starts with its standard settings again</source>
+        <translation>Chaque format reprend ses réglages standard</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Dessin de l’image…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to print the picture</source>
+        <translation>Il n’y avait pas assez de mémoire pour imprimer l’image</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be printed there</source>
+        <translation>L’image ne peut pas être imprimée là</translation>
+    </message>
+    <message>
+        <source>Printed “%1”</source>
+        <translation>« %1 » imprimé</translation>
     </message>
 </context>
 </TS>
