@@ -652,7 +652,7 @@
     </message>
     <message>
         <source>&amp;Looks…</source>
-        <translation>&amp;Rendus…</translation>
+        <translation>Ren&amp;dus…</translation>
     </message>
     <message>
         <source>Shows the looks that come with the program</source>
