@@ -155,8 +155,9 @@ TEST_F(SurfacePanelTest, SlidersStartAtTheWholePartOfTheirValue)
 TEST_F(SurfacePanelTest, EveryControlIsUndoneAndRedone)
 {
     const std::vector<std::pair<const char*, CIValue>> changes{{"First Curve:", -1.0}, {"Second Curve:", 0.5},
-        {"Filled Poly:", false}, {"Colored Light:", true}, {"Light color", CIColor(1, 0, 1, 0)}};
-    ASSERT_EQ(std::size_t(controls.size()), changes.size());
+        {"Filled Poly:", false}, {"Colored Light:", true}, {"Light color", CIColor(1, 0, 1, 0)},
+        {"Background Color:", CIColor(0, 0.5, 1, 1)}};
+    ASSERT_EQ(std::size_t(controls.size()), changes.size() + 1) << "and the size to apply, which isn't stored";
     const CIDictionary start = surface->save();
     for (const auto& [name, value] : changes) {
         SCOPED_TRACE(name);
