@@ -13,7 +13,12 @@ TEST(Color, AmountsThatChangeNothingKeepEveryBit)
         {"CIVignette", {{"inputIntensity", 0}}}, {"CIVignetteEffect", {{"inputIntensity", 0}}},
         {"CIColorPolynomial", {}}, {"CIColorCrossPolynomial", {}}, {"CIColorClamp", {}}, {"CIToneCurve", {}},
         {"CIUnsharpMask", {{"inputIntensity", 0}}}, {"CISharpenLuminance", {{"inputRadius", 0}}},
-        {"CIHighlightShadowAdjust", {}}, {"CIConvolution7X7", {}}, {"CIDocumentEnhancer", {{"inputAmount", 0}}}};
+        {"CIHighlightShadowAdjust", {}}, {"CIConvolution7X7", {}}, {"CIDocumentEnhancer", {{"inputAmount", 0}}},
+        {"CIGaussianBlur", {{"inputRadius", 0}}}, {"CIBoxBlur", {{"inputRadius", 1}}}, {"CIColorControls", {}},
+        {"CIExposureAdjust", {}}, {"CIColorCube", {}}, {"CIBumpDistortion", {{"inputScale", 0}}},
+        {"CIGlassDistortion", {{"inputScale", 0}}}, {"CICrop", {}}, {"CIAffineTransform", {}},
+        {"CIPixellate", {{"inputScale", 1}}}, {"CIZoomBlur", {{"inputAmount", 0}}},
+        {"CIDisintegrateWithMaskTransition", {{"inputTime", 0}}}};
     for (const bool opaque : {true, false}) {
         const CIBitmap source = opaque ? smooth(37, 9) : noise(37, 9);
         const CIImage image = CIImage::fromBitmap(source);

@@ -8,13 +8,8 @@ namespace {
 /// Left half `dark`, right half `light`, with a ramp of `spread` across each.
 CIImage halves(double dark, double light, double spread)
 {
-    CIBitmap bitmap(64, 32, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < 32; ++y)
-        for (int x = 0; x < 64; ++x)
-            for (int c = 0; c < 4; ++c)
-                bitmap.mutableRow<float>(y)[std::size_t(4 * x + c)] =
-                    c == 3 ? 1 : float(linear((x < 32 ? dark : light) + spread * (y / 31.0 - 0.5)));
-    return CIImage::fromBitmap(bitmap);
+    return CIImage::fromBitmap(painted(64, 32,
+        [=](double x, double y) { return gray(linear((x < 32 ? dark : light) + spread * ((y - 0.5) / 31 - 0.5))); }));
 }
 
 } // namespace
@@ -34,15 +29,10 @@ TEST(WholePictures, AreThresholdedBetweenTheirTwoTones)
 
 TEST(DocumentEnhancer, WhitensPaperInShadow)
 {
-    CIBitmap page(300, 200, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < 200; ++y)
-        for (int x = 0; x < 300; ++x)
-            for (int c = 0; c < 4; ++c) {
-                const double paper = 0.25 + 0.5 * x / 300.0;
-                const bool ink = x % 30 < 2;
-                page.mutableRow<float>(y)[std::size_t(4 * x + c)] = c == 3 ? 1 : float(ink ? 0.1 * paper : paper);
-            }
-    const CIImage image = CIImage::fromBitmap(page);
+    const CIImage image = CIImage::fromBitmap(painted(300, 200, [](double x, double) {
+        const double paper = 0.25 + 0.5 * x / 300;
+        return gray(std::fmod(x, 30) < 2 ? 0.1 * paper : paper);
+    }));
     const auto f = filter("CIDocumentEnhancer", image);
     const CIBitmap out = rendered(f->outputImage(), image.extent());
     for (const int x : {45, 135, 255}) {

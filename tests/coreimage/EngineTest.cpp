@@ -179,29 +179,6 @@ TEST(Filters, UnknownNamesKeysAndMissingImagesAreHarmless)
     EXPECT_TRUE(CIContext().render(CIImage::fromColor({1, 0, 0}), CIRect::infinite()).isNull());
 }
 
-TEST(Filters, ZeroAmountsChangeNothing)
-{
-    const CIBitmap source = noise8(70, 45);
-    const CIImage image = CIImage::fromBitmap(source);
-    const auto unchanged = [&](const char* name, std::initializer_list<std::pair<const char*, CIValue>> values) {
-        const auto f = filter(name, image);
-        for (const auto& [key, value] : values)
-            f->setValueForKey(value, key);
-        EXPECT_TRUE(sameBytes(CIContext().render(f->outputImage(), image.extent()), source)) << name;
-    };
-    unchanged("CIGaussianBlur", {{"inputRadius", 0}});
-    unchanged("CIBoxBlur", {{"inputRadius", 1}});
-    unchanged("CIColorControls", {});
-    unchanged("CIExposureAdjust", {});
-    unchanged("CIBumpDistortion", {{"inputScale", 0}});
-    unchanged("CIGlassDistortion", {{"inputScale", 0}});
-    unchanged("CICrop", {});
-    unchanged("CIAffineTransform", {});
-    unchanged("CIPixellate", {{"inputScale", 1}});
-    unchanged("CISourceOverCompositing", {});
-    unchanged("CIDisintegrateWithMaskTransition", {{"inputTime", 0}});
-}
-
 TEST(GaussianBlur, SpreadsAPointByItsStandardDeviation)
 {
     CIBitmap point(1, 1, CIFormat::RGBAf, CIAlpha::Premultiplied, CIColorSpace::LinearSRGB);

@@ -39,12 +39,10 @@ TEST(Random, IsUniformWithoutCorrelationAndRepeats)
 
 TEST(DistanceGradient, MeasuresToTheNearestMarkedPixel)
 {
-    CIBitmap mask(40, 30, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 40; ++x)
-            mask.mutableRow<float>(y)[std::size_t(4 * x + 3)] = 1;
-    for (const auto& [x, y] : {std::pair{5, 7}, {30, 20}, {31, 20}})
-        mask.mutableRow<float>(29 - y)[std::size_t(4 * x)] = 1;
+    const CIBitmap mask = painted(40, 30, [](double x, double y) {
+        const bool isMarked = (x == 5.5 && y == 7.5) || (y == 20.5 && (x == 30.5 || x == 31.5));
+        return Color{isMarked ? 1.0 : 0.0, 0, 0, 1};
+    });
     for (const double farthest : {20.0, 200.0}) {
         const CIImage distances = made("CIDistanceGradientFromRedMask",
             {{"inputImage", CIImage::fromBitmap(mask)}, {"inputMaximumDistance", farthest}});

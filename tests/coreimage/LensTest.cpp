@@ -35,33 +35,14 @@ TEST(DiscBlur, IsTheMeanOverTheDisc)
     EXPECT_NEAR(at(spot, 36, 36, 0), level, 1e-5);
     EXPECT_LT(at(spot, 40, 30, 0), 0.7 * level);
     EXPECT_EQ(at(spot, 38, 38, 0), 0);
-    const CIBitmap ring = result("CIBokehBlur", dot(61, 61, 30, 30),
-        {{"inputRadius", 10}, {"inputRingAmount", 1}, {"inputRingSize", 0.2}, {"inputSoftness", 0}});
-    EXPECT_NEAR(at(ring, 38, 30, 0), 1.5 * double(at(ring, 30, 30, 0)), 0.1 * level);
 }
 
-TEST(Canny, DrawsAStepAsOneLine)
+TEST(Canny, FollowsALineForAsManyPixelsAsThereArePasses)
 {
-    CIBitmap step(40, 30, CIFormat::RGBA8, CIAlpha::Opaque);
-    for (int y = 0; y < 30; ++y)
-        for (int x = 0; x < 40; ++x)
-            std::fill_n(step.mutableRow<std::uint8_t>(y).data() + 4 * x, 4, x < 20 ? 40 : 200);
-    const CIBitmap out = result("CICannyEdgeDetector", step, {});
-    for (int y = 0; y < 30; ++y) {
-        float line = 0;
-        for (int x = 0; x < 40; ++x) {
-            line += at(out, x, y, 0);
-            EXPECT_TRUE(at(out, x, y, 0) == 0 || x == 19 || x == 20);
-        }
-        EXPECT_EQ(line, 1) << y;
-    }
-    // A ridge that fades below the upper threshold goes on for as many pixels as there are passes.
+    // A ridge that fades below the upper threshold.
     const auto length = [](int passes) {
-        CIBitmap fading(60, 30, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-        for (int y = 0; y < 30; ++y)
-            for (int x = 0; x < 60; ++x)
-                for (std::size_t c = 0; c < 4; ++c)
-                    fading.mutableRow<float>(y)[std::size_t(4 * x) + c] = c == 3 ? 1 : y < 15 ? 0.002f * float(x) : 0;
+        const CIBitmap fading =
+            painted(60, 30, [](double x, double y) { return gray(y > 15 ? 0.002 * (x - 0.5) : 0); });
         const CIBitmap lines = result("CICannyEdgeDetector", fading,
             {{"inputGaussianSigma", 0}, {"inputThresholdHigh", 0.08}, {"inputThresholdLow", 0.01},
                 {"inputHysteresisPasses", passes}});

@@ -29,13 +29,7 @@ inline float outsideZero(const CIBitmap& b, int x, int y, int c)
 /// One bright opaque pixel on opaque black.
 inline CIBitmap dot(int width, int height, int x, int y)
 {
-    CIBitmap bitmap(width, height, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int line = 0; line < height; ++line)
-        for (std::size_t i = 3; i < bitmap.mutableRow<float>(line).size(); i += 4)
-            bitmap.mutableRow<float>(line)[i] = 1;
-    for (std::size_t c = 0; c < 3; ++c)
-        bitmap.mutableRow<float>(height - 1 - y)[std::size_t(4 * x) + c] = 1;
-    return bitmap;
+    return painted(width, height, [=](double px, double py) { return gray(px == x + 0.5 && py == y + 0.5 ? 1 : 0); });
 }
 
 /// Compares each component of each pixel with what `expected(x, y, c)` says.

@@ -5,11 +5,28 @@
 #include "platform/coreimage/CIFilter.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 #include <string>
 
 namespace pictures {
+
+using Color = std::array<double, 4>;
+
+/// Linear, premultiplied; `color(x, y)` at pixel centers, from the lower left up to the right.
+template <class F>
+CIBitmap painted(int width, int height, F color)
+{
+    CIBitmap bitmap(width, height, CIFormat::RGBAf, CIAlpha::Premultiplied, CIColorSpace::LinearSRGB);
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x) {
+            const Color c = color(x + 0.5, y + 0.5);
+            std::copy_n(c.begin(), 4, bitmap.mutableRow<float>(height - 1 - y).begin() + 4 * x);
+        }
+    return bitmap;
+}
+inline Color gray(double light) { return {light, light, light, 1}; }
 
 /// Uniform noise, premultiplied, with transparent and opaque pixels among the rest.
 inline CIBitmap noise(int width, int height, float low = 0, float high = 1)

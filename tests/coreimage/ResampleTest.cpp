@@ -72,30 +72,6 @@ TEST(Resample, RowsMayBeAskedForInAnyTiles)
             ASSERT_NEAR(at(part, x, y, 1), at(whole, 101 + x, 203 + y, 1), 1e-6f);
 }
 
-TEST(Resample, KeepsTheLargestOfWhatAPixelCovers)
-{
-    CIBitmap source(6, 4, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 6; ++x)
-            for (int c = 0; c < 4; ++c)
-                source.mutableRow<float>(3 - y)[std::size_t(4 * x + c)] = c == 3 ? 1 : float(10 * y + x);
-    const CIBitmap out = rendered(ci::maximumScaled(CIImage::fromBitmap(source), 1 / 3.0, 0.5), {0, 0, 2, 2});
-    EXPECT_EQ(at(out, 0, 0, 0), 12);
-    EXPECT_EQ(at(out, 1, 0, 0), 15);
-    EXPECT_EQ(at(out, 1, 1, 2), 35);
-}
-
-TEST(Resample, CubicWindowsReproduceARamp)
-{
-    CIBitmap ramp(40, 1, CIFormat::RGBAf, CIAlpha::Opaque, CIColorSpace::LinearSRGB);
-    for (int x = 0; x < 40; ++x)
-        for (int c = 0; c < 4; ++c)
-            ramp.mutableRow<float>(0)[std::size_t(4 * x + c)] = c == 3 ? 1 : float(x) + 0.5f;
-    const CIBitmap out = rendered(ci::cubicScaled(CIImage::fromBitmap(ramp), 2, 1, 1 / 3.0, 1 / 3.0), {0, 0, 80, 1});
-    for (int x = 8; x < 72; ++x)
-        EXPECT_NEAR(at(out, x, 0, 0), (float(x) + 0.5f) / 2, 1e-4f);
-}
-
 TEST(Turning, LeavesSmoothPicturesAsTheyAreAtTheirNewPlaces)
 {
     const CIImage waves = CIImage::fromBitmap(smooth(120, 90));

@@ -81,6 +81,7 @@ Facts blurs()
         atDot("CIMorphologyRectangleMaximum", {{"inputWidth", 5}, {"inputHeight", 3}},
             {{{12.5, 11.5}, kWhite}, {{13.5, 10.5}, ground}, {{10.5, 12.5}, ground}})
             .reaching({-2, -1, 25, 23}),
+        atEdge("CIMorphologyRectangleMaximum", edge(), {{"inputWidth", 7}, {"inputHeight", 1}}, {{47, 0.5}}),
         atDot("CIMorphologyRectangleMinimum", {{"inputWidth", 5}, {"inputHeight", 3}},
             {{{12.5, 11.5}, kBlack}, {{13.5, 10.5}, ground}, {{10.5, 12.5}, ground}}, ground, kBlack),
         // A Gaussian along the angle, six times as far as its deviation.

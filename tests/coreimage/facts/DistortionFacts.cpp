@@ -97,6 +97,10 @@ Facts distortions()
             {{41, 31, 41.850, 33.861}}),
         warped("CIGlassDistortion", // 30 px before the center the texture is at 70: far from its seam as well
             {{"inputTexture", ramp()}, {"inputCenter", at(71, 61)}, {"inputScale", 200}}, {{41, 31, 41.850, 33.861}}),
+        warped("CIGlassDistortion", // close to the texture's end
+            {{"inputTexture", ramp()}, {"inputCenter", at(71, 33)}, {"inputScale", 200}}, {{41, 31, 41.850, 33.861}})
+            .within(5e-3)
+            .atFullSize(),
         // A quarter more than middle gray is a quarter of the scale, as far as the map is opaque.
         warped("CIDisplacementDistortion", {{"inputDisplacementImage", tilt}, {"inputScale", 40}}, {{41, 31, 51, 21}}),
         warped("CIDisplacementDistortion",

@@ -107,13 +107,7 @@ inline const Color kSome = straight(0.5, 0.25, 0.1), kThin = straight(0.5, 0.25,
 template <class F> // Color(double x, double y), at pixel centers
 CIImage painted(int width, int height, F color)
 {
-    CIBitmap bitmap(width, height, CIFormat::RGBAf, CIAlpha::Premultiplied, CIColorSpace::LinearSRGB);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x) {
-            const Color c = color(x + 0.5, y + 0.5);
-            std::copy_n(c.begin(), 4, bitmap.mutableRow<float>(height - 1 - y).begin() + 4 * x);
-        }
-    return CIImage::fromBitmap(bitmap);
+    return CIImage::fromBitmap(pictures::painted(width, height, color));
 }
 inline CIImage flat(const Color& c, int width = 40, int height = 40)
 {

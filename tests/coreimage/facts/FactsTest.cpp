@@ -71,8 +71,9 @@ void expectFact(const Fact& fact, bool isMoved, double scale)
                 << "component " << c << " at " << seen.at.x << ", " << seen.at.y << (isMoved ? ", moved" : "")
                 << ", scale " << scale;
     }
-    if (fact.extent && !isMoved) {
-        const CIRect e = image.extent(), &expected = *fact.extent;
+    if (fact.extent) {
+        const CIRect e = image.extent();
+        const CIRect expected{fact.extent->x + by.x, fact.extent->y + by.y, fact.extent->width, fact.extent->height};
         EXPECT_TRUE(std::abs(e.x - expected.x) < 1e-6 && std::abs(e.y - expected.y) < 1e-6
             && std::abs(e.width - expected.width) < 1e-6 && std::abs(e.height - expected.height) < 1e-6)
             << "reaches " << e.x << ", " << e.y << ", " << e.width << " by " << e.height;

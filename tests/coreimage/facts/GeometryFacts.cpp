@@ -33,7 +33,7 @@ Fact edge(const char* filter, CIDictionary inputs, double value)
     return Fact{filter, std::move(inputs), {{{99.5, 100.5}, gray(value)}}}.atFullSize().inPlace();
 }
 
-/// One edge in a guide and in a picture of the same size, along which the picture is 1.6 times the guide, falling.
+/// One edge in a guide and in a picture, along which the picture is 1.6 times the guide, falling.
 Fact guided(
     const char* filter, const CIImage& picture, const CIImage& guide, CIDictionary inputs, double x, double becomes)
 {
@@ -48,6 +48,7 @@ Fact guided(
 Facts geometry()
 {
     const CIImage guide = halves(gray(0.2), gray(0.7)), falling = halves(gray(0.9), gray(0.1));
+    const CIImage small = painted(20, 20, [](double x, double) { return gray(x < 10 ? 0.9 : 0.1); });
     const double side = std::hypot(20, 80);
     const double focal = 28 * std::sqrt(2) * 100 / std::hypot(24, 36); // px: the picture's diagonal is that of the film
     // Upright sides that meet 150 px above the middle: the camera looks up by the angle whose tangent is focal / 150.
@@ -76,6 +77,9 @@ Facts geometry()
             .reaching({0, 0, 100, 200})
             .inPlace(),
         edge("CILanczosScaleTransform", {}, 0.210392), // a window of three lobes
+        ofRamp("CILanczosScaleTransform", {{"inputScale", 0.5}}, {{{21, 31}, rampAt(42, 62)}})
+            .reaching({0, 0, 50, 50})
+            .inPlace(),
         ofRamp("CIMaximumScaleTransform", {{"inputScale", 0.5}, {"inputAspectRatio", 0.5}},
             {{{10.5, 10.5}, rampAt(43.5, 21.5)}})
             .reaching({0, 0, 25, 50})
@@ -95,6 +99,12 @@ Facts geometry()
         // As wide and as high as the longer sides.
         ofRamp("CIPerspectiveCorrection", trapezoid(), {{{20, side / 3}, rampAt(35, 50)}})
             .reaching({0, 0, 80, side})
+            .answered(),
+        ofRamp("CIPerspectiveCorrection", // the same, turned to the left
+            {{"inputBottomLeft", at(10, 30)}, {"inputTopLeft", at(10, 70)}, {"inputTopRight", at(90, 90)},
+                {"inputBottomRight", at(90, 10)}},
+            {{{side * 2 / 3, 20}, rampAt(50, 35)}})
+            .reaching({0, 0, side, 80})
             .answered(),
         ofRamp("CIPerspectiveCorrection", trapezoid({{"inputCrop", false}}),
             {{{20, side / 3}, rampAt(35, 50)}, {{84, side / 2}, rampAt(50 + 0.55 * (170 - 190 / 3.0) / 2, 190 / 3.0)}})
@@ -116,12 +126,14 @@ Facts geometry()
         guided("CIGuidedFilter", falling, guide, {{"inputRadius", 1}, {"inputEpsilon", 1 / 18.0}}, 49.5, 0.766667),
         guided("CIGuidedFilter", falling, guide, {{"inputRadius", 1}, {"inputEpsilon", 1e-6}}, 49.5, 0.9),
         guided("CIGuidedFilter", falling, guide, {{"inputRadius", 3}, {"inputEpsilon", 1e-6}}, 47.5, 0.9),
+        guided("CIGuidedFilter", small, guide, {{"inputRadius", 1}, {"inputEpsilon", 1e-6}}, 49.5, 0.9).within(0.1),
         // The same with Gaussian weights of 1 px instead of nine equal ones, and a variance of 0.2 squared.
         guided("CIEdgePreserveUpsampleFilter", falling, guide, {{"inputSpatialSigma", 1}, {"inputLumaSigma", 0.2}},
             49.5, 0.757623),
         guided("CIEdgePreserveUpsampleFilter", falling, guide, {{"inputSpatialSigma", 1}, {"inputLumaSigma", 0.001}},
             49.5, 0.9),
         guided("CIEdgePreserveUpsampleFilter", falling, flat(gray(0.5), 100, 100), {}, 50.5, 0.46248),
+        guided("CIEdgePreserveUpsampleFilter", small, guide, {{"inputLumaSigma", 0.001}}, 49.5, 0.9).within(0.02),
     };
 }
 

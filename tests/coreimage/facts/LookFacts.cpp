@@ -22,6 +22,15 @@ CIData yellowToBlue()
         v.insert(v.end(), {i == 3 ? 0 : float(i & 1), i == 3 ? 0 : float(i >> 1 & 1), i == 3 ? 1 : float(i >> 2), 1});
     return bytes(v);
 }
+/// Squares of the components, at so many of each.
+CIData squared(int side)
+{
+    std::vector<float> v;
+    for (int i = 0; i < side * side * side; ++i)
+        for (const int step : {i % side, i / side % side, i / side / side, side - 1})
+            v.push_back(float(step * step) / float((side - 1) * (side - 1)));
+    return bytes(v);
+}
 /// One that inverts, for straight colors or half transparent.
 CIData inverting(float alpha = 1)
 {
@@ -54,6 +63,8 @@ Facts looks()
         of("CIColorCube", straight(0.6, 0.4, 0.2, 0.5), {{"inputCubeData", yellowToBlue()}},
             straight(0.4, 0.2, 0.4, 0.5)),
         of("CIColorCube", straight(0.2, 0.4, 0.6), {{"inputCubeData", yellowToBlue()}}, straight(0.2, 0.4, 0.6)),
+        of("CIColorCube", straight(0.25, 0.75, 0.5), {{"inputCubeData", squared(3)}, {"inputCubeDimension", 3}},
+            straight(0.125, 0.625, 0.25)),
         of("CIColorCube", straight(3, -1, 0.5), {{"inputCubeData", inverting()}}, straight(0, 1, 0.5)),
         of("CIColorCube", straight(3, -1, 0.5), {{"inputCubeData", inverting()}, {"inputExtrapolate", 1}},
             straight(-2, 2, 0.5)),

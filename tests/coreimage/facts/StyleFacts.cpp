@@ -130,6 +130,8 @@ Facts styles()
         // The cosine 40 px beside a lamp 30 px above is 0.6.
         ofImage("CISpotLight", flat(gray(0.2, 0.5), 100, 100), lamp(1),
             {{{51, 51}, straight(0.6, 0.6 * half, 0, 0.5)}, {{91, 51}, straight(0.36, 0.36 * half, 0, 0.5)}}),
+        ofImage("CISpotLight", flat(straight(0.2, 0.1, 0.3), 100, 100), lamp(1),
+            {{{51, 51}, straight(0.6, 0.3 * half, 0)}}),
         ofImage("CISpotLight", flat(gray(0.2), 100, 100), lamp(0.5), {{{51, 11}, straight(0.216, 0.216 * half, 0)}}),
     };
 }

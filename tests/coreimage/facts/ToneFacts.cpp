@@ -51,6 +51,7 @@ Facts tones()
     return {
         of("CIGammaAdjust", kThin, {{"inputPower", 2}}, straight(0.25, 0.0625, 0.01, 0.5)),
         of("CIGammaAdjust", {-0.5, 0, 4, 1}, {{"inputPower", 0.5}}, {-std::sqrt(0.5), 0, 2, 1}),
+        of("CIGammaAdjust", straight(0, 1, 0.0625), {{"inputPower", 0.25}}, straight(0, 1, 0.5)),
         of("CIColorPosterize", coded(0.3, 0.6, 0.9, 0.5), {{"inputLevels", 4}}, coded(1 / 3.0, 2 / 3.0, 1, 0.5)),
         of("CIColorPosterize", straight(0.2, 0.9, 0), {{"inputLevels", 1}}, straight(0, 1, 0)),
         of("CIColorThreshold", straight(0.5, 0.49, 0.51, 0.25), {}, straight(1, 0, 1)),
@@ -84,6 +85,8 @@ Facts tones()
             .within(2e-3), // its last slope, where light is 2.4 / 1.055 steeper
 
         Fact{"CIColorThresholdOtsu", {{"inputImage", halves(coded(0.2, 0.2, 0.2), coded(0.3, 0.3, 0.3))}},
+            {{{21, 31}, kBlack}, {{81, 31}, kWhite}}},
+        Fact{"CIColorThresholdOtsu", {{"inputImage", halves(gray(light(200 / 255.0)), gray(light(201 / 255.0)))}},
             {{{21, 31}, kBlack}, {{81, 31}, kWhite}}},
         Fact{"CIColorThresholdOtsu", {{"inputImage", halves(coded(0.2, 0.2, 0.2, 0.5), coded(0.8, 0.27, 0.7))}},
             {{{21, 31}, kBlack}, {{81, 31}, straight(1, 0, 1)}}}, // halfway between the codes 0.2 and about 0.46
