@@ -38,6 +38,8 @@ enum class PictureFormat {
     Pnm,
     Qoi,
     Radiance,
+    Xcf,
+    Pcx,
     Tga
 };
 
@@ -64,6 +66,7 @@ struct FileFormat {
     bool isUpright = false; // the decoder has turned the picture, whatever its metadata say
     bool isPremultiplied = false;
     bool readsReduced = false; // much sooner than as a whole
+    bool readsParts = false; // of a file that ends too early
     bool isRead() const { return loader || open || format == PictureFormat::CameraRaw; }
 
     // Writing; null for formats that are only read. Answers 0, or -1 with a pending libvips error.

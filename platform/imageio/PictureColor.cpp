@@ -85,6 +85,14 @@ VipsImagePtr cast(VipsImagePtr image, VipsBandFormat format)
     return derive([&](VipsImage** out) { return vips_cast(image.get(), out, format, nullptr); });
 }
 
+/// Whole numbers, the lowest of which becomes 0.
+VipsImagePtr fromLowest(VipsImagePtr image, double lowest, double divisor, VipsBandFormat format)
+{
+    image =
+        derive([&](VipsImage** out) { return vips_linear1(image.get(), out, 1 / divisor, lowest / divisor, nullptr); });
+    return image ? cast(std::move(image), format) : nullptr;
+}
+
 /// Whole numbers other than 8 and 16 bits are rare; they become the nearest of the three formats we keep.
 VipsImagePtr toKeptFormat(VipsImagePtr image)
 {
@@ -96,14 +104,13 @@ VipsImagePtr toKeptFormat(VipsImagePtr image)
     case VIPS_FORMAT_DOUBLE:
         return cast(std::move(image), VIPS_FORMAT_FLOAT);
     case VIPS_FORMAT_CHAR:
-        return cast(std::move(image), VIPS_FORMAT_UCHAR);
+        return fromLowest(std::move(image), 0x1p7, 1, VIPS_FORMAT_UCHAR);
     case VIPS_FORMAT_SHORT:
-        return cast(std::move(image), VIPS_FORMAT_USHORT);
+        return fromLowest(std::move(image), 0x1p15, 1, VIPS_FORMAT_USHORT);
     case VIPS_FORMAT_INT:
-    case VIPS_FORMAT_UINT: {
-        VipsImagePtr high = derive([&](VipsImage** out) { return vips_rshift_const1(image.get(), out, 16, nullptr); });
-        return high ? cast(std::move(high), VIPS_FORMAT_USHORT) : nullptr;
-    }
+        return fromLowest(std::move(image), 0x1p31, 65536, VIPS_FORMAT_USHORT);
+    case VIPS_FORMAT_UINT:
+        return fromLowest(std::move(image), 0, 65536, VIPS_FORMAT_USHORT);
     default:
         vips_error("lumivex", "pixels are complex numbers");
         return nullptr;

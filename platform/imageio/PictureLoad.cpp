@@ -1,12 +1,14 @@
 #include "platform/imageio/PictureLoad.h"
 
+#include "platform/imageio/readers/DeferredImage.h"
 #include "platform/imageio/readers/Readers.h"
 
 namespace imageio {
 
-OpenPicture openPicture(const PictureInput& input, int maxSide)
+OpenPicture openPicture(const PictureInput& input, int maxSide, bool acceptsPart)
 {
     OpenPicture picture;
+    picture.acceptsPart = acceptsPart;
     picture.source = input.source();
     const FileFormat* format = input.format();
     if (!picture.source || !format)
@@ -19,6 +21,13 @@ OpenPicture openPicture(const PictureInput& input, int maxSide)
         picture.orientation = vips_image_get_orientation(picture.image.get());
     picture.isPremultiplied = format->isPremultiplied;
     return picture;
+}
+
+void openInner(OpenPicture& picture, const PictureInput& inner, int maxSide)
+{
+    OpenPicture opened = openPicture(inner, maxSide);
+    opened.held = held(picture.source);
+    picture = std::move(opened);
 }
 
 } // namespace imageio

@@ -12,11 +12,12 @@ struct OpenPicture {
     VipsImagePtr image; // as stored: neither upright nor in sRGB yet
     int orientation = 1; // EXIF number that still has to be applied
     bool isPremultiplied = false;
+    bool acceptsPart = false; // of a file whose rest is missing
     Reason refusal = Reason::Damaged; // why there is no image
 };
 
 /// Opens what libvips or one of `readers` reads, reading the header only. `maxSide` > 0 lets the decoder skip detail,
 /// as long as the longer side stays at least that long. A null image with a pending libvips error when it fails.
-OpenPicture openPicture(const PictureInput&, int maxSide);
+OpenPicture openPicture(const PictureInput&, int maxSide, bool acceptsPart = false);
 
 } // namespace imageio

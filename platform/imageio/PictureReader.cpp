@@ -69,9 +69,9 @@ VipsImagePtr reducedTo(VipsImagePtr image, int maxSide, bool isPremultiplied)
     return image ? derive([&](VipsImage** out) { return vips_cast(image.get(), out, format, nullptr); }) : nullptr;
 }
 
-Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
+Result<CIBitmap> decodeAs(const PictureInput& input, const ReadOptions& options, bool acceptsPart)
 {
-    OpenPicture picture = openPicture(input, options.maxSide);
+    OpenPicture picture = openPicture(input, options.maxSide, acceptsPart);
     if (!picture.image)
         return damaged(input, picture.refusal);
     const int width = vips_image_get_width(picture.image.get()), height = vips_image_get_height(picture.image.get());
@@ -89,7 +89,7 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
     if (!image)
         return damaged(input);
     SinkResult pulled = pullIntoBitmap(image.get(), picture.orientation,
-        picture.isPremultiplied ? CIAlpha::Premultiplied : CIAlpha::Straight, options);
+        picture.isPremultiplied ? CIAlpha::Premultiplied : CIAlpha::Straight, options, acceptsPart);
     switch (pulled.end) {
     case SinkEnd::Complete:
         return std::move(pulled.bitmap);
@@ -101,6 +101,19 @@ Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
         return input.failure(Reason::GivenUp);
     }
     return damaged(input);
+}
+
+Result<CIBitmap> decode(const PictureInput& input, const ReadOptions& options)
+{
+    Result<CIBitmap> whole = decodeAs(input, options, false);
+    const bool acceptsPart = options.isIncomplete && input.format()->readsParts;
+    if (whole || !acceptsPart || whole.failure().reason != Reason::Damaged)
+        return whole;
+    Result<CIBitmap> part = decodeAs(input, options, true);
+    if (!part)
+        return whole;
+    *options.isIncomplete = true;
+    return part;
 }
 
 Result<CIBitmap> readChecked(const Result<PictureInput>& input, const ReadOptions& options)

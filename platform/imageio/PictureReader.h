@@ -21,6 +21,9 @@ struct ReadOptions {
     std::chrono::seconds timeLimit{120};
     const std::atomic<bool>* cancelled = nullptr; // set from another thread to give up; the result is then a failure
     std::atomic<float>* progress = nullptr; // 0 to 1 of the pixels; stays as it is where nobody can tell
+    /// When set, files that end too early are read as far as they go, where their format allows that; becomes true
+    /// then. The pixels that are missing are transparent, or what the decoder puts there.
+    std::atomic<bool>* isIncomplete = nullptr;
     /// Gives zeroed memory for that many bytes of pixels, and throws std::bad_alloc when it can't. The bitmap's own if
     /// empty.
     std::function<std::shared_ptr<std::byte>(std::size_t bytes)> memory{};
@@ -43,9 +46,9 @@ struct PictureInfo {
 /// when no pixel is transparent. Drawings (SVG, PDF)
 /// are rendered 1024 to 8192 pixels large and see no other file.
 ///
-/// Fails with a message fit to show when the file is missing, damaged, incomplete, of an unknown format, over
-/// `maxPixels` or too large for the memory; the header is checked before memory is taken, and the technical reason is
-/// logged. Blocks while it reads; may be called from several threads at once.
+/// Fails with a message fit to show when the file is missing, damaged, incomplete (see `isIncomplete`), of an unknown
+/// format, over `maxPixels` or too large for the memory; the header is checked before memory is taken, and the
+/// technical reason is logged. Blocks while it reads; may be called from several threads at once.
 Result<CIBitmap> readPicture(const std::filesystem::path& file, const ReadOptions& = {});
 
 /// The same from bytes in memory, which must stay until the call returns.

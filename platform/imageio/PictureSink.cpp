@@ -108,12 +108,34 @@ public:
             this);
         if (status != 0)
             return {CIBitmap(), m_end == SinkEnd::Complete ? SinkEnd::Damaged : m_end};
+        return done();
+    }
+
+    SinkResult pullPart(VipsImage* image)
+    {
+        constexpr int kRows = 8; // decoders keep about as many
+        const std::unique_ptr<VipsRegion, ObjectUnref> region(vips_region_new(image));
+        VipsRect rows{0, 0, vips_image_get_width(image), 0};
+        for (; rows.top < m_height && m_end == SinkEnd::Complete; rows.top += rows.height) {
+            rows.height = std::min(kRows, m_height - rows.top);
+            if (vips_region_prepare(region.get(), &rows) != 0)
+                break;
+            take(region.get(), rows);
+        }
+        if (m_end != SinkEnd::Complete || rows.top == 0)
+            return {CIBitmap(), m_end == SinkEnd::Complete ? SinkEnd::Damaged : m_end};
+        m_isOpaque = m_isOpaque && rows.top >= m_height;
+        return done();
+    }
+
+private:
+    SinkResult done()
+    {
         if (m_isOpaque)
             m_bitmap.setOpaque();
         return {std::move(m_bitmap), SinkEnd::Complete};
     }
 
-private:
     int take(VipsRegion* region, const VipsRect& area)
     {
         if (m_options.cancelled && m_options.cancelled->load(std::memory_order_relaxed))
@@ -200,10 +222,11 @@ NewBitmap bitmapFor(int width, int height, CIFormat format, CIAlpha alpha, const
     return made;
 }
 
-SinkResult pullIntoBitmap(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options)
+SinkResult pullIntoBitmap(
+    VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options, bool acceptsPart)
 {
     Sink sink(image, orientation, alpha, options);
-    return sink.pull(image);
+    return acceptsPart ? sink.pullPart(image) : sink.pull(image);
 }
 
 } // namespace imageio

@@ -143,32 +143,4 @@ bool isPnm(std::string_view head, const ReadBytes&)
     return head[0] == 'P' && "1234567Ff"sv.find(head[1]) != head.npos && " \t\r\n#"sv.find(head[2]) != head.npos;
 }
 
-bool isSvg(std::string_view head, const ReadBytes&)
-{
-    if (head.starts_with("\xef\xbb\xbf"sv))
-        head.remove_prefix(3);
-    const std::size_t start = head.find_first_not_of(" \t\r\n"sv);
-    return start != head.npos && head[start] == '<' && head.find("<svg"sv) != head.npos;
-}
-
-int largestIconIndex(const ReadBytes& read)
-{
-    const Numbers numbers(read, true);
-    const std::uint32_t count = std::min<std::uint32_t>(numbers.u16(4), 256);
-    int best = 0;
-    std::uint32_t bestSize = 0, bestBits = 0;
-    for (std::uint32_t i = 0; i < count; ++i) {
-        const std::size_t entry = 6 + std::size_t(16) * i;
-        const std::uint32_t sides = numbers.u16(entry), bits = numbers.u16(entry + 6);
-        const auto side = [](std::uint32_t stored) { return stored ? stored : 256u; };
-        const std::uint32_t size = side(sides & 255) * side(sides >> 8);
-        if (size > bestSize || (size == bestSize && bits > bestBits)) {
-            best = int(i);
-            bestSize = size;
-            bestBits = bits;
-        }
-    }
-    return best;
-}
-
 } // namespace imageio

@@ -22,7 +22,4 @@ bool isSvg(std::string_view head, const ReadBytes&);
 bool isTga(std::string_view head, const ReadBytes&);
 bool isWebP(std::string_view head, const ReadBytes&);
 
-/// The entry of an icon file with the most pixels, of those the one with the most bits.
-int largestIconIndex(const ReadBytes&);
-
 } // namespace imageio

@@ -136,6 +136,28 @@ Bytes psdFile()
     return psd;
 }
 
+Bytes inksFile()
+{
+    Bytes psd = bytesOf("8BPS");
+    append(psd, bytesOf({0, 1, 0, 0, 0, 0, 0, 0, 0, 4, 0, 0, 0, 1, 0, 0, 0, 3, 0, 8, 0, 4}));
+    psd.resize(psd.size() + 12 + 2);
+    append(psd, bytesOf({255, 255, 0, 255, 255, 255, 255, 255, 255, 255, 0, 255})); // what each leaves of the paper
+    return psd;
+}
+
+Bytes runsFile()
+{
+    Bytes bmp = bytesOf("BM");
+    for (const int value : {14 + 40 + 8 + 14, 0, 14 + 40 + 8, 40, 6, 2})
+        put(bmp, std::uint32_t(value), 4);
+    append(bmp, wordsOf({1, 8}));
+    for (const int value : {1, 14, 0, 0, 2, 0})
+        put(bmp, std::uint32_t(value), 4);
+    append(bmp, bytesOf({10, 20, 30, 0, 40, 50, 60, 0}));
+    append(bmp, bytesOf({2, 1, 0, 2, 1, 1, 0, 3, 0, 1, 0, 0, 0, 1})); // two, a step to the right and up, three
+    return bmp;
+}
+
 Bytes exrFile()
 {
     Bytes exr = bytesOf({0x76, 0x2f, 0x31, 0x01, 2, 0, 0, 0});

@@ -43,6 +43,8 @@ Bytes bmpFile(); // 2 x 2: red, green above blue, white
 Bytes iconFile(); // 1 x 1 green, and 2 x 2 as in bmpFile
 Bytes sgiFile(); // 2 x 1: red, blue
 Bytes psdFile(); // 2 x 1: red, blue
+Bytes inksFile(); // a PSD of 3 x 1 in CMYK: paper, black, cyan
+Bytes runsFile(); // a BMP of 6 x 2 with a palette of two, in runs; its pixel (2, 1) is in none
 Bytes exrFile(); // 2 x 1 RGBA half floats: (2, 0.5, 0.25, 1), (0.25, 0.25, 0.25, 0.5)
 Bytes rawFile(); // a DNG of 64 x 48 px, grey, light in its left half
 Bytes pdfFile(); // 72 x 36 points, the left half red

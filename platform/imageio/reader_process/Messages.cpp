@@ -43,10 +43,11 @@ Parcel packed(const ReadOptions& options)
         .put(options.maxPixels)
         .put(options.maxBytes)
         .put(options.maxSide)
-        .put(std::int64_t(options.timeLimit.count()));
+        .put(std::int64_t(options.timeLimit.count()))
+        .put(options.isIncomplete != nullptr);
 }
 
-ReadOptions unpackedOptions(std::string_view bytes)
+ReadOptions unpackedOptions(std::string_view bytes, std::atomic<bool>* isIncomplete)
 {
     Unpacking parcel(bytes);
     ReadOptions options;
@@ -54,6 +55,7 @@ ReadOptions unpackedOptions(std::string_view bytes)
     options.maxBytes = parcel.take<std::int64_t>();
     options.maxSide = parcel.take<int>();
     options.timeLimit = std::chrono::seconds(parcel.take<std::int64_t>());
+    options.isIncomplete = parcel.takeBool() ? isIncomplete : nullptr;
     return options;
 }
 
@@ -68,7 +70,13 @@ Failure unpackedFailure(std::string_view bytes, const std::string& subject)
 
 Parcel packed(const BitmapShape& shape)
 {
-    return Parcel().put(shape.width).put(shape.height).put(shape.format).put(shape.alpha).put(shape.space);
+    return Parcel()
+        .put(shape.width)
+        .put(shape.height)
+        .put(shape.format)
+        .put(shape.alpha)
+        .put(shape.space)
+        .put(shape.isIncomplete);
 }
 
 BitmapShape unpackedShape(std::string_view bytes)
@@ -77,7 +85,8 @@ BitmapShape unpackedShape(std::string_view bytes)
     const int width = takeSide(parcel), height = takeSide(parcel);
     const CIFormat format = parcel.takeEnum(CIFormat::RGBAf);
     const CIAlpha alpha = parcel.takeEnum(CIAlpha::Premultiplied);
-    return {width, height, format, alpha, parcel.takeEnum(CIColorSpace::LinearSRGB)};
+    const CIColorSpace space = parcel.takeEnum(CIColorSpace::LinearSRGB);
+    return {width, height, format, alpha, space, parcel.takeBool()};
 }
 
 Parcel packed(const PictureInfo& info)

@@ -13,6 +13,7 @@ struct BitmapShape {
     CIFormat format;
     CIAlpha alpha;
     CIColorSpace space;
+    bool isIncomplete = false;
     std::size_t bytes() const { return std::size_t(width) * std::size_t(height) * bytesPerPixel(format); }
 };
 
@@ -23,7 +24,8 @@ Parcel packed(const PictureInfo&);
 Parcel packed(const PictureFileProperties&);
 
 // The counterparts. Each throws std::runtime_error for what can't have been packed.
-ReadOptions unpackedOptions(std::string_view);
+/// `isIncomplete` takes the place of the other process's, if that has one.
+ReadOptions unpackedOptions(std::string_view, std::atomic<bool>* isIncomplete);
 Failure unpackedFailure(std::string_view, const std::string& subject);
 BitmapShape unpackedShape(std::string_view);
 PictureInfo unpackedInfo(std::string_view);

@@ -187,8 +187,12 @@ Result<CIBitmap> ReaderProcess::readPicture(const ReadOptions& options)
 {
     ReadOptions limited = options;
     limited.maxBytes = mostBytes(options);
-    return m_reading->ask<CIBitmap>(
-        Word::Picture, limited, [this](std::string_view answer) { return m_reading->bitmapOf(unpackedShape(answer)); });
+    return m_reading->ask<CIBitmap>(Word::Picture, limited, [this, &options](std::string_view answer) {
+        const BitmapShape shape = unpackedShape(answer);
+        if (options.isIncomplete && shape.isIncomplete)
+            *options.isIncomplete = true;
+        return m_reading->bitmapOf(shape);
+    });
 }
 
 Result<PictureInfo> ReaderProcess::readInfo()

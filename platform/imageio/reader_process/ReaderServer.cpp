@@ -111,13 +111,15 @@ private:
 
     std::optional<Failure> answerPicture(const Message& question, const Result<PictureInput>& input, Parcel& body)
     {
-        ReadOptions options = unpackedOptions(question.body);
+        std::atomic<bool> isIncomplete = false;
+        ReadOptions options = unpackedOptions(question.body, &isIncomplete);
         options.progress = &m_progress;
         options.memory = [this](std::size_t bytes) { return memory(bytes); };
         const Result<CIBitmap> read = m_decode(input, options);
         if (!read)
             return read.failure();
-        body = packed(BitmapShape{read->width(), read->height(), read->format(), read->alpha(), read->colorSpace()});
+        body = packed(BitmapShape{
+            read->width(), read->height(), read->format(), read->alpha(), read->colorSpace(), isIncomplete});
         return {};
     }
 

@@ -127,9 +127,7 @@ void openIcns(OpenPicture& picture, const PictureInput&, int maxSide)
             continue;
         const Result<PictureInput> inner = PictureInput::fromMemory(entry);
         if (inner && (inner->isOf(PictureFormat::Png) || inner->isOf(PictureFormat::Jpeg2000))) {
-            OpenPicture opened = openPicture(*inner, maxSide);
-            opened.held = held(picture.source);
-            picture = std::move(opened);
+            openInner(picture, *inner, maxSide);
             return;
         }
         const Bytes mask = entryNamed(file, kind.mask);
