@@ -181,6 +181,9 @@ void Opening::end(const PictureRead& read)
         m_document.endStandIn(*job->former);
     take(job->order, m_document.take(read));
     emit finished();
+    if (read.isIncomplete)
+        emit m_document.message(
+            tr("%1 is incomplete: the rest of the picture is missing.").arg(QFileInfo(job->order.path).fileName()));
 }
 
 void Opening::cancel()

@@ -64,7 +64,11 @@ PictureRead readPictureFile(const QString& path, const ReadOptions& options)
     const std::string file = fileOf(path);
     try {
         ReaderProcess reader(file);
-        PictureRead read = pictureOf(reader.readPicture(options));
+        std::atomic<bool> isIncomplete = false;
+        ReadOptions withParts = options;
+        withParts.isIncomplete = &isIncomplete;
+        PictureRead read = pictureOf(reader.readPicture(withParts));
+        read.isIncomplete = isIncomplete;
         if (read.image)
             read.metadata = reader.readMetadata();
         return read;

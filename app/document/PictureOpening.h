@@ -21,6 +21,7 @@ struct PictureRead {
     CIImage image{};
     CIFormat format = CIFormat::RGBA8; // of its pixels
     std::shared_ptr<const PictureMetadata> metadata{}; // null when the source says nothing about itself
+    bool isIncomplete = false; // the file ends before the picture does
     std::optional<Failure> failure{}; // none when there is an image, or none was asked for
 };
 
