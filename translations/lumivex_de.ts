@@ -912,6 +912,17 @@
     </message>
 </context>
 <context>
+    <name>DraggingOut</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Writing the picture…</source>
+        <translation>Das Bild wird geschrieben…</translation>
+    </message>
+</context>
+<context>
     <name>DropImageView</name>
     <message>
         <source>Image</source>
@@ -5949,6 +5960,10 @@
         <source>Revert to Opened File</source>
         <translation>Zur geöffneten Datei zurückkehren</translation>
     </message>
+    <message>
+        <source>%1 is incomplete: the rest of the picture is missing.</source>
+        <translation>%1 ist unvollständig: Der Rest des Bildes fehlt.</translation>
+    </message>
 </context>
 <context>
     <name>OpeningView</name>
@@ -6336,6 +6351,104 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
     <message>
         <source>Software</source>
         <translation>Software</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesPanel</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Takes the choices (Return)</source>
+        <translation>Übernimmt die Auswahl (Eingabetaste)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance:</source>
+        <translation>&amp;Erscheinungsbild:</translation>
+    </message>
+    <message>
+        <source>Whether the program is drawn light or dark</source>
+        <translation>Ob das Programm hell oder dunkel gezeichnet wird</translation>
+    </message>
+    <message>
+        <source>As the Desktop</source>
+        <translation>Wie die Arbeitsumgebung</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Missing folder in Save As:</source>
+        <translation>&amp;Fehlender Ordner bei „Speichern unter“:</translation>
+    </message>
+    <message>
+        <source>What Save As does where the folder in lower case is missing</source>
+        <translation>Was „Speichern unter“ tut, wo der kleingeschriebene Ordner fehlt</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Fragen</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Ordner anlegen</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Gewählten Ordner nehmen</translation>
+    </message>
+    <message>
+        <source>Forget the recent pictures (%1)</source>
+        <translation>Die zuletzt geöffneten Bilder vergessen (%1)</translation>
+    </message>
+    <message>
+        <source>Empties the menu Open Recent</source>
+        <translation>Leert das Menü „Zuletzt geöffnet“</translation>
+    </message>
+    <message>
+        <source>Forget the settings of exports</source>
+        <translation>Die Einstellungen des Exports vergessen</translation>
+    </message>
+    <message>
+        <source>Each format starts with its standard settings again</source>
+        <translation>Jedes Format beginnt wieder mit seinen Standardeinstellungen</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Das Bild wird gezeichnet…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to print the picture</source>
+        <translation>Der Speicher reichte nicht, um das Bild zu drucken</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be printed there</source>
+        <translation>Das Bild kann dort nicht gedruckt werden</translation>
+    </message>
+    <message>
+        <source>Printed “%1”</source>
+        <translation>„%1“ gedruckt</translation>
     </message>
 </context>
 <context>
@@ -6908,115 +7021,6 @@ Alles andere geht auch ohne.</translation>
     <message>
         <source>Remove from the favourites</source>
         <translation>Aus den Favoriten entfernen</translation>
-    </message>
-</context>
-<context>
-    <name>DraggingOut</name>
-    <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Writing the picture…</source>
-        <translation>Das Bild wird geschrieben…</translation>
-    </message>
-</context>
-<context>
-    <name>PreferencesPanel</name>
-    <message>
-        <source>Preferences</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Takes the choices (Return)</source>
-        <translation>Übernimmt die Auswahl (Eingabetaste)</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance:</source>
-        <translation>&amp;Erscheinungsbild:</translation>
-    </message>
-    <message>
-        <source>Whether the program is drawn light or dark</source>
-        <translation>Ob das Programm hell oder dunkel gezeichnet wird</translation>
-    </message>
-    <message>
-        <source>As the Desktop</source>
-        <translation>Wie die Arbeitsumgebung</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Hell</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message>
-        <source>&amp;Missing folder in Save As:</source>
-        <translation>&amp;Fehlender Ordner bei „Speichern unter“:</translation>
-    </message>
-    <message>
-        <source>What Save As does where the folder in lower case is missing</source>
-        <translation>Was „Speichern unter“ tut, wo der kleingeschriebene Ordner fehlt</translation>
-    </message>
-    <message>
-        <source>Ask</source>
-        <translation>Fragen</translation>
-    </message>
-    <message>
-        <source>Make Folder</source>
-        <translation>Ordner anlegen</translation>
-    </message>
-    <message>
-        <source>Use Chosen Folder</source>
-        <translation>Gewählten Ordner nehmen</translation>
-    </message>
-    <message>
-        <source>Forget the recent pictures (%1)</source>
-        <translation>Die zuletzt geöffneten Bilder vergessen (%1)</translation>
-    </message>
-    <message>
-        <source>Empties the menu Open Recent</source>
-        <translation>Leert das Menü „Zuletzt geöffnet“</translation>
-    </message>
-    <message>
-        <source>Forget the settings of exports</source>
-        <translation>Die Einstellungen des Exports vergessen</translation>
-    </message>
-    <message>
-        <source>Each format starts with its standard settings again</source>
-        <translation>Jedes Format beginnt wieder mit seinen Standardeinstellungen</translation>
-    </message>
-</context>
-<context>
-    <name>Printing</name>
-    <message>
-        <source>Drawing the picture…</source>
-        <translation>Das Bild wird gezeichnet…</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to print the picture</source>
-        <translation>Der Speicher reichte nicht, um das Bild zu drucken</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Bild</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Drucken</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be printed there</source>
-        <translation>Das Bild kann dort nicht gedruckt werden</translation>
-    </message>
-    <message>
-        <source>Printed “%1”</source>
-        <translation>„%1“ gedruckt</translation>
     </message>
 </context>
 </TS>

@@ -912,6 +912,17 @@
     </message>
 </context>
 <context>
+    <name>DraggingOut</name>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Writing the picture…</source>
+        <translation>Écriture de l’image…</translation>
+    </message>
+</context>
+<context>
     <name>DropImageView</name>
     <message>
         <source>Image</source>
@@ -5949,6 +5960,10 @@
         <source>Revert to Opened File</source>
         <translation>Revenir au fichier ouvert</translation>
     </message>
+    <message>
+        <source>%1 is incomplete: the rest of the picture is missing.</source>
+        <translation>%1 est incomplet : le reste de l’image manque.</translation>
+    </message>
 </context>
 <context>
     <name>OpeningView</name>
@@ -6336,6 +6351,104 @@ Un double-clic rétablit la valeur par défaut</translation>
     <message>
         <source>Software</source>
         <translation>Logiciel</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesPanel</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Takes the choices (Return)</source>
+        <translation>Prend les choix (Entrée)</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance:</source>
+        <translation>&amp;Apparence :</translation>
+    </message>
+    <message>
+        <source>Whether the program is drawn light or dark</source>
+        <translation>Si le programme est dessiné clair ou sombre</translation>
+    </message>
+    <message>
+        <source>As the Desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>&amp;Missing folder in Save As:</source>
+        <translation>Dossier &amp;manquant dans Enregistrer sous :</translation>
+    </message>
+    <message>
+        <source>What Save As does where the folder in lower case is missing</source>
+        <translation>Ce que fait Enregistrer sous quand le dossier en minuscules manque</translation>
+    </message>
+    <message>
+        <source>Ask</source>
+        <translation>Demander</translation>
+    </message>
+    <message>
+        <source>Make Folder</source>
+        <translation>Créer le dossier</translation>
+    </message>
+    <message>
+        <source>Use Chosen Folder</source>
+        <translation>Utiliser le dossier choisi</translation>
+    </message>
+    <message>
+        <source>Forget the recent pictures (%1)</source>
+        <translation>Oublier les images récentes (%1)</translation>
+    </message>
+    <message>
+        <source>Empties the menu Open Recent</source>
+        <translation>Vide le menu des fichiers récents</translation>
+    </message>
+    <message>
+        <source>Forget the settings of exports</source>
+        <translation>Oublier les réglages des exportations</translation>
+    </message>
+    <message>
+        <source>Each format starts with its standard settings again</source>
+        <translation>Chaque format reprend ses réglages standard</translation>
+    </message>
+</context>
+<context>
+    <name>Printing</name>
+    <message>
+        <source>Drawing the picture…</source>
+        <translation>Dessin de l’image…</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to print the picture</source>
+        <translation>Il n’y avait pas assez de mémoire pour imprimer l’image</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be printed there</source>
+        <translation>L’image ne peut pas être imprimée là</translation>
+    </message>
+    <message>
+        <source>Printed “%1”</source>
+        <translation>« %1 » imprimé</translation>
     </message>
 </context>
 <context>
@@ -6908,115 +7021,6 @@ Tout le reste fonctionne sans.</translation>
     <message>
         <source>Remove from the favourites</source>
         <translation>Retirer des favoris</translation>
-    </message>
-</context>
-<context>
-    <name>DraggingOut</name>
-    <message>
-        <source>Picture</source>
-        <translation>Image</translation>
-    </message>
-    <message>
-        <source>Writing the picture…</source>
-        <translation>Écriture de l’image…</translation>
-    </message>
-</context>
-<context>
-    <name>PreferencesPanel</name>
-    <message>
-        <source>Preferences</source>
-        <translation>Préférences</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Takes the choices (Return)</source>
-        <translation>Prend les choix (Entrée)</translation>
-    </message>
-    <message>
-        <source>&amp;Appearance:</source>
-        <translation>&amp;Apparence :</translation>
-    </message>
-    <message>
-        <source>Whether the program is drawn light or dark</source>
-        <translation>Si le programme est dessiné clair ou sombre</translation>
-    </message>
-    <message>
-        <source>As the Desktop</source>
-        <translation>Comme le bureau</translation>
-    </message>
-    <message>
-        <source>Light</source>
-        <translation>Clair</translation>
-    </message>
-    <message>
-        <source>Dark</source>
-        <translation>Sombre</translation>
-    </message>
-    <message>
-        <source>&amp;Missing folder in Save As:</source>
-        <translation>Dossier &amp;manquant dans Enregistrer sous :</translation>
-    </message>
-    <message>
-        <source>What Save As does where the folder in lower case is missing</source>
-        <translation>Ce que fait Enregistrer sous quand le dossier en minuscules manque</translation>
-    </message>
-    <message>
-        <source>Ask</source>
-        <translation>Demander</translation>
-    </message>
-    <message>
-        <source>Make Folder</source>
-        <translation>Créer le dossier</translation>
-    </message>
-    <message>
-        <source>Use Chosen Folder</source>
-        <translation>Utiliser le dossier choisi</translation>
-    </message>
-    <message>
-        <source>Forget the recent pictures (%1)</source>
-        <translation>Oublier les images récentes (%1)</translation>
-    </message>
-    <message>
-        <source>Empties the menu Open Recent</source>
-        <translation>Vide le menu des fichiers récents</translation>
-    </message>
-    <message>
-        <source>Forget the settings of exports</source>
-        <translation>Oublier les réglages des exportations</translation>
-    </message>
-    <message>
-        <source>Each format starts with its standard settings again</source>
-        <translation>Chaque format reprend ses réglages standard</translation>
-    </message>
-</context>
-<context>
-    <name>Printing</name>
-    <message>
-        <source>Drawing the picture…</source>
-        <translation>Dessin de l’image…</translation>
-    </message>
-    <message>
-        <source>There was not enough memory to print the picture</source>
-        <translation>Il n’y avait pas assez de mémoire pour imprimer l’image</translation>
-    </message>
-    <message>
-        <source>Picture</source>
-        <translation>Image</translation>
-    </message>
-    <message>
-        <source>Print</source>
-        <translation>Imprimer</translation>
-    </message>
-    <message>
-        <source>The picture can&apos;t be printed there</source>
-        <translation>L’image ne peut pas être imprimée là</translation>
-    </message>
-    <message>
-        <source>Printed “%1”</source>
-        <translation>« %1 » imprimé</translation>
     </message>
 </context>
 </TS>
