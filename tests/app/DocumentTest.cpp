@@ -2,6 +2,7 @@
 #include "app/document/Document.h"
 
 #include "app/document/Clipboard.h"
+#include "app/document/IdleThread.h"
 #include "app/document/Opening.h"
 #include "app/document/Resizing.h"
 #include "app/document/Saving.h"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QImage>
 #include <QSignalSpy>
@@ -19,8 +21,13 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <atomic>
 #include <new>
 #include <semaphore>
+
+#ifdef __linux__
+#    include <sched.h>
+#endif
 
 namespace {
 
@@ -246,5 +253,26 @@ TEST_F(DocumentTest, ASessionKeepsThePictureAndWhatOthersMakeOfIt)
     EXPECT_EQ(restored, "blur");
     EXPECT_FALSE(undo().canUndo());
 }
+
+#ifdef __linux__
+TEST(IdleThreadTest, ComesFirstOnceItIsWaitedFor)
+{
+    std::atomic<bool> wasIdle = false, isHurried = false;
+    std::binary_semaphore hasBegun(0);
+    {
+        IdleThread thread;
+        thread.begin([&] {
+            wasIdle = sched_getscheduler(0) == SCHED_IDLE;
+            hasBegun.release();
+            const QDeadlineTimer patience(60'000); // ms
+            while (!(isHurried = sched_getscheduler(0) != SCHED_IDLE) && !patience.hasExpired())
+                QThread::yieldCurrentThread();
+        });
+        hasBegun.acquire();
+    }
+    EXPECT_TRUE(wasIdle);
+    EXPECT_TRUE(isHurried);
+}
+#endif
 
 } // namespace
