@@ -83,7 +83,7 @@ void CropCanvas::drawHandles(QPainter& painter, const QRectF& frame) const
             handles.lineTo(corner);
             handles.lineTo(corner - QPointF(0, end * length));
         }
-    if (m_proportions <= 0 && length >= kHandle) {
+    if (length >= kHandle) {
         const QPointF middle = frame.center();
         for (const double x : {frame.left() - 2, frame.right() + 2}) {
             handles.moveTo(x, middle.y() - length / 2);
@@ -115,8 +115,8 @@ CropCanvas::Grab CropCanvas::grabAt(const QPointF& place) const
     if (!frame.adjusted(-kReach, -kReach, kReach, kReach).contains(place))
         return {.isNew = true};
     Grab grab{nearest(place.x(), frame.left(), frame.right()), nearest(place.y(), frame.bottom(), frame.top())};
-    if (m_proportions > 0 && (grab.side == 0 || grab.end == 0))
-        return frame.contains(place) ? Grab{} : Grab{.isNew = true};
+    const bool isWhole = m_crop.width == pictureSize().x && m_crop.height == pictureSize().y; // it can't be moved
+    grab.isNew = isWhole && !grab.side && !grab.end;
     return grab;
 }
 
@@ -165,10 +165,12 @@ void CropCanvas::drag(const QPointF& place)
     }
     if (!m_grab->side && !m_grab->end)
         return setCrop(movedCrop(was, by, pictureSize()));
-    // What isn't taken hold of stays at the far side.
+    if (!m_grab->side || !m_grab->end)
+        return setCrop(cropToEdge(was, m_grab->side, m_grab->end, by, m_proportions, pictureSize()));
+    // The far corner stays.
     const CIPoint fixed{m_grab->side < 0 ? was.right() : was.left(), m_grab->end < 0 ? was.top() : was.bottom()};
-    const CIPoint moved{m_grab->side < 0 ? was.left() + by.x : was.right() + (m_grab->side ? by.x : 0),
-        m_grab->end < 0 ? was.bottom() + by.y : was.top() + (m_grab->end ? by.y : 0)};
+    const CIPoint moved{
+        (m_grab->side < 0 ? was.left() : was.right()) + by.x, (m_grab->end < 0 ? was.bottom() : was.top()) + by.y};
     setCrop(cropBetween(fixed, moved, m_proportions, pictureSize()));
 }
 

@@ -5,8 +5,8 @@
 
 #include <optional>
 
-/// The frame is dragged by its corners and edges, moved from within, or drawn anew from outside. Arrow keys move it,
-/// with Ctrl they move its upper right corner; with Shift by ten pixels. With fixed proportions edges aren't dragged.
+/// The frame is dragged by its corners and edges, moved from within, or drawn anew from outside, and from within while
+/// it is as large as the picture. Arrow keys move it, with Ctrl its upper right corner; with Shift by ten pixels.
 class CropCanvas : public PictureCanvas {
     Q_OBJECT
 

@@ -45,6 +45,26 @@ CIRect cropBetween(CIPoint fixed, CIPoint dragged, double proportions, CIPoint p
     return {x.forward ? start.x : start.x - width, y.forward ? start.y : start.y - height, width, height};
 }
 
+CIRect cropToEdge(const CIRect& crop, int side, int end, CIPoint by, double proportions, CIPoint picture)
+{
+    const double roomX = side < 0 ? crop.right() : picture.x - (side > 0 ? crop.left() : 0);
+    const double roomY = end < 0 ? crop.top() : picture.y - (end > 0 ? crop.bottom() : 0);
+    double width = std::clamp(crop.width + side * by.x, 1.0, roomX);
+    double height = std::clamp(crop.height + end * by.y, 1.0, roomY);
+    if (proportions > 0) {
+        width = std::min({side ? width : height * proportions, roomX, roomY * proportions});
+        height = width / proportions;
+    }
+    width = wholeLength(width, roomX);
+    height = wholeLength(height, roomY);
+    const auto start = [](int edge, double low, double high, double now) {
+        return edge < 0 ? high - now : edge > 0 ? low : (low + high - now) / 2;
+    };
+    return movedCrop(
+        {start(side, crop.left(), crop.right(), width), start(end, crop.bottom(), crop.top(), height), width, height},
+        {}, picture);
+}
+
 CIRect movedCrop(const CIRect& crop, CIPoint by, CIPoint picture)
 {
     return {std::clamp(std::round(crop.x + by.x), 0.0, picture.x - crop.width),

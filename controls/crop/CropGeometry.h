@@ -10,6 +10,9 @@
 CIRect largestCrop(CIPoint picture, double proportions);
 /// Between the corner that stays and the one that is dragged, which may lie outside of the picture.
 CIRect cropBetween(CIPoint fixed, CIPoint dragged, double proportions, CIPoint picture);
+/// With an edge dragged: the left one with -1 for `side`, the right one with 1, the lower or upper one likewise with
+/// `end`, the other number being 0. The edge across from it stays; fixed proportions grow and shrink both others.
+CIRect cropToEdge(const CIRect& crop, int side, int end, CIPoint by, double proportions, CIPoint picture);
 /// As far as the picture reaches.
 CIRect movedCrop(const CIRect& crop, CIPoint by, CIPoint picture);
 /// Of that size, or as much of it as there is, with the same middle if the picture reaches so far. With proportions the

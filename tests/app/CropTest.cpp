@@ -186,6 +186,9 @@ TEST_F(CropPanelTest, KeepsThePixelsThatTheFrameHoldsInOneUndoStep)
         const qsizetype before = undo.undoActionNames().size();
         choose("actionCrop");
         EXPECT_EQ(canvas().crop(), (CIRect{0, 0, 200, 100}));
+        drag(canvas(), {60, 30}, {120, 70}); // there is nothing to move yet
+        EXPECT_EQ(canvas().crop(), (CIRect{60, 30, 60, 40}));
+        QTest::mouseClick(&part<QPushButton>("cropResetBtn"), Qt::LeftButton);
         drag(canvas(), {0, 0}, {40, 30}); // the lower left corner
         drag(canvas(), {200, 60}, {150, 60}); // the right edge
         EXPECT_EQ(canvas().crop(), (CIRect{40, 30, 110, 70}));
@@ -224,6 +227,11 @@ TEST_F(CropPanelTest, KeepsItsProportionsAndIsMovedByKeys)
     EXPECT_NEAR(canvas().crop().width / canvas().crop().height, 1.5, 0.02) << "after a drag";
     type(part<QSpinBox>("cropHeightField"), "40");
     EXPECT_EQ(canvas().crop().width, 60) << "after typing";
+    canvas().setCrop({50, 20, 90, 60});
+    drag(canvas(), {140, 50}, {110, 50}); // the right edge
+    EXPECT_EQ(canvas().crop(), (CIRect{50, 30, 60, 40})) << "about its middle";
+    drag(canvas(), {80, 70}, {80, 300}); // the upper one
+    EXPECT_EQ(canvas().crop(), (CIRect{28, 30, 105, 70})) << "as far as the picture reaches";
     QTest::mouseClick(&upright, Qt::LeftButton, {}, QPoint(8, upright.height() / 2));
     EXPECT_EQ(CIPoint(canvas().crop().width, canvas().crop().height), (CIPoint{67, 100}));
 
