@@ -4,6 +4,7 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/ResourcePaths.h"
 #include "platform/imageio/PictureReader.h"
+#include "widgets/Checkerboard.h"
 #include "widgets/DropFileTypes.h"
 #include "widgets/PictureLayout.h"
 
@@ -135,13 +136,10 @@ void customEffImageView::drawPicture(QPainter& painter)
     if (pixels.isNull())
         return;
     const double step = zoom / part.scale; // points per pixel of the part
-    const QPointF origin = toWidget({0, 0});
-    painter.save();
-    painter.translate(origin);
-    // Magnified pixels of the picture are shown as they are.
-    painter.drawImage(
-        QRectF(part.left * step, -part.top * step, part.size.width() * step, part.size.height() * step), pixels);
-    painter.restore();
+    const QRectF place(toWidget({0, 0}) + QPointF(part.left, -part.top) * step, QSizeF(part.size) * step);
+    if (pixels.hasAlphaChannel())
+        fillCheckerboard(painter, place);
+    painter.drawImage(place, pixels); // magnified pixels of the picture are shown as they are
 }
 
 /// The same size at every zoom.
