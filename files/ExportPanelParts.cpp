@@ -3,8 +3,8 @@
 
 #include "files/BeforeAfterView.h"
 #include "files/ExportMeasuring.h"
+#include "widgets/PanelCheckBox.h"
 
-#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -139,6 +139,7 @@ void ExportPanel::buildQuality(QFormLayout& form)
     m_quality->setRange(1, 100);
     auto* field = named(new QSpinBox, "qualityField", tr("Quality"), m_quality->toolTip());
     field->setRange(1, 100);
+    field->setButtonSymbols(QAbstractSpinBox::NoButtons);
     connect(m_quality, &QSlider::valueChanged, field, &QSpinBox::setValue);
     connect(field, &QSpinBox::valueChanged, m_quality, &QSlider::setValue);
     row->addWidget(m_quality, 1);
@@ -183,7 +184,7 @@ QComboBox* ExportPanel::addMenu(QFormLayout& form, const char* name, const QStri
 QCheckBox* ExportPanel::addBox(QFormLayout& form, const char* name, const QString& text, const QString& hint)
 {
     QString plain = text;
-    auto* box = named(new QCheckBox(text), name, plain.remove(QLatin1Char('&')), hint);
+    auto* box = named(new PanelCheckBox(text), name, plain.remove(QLatin1Char('&')), hint);
     form.addRow(QString(), box);
     return box;
 }

@@ -42,5 +42,5 @@ void PanelCheckBox::paintEvent(QPaintEvent*)
     }
     painter.setPen(isEnabled() ? look.text : look.disabledText);
     const QRectF place = QRectF(rect()).adjusted(kBox + kGap, 0, 0, 0);
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextShowMnemonic, text());
 }

@@ -2,11 +2,11 @@
 
 #include "files/ExportFormats.h"
 #include "platform/foundation/UserDefaults.h"
+#include "widgets/PanelCheckBox.h"
 
 #include <algorithm>
 #include <array>
 
-#include <QCheckBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -69,7 +69,7 @@ std::optional<QString> SaveTarget::asked(QWidget* window, const QString& chosen,
         QPushButton* keep = box.addButton(tr("Use Chosen Folder"), QMessageBox::AcceptRole);
         const QPushButton* make = box.addButton(tr("Make Folder"), QMessageBox::AcceptRole);
         box.setDefaultButton(keep);
-        auto* remembers = new QCheckBox(tr("Don't ask again"));
+        auto* remembers = new PanelCheckBox(tr("Don't ask again"));
         box.setCheckBox(remembers);
         box.exec();
         answer = box.clickedButton() == make ? Answer::Make : box.clickedButton() == keep ? Answer::Keep : Answer::Ask;

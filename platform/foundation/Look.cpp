@@ -99,9 +99,9 @@ QLineEdit { background: @field; border: 1px solid @edge; border-radius: 6px; pad
 QLineEdit:focus { border-color: @accentMark; }
 QLineEdit:disabled { color: @disabledText; background: @window; }
 
-Overlay QAbstractSpinBox { background: @field; border: 1px solid @edge; border-radius: 6px; padding: 3px 7px;
-                           min-width: 48px; min-height: 18px; }
-Overlay QAbstractSpinBox:focus { border-color: @accentMark; }
+Overlay QAbstractSpinBox, ExportPanel QAbstractSpinBox { background: @field; border: 1px solid @edge; border-radius: 6px;
+                                                        padding: 3px 7px; min-width: 48px; min-height: 18px; }
+Overlay QAbstractSpinBox:focus, ExportPanel QAbstractSpinBox:focus { border-color: @accentMark; }
 
 QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 QPushButton { background: @button; border: 1px solid @border; border-radius: 6px; padding: 4px 16px; min-height: 18px; }
