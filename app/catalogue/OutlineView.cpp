@@ -225,6 +225,7 @@ QRect OutlineView::starPlace(const QModelIndex& cell) const
 
 void OutlineView::mousePressEvent(QMouseEvent* event)
 {
+    m_marksCurrent = false;
     const QModelIndex row = indexAt(event->position().toPoint()).siblingAtColumn(0);
     if (event->button() == Qt::LeftButton && row.isValid() && starOf(row)
         && starPlace(row).contains(event->position().toPoint()))
@@ -233,11 +234,19 @@ void OutlineView::mousePressEvent(QMouseEvent* event)
         QTreeView::mousePressEvent(event);
 }
 
+void OutlineView::focusInEvent(QFocusEvent* event)
+{
+    m_marksCurrent = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason
+        || event->reason() == Qt::ShortcutFocusReason;
+    QTreeView::focusInEvent(event);
+}
+
 void OutlineView::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const Look& look = Appearance::shared().look();
     const bool selected = selectionModel()->isSelected(index);
-    const bool isCurrent = hasFocus() && index.siblingAtColumn(0) == currentIndex().siblingAtColumn(0);
+    const bool isCurrent =
+        m_marksCurrent && hasFocus() && index.siblingAtColumn(0) == currentIndex().siblingAtColumn(0);
     const bool hovered = viewport()->underMouse()
         && indexAt(viewport()->mapFromGlobal(QCursor::pos())).siblingAtColumn(0) == index.siblingAtColumn(0);
     QRect row = option.rect;

@@ -60,6 +60,7 @@ protected:
     void drawBranches(QPainter* painter, const QRect& rect, const QModelIndex& index) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -71,6 +72,7 @@ private:
     QRect starPlace(const QModelIndex& cell) const;
     QRect paintPicture(QPainter& painter, const QModelIndex& cell, const QRect& place) const;
 
+    bool m_marksCurrent = false; // since keys are used here
     QElapsedTimer m_typed; // since the last letter that looks for a row
     Pictures m_pictures;
     Stars m_stars;
