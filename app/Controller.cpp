@@ -155,6 +155,14 @@ void Controller::connectInterface()
     connect(&m_catalogue, &FilterCatalogue::lookAsked, &m_standard, &StandardMode::chooseLook);
     connect(ui.openingCancelBtn, &QAbstractButton::clicked, this, &Controller::cancelOpening);
     connect(ciView, &MyImageView::pictureDragged, this, [this] { m_draggingOut.start(); });
+    // What is hidden or disabled while keys go there, such as the rows of a filter that is applied, leaves them to the
+    // picture.
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* former, const QWidget* now) {
+        if (former && now && m_window.isAncestorOf(former) && !(former->isVisible() && former->isEnabled()))
+            for (QWidget* view : std::initializer_list<QWidget*>{ciView, openGLView, customEffectsView})
+                if (view->isVisible())
+                    view->setFocus(Qt::OtherFocusReason);
+    });
     connect(&Pasteboard::generalPasteboard(), &Pasteboard::changed, this, &Controller::updateMainBtnState);
 }
 
@@ -252,7 +260,10 @@ void Controller::outlineViewSelectionDidChange(OutlineView& outlineView, const O
 
 void Controller::showPreferences()
 {
-    auto* panel = new PreferencesPanel(m_window.centralWidget());
+    const Commands& commands = m_window.commands();
+    auto* panel = new PreferencesPanel(m_window.centralWidget(),
+        {&commands.action("actionStartFitted"), &commands.action("actionThumbnails"),
+            &commands.action("actionFilterColumns"), &commands.action("actionHistogram")});
     connect(panel, &Overlay::closed, this, &Controller::updateMainBtnState);
     panel->open();
     updateMainBtnState();

@@ -6423,6 +6423,14 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>Each format starts with its standard settings again</source>
         <translation>Jedes Format beginnt wieder mit seinen Standardeinstellungen</translation>
     </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>

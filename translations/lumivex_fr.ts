@@ -6423,6 +6423,14 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>Each format starts with its standard settings again</source>
         <translation>Chaque format reprend ses réglages standard</translation>
     </message>
+    <message>
+        <source>Window</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
 </context>
 <context>
     <name>Printing</name>

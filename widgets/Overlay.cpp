@@ -13,16 +13,18 @@
 
 namespace {
 
-constexpr int kMargin = 12, kSpacing = 8, kAfterTitle = 16; // points
+constexpr int kMargin = 12, kSpacing = 8, kAfterTitle = 16, kCardMargin = 20; // points
+constexpr int kShade = 110; // of what a card stands in front of, of 255
 const char* const kOpenOverlay = "openOverlay"; // of the window: asked for with every change of a command
 
 } // namespace
 
-Overlay::Overlay(QWidget* page, const QString& title, const QString& acceptText)
+Overlay::Overlay(QWidget* page, const QString& title, const QString& acceptText, Form form)
     : QWidget(page)
     , m_page(page)
     , m_formerFocus(page->window()->focusWidget())
-    , m_row(new QWidget(this))
+    , m_card(form == Form::Card ? new QWidget(this) : nullptr)
+    , m_row(new QWidget(m_card ? m_card : this))
     , m_content(new QVBoxLayout)
     , m_bar(new QHBoxLayout)
     , m_accept(new QPushButton(acceptText))
@@ -44,18 +46,29 @@ Overlay::Overlay(QWidget* page, const QString& title, const QString& acceptText)
     connect(m_accept, &QPushButton::clicked, this, &Overlay::accept);
 
     auto* row = new QHBoxLayout(m_row);
-    row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
     row->setSpacing(kSpacing);
     m_bar->setSpacing(kSpacing);
-    row->addWidget(heading);
-    row->addSpacing(kAfterTitle);
+    auto* all = new QVBoxLayout(m_card ? m_card : this);
+    all->setSpacing(0);
+    if (m_card) {
+        m_card->setObjectName("overlayCard");
+        m_card->setAttribute(Qt::WA_StyledBackground);
+        auto* centered = new QVBoxLayout(this);
+        centered->addWidget(m_card, 0, Qt::AlignCenter);
+        all->setContentsMargins(kCardMargin, kCardMargin, kCardMargin, kCardMargin);
+        all->setSpacing(kCardMargin);
+        all->addWidget(heading);
+        row->setContentsMargins(0, 0, 0, 0);
+    } else {
+        all->setContentsMargins(0, 0, 0, 0);
+        row->setContentsMargins(kMargin, kSpacing, kMargin, kSpacing);
+        row->addWidget(heading);
+        row->addSpacing(kAfterTitle);
+    }
     row->addLayout(m_bar, 1);
     row->addSpacing(kAfterTitle);
     row->addWidget(cancel);
     row->addWidget(m_accept);
-    auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(0, 0, 0, 0);
-    all->setSpacing(0);
     all->addLayout(m_content, 1);
     all->addWidget(m_row);
     dress();
@@ -92,12 +105,12 @@ bool Overlay::end()
     if (!std::exchange(m_isOpen, false))
         return false;
     window()->setProperty(kOpenOverlay, QVariant());
-    hide();
     for (const QPointer<QWidget>& child : std::exchange(m_covered, {}))
         if (child)
             child->setEnabled(true);
     if (m_formerFocus)
-        m_formerFocus->setFocus();
+        m_formerFocus->setFocus(); // before the keyboard loses its place
+    hide();
     deleteLater();
     emit closed();
     return true;
@@ -143,11 +156,19 @@ void Overlay::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void Overlay::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), Appearance::shared().look().surround); }
+void Overlay::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), m_card ? QColor(0, 0, 0, kShade) : Appearance::shared().look().surround);
+}
 
 void Overlay::dress()
 {
     const Look& look = Appearance::shared().look();
-    m_row->setStyleSheet(QStringLiteral("#overlayBar { background: %1; border: none; border-top: 1px solid %2; }")
-                             .arg(look.window.name(), look.separator.name()));
+    if (m_card)
+        m_card->setStyleSheet(
+            QStringLiteral("#overlayCard { background: %1; border: 1px solid %2; border-radius: 10px; }")
+                .arg(look.panel.name(), look.separator.name()));
+    else
+        m_row->setStyleSheet(QStringLiteral("#overlayBar { background: %1; border: none; border-top: 1px solid %2; }")
+                                 .arg(look.window.name(), look.separator.name()));
 }

@@ -3,6 +3,12 @@
 
 #include "widgets/Overlay.h"
 
+#include <QList>
+
+#include <utility>
+#include <vector>
+
+class QAction;
 class QComboBox;
 class QFormLayout;
 class PanelCheckBox;
@@ -12,15 +18,17 @@ class PreferencesPanel : public Overlay {
     Q_OBJECT
 
 public:
-    explicit PreferencesPanel(QWidget* page);
+    /// `switches` of menus have a box each, too.
+    PreferencesPanel(QWidget* page, const QList<QAction*>& switches);
 
 private:
-    QComboBox* addMenu(QFormLayout& form, const char* name, const QString& caption, const QString& hint);
-    PanelCheckBox* addBox(QFormLayout& form, const char* name, const QString& text, const QString& hint);
-    void dressCard();
+    void addTitle(const QString& title);
+    QComboBox* addMenu(const char* name, const QString& caption, const QString& hint);
+    PanelCheckBox* addBox(const QString& name, const QString& text, const QString& hint);
     void apply();
 
-    QWidget* m_card;
+    QFormLayout* m_form;
     QComboBox *m_appearance, *m_missingFolder;
     PanelCheckBox *m_forgetsRecent, *m_forgetsExport;
+    std::vector<std::pair<QAction*, PanelCheckBox*>> m_switches;
 };

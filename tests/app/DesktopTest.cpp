@@ -6,6 +6,7 @@
 #include "controls/panel/DropImageView.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
+#include "effects2d/customEffImageView.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/foundation/UserDefaults.h"
 #include "platform/imageio/PictureReader.h"
@@ -163,18 +164,34 @@ TEST_F(DesktopTest, PreferencesChangeOnlyWhenTheyAreAccepted)
         auto& looks = part<QComboBox>("appearanceMenu");
         looks.setCurrentText("Dark");
         part<PanelCheckBox>("forgetRecentBox").setChecked(true);
+        part<PanelCheckBox>("actionHistogramBox").setChecked(false);
     };
+    ASSERT_TRUE(ui.histogramRow->isVisible());
     choose();
     QTest::keyClick(window.focusWidget(), Qt::Key_Escape);
     EXPECT_FALSE(Overlay::openIn(window));
     EXPECT_FALSE(Appearance::shared().isDark());
     EXPECT_FALSE(RecentFiles::list().isEmpty());
+    EXPECT_TRUE(ui.histogramRow->isVisible());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     choose();
     QTest::keyClick(window.focusWidget(), Qt::Key_Return);
     EXPECT_TRUE(Appearance::shared().isDark());
     EXPECT_TRUE(RecentFiles::list().isEmpty());
+    EXPECT_FALSE(ui.histogramRow->isVisible());
+    action("actionHistogram")->trigger();
     Appearance::shared().setChoice(Appearance::Choice::System);
+}
+
+TEST_F(DesktopTest, KeysGoToThePictureWhenTheirRowGoes)
+{
+    openPicture(pictureFile("a.png", 30, 20));
+    pick("CISepiaTone");
+    ui.fitInputsBtn->setFocus();
+    press("Ctrl+Return");
+    waitUntilIdle();
+    EXPECT_FALSE(ui.fitRow->isVisible());
+    EXPECT_EQ(window.focusWidget(), ui.pictureScrollView->imageView());
 }
 
 TEST_F(DesktopTest, CheckersAreSeenThroughTransparentPixels)
@@ -191,6 +208,14 @@ TEST_F(DesktopTest, CheckersAreSeenThroughTransparentPixels)
     std::set<int> seen;
     for (double x = 34.5; x < 64; ++x)
         seen.insert(shownAt({x, 32.5}).lightness());
+    EXPECT_EQ(seen, (std::set{204, 255}));
+
+    press("Alt+3"); // the generated effects' view
+    seen.clear();
+    const QImage shown = window.grab().toImage();
+    auto& canvas = *ui.customEffectsScrollView->imageView();
+    for (double x = 34.5; x < 64; ++x)
+        seen.insert(shown.pixelColor(canvas.mapTo(&window, canvas.toWidget({x, 32.5}).toPoint())).lightness());
     EXPECT_EQ(seen, (std::set{204, 255}));
 }
 
