@@ -150,6 +150,8 @@ void StatusRow::endProgress()
         return;
     m_progressText.clear();
     m_tick.stop();
+    if (!m_messageEnd.isActive())
+        update();
     const QWidget* const focus = m_parts.window.focusWidget();
     const bool isNobodys = !focus || focus == &m_parts.window || focus == &m_parts.cancel;
     m_parts.bar.hide();

@@ -54,13 +54,19 @@ TEST_F(StatusRowTest, ShowsProgressAndGivesTheKeyboardBack)
     EXPECT_TRUE(bar.isVisible() && cancel.isVisible());
     EXPECT_EQ(bar.value() - bar.minimum(), (bar.maximum() - bar.minimum()) / 2);
     EXPECT_FALSE(edit.hasFocus());
+    document.setPicture(CIImage::fromBitmap(CIBitmap(30, 20)));
+    row.update();
+    EXPECT_EQ(field.text(), "Opening…") << "it goes on";
     row.endProgress();
+    EXPECT_EQ(field.text(), "30 × 20 px · sRGB 8-bit");
     EXPECT_FALSE(bar.isVisible() || cancel.isVisible());
     EXPECT_EQ(window.focusWidget(), &edit);
 
     row.showProgress("Opening…", [] { return 0.0; });
     other.setFocus();
+    emit document.message("The rest is missing.");
     row.endProgress();
+    EXPECT_EQ(field.text(), "The rest is missing.");
     EXPECT_EQ(window.focusWidget(), &other) << "the user has gone on";
 }
 
