@@ -112,8 +112,8 @@ std::uint8_t Dib::Field::of(std::uint32_t pixel, std::uint8_t whenNone) const
     if (mask == 0)
         return whenNone;
     const int shift = std::countr_zero(mask);
-    const std::uint64_t most = mask >> shift;
-    return std::uint8_t(((std::uint64_t(pixel & mask) >> shift) * 255 + most / 2) / most);
+    const std::uint64_t value = (pixel & mask) >> shift, most = mask >> shift;
+    return std::uint8_t(most == 255 ? value : (value * 255 + most / 2) / most); // dividing takes long
 }
 
 Dib::Color Dib::colorOf(std::uint32_t pixel) const
