@@ -76,7 +76,6 @@ TEST_F(OneInstanceTest, AsksBeforeChangesAreLost)
 {
     start({pictureFile("a.png")});
     const QString first = window("Lumivex::a.png");
-    QTest::qWait(500);
     const auto isChanged = [&] { return tool({"getwindowname", first}) != "Lumivex::a.png"; };
     ASSERT_TRUE(pressUntil(isChanged, [&] {
         press(first, "ctrl+f"); // finds a filter, which is a change
@@ -91,8 +90,7 @@ TEST_F(OneInstanceTest, AsksBeforeChangesAreLost)
     QProcess& third = start({pictureFile("c.png")});
     EXPECT_TRUE(third.waitForFinished(20'000));
     EXPECT_FALSE(window("Lumivex::c.png").isEmpty()) << "while there is a question, in a window of its own";
-    press(question, "Escape");
-    QTest::qWait(500);
+    ASSERT_TRUE(pressUntil([&] { return windows("Lumivex").isEmpty(); }, [&] { press(question, "Escape"); }));
     EXPECT_TRUE(tool({"getwindowname", first}).startsWith("Lumivex::a.png"));
 }
 

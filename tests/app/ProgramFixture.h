@@ -69,22 +69,16 @@ protected:
         }
         return true;
     }
-    /// The window with that title; empty after long waiting.
-    static QString window(const QString& title)
+    static QStringList windows(const QString& title)
     {
-        QString found;
-        waitFor([&] {
-            found = tool({"search", "--onlyvisible", "--name", '^' + title + '$'}).section('\n', 0, 0);
-            return !found.isEmpty();
-        });
-        return found;
+        return tool({"search", "--onlyvisible", "--name", '^' + title + '$'}).split('\n', Qt::SkipEmptyParts);
     }
-    /// The topmost of at least `count` windows with that title; on a busy machine they come late.
-    static QString topWindow(const QString& title, int count)
+    /// The topmost of at least `count` windows with that title; empty after long waiting.
+    static QString window(const QString& title, int count = 1)
     {
         QStringList found;
         waitFor([&] {
-            found = tool({"search", "--onlyvisible", "--name", '^' + title + '$'}).split('\n', Qt::SkipEmptyParts);
+            found = windows(title);
             return found.size() >= count;
         });
         return found.value(found.size() - 1);

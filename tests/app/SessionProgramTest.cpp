@@ -44,38 +44,36 @@ TEST_F(SessionProgramTest, ComesBackAfterItWasKilledAndLeavesNothingAfterAnOrder
 {
     const QString path = pictureFile("journey.png");
     QProcess& first = start({"--new-window", path});
-    QString window = this->window("Lumivex::journey.png");
-    ASSERT_FALSE(window.isEmpty());
-    QTest::qWait(2500);
-    EXPECT_TRUE(sessions().isEmpty()) << "there is nothing to keep yet";
-    ASSERT_TRUE(pressUntil([&] { return isKept(1); }, [&] { press(window, "ctrl+l"); }));
+    QString mainWindow = window("Lumivex::journey.png");
+    ASSERT_FALSE(mainWindow.isEmpty());
+    ASSERT_TRUE(pressUntil([&] { return isKept(1); }, [&] { press(mainWindow, "ctrl+l"); }));
     first.kill(); // SIGKILL: it can do nothing about it
     first.waitForFinished();
     EXPECT_EQ(keptPicture().pixelColor(0, 59), Qt::red) << "turned to the left";
 
     QProcess& second = start({"--new-window"});
-    QString question = topWindow("Lumivex", 2);
-    const auto isBack = [] { return !tool({"search", "--onlyvisible", "--name", "^Lumivex::journey"}).isEmpty(); };
-    ASSERT_TRUE(pressUntil(isBack, [&] { press(question, "Return"); }));
-    window = this->window("Lumivex::journey.png.*");
-    ASSERT_FALSE(window.isEmpty()) << "the picture is back";
-    QTest::qWait(500);
-    ASSERT_TRUE(pressUntil([&] { return isKept(2); }, [&] { press(window, "ctrl+l"); }))
+    QString question = window("Lumivex", 2);
+    ASSERT_TRUE(
+        pressUntil([] { return !windows("Lumivex::journey.*").isEmpty(); }, [&] { press(question, "Return"); }));
+    mainWindow = window("Lumivex::journey.png.*");
+    ASSERT_FALSE(mainWindow.isEmpty()) << "the picture is back";
+    ASSERT_TRUE(pressUntil([&] { return isKept(2); }, [&] { press(mainWindow, "ctrl+l"); }))
         << "the journal goes on where it was";
     second.kill();
     second.waitForFinished();
     EXPECT_EQ(keptPicture().pixelColor(59, 39), Qt::red) << "turned twice";
 
     QProcess& third = start({"--new-window"});
-    question = topWindow("Lumivex", 2);
-    QTest::qWait(500);
-    press(question, "Tab");
-    press(question, "space"); // Discard
-    ASSERT_TRUE(waitFor([&] { return sessions().isEmpty(); }));
-    window = this->window("Lumivex");
-    QTest::qWait(500);
-    press(window, "ctrl+q");
-    EXPECT_TRUE(third.waitForFinished(10'000));
+    question = window("Lumivex", 2);
+    ASSERT_TRUE(pressUntil([&] { return sessions().isEmpty(); },
+        [&] {
+            press(question, "Tab");
+            press(question, "space"); // Discard
+        }));
+    ASSERT_TRUE(waitFor([] { return windows("Lumivex").size() == 1; })) << "the question has gone";
+    mainWindow = window("Lumivex");
+    EXPECT_TRUE(
+        pressUntil([&] { return third.state() == QProcess::NotRunning; }, [&] { press(mainWindow, "ctrl+q"); }));
     EXPECT_EQ(third.exitStatus(), QProcess::NormalExit);
     EXPECT_TRUE(QDir(home()).isEmpty());
 }
