@@ -6,6 +6,7 @@
 #include "platform/coreimage/CIContext.h"
 #include "platform/foundation/KeyedArchive.h"
 #include "platform/foundation/UserDefaults.h"
+#include "tests/support/Input.h"
 #include "ui_MainWindow.h"
 #include "widgets/ColorWell.h"
 #include "widgets/DocPageControl.h"
@@ -13,10 +14,8 @@
 #include "widgets/PanelCheckBox.h"
 #include "widgets/ValueSlider.h"
 
-#include <QMimeData>
 #include <QPushButton>
 #include <QTest>
-#include <QWheelEvent>
 
 namespace {
 
@@ -130,15 +129,9 @@ TEST_F(CustomModeTest, WheelAndSliderZoomItsOwnView)
     controller.zooming().zoomTo(1);
     EXPECT_EQ(view().getZoom(), 1);
     EXPECT_EQ(ui.zoomField->text(), "100 %");
-    const auto turn = [this](int delta) {
-        const QPointF middle = view().rect().center();
-        QWheelEvent event(
-            middle, view().mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&view(), &event);
-    };
-    turn(120);
+    input::turnWheel(view(), 120);
     EXPECT_FLOAT_EQ(view().getZoom(), 1.05f);
-    turn(120);
+    input::turnWheel(view(), 120);
     EXPECT_FLOAT_EQ(view().getZoom(), 1.26f);
     EXPECT_EQ(ui.zoomField->text(), "126 %");
     const float zoom = view().getZoom();

@@ -10,12 +10,12 @@
 #include "platform/chain/Baking.h"
 #include "platform/foundation/Pasteboard.h"
 #include "platform/imageio/PictureReader.h"
+#include "tests/support/Input.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
-#include <QDropEvent>
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
@@ -23,7 +23,6 @@
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
-#include <QUrl>
 
 #include <vector>
 
@@ -250,20 +249,15 @@ TEST_F(EditsTest, ADropOnThePictureMovesNothingInTheWindow)
     const QList<int> panes = ui.splitter->sizes();
     const QPoint place = ui.pictureScrollView->viewport()->mapTo(&window, QPoint(5, 5));
     const QString file = pictureFile("framed.png", 8, 6);
-    QMimeData data;
-    data.setUrls({QUrl::fromLocalFile(file)});
     const QImage before = window.grab().toImage();
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&view, &enter);
-    EXPECT_TRUE(enter.isAccepted());
+    EXPECT_TRUE(input::accepts(view, input::Files({file})));
     QApplication::processEvents();
     EXPECT_EQ(ui.splitter->count(), 3);
     EXPECT_EQ(ui.splitter->sizes(), panes);
     EXPECT_NE(window.grab().toImage(), before) << "there is a frame";
     const QWidget* under = window.childAt(place);
     EXPECT_TRUE(under && ui.pictureScrollView->isAncestorOf(under)) << "the frame doesn't catch the drop";
-    QDropEvent dropped(QPointF(5, 5), Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(&view, &dropped);
+    input::drop(view, input::Files({file}));
     waitUntilIdle();
     EXPECT_EQ(controller.getFilePath(), file);
     EXPECT_EQ(controller.backImage().extent().width, 8);
@@ -273,22 +267,13 @@ TEST_F(EditsTest, ADropOnThePictureMovesNothingInTheWindow)
 TEST_F(EditsTest, FilesAreDroppedAnywhereOnTheWindow)
 {
     open(kPicture);
-    const auto accepts = [&](const QString& path, QPoint place) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&window, &enter);
-        return enter.isAccepted();
+    const auto accepts = [&](const QString& path, QPoint at) {
+        return input::accepts(window, input::Files({path}), at);
     };
     const auto drop = [&](const QString& path) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        if (!accepts(path, {300, 20}))
-            return false;
-        QDropEvent dropped(QPointF(300, 20), Qt::CopyAction, &data, Qt::LeftButton, {});
-        QApplication::sendEvent(&window, &dropped);
+        const bool isWanted = input::drop(window, input::Files({path}), {300, 20});
         waitUntilIdle();
-        return true;
+        return isWanted;
     };
     const auto middleOf = [&](QWidget& widget) { return widget.mapTo(&window, widget.rect().center()); };
     EXPECT_TRUE(accepts("/p/document.pdf", {300, 20}));

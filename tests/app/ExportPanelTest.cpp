@@ -3,8 +3,9 @@
 
 #include "files/ExportPanel.h"
 #include "platform/foundation/UserDefaults.h"
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
+#include "tests/support/Programs.h"
+#include "tests/support/QuietLog.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -12,7 +13,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
@@ -27,12 +27,9 @@ constexpr int kPatience = 60'000; // ms, for a busy machine
 
 class ExportPanelTest : public WindowTest {
 protected:
-    ExportPanelTest()
-    {
-        QDir(folder.path()).mkdir("Mixed Case");
-        setImageLog([](std::string_view) {});
-    }
-    ~ExportPanelTest() override { setImageLog({}); }
+    ExportPanelTest() { QDir(folder.path()).mkdir("Mixed Case"); }
+
+    const QuietLog quiet;
 
     QString path(const QString& name) const { return folder.filePath("Mixed Case/" + name); }
 
@@ -88,14 +85,6 @@ protected:
     bool isPanelOpen() const { return window.findChild<ExportPanel*>(); }
     QString failure() { return part<QLabel>("messageLabel").isVisible() ? part<QLabel>("messageLabel").text() : ""; }
 
-    static QString outputOf(const QString& program, const QStringList& arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished());
-        return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
-    }
-    static QString identify(const QString& file) { return outputOf("identify", {"-format", "%m %w %h", file}); }
     QStringList files() const { return QDir(path({})).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
 };
 

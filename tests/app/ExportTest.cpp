@@ -4,8 +4,9 @@
 #include "app/document/SessionFolder.h"
 #include "files/SavePanel.h"
 #include "platform/chain/Baking.h"
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
+#include "tests/support/Programs.h"
+#include "tests/support/QuietLog.h"
 #include "ui_MainWindow.h"
 
 #include <QAbstractButton>
@@ -16,7 +17,6 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
@@ -68,14 +68,6 @@ protected:
         return 10 * std::log10(255 * 255 * double(a.width()) * a.height() * 4 / sum);
     }
 
-    static QString outputOf(const QString& program, const QStringList& arguments)
-    {
-        QProcess process;
-        process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished());
-        return QString::fromUtf8(process.readAllStandardOutput());
-    }
-    static QString identify(const QString& file) { return outputOf("identify", {"-format", "%m %w %h", file}); }
     /// What another program reads of camera, orientation, width, author and resolution.
     static QString metadata(const QString& file)
     {
@@ -143,20 +135,6 @@ TEST_F(ExportTest, SavesWhatTheFilterMakesAndForgetsTheChanges)
     EXPECT_TRUE(controller.getCurrentFilter()) << "saving applies nothing";
 }
 
-TEST_F(ExportTest, TheSheetsQuestionOnlyTellsWhatHappens)
-{
-    openNoise("noise.png");
-    const QString target = path("there.png");
-    ASSERT_TRUE(QFile::copy(path("noise.png"), target));
-    openPicture(pictureFile("other.png", 10, 10));
-    chooseFormat("PNG");
-    answering("Cancel", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("there")); });
-    EXPECT_EQ(identify(target), "PNG 10 10") << "overwritten all the same";
-    perform(&Controller::savePanelDidEnd, QDialog::Rejected, path("never"));
-    EXPECT_EQ(controller.getFilePath(), target);
-    EXPECT_FALSE(QFile::exists(path("never.png")));
-}
-
 TEST_F(ExportTest, SavesInPlaceWhereTheExtensionAllows)
 {
     openNoise("photo.jpeg");
@@ -213,23 +191,6 @@ TEST_F(ExportTest, KeepsWhatTheFileSaidAboutItself)
     controller.session().restore(state);
     perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("restored"));
     EXPECT_EQ(metadata(path("restored.png")), "Camera 1 32 Somebody");
-}
-
-TEST_F(ExportTest, ReportsAnUnwritableFolderAndKeepsTheFile)
-{
-    setImageLog([](std::string_view) {});
-    openNoise("noise.png");
-    chooseFormat("PNG");
-    QString told;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&] {
-        if (const QWidget* sheet = QApplication::activeModalWidget(); sheet && sheet->objectName() == "AlertPanel")
-            told = sheet->accessibleDescription();
-    });
-    look.start(0);
-    answering("OK", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x")); });
-    EXPECT_TRUE(told.contains("x.png")) << told.toStdString();
-    setImageLog({});
 }
 
 TEST_F(ExportTest, ThePanelOffersTheLastFormatAndGivesItsMenusBack)
@@ -293,7 +254,7 @@ TEST_F(ExportTest, ACancelledPanelStillQuitsButAFailedSaveDoesNot)
 TEST_F(ExportTest, AFileThatCantBeWrittenStopsTheQuitting)
 {
     using Reply = Controller::TerminateReply;
-    setImageLog([](std::string_view) {});
+    const QuietLog quiet;
     openNoise("noise.png");
     controller.setFilePath({});
     pick("CIColorInvert");
@@ -303,7 +264,6 @@ TEST_F(ExportTest, AFileThatCantBeWrittenStopsTheQuitting)
     answering("OK", [&] { perform(&Controller::savePanelDidEnd, QDialog::Accepted, path("no folder/x")); });
     pick("CIColorPosterize");
     answering("Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Reply::Cancel); });
-    setImageLog({});
 }
 
 TEST_F(ExportTest, StoppingALongSaveLeavesEverythingAsItWas)

@@ -4,37 +4,11 @@
 #include "controls/panel/DropImageView.h"
 #include "widgets/DropFileTypes.h"
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <QSignalSpy>
-#include <QUrl>
 
 namespace {
 
-struct Files : QMimeData {
-    explicit Files(const QStringList& paths)
-    {
-        QList<QUrl> urls;
-        for (const QString& path : paths)
-            urls.append(QUrl::fromLocalFile(path));
-        setUrls(urls);
-    }
-};
-
-bool accepts(QWidget& widget, const QMimeData& data, Qt::DropActions actions = Qt::CopyAction | Qt::MoveAction)
-{
-    QDragEnterEvent enter({10, 10}, actions, &data, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(&widget, &enter);
-    return enter.isAccepted();
-}
-
-void drop(QWidget& widget, const QMimeData& data)
-{
-    accepts(widget, data); // a drop goes to the widget entered last
-    QDropEvent event({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
-}
+using namespace input;
 
 } // namespace
 
@@ -63,7 +37,7 @@ TEST_F(ImageViewTest, TakesExactlyOnePictureFile)
     EXPECT_TRUE(accepts(view, Files({"/p/one.png"})));
     EXPECT_FALSE(accepts(view, Files({"/p/one.png", "/p/two.png"})));
     EXPECT_FALSE(accepts(view, Files({"/p/one.pdf"})));
-    EXPECT_FALSE(accepts(view, Files({"/p/one.png"}), Qt::LinkAction));
+    EXPECT_FALSE(accepts(view, Files({"/p/one.png"}), {5, 5}, Qt::LinkAction));
     QMimeData text;
     text.setText("/p/one.png");
     EXPECT_FALSE(accepts(view, text));

@@ -2,6 +2,7 @@
 
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
+#include "tests/support/Input.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,6 @@
 #include <QDialog>
 #include <QMenu>
 #include <QTest>
-#include <QWheelEvent>
 
 struct FakeMaster : ImageViewMaster {
     CIImage picture;
@@ -101,24 +101,7 @@ protected:
     }
     QPoint at(double x, double y) const { return view.toWidget({x, y}).toPoint(); }
 
-    void wheel(int delta, QPointF position)
-    {
-        QWheelEvent event(position, view.mapToGlobal(position), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-            Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&view, &event);
-    }
-    /// Moves the mouse without the help of the window system.
-    void moveMouse(QPointF position, Qt::MouseButtons buttons = Qt::NoButton)
-    {
-        QMouseEvent event(
-            QEvent::MouseMove, position, view.mapToGlobal(position), Qt::NoButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&view, &event);
-    }
-    void enter(QPointF position)
-    {
-        QEnterEvent event(position, position, view.mapToGlobal(position));
-        QApplication::sendEvent(&view, &event);
-    }
+    void moveMouse(QPointF to, Qt::MouseButtons held = Qt::NoButton) { input::moveMouse(view, to, held); }
 
     FakeMaster master;
     PictureScrollView window;

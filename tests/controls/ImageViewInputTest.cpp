@@ -8,12 +8,12 @@
 TEST_F(ImageViewTest, WheelZoomsAndTellsTheController)
 {
     open(pattern(1000, 800));
-    wheel(120, {200, 150});
+    input::turnWheel(view, 120);
     EXPECT_FLOAT_EQ(view.getZoom(), 1.05f);
-    wheel(-40, {200, 150});
-    wheel(-40, {200, 150});
+    input::turnWheel(view, -40);
+    input::turnWheel(view, -40);
     EXPECT_FLOAT_EQ(view.getZoom(), 1.05f) << "a third of a notch isn't a step";
-    wheel(-40, {200, 150});
+    input::turnWheel(view, -40);
     EXPECT_FLOAT_EQ(view.getZoom(), 1.0f);
     ASSERT_EQ(master.zooms.size(), 2u);
     EXPECT_FLOAT_EQ(master.zooms[0], 1.05f);
@@ -66,15 +66,14 @@ TEST_F(ImageViewTest, WithoutAFilterDraggingDoesNothing)
 TEST_F(ImageViewTest, PointsAndHandFollowTheMouse)
 {
     open(pattern(200, 200));
-    enter(at(50, 50));
+    input::enter(view, at(50, 50));
     EXPECT_FALSE(view.isDisplayingPoints());
     EXPECT_EQ(view.cursor().shape(), Qt::ArrowCursor);
     edit("CIBumpDistortion");
     moveMouse(at(51, 50));
     EXPECT_TRUE(view.isDisplayingPoints()) << "a filter chosen while the mouse rested here";
     EXPECT_EQ(view.cursor().shape(), Qt::PointingHandCursor);
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&view, &leave);
+    input::leave(view);
     EXPECT_FALSE(view.isDisplayingPoints());
     EXPECT_EQ(view.cursor().shape(), Qt::ArrowCursor);
 }

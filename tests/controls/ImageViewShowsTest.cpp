@@ -124,7 +124,7 @@ TEST_F(ImageViewTest, DrawsAWhiteMarkWithABlackShadow)
     edit("CICrop");
     master.filter->setValueForKey(CIVector{50.3, 60.8, 100, 80}, "inputRectangle");
     QColor picture = colorAt(shown(), view.toWidget({60.5, 60.5}));
-    enter(at(150.5, 140.5)); // another corner gets the glow
+    input::enter(view, at(150.5, 140.5)); // another corner gets the glow
     const QImage image = shown();
     const auto seen = [&](double dx, double dy) { return colorAt(image, view.toWidget({50.5 + dx, 60.5 + dy})); };
     EXPECT_EQ(seen(-7, 0), QColor(Qt::white)) << "arms reach 8 to each side";
@@ -137,8 +137,7 @@ TEST_F(ImageViewTest, DrawsAWhiteMarkWithABlackShadow)
     EXPECT_EQ(difference(seen(0, 10), picture), 0);
     EXPECT_EQ(difference(seen(6, 6), picture), 0);
     EXPECT_EQ(difference(seen(3, 2), picture), 0) << "the circle is open";
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&view, &leave);
+    input::leave(view);
     EXPECT_EQ(difference(colorAt(shown(), view.toWidget({50.5, 60.5})), picture), 0) << "no mouse, no marks";
 }
 
@@ -149,7 +148,7 @@ TEST_F(ImageViewTest, MarksKeepTheirSizeOnScreen)
     master.filter->setValueForKey(CIVector{20, 20, 40, 40}, "inputRectangle");
     for (const float zoom : {0.5f, 3.0f}) {
         open(pattern(80, 80), zoom);
-        enter(at(60, 60));
+        input::enter(view, at(60, 60));
         const QImage image = shown();
         const QPointF mark = view.toWidget({20.5, 20.5});
         EXPECT_EQ(colorAt(image, mark + QPointF(-7, 0)), QColor(Qt::white)) << zoom;
@@ -162,7 +161,7 @@ TEST_F(ImageViewTest, HidesPointsBehindAModalWindow)
     open(CIImage::fromColor(CIColor(0.5, 0.5, 0.5)).cropped({0, 0, 200, 200}));
     edit("CIBumpDistortion");
     master.filter->setValueForKey(CIVector{100, 100}, "inputCenter");
-    enter(at(10, 10));
+    input::enter(view, at(10, 10));
     const auto marked = [&] { return colorAt(shown(), view.toWidget({107.5, 100.5})) == QColor(Qt::white); };
     EXPECT_TRUE(marked());
     QDialog sheet(&window);

@@ -1,14 +1,10 @@
 #include "effects2d/customEffImageView.h"
 #include "effects2d/linesEffect.h"
 #include "tests/effects2d/EffectFixture.h"
+#include "tests/support/Input.h"
 
-#include <QApplication>
-#include <QDragEnterEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QTest>
-#include <QUrl>
-#include <QWheelEvent>
 
 namespace {
 
@@ -49,22 +45,6 @@ struct CustomViewTest : testing::Test {
         return image.pixel(int(std::floor(p.x())), int(std::floor(p.y())));
     }
     QPoint place(double x, double y) const { return view.toWidget({x, y}).toPoint(); }
-    void moveMouse(QPoint to, Qt::MouseButtons buttons)
-    {
-        QMouseEvent event(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, buttons, Qt::NoModifier);
-        QApplication::sendEvent(&view, &event);
-    }
-    void wheel(int delta, QPointF position)
-    {
-        QWheelEvent event(position, view.mapToGlobal(position), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
-            Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&view, &event);
-    }
-    void enter()
-    {
-        QEnterEvent event(QPointF(5, 5), QPointF(5, 5), view.mapToGlobal(QPointF(5, 5)));
-        QApplication::sendEvent(&view, &event);
-    }
 };
 
 TEST_F(CustomViewTest, ShowsThePictureOrTheEffectCentered)
@@ -87,16 +67,6 @@ TEST_F(CustomViewTest, ShowsThePictureOrTheEffectCentered)
     EXPECT_EQ(at(shown(), {50, 30}), around);
 }
 
-TEST_F(CustomViewTest, MakesRoomForAnEffectWithoutAPicture)
-{
-    select(kSimple);
-    shown();
-    EXPECT_EQ(view.bounds(), (CIRect{0, 0, 726, 544}));
-    view.setZoom(0.25f);
-    EXPECT_EQ(view.bounds().width, 1600);
-    EXPECT_NEAR(view.toWidget({363, 272}).x(), 200, 1);
-}
-
 TEST_F(CustomViewTest, IsDrawnAnewWhenAnEffectSaysSo)
 {
     master.picture = plainPicture(100, 60, 0xff204060);
@@ -115,7 +85,7 @@ TEST_F(CustomViewTest, PlacesTheAnchorInPicturePixelsAtAnyZoom)
     view.setZoom(0.5f);
     shown();
     QTest::mousePress(&view, Qt::LeftButton, {}, place(400, 300));
-    moveMouse(place(500, 200), Qt::LeftButton);
+    input::moveMouse(view, place(500, 200));
     EXPECT_EQ(master.current->startPoint(), (CIPoint{500, 200}));
     QTest::mouseRelease(&view, Qt::LeftButton, {}, place(520, 220));
     EXPECT_EQ(master.current->startPoint(), (CIPoint{520, 220}));
@@ -138,7 +108,7 @@ TEST_F(CustomViewTest, MarksTheAnchorWhileTheMouseIsThere)
     effect.seOpacity(0);
     effect.setStartPoint({50, 50});
     const QImage without = shown();
-    enter();
+    input::enter(view);
     EXPECT_TRUE(view.drawsCursor());
     EXPECT_EQ(view.cursor().shape(), Qt::PointingHandCursor);
     QImage with = shown();
@@ -154,32 +124,18 @@ TEST_F(CustomViewTest, MarksTheAnchorWhileTheMouseIsThere)
     EXPECT_GT(marked(8), 20);
     EXPECT_EQ(marked(8), marked(20));
 
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&view, &leave);
+    input::leave(view);
     EXPECT_FALSE(view.drawsCursor());
     view.clearFocus();
     EXPECT_EQ(shown(), without);
     select(kPlasma);
-    enter();
+    input::enter(view);
     EXPECT_FALSE(view.drawsCursor());
 }
 
 TEST_F(CustomViewTest, TakesDroppedPictures)
 {
-    const auto offer = [&](const QStringList& paths) {
-        QMimeData data;
-        QList<QUrl> urls;
-        for (const QString& path : paths)
-            urls << QUrl::fromLocalFile(path);
-        data.setUrls(urls);
-        QDragEnterEvent enters({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&view, &enters);
-        if (!enters.isAccepted())
-            return false;
-        QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&view, &drop);
-        return true;
-    };
+    const auto offer = [&](const QStringList& paths) { return input::drop(view, input::Files(paths)); };
     EXPECT_FALSE(offer({"/a/notes.txt"}));
     EXPECT_FALSE(offer({"/a/notes.txt", "/a/b.png"})); // the first counts
     EXPECT_TRUE(offer({"/a/b.PnG"}));

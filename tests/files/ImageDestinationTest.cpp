@@ -2,11 +2,12 @@
 
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
+#include "tests/support/Programs.h"
+#include "tests/support/QuietLog.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -31,15 +32,6 @@ CIBitmap colored(int width, int height)
     return bitmap;
 }
 
-/// What another program says; empty when it fails.
-QString answerOf(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    return process.waitForFinished() && process.exitCode() == 0 ? QString::fromUtf8(process.readAllStandardOutput())
-                                                                : QString();
-}
-
 QByteArray bytesOf(const QString& path)
 {
     QFile file(path);
@@ -57,12 +49,12 @@ TEST_F(ImageDestinationTest, PdfHasOnePageOfThePicturesSizeAndAllItsDetail)
 {
     const CIBitmap picture = colored(83, 61);
     ASSERT_TRUE(writePdf(picture, path("p.pdf")));
-    const QString info = answerOf("pdfinfo", {path("p.pdf")});
+    const QString info = outputOf("pdfinfo", {path("p.pdf")});
     EXPECT_TRUE(info.contains(QRegularExpression("Pages:\\s+1\n"))) << info.toStdString();
     EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+83 x 61 pts"))) << info.toStdString();
 
-    ASSERT_FALSE(answerOf("pdfimages", {"-list", path("p.pdf")}).isEmpty());
-    answerOf("pdfimages", {"-png", path("p.pdf"), path("p")});
+    ASSERT_FALSE(outputOf("pdfimages", {"-list", path("p.pdf")}).isEmpty());
+    outputOf("pdfimages", {"-png", path("p.pdf"), path("p")});
     const Result<CIBitmap> back = readPicture(path("p-000.png").toStdString());
     ASSERT_TRUE(back) << back.message();
     for (int y = 0; y < 61; ++y)
@@ -72,7 +64,7 @@ TEST_F(ImageDestinationTest, PdfHasOnePageOfThePicturesSizeAndAllItsDetail)
 TEST_F(ImageDestinationTest, PdfPagesAreOfNoPaperSize)
 {
     ASSERT_TRUE(writePdf(colored(597, 843), path("p.pdf")));
-    const QString info = answerOf("pdfinfo", {path("p.pdf")});
+    const QString info = outputOf("pdfinfo", {path("p.pdf")});
     EXPECT_TRUE(info.contains(QRegularExpression("Page size:\\s+597 x 843 pts"))) << "nearly that of A4";
 }
 
@@ -80,15 +72,14 @@ TEST_F(ImageDestinationTest, StoresTheResolution)
 {
     ASSERT_TRUE(export1PathTypeDpi(colored(40, 30), path("p.png"), "public.png", 150));
     const QStringList parts =
-        answerOf("identify", {"-units", "PixelsPerInch", "-format", "%m %w %h %x", path("p.png")}).split(' ');
+        outputOf("identify", {"-units", "PixelsPerInch", "-format", "%m %w %h %x", path("p.png")}).split(' ');
     ASSERT_EQ(parts.size(), 4);
     EXPECT_EQ(parts.mid(0, 3), QStringList({"PNG", "40", "30"}));
     EXPECT_NEAR(parts[3].toDouble(), 150, 0.1);
     EXPECT_FALSE(export1PathTypeDpi(colored(4, 3), path("p.xyz"), "public.unknown", 72));
     EXPECT_FALSE(QFile::exists(path("p.xyz")));
-    setImageLog([](std::string_view) {});
+    const QuietLog quiet;
     EXPECT_FALSE(export1PathTypeDpi(colored(4, 3), path("no folder/p.png"), "public.png", 72));
-    setImageLog({});
 }
 
 TEST_F(ImageDestinationTest, IconsHoldTheLargestSquareWithThePictureInTheMiddle)
@@ -107,7 +98,7 @@ TEST_F(ImageDestinationTest, IconsHoldTheLargestSquareWithThePictureInTheMiddle)
     EXPECT_EQ(icon->row<std::uint8_t>(256)[3], 255);
 
     ASSERT_TRUE(export1PathTypeDpi(colored(600, 550), path("i.ico"), "com.microsoft.ico", 72));
-    EXPECT_EQ(answerOf("identify", {"-format", "%w %h", "ico:" + path("i.ico")}), "256 256");
+    EXPECT_EQ(outputOf("identify", {"-format", "%w %h", "ico:" + path("i.ico")}), "256 256");
 
     ASSERT_TRUE(export1PathTypeDpi(colored(60, 50), path("small.icns"), "com.apple.icns", 72));
     const QByteArray old = bytesOf(path("small.icns"));

@@ -1,7 +1,7 @@
 #include "files/ImageInfo.h"
 
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureWriter.h"
+#include "tests/support/QuietLog.h"
 
 #include <gtest/gtest.h>
 #include <QFile>
@@ -14,11 +14,7 @@ namespace {
 
 class ImageInfoTest : public testing::Test {
 protected:
-    ImageInfoTest()
-    {
-        setImageLog([](std::string_view) {});
-    }
-    ~ImageInfoTest() override { setImageLog({}); }
+    const QuietLog quiet;
 
     QUrl written(const char* name, PictureFormat format)
     {

@@ -1,22 +1,17 @@
 // JPEG 2000 with all that its boxes and its grid can say. Files are made of known samples, without loss.
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
-#include "platform/imageio/ImageLog.h"
-#include "platform/imageio/PictureReader.h"
+#include "tests/support/QuietLog.h"
 
 #include <fstream>
 #include <iterator>
 
-#include <gmock/gmock.h>
-#include <lcms2.h>
 #include <openjpeg.h>
 
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-using Pixel = std::array<double, 4>;
 
 struct Component {
     std::vector<int> samples;
@@ -132,20 +127,7 @@ Bytes boxed(const Bytes& stream, const std::vector<Bytes>& headers)
     return file;
 }
 
-CIBitmap read(const Bytes& file, const ReadOptions& options = {})
-{
-    const Result<CIBitmap> result = readPicture(file, options);
-    EXPECT_TRUE(result) << result.message();
-    return result ? *result : CIBitmap(1, 1);
-}
-
 Pixel only(const Bytes& file) { return pixelAt(read(file), 0, 0); }
-
-void expectNear(const Pixel& actual, const Pixel& expected, double tolerance)
-{
-    for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_NEAR(actual[i], expected[i], tolerance) << "component " << i;
-}
 
 constexpr int kCmyk = 12, kYcck = 13, kLab = 14, kSrgb = 16, kGrey = 17, kSycc = 18, kEsycc = 24;
 
@@ -264,13 +246,8 @@ TEST(Jpeg2000, AppliesEmbeddedProfiles)
     for (const cmsTagSignature tag : {cmsSigRedTRCTag, cmsSigGreenTRCTag, cmsSigBlueTRCTag})
         cmsWriteTag(srgb, tag, curve);
     cmsFreeToneCurve(curve);
-    cmsUInt32Number size = 0;
-    cmsSaveProfileToMem(srgb, nullptr, &size);
-    Bytes linear(size);
-    cmsSaveProfileToMem(srgb, linear.data(), &size);
-    cmsCloseProfile(srgb);
     Bytes color = bytesOf({2, 0, 0});
-    append(color, linear);
+    append(color, savedProfile(srgb));
     expectNear(only(boxed(dot({55, 55, 55}), {box("colr", color)})), {128, 128, 128, 255}, 1.5);
 }
 
@@ -283,7 +260,7 @@ TEST(Jpeg2000, ReadsNoMoreDetailThanIsAskedFor)
 
 TEST(Jpeg2000, RefusesWhatCantBeRight)
 {
-    setImageLog([](std::string_view) {});
+    const QuietLog quiet;
     EXPECT_THAT(readPicture(boxed(dot({1, 2, 3, 4}), {enumerated(kYcck)})).message(), HasSubstr("kind of pixel"));
     const Bytes palette = box("pclr", bytesOf({0, 1, 1, 7, 9}));
     EXPECT_FALSE(readPicture(boxed(dot({0}), {palette, box("cmap", bytesOf({0, 7, 1, 0})), enumerated(kGrey)})));
@@ -300,7 +277,6 @@ TEST(Jpeg2000, RefusesWhatCantBeRight)
     const Bytes whole = codestream({0, 0, 64, 64}, {{std::vector<int>(64 * 64, 5)}});
     for (std::size_t size = 1; size < whole.size() - 2; size += 7)
         EXPECT_FALSE(readPicture(std::span(whole).first(size))) << size;
-    setImageLog({});
 }
 
 } // namespace

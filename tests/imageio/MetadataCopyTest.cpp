@@ -1,8 +1,8 @@
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureProperties.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
 #include "tests/imageio/PictureFiles.h"
+#include "tests/support/QuietLog.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -16,11 +16,7 @@ namespace fs = std::filesystem;
 
 class MetadataCopy : public testing::Test {
 protected:
-    MetadataCopy()
-    {
-        setImageLog([](std::string_view) {});
-    }
-    ~MetadataCopy() override { setImageLog({}); }
+    const QuietLog quiet;
 
     /// A photograph that was held upright, with entries written by another program.
     fs::path photograph()

@@ -1,8 +1,8 @@
 #include "platform/imageio/PictureProperties.h"
 
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureWriter.h"
 #include "tests/imageio/PictureFiles.h"
+#include "tests/support/QuietLog.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -40,11 +40,7 @@ void expectSorted(const std::vector<PictureProperty>& properties)
 
 class PictureProperties : public testing::Test {
 protected:
-    PictureProperties()
-    {
-        setImageLog([](std::string_view) {});
-    }
-    ~PictureProperties() override { setImageLog({}); }
+    const QuietLog quiet;
 
     fs::path picture(const char* name, PictureFormat format, double dpi = 0)
     {

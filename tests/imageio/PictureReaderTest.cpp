@@ -1,33 +1,15 @@
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
-#include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
 
 #include <cmath>
-
-#include <gmock/gmock.h>
-#include <lcms2.h>
 
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-using Pixel = std::array<double, 4>;
 constexpr Pixel kRed{255, 0, 0, 255}, kGreen{0, 255, 0, 255}, kBlue{0, 0, 255, 255}, kWhite{255, 255, 255, 255};
-
-CIBitmap read(const Bytes& file, const ReadOptions& options = {})
-{
-    const Result<CIBitmap> result = readPicture(file, options);
-    EXPECT_TRUE(result) << result.message();
-    return result ? *result : CIBitmap(1, 1);
-}
-
-void expectNear(const Pixel& actual, const Pixel& expected, double tolerance)
-{
-    for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_NEAR(actual[i], expected[i], tolerance) << "component " << i;
-}
 
 TEST(ExrReader, ShowsTheDisplayWindow)
 {
@@ -198,16 +180,6 @@ TEST(PictureReader, DrawsVectorPicturesWithoutLookingAtOtherFiles)
     EXPECT_NEAR(page.width(), 2 * page.height(), 2);
     EXPECT_EQ(pixelAt(page, page.width() / 4, page.height() / 2), kRed);
     EXPECT_EQ(pixelAt(page, page.width() * 3 / 4, page.height() / 2), kWhite);
-}
-
-Bytes savedProfile(cmsHPROFILE profile)
-{
-    cmsUInt32Number size = 0;
-    cmsSaveProfileToMem(profile, nullptr, &size);
-    Bytes bytes(size);
-    cmsSaveProfileToMem(profile, bytes.data(), &size);
-    cmsCloseProfile(profile);
-    return bytes;
 }
 
 /// Primaries and curve of Adobe RGB (1998).

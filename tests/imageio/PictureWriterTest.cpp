@@ -1,8 +1,8 @@
 #include "tests/imageio/PictureFiles.h"
 
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
+#include "tests/support/QuietLog.h"
 
 #include <algorithm>
 #include <cmath>
@@ -131,19 +131,18 @@ TEST(PictureWriter, KeepsTheRangeOfLightInFloatFiles)
 
 TEST(PictureWriter, SaysWhyAFileCantBeWritten)
 {
-    setImageLog([](std::string_view) {});
+    const QuietLog quiet;
     const TemporaryFolder folder;
     const auto bytes = bytesOf({1, 2, 3});
     EXPECT_EQ(writeBytes(bytes, folder.path() / "no folder" / "x").failure().reason, Reason::NoFolder);
     const fs::path system = "/sys/kernel/x"; // even for the administrator
     const Reason reason = writeBytes(bytes, system).failure().reason;
     EXPECT_TRUE(reason == Reason::ReadOnly || reason == Reason::NotPermitted) << int(reason);
-    setImageLog({});
 }
 
 TEST(PictureWriter, ReplacesFilesWholeOrNotAtAll)
 {
-    setImageLog([](std::string_view) {});
+    const QuietLog quiet;
     const TemporaryFolder folder;
     const CIBitmap picture = noiseBitmap(10, 10);
     const fs::path file = folder.write("old.png", bytesOf("old")), link = folder.path() / "link.png";
@@ -162,7 +161,6 @@ TEST(PictureWriter, ReplacesFilesWholeOrNotAtAll)
     EXPECT_FALSE(writePng(picture, folder.path()));
     EXPECT_FALSE(writePng(picture, folder.path() / "no folder" / "x.png"));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2) << "nothing is left behind";
-    setImageLog({});
 }
 
 } // namespace

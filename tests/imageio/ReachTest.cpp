@@ -1,7 +1,7 @@
 // Opening a file reads that file alone: no other one, nothing from the network, and nothing in it is carried out.
 #include "tests/imageio/PictureFiles.h"
+#include "tests/support/QuietLog.h"
 
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureProperties.h"
 #include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
@@ -51,7 +51,6 @@ class Reach : public testing::Test {
 protected:
     Reach()
     {
-        setImageLog([](std::string_view) {});
         CIBitmap red(8, 8, CIFormat::RGBA8, CIAlpha::Opaque);
         for (int y = 0; y < 8; ++y)
             for (int x = 0; x < 8; ++x)
@@ -59,7 +58,6 @@ protected:
                     red.mutableRow<std::uint8_t>(y)[std::size_t(4 * x + 3)] = 255;
         EXPECT_TRUE(writePng(red, folder.path() / "red.png"));
     }
-    ~Reach() override { setImageLog({}); }
 
     static bool hasRed(const CIBitmap& bitmap)
     {
@@ -81,6 +79,7 @@ protected:
         EXPECT_FALSE(listener.wasCalled());
     }
 
+    const QuietLog quiet;
     TemporaryFolder folder;
     Listener listener;
 };

@@ -1,6 +1,6 @@
 #include "tests/imageio/PictureSamples.h"
+#include "tests/support/QuietLog.h"
 
-#include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureWriter.h"
 #include "platform/imageio/reader_process/ReaderProcess.h"
 
@@ -90,17 +90,10 @@ void expectEqual(const std::vector<PictureProperty>& read, const std::vector<Pic
 
 class Readers : public ::testing::Test {
 protected:
-    Readers()
-    {
-        setImageLog([](std::string_view) {});
-    }
-    ~Readers() override
-    {
-        ReaderProcess::setProgram({});
-        setImageLog({});
-    }
+    ~Readers() override { ReaderProcess::setProgram({}); }
     static Bytes order(const std::string& words) { return bytesOf("qoif order:" + words); }
 
+    const QuietLog quiet;
     TemporaryFolder folder;
 };
 

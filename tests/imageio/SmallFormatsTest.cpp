@@ -1,29 +1,16 @@
 // Formats with readers of our own, from files written byte by byte.
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
-#include "platform/imageio/ImageLog.h"
-#include "platform/imageio/PictureReader.h"
 #include "platform/imageio/PictureWriter.h"
-
-#include <gmock/gmock.h>
+#include "tests/support/QuietLog.h"
 
 namespace {
 
 using ::testing::ElementsAre;
 
 struct SmallFormats : testing::Test {
-    SmallFormats()
-    {
-        setImageLog([](std::string_view) {});
-    }
-    ~SmallFormats() override { setImageLog({}); }
+    const QuietLog quiet;
 
-    static CIBitmap read(const Bytes& file)
-    {
-        const Result<CIBitmap> result = readPicture(file);
-        EXPECT_TRUE(result) << result.message();
-        return result ? *result : CIBitmap(1, 1);
-    }
     /// No beginning of the file is a picture, and none does harm.
     static void expectWholeOnly(const Bytes& file)
     {

@@ -1,4 +1,5 @@
 #include "widgets/DocPageControl.h"
+#include "tests/support/Input.h"
 #include "widgets/FavouritesMaster.h"
 #include "widgets/onlyTextClosedButton.h"
 
@@ -171,13 +172,11 @@ TEST_F(StripTest, CloseBoxAndDeleteAskToRemove)
     EXPECT_EQ(item->findChildren<BaseColoredButton*>().size(), 1);
     EXPECT_EQ(item->closeButton()->geometry(), QRect(item->width() - 20, 2, 14, 14));
     EXPECT_FALSE(item->closeButton()->isVisible());
-    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), QPointF(5, 5));
-    QApplication::sendEvent(item, &enter);
+    input::enter(*item);
     EXPECT_TRUE(item->closeButton()->isVisible());
     QTest::mouseClick(item->closeButton(), Qt::LeftButton);
     EXPECT_EQ(master.removed, QList{item});
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(item, &leave);
+    input::leave(*item);
     EXPECT_FALSE(item->closeButton()->isVisible());
     QTest::keyClick(item, Qt::Key_Delete);
     EXPECT_EQ(master.removed.size(), 2);

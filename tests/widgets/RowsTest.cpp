@@ -1,4 +1,5 @@
 // Rows over a value that is just there: no filter, no effect, no controller.
+#include "tests/support/Input.h"
 #include "widgets/ColorWell.h"
 #include "widgets/PanelCheckBox.h"
 #include "widgets/PanelPopUp.h"
@@ -13,9 +14,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QTest>
-#include <QWheelEvent>
 
 #include <cmath>
 
@@ -58,16 +57,7 @@ protected:
     }
     static void drag(ValueSlider& slider, int to, Qt::KeyboardModifiers modifiers = {})
     {
-        QMouseEvent event(QEvent::MouseMove, QPointF(to, 8), slider.mapToGlobal(QPointF(to, 8)), Qt::NoButton,
-            Qt::LeftButton, modifiers);
-        QApplication::sendEvent(&slider, &event);
-    }
-    static void wheel(QWidget& target, int delta, Qt::KeyboardModifiers modifiers = {})
-    {
-        const QPointF middle = QRectF(target.rect()).center();
-        QWheelEvent event(
-            middle, target.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&target, &event);
+        input::moveMouse(slider, QPointF(to, 8), Qt::LeftButton, modifiers);
     }
 
     QWidget window;
@@ -123,7 +113,7 @@ TEST_F(RowsTest, KeysAndWheelStepTheSlider)
         return value.toDouble();
     };
     const auto turn = [&](int delta, Qt::KeyboardModifiers modifiers = {}) {
-        wheel(slider, delta, modifiers);
+        input::turnWheel(slider, delta, modifiers);
         return value.toDouble();
     };
     EXPECT_EQ(press(Qt::Key_Right), 11);
