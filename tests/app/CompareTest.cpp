@@ -4,6 +4,7 @@
 #include "controls/picture/PictureScrollView.h"
 #include "ui_MainWindow.h"
 
+#include <QApplication>
 #include <QTest>
 
 namespace {
@@ -47,6 +48,21 @@ TEST_F(CompareTest, ShowsThePictureAndChangesNothing)
     QTest::keyPress(&window, Qt::Key_F7);
     action("action3D")->trigger();
     EXPECT_FALSE(view.showsOriginal() || ui.compareBtn->isEnabled()) << "the other modes have nothing to compare";
+}
+
+TEST_F(CompareTest, LastsAsLongAsTheButtonIsHeldAndTheWindowIsUsed)
+{
+    QTest::mousePress(ui.compareBtn, Qt::LeftButton);
+    EXPECT_TRUE(view.showsOriginal());
+    QTest::mouseRelease(ui.compareBtn, Qt::LeftButton);
+    EXPECT_FALSE(view.showsOriginal());
+    QApplication::setActiveWindow(&window);
+    QTest::keyPress(&window, Qt::Key_F7);
+    EXPECT_TRUE(view.showsOriginal() && ui.compareBtn->isDown());
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    EXPECT_FALSE(view.showsOriginal() || ui.compareBtn->isDown()) << "the release goes to the other window";
 }
 
 TEST_F(CompareTest, TheFileAsItWasOpenedCanBeTheOtherSide)

@@ -4,29 +4,11 @@
 #include "app/document/PictureOpening.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
-#include "platform/foundation/ResourcePaths.h"
 #include "ui_MainWindow.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QClipboard>
-#include <QSlider>
+#include <QEvent>
 
 namespace {
-
-TEST_F(WindowTest, StartsWithPictureTitleAndStandardMode)
-{
-    EXPECT_EQ(Controller::mainController(), &controller);
-    EXPECT_EQ(window.windowTitle(), "Lumivex");
-    EXPECT_TRUE(controller.getFilePath().isEmpty());
-    EXPECT_EQ(controller.filerMode(), Controller::Standard);
-    EXPECT_FALSE(controller.getCurrentFilter());
-    EXPECT_FALSE(controller.wasChanged());
-    EXPECT_EQ(controller.backImage().isNull(), pathForResource("main_img", "jpg").isEmpty());
-    EXPECT_TRUE(ui.standardBtn->isChecked());
-    EXPECT_TRUE(ui.listView->isVisible());
-    EXPECT_FALSE(ui.applyBtn->isEnabled());
-}
 
 /// Counts how often a widget is painted.
 class PaintCount : public QObject {
@@ -122,32 +104,6 @@ TEST_F(WindowTest, ApplyMakesTheResultThePicture)
     perform(&Controller::applyBtn); // no filter: the picture itself, and a step all the same
     EXPECT_TRUE(undo.canUndo());
     EXPECT_EQ(controller.backImage().extent(), after.extent());
-}
-
-TEST_F(WindowTest, UnreadableFilesLeaveNoPictureButTheirName)
-{
-    openPicture(pictureFile("a.png", 12, 10));
-    EXPECT_TRUE(ui.pictureInfoField->text().startsWith("12 × 10 px")) << ui.pictureInfoField->text().toStdString();
-    QFile broken(folder.filePath("broken.png"));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("no picture");
-    broken.close();
-    perform(&Controller::openImgPanelDidEnd, 0, QStringList{broken.fileName()});
-    EXPECT_EQ(window.windowTitle(), "Lumivex::a.png") << "a cancelled panel changes nothing";
-    perform(&Controller::openImgPanelDidEnd, 1, QStringList{});
-    EXPECT_TRUE(controller.backImage());
-
-    for (const QString& path : {broken.fileName(), folder.filePath("none.png"), folder.path()}) {
-        perform(&Controller::openImgPanelDidEnd, 1, QStringList{path});
-        EXPECT_FALSE(controller.backImage());
-        EXPECT_EQ(controller.getBgImageExtent(), CIRect());
-        EXPECT_EQ(window.windowTitle(), "Lumivex::" + QFileInfo(path).fileName());
-        EXPECT_FALSE(ui.pictureInfoField->text().isEmpty());
-        perform(&Controller::applyBtn); // nothing to apply: harmless
-        EXPECT_FALSE(controller.coreImageResult(false));
-    }
-    openPicture(pictureFile("b.png", 3, 2));
-    EXPECT_EQ(controller.getBgImageExtent(), (CIRect{0, 0, 3, 2}));
 }
 
 } // namespace

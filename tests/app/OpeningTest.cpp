@@ -83,7 +83,8 @@ TEST_F(OpeningTest, ASlowFileLeavesTheWindowAliveAndClosedToEdits)
         EXPECT_TRUE(action(name)->isEnabled()) << name;
     for (const QWidget* part : {static_cast<QWidget*>(ui.listView), static_cast<QWidget*>(ui.controlScrollArea),
              static_cast<QWidget*>(ui.pictureScrollView), static_cast<QWidget*>(ui.standardBtn),
-             static_cast<QWidget*>(window.findChild<ResizePanel*>()), static_cast<QWidget*>(ui.applyBtn)})
+             static_cast<QWidget*>(window.findChild<ResizePanel*>()), static_cast<QWidget*>(ui.applyBtn),
+             static_cast<QWidget*>(ui.compareBtn)})
         EXPECT_FALSE(part->isEnabled()) << part->objectName().toStdString();
     const bool couldUndo = undo.canUndo();
     controller.rotateLeft();

@@ -3,7 +3,6 @@
 
 #include "controls/panel/BezelStyle.h"
 #include "controls/panel/CaptionLabel.h"
-#include "controls/panel/DropImageView.h"
 #include "controls/panel/FilterView.h"
 #include "controls/panel/ParameterView.h"
 #include "controls/picture/MyImageView.h"
@@ -14,7 +13,6 @@
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
 
-#include <QFile>
 #include <QScrollBar>
 #include <QTest>
 
@@ -207,59 +205,6 @@ TEST_F(PanelTest, WalksBackAndForthByName)
     controller.undo();
     settle();
     EXPECT_EQ(control<ValueSlider>("slider").value(), 50) << "one step";
-}
-
-TEST_F(PanelTest, ADragAndATypedVectorAreOneStepEach)
-{
-    pick("CIColorMatrix");
-    ReadoutField& field = control<ReadoutField>("readout1TextField");
-    field.setFocus();
-    field.selectAll();
-    QTest::keyClicks(&field, "0.25");
-    QTest::keyClick(&field, Qt::Key_Return);
-    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRVector").toVector().X(), 0.25);
-    QTest::keyClick(&window, Qt::Key_Z, Qt::ControlModifier);
-    settle();
-    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRVector").toVector().X(), 1);
-    EXPECT_FALSE(undo.canUndo());
-
-    pick("CIGaussianBlur");
-    ValueSlider& slider = control<ValueSlider>("slider");
-    QTest::mousePress(&slider, Qt::LeftButton, {}, {40, 8});
-    for (int x = 45; x < 80; x += 5) {
-        QMouseEvent event(QEvent::MouseMove, QPointF(x, 8), slider.mapToGlobal(QPointF(x, 8)), Qt::NoButton,
-            Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&slider, &event);
-    }
-    QTest::mouseRelease(&slider, Qt::LeftButton, {}, {75, 8});
-    EXPECT_NE(controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(), 10);
-    controller.undo();
-    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputRadius").toDouble(), 10);
-}
-
-TEST_F(PanelTest, UnreadableFilesAreToldInTheStatusBar)
-{
-    pick("CIGlassDistortion");
-    DropImageView& well = control<DropImageView>("imageView");
-    const QImage shown = well.image();
-    EXPECT_FALSE(shown.isNull());
-    const QString path = folder.filePath("broken.png");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("no picture");
-    file.close();
-    well.setFilePath1(path);
-    emit well.imageDropped();
-    waitUntilIdle();
-    EXPECT_EQ(well.image(), shown);
-    EXPECT_TRUE(ui.pictureInfoField->text().contains("broken.png")) << ui.pictureInfoField->text().toStdString();
-    controller.undo();
-    settle();
-    EXPECT_TRUE(controller.getCurrentFilter()->valueForKey("inputTexture").isImage());
-    control<DropImageView>("imageView").setFilePath1(pictureFile("good.png", 20, 10));
-    emit control<DropImageView>("imageView").imageDropped();
-    waitUntilIdle();
-    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputTexture").toImage().extent(), (CIRect{0, 0, 20, 10}));
 }
 
 TEST_F(PanelTest, ScrollsWhenThereIsNoRoomAndTabGoesDown)

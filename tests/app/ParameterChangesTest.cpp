@@ -8,48 +8,11 @@ namespace {
 
 class ParameterChangesTest : public testing::Test {
 protected:
-    std::shared_ptr<CIFilter> added(const char* name)
-    {
-        const std::shared_ptr<CIFilter> filter = maker.newFilter(name, picture, picture.extent());
-        changes.add(filter);
-        return filter;
-    }
-    static double radius(const CIFilter& filter) { return filter.valueForKey("inputRadius").toDouble(); }
-
     const CIImage picture = CIImage::fromBitmap(CIBitmap(40, 30));
     UndoManager undo;
     ParameterChanges changes{undo};
     FilterMaker maker;
 };
-
-TEST_F(ParameterChangesTest, EachIsANamedStepThatKeepsItsFilterAlive)
-{
-    std::shared_ptr<CIFilter> blur = added("CIGaussianBlur");
-    const std::weak_ptr<CIFilter> former = blur;
-    const double first = radius(*blur);
-    for (double radius : {20.0, 30.0}) {
-        changes.setFilterValueForKey(*blur, radius, "inputRadius");
-        changes.setActionNameForFilterKey(*blur, "inputRadius");
-    }
-    EXPECT_EQ(undo.undoActionName(), "Change to Gaussian Blur Radius");
-    blur.reset();
-    added("CIColorInvert");
-    ASSERT_FALSE(former.expired());
-    undo.undo();
-    EXPECT_EQ(radius(*former.lock()), 20);
-    EXPECT_EQ(undo.redoActionName(), "Change to Gaussian Blur Radius");
-    undo.undo();
-    EXPECT_EQ(radius(*former.lock()), first);
-    undo.redo();
-    undo.redo();
-    EXPECT_EQ(radius(*former.lock()), 30);
-
-    const auto stranger = CIFilter::filterWithName("CIGaussianBlur");
-    stranger->setDefaults();
-    const double before = radius(*stranger);
-    changes.setFilterValueForKey(*stranger, before + 1, "inputRadius");
-    EXPECT_EQ(radius(*stranger), before) << "a step could not keep it alive";
-}
 
 TEST_F(ParameterChangesTest, OfSettingsCanBeUndoneToo)
 {
@@ -61,17 +24,6 @@ TEST_F(ParameterChangesTest, OfSettingsCanBeUndoneToo)
     undo.redo();
     EXPECT_EQ(settings->at("Size").toDouble(), 7);
 }
-
-TEST_F(ParameterChangesTest, OnlyTheCurrentFilterHoldsOnToPictures)
-{
-    const std::shared_ptr<CIFilter> past = added("CIGaussianBlur"), current = added("CIBoxBlur");
-    changes.dropImagesOfPastFilters(current.get());
-    EXPECT_FALSE(past->valueForKey("inputImage").isImage());
-    EXPECT_GT(radius(*past), 0) << "its other inputs stay for undo";
-    EXPECT_TRUE(current->valueForKey("inputImage").toImage().isSameAs(picture));
-}
-
-// --- what a filter starts with ---
 
 TEST_F(ParameterChangesTest, NewFiltersHaveThePictureOrAnImageOfTheProgram)
 {

@@ -36,17 +36,6 @@ protected:
     StatusRow row{document, {window, field, bar, cancel}};
 };
 
-TEST_F(StatusRowTest, TellsAboutThePictureAndWhatHappens)
-{
-    row.update();
-    EXPECT_EQ(field.text(), "No picture");
-    document.setPicture(CIImage::fromBitmap(CIBitmap(30, 20)));
-    row.update();
-    EXPECT_EQ(field.text(), "30 × 20 px · sRGB 8-bit");
-    emit document.message("Something went wrong");
-    EXPECT_EQ(field.text(), "Something went wrong");
-}
-
 TEST_F(StatusRowTest, ShowsProgressAndGivesTheKeyboardBack)
 {
     row.showProgress("Opening…", [] { return 0.5; });

@@ -30,16 +30,6 @@ TEST(UndoNames, SplitKeysBeforeEveryCapitalAndDigit)
         EXPECT_EQ(unInterCap1(QString::fromUtf8(key)), QString::fromUtf8(expected)) << key;
 }
 
-TEST(UndoNames, TellFilterAndParameter)
-{
-    const std::shared_ptr<CIFilter> blur = CIFilter::filterWithName("CIGaussianBlur");
-    ASSERT_TRUE(blur);
-    EXPECT_EQ(actionNameForFilterKey(*blur, "inputRadius"), "Change to Gaussian Blur Radius");
-    EXPECT_EQ(actionNameForFilterKey(*blur, "inputShadingImage"), "Change to Gaussian Blur Shading Image");
-    EXPECT_EQ(actionNameForFilterKey(*blur, "otherKeyB"), "Change to Gaussian Blur Key B");
-    EXPECT_EQ(actionNameForFilterKey(*blur, "in"), "Change to Gaussian Blur ");
-}
-
 TEST(ZoomScale, IsTwoStraightPiecesThatMeetAtActualSize)
 {
     for (const auto& [position, zoom] :

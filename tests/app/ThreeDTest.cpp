@@ -70,7 +70,9 @@ TEST_F(ThreeDTest, UndoStepsOfAnEffectGoWithIt)
     choose(1);
     drag({60, 0});
     drag({0, 30});
-    EXPECT_EQ(action("actionUndo")->text(), "Undo Rotate");
+    ui.threeDBtn->click();
+    EXPECT_TRUE(ui.threeDBtn->isChecked());
+    EXPECT_EQ(action("actionUndo")->text(), "Undo Rotate") << "the mode that is on is no change";
     action("actionUndo")->trigger();
     EXPECT_EQ(object()->objectRotation()[1], 0);
     EXPECT_EQ(object()->objectRotation()[0], 60);
@@ -132,6 +134,9 @@ TEST_F(ThreeDTest, PanelsOfTheModesStayApart)
     EXPECT_EQ(rows().size(), 3);
     action("actionStandard")->trigger();
     EXPECT_EQ(ui.filterNameField->text(), "Gaussian Blur");
+    controller.filterChanged3D(nullptr);
+    EXPECT_FALSE(controller.getCurrentFilter()) << "a favourite asked from another mode clears that one";
+    EXPECT_TRUE(object());
 }
 
 TEST_F(ThreeDTest, EscapeInAnOpenPopUpClosesThePopUp)

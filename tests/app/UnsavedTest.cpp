@@ -93,6 +93,8 @@ TEST_F(UnsavedTest, APhotographThatWasShownReducedFirstLeavesTheFormerPictureToU
 TEST_F(UnsavedTest, AnUnreadableFileIsAStepAndItsReasonStays)
 {
     perform(&Controller::rotateLeft);
+    perform(&Controller::openImgPanelDidEnd, 0, QStringList{damagedFile()});
+    EXPECT_EQ(controller.getFilePath(), former) << "a cancelled panel changes nothing";
     openPicture(damagedFile());
     EXPECT_FALSE(controller.backImage());
     EXPECT_TRUE(window.windowTitle().startsWith("Lumivex::damaged.png"));

@@ -10,32 +10,10 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QProcess>
 #include <QTest>
-#include <QTimer>
 
 namespace {
-
-TEST_F(WindowTest, MenusTellWhatCanBeDone)
-{
-    EXPECT_FALSE(action("actionUndo")->isEnabled());
-    EXPECT_FALSE(action("actionRedo")->isEnabled());
-    EXPECT_FALSE(action("actionApply")->isEnabled());
-    EXPECT_TRUE(action("actionStandard")->isChecked());
-    EXPECT_TRUE(action("actionOpen")->isEnabled());
-    pick("CIGaussianBlur");
-    EXPECT_TRUE(action("actionApply")->isEnabled());
-    EXPECT_TRUE(action("actionClearEffect")->isEnabled());
-    perform(&Controller::applyBtn);
-    EXPECT_EQ(action("actionUndo")->isEnabled(), undo.canUndo());
-    action("action3D")->trigger();
-    EXPECT_TRUE(action("action3D")->isChecked());
-    EXPECT_FALSE(action("actionStandard")->isChecked());
-    EXPECT_FALSE(action("actionZoomIn")->isEnabled());
-    EXPECT_EQ(action("actionUndo")->text(), "Undo Change Mode");
-}
 
 TEST_F(WindowTest, StandardKeysAreThereAndDifferFromEachOther)
 {
@@ -148,18 +126,6 @@ TEST_F(WindowTest, ArrowsWalkTheListAndReturnFoldsGroups)
     EXPECT_FALSE(ui.listView->isItemExpanded(group));
 }
 
-TEST_F(WindowTest, UnsavedChangesKeepTheWindowOpenAndAskWhenQuitting)
-{
-    EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Now);
-    pick("CIGaussianBlur");
-    EXPECT_FALSE(window.close());
-    EXPECT_TRUE(window.isVisible());
-    answering(
-        "Cancel", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Cancel); });
-    answering(
-        "Don't Save", [&] { EXPECT_EQ(controller.applicationShouldTerminate(), Controller::TerminateReply::Now); });
-}
-
 TEST_F(WindowTest, ComesBackWhereItWas)
 {
     window.resize(900, 600);
@@ -181,17 +147,6 @@ TEST_F(WindowTest, IsNeverTooNarrowForItsToolsNorLargerThanTheScreenAtFirst)
     for (QAbstractButton* tool : ui.toolRow->findChildren<QAbstractButton*>())
         EXPECT_GE(tool->width(), tool->minimumSizeHint().width()) << tool->objectName().toStdString();
     EXPECT_GE(ui.standardBtn->width(), ui.standardBtn->sizeHint().width());
-}
-
-TEST_F(WindowTest, OpenPanelIsASheetOfTheWindow)
-{
-    controller.openImg();
-    auto* panel = window.findChild<QFileDialog*>();
-    ASSERT_TRUE(panel);
-    EXPECT_EQ(panel->windowModality(), Qt::WindowModal);
-    panel->reject();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(controller.getFilePath().isEmpty());
 }
 
 TEST_F(WindowTest, FollowsTheLook)

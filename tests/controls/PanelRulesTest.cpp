@@ -111,16 +111,6 @@ TEST(Transform, WithoutAPlaneHasNumbersAllTheSame)
     }
 }
 
-TEST(Readout, OfAFactorStandsAtItsPowerOfTen)
-{
-    const NumberLook factor{.min = -2, .max = 2, .isFactor = true};
-    EXPECT_EQ(factor.position(0), -2);
-    EXPECT_EQ(factor.position(-5), -2);
-    EXPECT_EQ(factor.position(1e9), 2);
-    EXPECT_EQ(factor.position(10), 1);
-    EXPECT_EQ(factor.numberAt(1), 10);
-}
-
 TEST(Panel, StacksRowsFromTheTopAndColorsInTwoColumns)
 {
     RowStack stack{.controlTopPosition = 490};

@@ -47,14 +47,4 @@ TEST(ExportNames, SizesAreExact)
     QLocale::setDefault(QLocale::system());
 }
 
-TEST(ExportNames, EverythingThatCanBeWrittenIsOffered)
-{
-    const auto& offered = exportableFormats();
-    for (const PictureFormat format :
-        {PictureFormat::Jpeg, PictureFormat::Jpeg2000, PictureFormat::Tiff, PictureFormat::Gif, PictureFormat::Png,
-            PictureFormat::Bmp, PictureFormat::Icns, PictureFormat::Pdf, PictureFormat::WebP, PictureFormat::Exr})
-        EXPECT_EQ(std::ranges::count(offered, &fileFormat(format)), 1) << fileFormat(format).name;
-    EXPECT_EQ(std::ranges::count(offered, &fileFormat(PictureFormat::CameraRaw)), 0);
-}
-
 } // namespace

@@ -1,8 +1,8 @@
-#include "platform/foundation/Appearance.h"
 #include "widgets/CustomScroller.h"
 #include "widgets/GradientButton.h"
 #include "widgets/onlyTextClosedButton.h"
 #include "widgets/ResourceImage.h"
+#include "widgets/ScrollerLayout.h"
 
 #include <gtest/gtest.h>
 #include <QScrollArea>
@@ -53,40 +53,9 @@ TEST(ResourceImages, AreThereAtOneAndTwoPixelsAPoint)
     }
 }
 
-TEST(GradientButton, IsVioletWhenOnAndDarkerBelowInBothLooks)
-{
-    GradientButton button;
-    button.resize(60, 100);
-    const auto colors = [&](bool on) {
-        const QImage image = button.gradientImage(on);
-        return std::pair{image.pixelColor(5, 0), image.pixelColor(5, image.height() - 1)};
-    };
-    const auto near = [](QColor a, QColor b) {
-        return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2
-            && std::abs(a.blue() - b.blue()) <= 2;
-    };
-    const auto expect = [&](bool on, QColor top) {
-        const auto [first, last] = colors(on);
-        EXPECT_TRUE(near(first, top)) << first.name().toStdString();
-        EXPECT_TRUE(near(last, GradientButton::darkerColorForColor(top))) << last.name().toStdString();
-    };
-    Appearance::shared().setChoice(Appearance::Choice::Light);
-    expect(true, QColor(208, 200, 255));
-    expect(false, QColor(220, 220, 220));
-    Appearance::shared().setChoice(Appearance::Choice::Dark);
-    expect(true, QColor(149, 132, 224));
-    expect(false, QColor(90, 90, 90));
-    Appearance::shared().setChoice(Appearance::Choice::System);
-    EXPECT_EQ(GradientButton::darkerColorForColor(QColor(255, 51, 10, 77)), QColor(204, 0, 0, 77));
-
-    button.setState(true);
-    EXPECT_TRUE(button.isChecked());
-    button.click();
-    EXPECT_FALSE(button.isChecked());
-}
-
 TEST(GradientButton, ShadesOnceFromTopToBottomOnAnyScreen)
 {
+    EXPECT_EQ(GradientButton::darkerColorForColor(QColor(255, 51, 10, 77)), QColor(204, 0, 0, 77));
     GradientButton button;
     button.resize(60, 100);
     const QImage shown = button.grab().toImage();
@@ -158,6 +127,27 @@ TEST_F(ScrollerTest, ShowsOnlyItsGroundWhenThereIsNothingToScroll)
     EXPECT_EQ(colors(), 1);
     EXPECT_EQ(scroller.partAt({6, 100}), CustomScroller::Part::None);
     EXPECT_EQ(CustomScroller::scrollerWidth(), 12);
+}
+
+TEST(ScrollerLayout, KnobFollowsProportionAndPosition)
+{
+    ScrollerLayout parts{.length = 224, .arrow = 12, .minKnob = 20, .proportion = 0.25, .position = 0};
+    EXPECT_EQ(parts.slotLength(), 200);
+    EXPECT_EQ(parts.knobLength(), 50);
+    EXPECT_EQ(parts.knobStart(), 12);
+    parts.position = 1;
+    EXPECT_EQ(parts.knobStart() + parts.knobLength(), 212);
+    for (double position : {0.0, 0.3, 1.0}) {
+        parts.position = position;
+        EXPECT_NEAR(parts.positionOf(parts.knobStart()), position, 1e-12);
+    }
+    EXPECT_EQ(parts.positionOf(-50), 0);
+    EXPECT_EQ(parts.positionOf(500), 1);
+    parts.proportion = 0.001;
+    EXPECT_EQ(parts.knobLength(), 20) << "can still be grabbed";
+    parts.length = 40;
+    EXPECT_EQ(parts.arrowLength(), 0) << "no room for arrows";
+    EXPECT_EQ(parts.slotLength(), 40);
 }
 
 } // namespace
