@@ -5487,6 +5487,729 @@
     </message>
 </context>
 <context>
+    <name>InputDescription</name>
+    <message>
+        <source>A point of the curve: brightness before and after, from 0 to 1.</source>
+        <translation>Ein Punkt der Kurve: Helligkeit vorher und nachher, von 0 bis 1.</translation>
+    </message>
+    <message>
+        <source>A round picture that says how light falls on slopes of each direction.</source>
+        <translation>Ein rundes Bild, das sagt, wie Licht auf Neigungen jeder Richtung fällt.</translation>
+    </message>
+    <message>
+        <source>A row of colors to begin with.</source>
+        <translation>Eine Reihe von Farben für den Anfang.</translation>
+    </message>
+    <message>
+        <source>A row of the colors that may be used.</source>
+        <translation>Eine Reihe der Farben, die benutzt werden dürfen.</translation>
+    </message>
+    <message>
+        <source>Brings the values to 0 to 1, so that they can be shown.</source>
+        <translation>Bringt die Werte auf 0 bis 1, damit sie sich zeigen lassen.</translation>
+    </message>
+    <message>
+        <source>From which brightness on something counts.</source>
+        <translation>Ab welcher Helligkeit etwas zählt.</translation>
+    </message>
+    <message>
+        <source>Goes on beyond white and black as the table ends, instead of clipping.</source>
+        <translation>Setzt die Tabelle jenseits von Weiß und Schwarz fort, statt abzuschneiden.</translation>
+    </message>
+    <message>
+        <source>How abruptly the color is replaced.</source>
+        <translation>Wie abrupt die Farbe ersetzt wird.</translation>
+    </message>
+    <message>
+        <source>How bright it is.</source>
+        <translation>Wie hell es ist.</translation>
+    </message>
+    <message>
+        <source>How bright the colors are.</source>
+        <translation>Wie hell die Farben sind.</translation>
+    </message>
+    <message>
+        <source>How colorful the picture is: 0 is gray, 1 as it was.</source>
+        <translation>Wie farbig das Bild ist: 0 ist grau, 1 wie zuvor.</translation>
+    </message>
+    <message>
+        <source>How crisp the enlarged picture is.</source>
+        <translation>Wie scharf das vergrößerte Bild ist.</translation>
+    </message>
+    <message>
+        <source>How dark the folds are.</source>
+        <translation>Wie dunkel die Falten sind.</translation>
+    </message>
+    <message>
+        <source>How dark the lines are.</source>
+        <translation>Wie dunkel die Linien sind.</translation>
+    </message>
+    <message>
+        <source>How dark the shadow is.</source>
+        <translation>Wie dunkel der Schatten ist.</translation>
+    </message>
+    <message>
+        <source>How different in brightness neighbors may be and still count.</source>
+        <translation>Wie verschieden hell Nachbarn sein dürfen, um noch zu zählen.</translation>
+    </message>
+    <message>
+        <source>How far from the middle the picture stays bright, as a share of half its diagonal.</source>
+        <translation>Wie weit von der Mitte das Bild hell bleibt, als Anteil seiner halben Diagonale.</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart; 1 is as it was.</source>
+        <translation>Wie weit Hell und Dunkel auseinanderliegen; 1 ist wie zuvor.</translation>
+    </message>
+    <message>
+        <source>How far neighbors count.</source>
+        <translation>Wie weit Nachbarn zählen.</translation>
+    </message>
+    <message>
+        <source>How far the blur reaches, as a standard deviation in pixels.</source>
+        <translation>Wie weit die Unschärfe reicht, als Standardabweichung in Pixeln.</translation>
+    </message>
+    <message>
+        <source>How far the camera is turned about what it looks at.</source>
+        <translation>Wie weit die Kamera um ihre Blickrichtung gedreht ist.</translation>
+    </message>
+    <message>
+        <source>How far the camera looks to the side.</source>
+        <translation>Wie weit die Kamera zur Seite blickt.</translation>
+    </message>
+    <message>
+        <source>How far the camera looks up or down.</source>
+        <translation>Wie weit die Kamera nach oben oder unten blickt.</translation>
+    </message>
+    <message>
+        <source>How far the change from one picture to the other has come: 0 is the first, 1 the second.</source>
+        <translation>Wie weit der Übergang von einem Bild zum anderen ist: 0 ist das erste, 1 das zweite.</translation>
+    </message>
+    <message>
+        <source>How far the colors of the ring lie over each other; 1 makes white.</source>
+        <translation>Wie weit die Farben des Rings übereinanderliegen; 1 gibt Weiß.</translation>
+    </message>
+    <message>
+        <source>How far the cross is turned.</source>
+        <translation>Wie weit das Kreuz gedreht ist.</translation>
+    </message>
+    <message>
+        <source>How far the effect reaches, in pixels of the picture.</source>
+        <translation>Wie weit die Wirkung reicht, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How far the pattern is turned.</source>
+        <translation>Wie weit das Muster gedreht ist.</translation>
+    </message>
+    <message>
+        <source>How far the rays cover each other instead of adding up.</source>
+        <translation>Wie weit die Strahlen einander decken, statt sich zu addieren.</translation>
+    </message>
+    <message>
+        <source>How far the rays differ from each other.</source>
+        <translation>Wie stark sich die Strahlen unterscheiden.</translation>
+    </message>
+    <message>
+        <source>How far the rays reach, in radii.</source>
+        <translation>Wie weit die Strahlen reichen, in Radien.</translation>
+    </message>
+    <message>
+        <source>How far the shadow lies to the side and upwards.</source>
+        <translation>Wie weit der Schatten zur Seite und nach oben liegt.</translation>
+    </message>
+    <message>
+        <source>How far weak edges are followed.</source>
+        <translation>Wie weit schwache Kanten verfolgt werden.</translation>
+    </message>
+    <message>
+        <source>How gradually it grows dark beyond the radius.</source>
+        <translation>Wie allmählich es jenseits des Radius dunkel wird.</translation>
+    </message>
+    <message>
+        <source>How hard edges are.</source>
+        <translation>Wie hart Kanten sind.</translation>
+    </message>
+    <message>
+        <source>How hard the rays end.</source>
+        <translation>Wie hart die Strahlen enden.</translation>
+    </message>
+    <message>
+        <source>How high it is, in pixels of the picture.</source>
+        <translation>Wie hoch es ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How high the bars are, in modules.</source>
+        <translation>Wie hoch die Striche sind, in Modulen.</translation>
+    </message>
+    <message>
+        <source>How large differences are that count as noise.</source>
+        <translation>Wie groß Unterschiede sind, die als Rauschen gelten.</translation>
+    </message>
+    <message>
+        <source>How large it is, in pixels of the picture.</source>
+        <translation>Wie groß es ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How large the ring of light is, in pixels of the picture.</source>
+        <translation>Wie groß der Lichtring ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How large the sun is, in pixels of the picture.</source>
+        <translation>Wie groß die Sonne ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How long the rays of the cross are.</source>
+        <translation>Wie lang die Strahlen des Kreuzes sind.</translation>
+    </message>
+    <message>
+        <source>How many arms the spiral has.</source>
+        <translation>Wie viele Arme die Spirale hat.</translation>
+    </message>
+    <message>
+        <source>How many columns of data the code has; 0 chooses.</source>
+        <translation>Wie viele Datenspalten der Code hat; 0 wählt selbst.</translation>
+    </message>
+    <message>
+        <source>How many folds there are.</source>
+        <translation>Wie viele Falten es gibt.</translation>
+    </message>
+    <message>
+        <source>How many parts there are: bins, colors or sectors.</source>
+        <translation>Wie viele Teile es gibt: Klassen, Farben oder Sektoren.</translation>
+    </message>
+    <message>
+        <source>How many pictures a turn holds.</source>
+        <translation>Wie viele Bilder eine Drehung enthält.</translation>
+    </message>
+    <message>
+        <source>How many pixels of the picture a point of the text takes.</source>
+        <translation>Wie viele Pixel des Bildes ein Punkt der Schrift einnimmt.</translation>
+    </message>
+    <message>
+        <source>How many rings the code has; 0 takes as few as will do.</source>
+        <translation>Wie viele Ringe der Code hat; 0 nimmt so wenige wie möglich.</translation>
+    </message>
+    <message>
+        <source>How many rows the code has; 0 chooses.</source>
+        <translation>Wie viele Zeilen der Code hat; 0 wählt selbst.</translation>
+    </message>
+    <message>
+        <source>How many steps each side of the color table has.</source>
+        <translation>Wie viele Stufen jede Seite der Farbtabelle hat.</translation>
+    </message>
+    <message>
+        <source>How many steps of brightness each color keeps.</source>
+        <translation>Wie viele Helligkeitsstufen jede Farbe behält.</translation>
+    </message>
+    <message>
+        <source>How many times brighter than white the picture becomes.</source>
+        <translation>Wievielmal heller als Weiß das Bild wird.</translation>
+    </message>
+    <message>
+        <source>How many times brighter than white the result may become.</source>
+        <translation>Wievielmal heller als Weiß das Ergebnis werden darf.</translation>
+    </message>
+    <message>
+        <source>How much brighter the rim of each disc of light is.</source>
+        <translation>Wie viel heller der Rand jeder Lichtscheibe ist.</translation>
+    </message>
+    <message>
+        <source>How much each neighbor of a pixel counts, row by row from the top left.</source>
+        <translation>Wie viel jeder Nachbar eines Pixels zählt, Zeile für Zeile von oben links.</translation>
+    </message>
+    <message>
+        <source>How much edges are sharpened before they are drawn.</source>
+        <translation>Wie stark Kanten geschärft werden, bevor sie gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>How much edges are sharpened.</source>
+        <translation>Wie stark Kanten geschärft werden.</translation>
+    </message>
+    <message>
+        <source>How much later each bar starts than the one before.</source>
+        <translation>Wie viel später jeder Streifen beginnt als der vorige.</translation>
+    </message>
+    <message>
+        <source>How much light is left from one tile to the next.</source>
+        <translation>Wie viel Licht von einer Kachel zur nächsten bleibt.</translation>
+    </message>
+    <message>
+        <source>How much noise hides the steps between colors.</source>
+        <translation>Wie viel Rauschen die Stufen zwischen Farben verbirgt.</translation>
+    </message>
+    <message>
+        <source>How much noise is taken away before edges are drawn.</source>
+        <translation>Wie viel Rauschen entfernt wird, bevor Kanten gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>How much of the bottom both pictures have in common.</source>
+        <translation>Wie viel vom unteren Rand beide Bilder gemeinsam haben.</translation>
+    </message>
+    <message>
+        <source>How much of the code may be damaged and still be read.</source>
+        <translation>Wie viel vom Code beschädigt sein darf und doch gelesen wird.</translation>
+    </message>
+    <message>
+        <source>How much of the effect is seen.</source>
+        <translation>Wie viel von der Wirkung zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>How much of the fitting is done by cutting: 0 only stretches, 1 only cuts.</source>
+        <translation>Wie viel der Anpassung durch Schneiden geschieht: 0 streckt nur, 1 schneidet nur.</translation>
+    </message>
+    <message>
+        <source>How much of the highlights stays: less than 1 lowers them.</source>
+        <translation>Wie viel von den Lichtern bleibt: weniger als 1 senkt sie.</translation>
+    </message>
+    <message>
+        <source>How much of the upper picture is seen: 0 shows the background alone, 1 the picture alone.</source>
+        <translation>Wie viel vom oberen Bild zu sehen ist: 0 zeigt nur den Hintergrund, 1 nur das Bild.</translation>
+    </message>
+    <message>
+        <source>How much of what the three inks have in common is printed in black.</source>
+        <translation>Wie viel des gemeinsamen Anteils der drei Farben schwarz gedruckt wird.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new blue.</source>
+        <translation>Wie viel Rot, Grün, Blau und Deckkraft zum neuen Blau geben.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new green.</source>
+        <translation>Wie viel Rot, Grün, Blau und Deckkraft zum neuen Grün geben.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new opacity.</source>
+        <translation>Wie viel Rot, Grün, Blau und Deckkraft zur neuen Deckkraft geben.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new red.</source>
+        <translation>Wie viel Rot, Grün, Blau und Deckkraft zum neuen Rot geben.</translation>
+    </message>
+    <message>
+        <source>How much the middle is stretched along: 0 leaves it to the edges.</source>
+        <translation>Wie sehr die Mitte mitgestreckt wird: 0 überlässt es den Rändern.</translation>
+    </message>
+    <message>
+        <source>How much the picture is smoothed before edges are looked for.</source>
+        <translation>Wie stark das Bild geglättet wird, bevor Kanten gesucht werden.</translation>
+    </message>
+    <message>
+        <source>How much the shadows change.</source>
+        <translation>Wie stark sich die Schatten ändern.</translation>
+    </message>
+    <message>
+        <source>How much wider and higher the picture becomes.</source>
+        <translation>Wie viel breiter und höher das Bild wird.</translation>
+    </message>
+    <message>
+        <source>How much wider than high the result becomes; 1 keeps the proportions.</source>
+        <translation>Wie viel breiter als hoch das Ergebnis wird; 1 behält die Proportionen.</translation>
+    </message>
+    <message>
+        <source>How narrow the cone of light is: smaller is narrower.</source>
+        <translation>Wie eng der Lichtkegel ist: kleiner ist enger.</translation>
+    </message>
+    <message>
+        <source>How near a color must be to be replaced.</source>
+        <translation>Wie ähnlich eine Farbe sein muss, um ersetzt zu werden.</translation>
+    </message>
+    <message>
+        <source>How near the spiral is seen from.</source>
+        <translation>Aus welcher Nähe die Spirale zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>How often the colors are improved.</source>
+        <translation>Wie oft die Farben verbessert werden.</translation>
+    </message>
+    <message>
+        <source>How opaque it is.</source>
+        <translation>Wie deckend es ist.</translation>
+    </message>
+    <message>
+        <source>How small a difference is still no edge, or still light.</source>
+        <translation>Wie klein ein Unterschied sein darf, der noch keine Kante oder noch Licht ist.</translation>
+    </message>
+    <message>
+        <source>How soft edges are.</source>
+        <translation>Wie weich Kanten sind.</translation>
+    </message>
+    <message>
+        <source>How soft the enlarged picture is.</source>
+        <translation>Wie weich das vergrößerte Bild ist.</translation>
+    </message>
+    <message>
+        <source>How soft the shadow is, in pixels of the picture.</source>
+        <translation>Wie weich der Schatten ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How strong an edge must be to be found.</source>
+        <translation>Wie stark eine Kante sein muss, um gefunden zu werden.</translation>
+    </message>
+    <message>
+        <source>How strong or how large the effect is.</source>
+        <translation>Wie stark oder wie groß die Wirkung ist.</translation>
+    </message>
+    <message>
+        <source>How strongly the glass bends light; 1 is air, 1.5 window glass.</source>
+        <translation>Wie stark das Glas Licht bricht; 1 ist Luft, 1,5 Fensterglas.</translation>
+    </message>
+    <message>
+        <source>How the message is packed: 0 chooses, 1 digits, 2 text, 3 bytes.</source>
+        <translation>Wie die Nachricht gepackt wird: 0 wählt, 1 Ziffern, 2 Text, 3 Bytes.</translation>
+    </message>
+    <message>
+        <source>How the picture is moved, turned, scaled and slanted.</source>
+        <translation>Wie das Bild verschoben, gedreht, skaliert und geneigt wird.</translation>
+    </message>
+    <message>
+        <source>How tightly the holes are twisted.</source>
+        <translation>Wie eng die Löcher verdreht sind.</translation>
+    </message>
+    <message>
+        <source>How weak an edge may become that goes on from a strong one.</source>
+        <translation>Wie schwach eine Kante werden darf, die eine starke fortsetzt.</translation>
+    </message>
+    <message>
+        <source>How wide one element is, in pixels of the picture.</source>
+        <translation>Wie breit ein Element ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How wide that rim is.</source>
+        <translation>Wie breit dieser Rand ist.</translation>
+    </message>
+    <message>
+        <source>How wide the edges are that are sharpened.</source>
+        <translation>Wie breit die Kanten sind, die geschärft werden.</translation>
+    </message>
+    <message>
+        <source>How wide the rays are, in pixels of the picture.</source>
+        <translation>Wie breit die Strahlen sind, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>How wide the ring of light is.</source>
+        <translation>Wie breit der Lichtring ist.</translation>
+    </message>
+    <message>
+        <source>How wide the shadow is.</source>
+        <translation>Wie breit der Schatten ist.</translation>
+    </message>
+    <message>
+        <source>How wide to high the code should be if it can.</source>
+        <translation>Welches Verhältnis von Breite zu Höhe der Code haben soll, wenn es geht.</translation>
+    </message>
+    <message>
+        <source>In which values the table or gradient is meant.</source>
+        <translation>In welchen Werten die Tabelle oder der Verlauf gemeint ist.</translation>
+    </message>
+    <message>
+        <source>Is added to every result; with 0.5 the middle becomes gray.</source>
+        <translation>Wird zu jedem Ergebnis addiert; mit 0,5 wird die Mitte grau.</translation>
+    </message>
+    <message>
+        <source>Is added to red, green, blue and opacity.</source>
+        <translation>Wird zu Rot, Grün, Blau und Deckkraft addiert.</translation>
+    </message>
+    <message>
+        <source>Judges differences as the eye does, not by light alone.</source>
+        <translation>Bewertet Unterschiede wie das Auge, nicht nur nach Licht.</translation>
+    </message>
+    <message>
+        <source>Leaves out what readers can do without, for a smaller code.</source>
+        <translation>Lässt weg, was Lesegeräte entbehren können, für einen kleineren Code.</translation>
+    </message>
+    <message>
+        <source>Makes the result as large as the straightened part alone.</source>
+        <translation>Macht das Ergebnis so groß wie der gerade gerichtete Teil allein.</translation>
+    </message>
+    <message>
+        <source>Mirrors every second tile from top to bottom.</source>
+        <translation>Spiegelt jede zweite Kachel von oben nach unten.</translation>
+    </message>
+    <message>
+        <source>Moves the picture by its brightness: red to the side, green upwards.</source>
+        <translation>Verschiebt das Bild durch seine Helligkeit: Rot zur Seite, Grün nach oben.</translation>
+    </message>
+    <message>
+        <source>Of the lens the picture was taken with, on 35 mm film; longer ones bend less.</source>
+        <translation>Des Objektivs, mit dem aufgenommen wurde, auf Kleinbild; längere verzerren weniger.</translation>
+    </message>
+    <message>
+        <source>One of the points that the filter goes by.</source>
+        <translation>Einer der Punkte, nach denen sich der Filter richtet.</translation>
+    </message>
+    <message>
+        <source>One of the two color tables between which the mask decides.</source>
+        <translation>Eine der beiden Farbtabellen, zwischen denen die Maske entscheidet.</translation>
+    </message>
+    <message>
+        <source>Says by its brightness how strong the effect is at each place.</source>
+        <translation>Sagt durch ihre Helligkeit, wie stark die Wirkung an jeder Stelle ist.</translation>
+    </message>
+    <message>
+        <source>Says by its brightness or transparency where which picture is seen.</source>
+        <translation>Sagt durch Helligkeit oder Durchsichtigkeit, wo welches Bild zu sehen ist.</translation>
+    </message>
+    <message>
+        <source>Says in the code how it is packed, also where readers know.</source>
+        <translation>Sagt im Code, wie er gepackt ist, auch wo Lesegeräte es wissen.</translation>
+    </message>
+    <message>
+        <source>Steps of exposure: each doubles the light.</source>
+        <translation>Blendenstufen: jede verdoppelt das Licht.</translation>
+    </message>
+    <message>
+        <source>The brightest step of exposure that is counted.</source>
+        <translation>Die hellste Blendenstufe, die gezählt wird.</translation>
+    </message>
+    <message>
+        <source>The color table: what each color becomes.</source>
+        <translation>Die Farbtabelle: was aus jeder Farbe wird.</translation>
+    </message>
+    <message>
+        <source>The color that is looked for.</source>
+        <translation>Die Farbe, die gesucht wird.</translation>
+    </message>
+    <message>
+        <source>The color that takes its place.</source>
+        <translation>Die Farbe, die an ihre Stelle tritt.</translation>
+    </message>
+    <message>
+        <source>The color that the filter works with.</source>
+        <translation>Die Farbe, mit der der Filter arbeitet.</translation>
+    </message>
+    <message>
+        <source>The colors that take the place of dark to light, from left to right.</source>
+        <translation>Die Farben, die an die Stelle von Dunkel bis Hell treten, von links nach rechts.</translation>
+    </message>
+    <message>
+        <source>The curves: what becomes of red, green and blue, from dark to light.</source>
+        <translation>Die Kurven: was aus Rot, Grün und Blau wird, von dunkel nach hell.</translation>
+    </message>
+    <message>
+        <source>The darkest and brightest value that the curves are about.</source>
+        <translation>Der dunkelste und der hellste Wert, für den die Kurven gelten.</translation>
+    </message>
+    <message>
+        <source>The darkest step of exposure that is counted.</source>
+        <translation>Die dunkelste Blendenstufe, die gezählt wird.</translation>
+    </message>
+    <message>
+        <source>The direction, counted counterclockwise from the right.</source>
+        <translation>Die Richtung, von rechts aus gegen den Uhrzeigersinn gezählt.</translation>
+    </message>
+    <message>
+        <source>The distance at which white is reached, in pixels of the picture.</source>
+        <translation>Die Entfernung, bei der Weiß erreicht ist, in Pixeln des Bildes.</translation>
+    </message>
+    <message>
+        <source>The exponent: above 1 the middle tones darken, below they brighten.</source>
+        <translation>Der Exponent: über 1 werden die Mitteltöne dunkler, darunter heller.</translation>
+    </message>
+    <message>
+        <source>The first of the two colors; for false colors, what black becomes.</source>
+        <translation>Die erste der beiden Farben; bei Falschfarben das, was Schwarz wird.</translation>
+    </message>
+    <message>
+        <source>The free space around the code, in modules.</source>
+        <translation>Der freie Raum um den Code, in Modulen.</translation>
+    </message>
+    <message>
+        <source>The free space around the text.</source>
+        <translation>Der freie Raum um den Text.</translation>
+    </message>
+    <message>
+        <source>The greatest height of the code, in modules.</source>
+        <translation>Die größte Höhe des Codes, in Modulen.</translation>
+    </message>
+    <message>
+        <source>The greatest width of the code, in modules.</source>
+        <translation>Die größte Breite des Codes, in Modulen.</translation>
+    </message>
+    <message>
+        <source>The height of the letters in points.</source>
+        <translation>Die Höhe der Buchstaben in Punkt.</translation>
+    </message>
+    <message>
+        <source>The large picture along whose edges the small one is enlarged.</source>
+        <translation>Das große Bild, an dessen Kanten entlang das kleine vergrößert wird.</translation>
+    </message>
+    <message>
+        <source>The least height of the code, in modules.</source>
+        <translation>Die kleinste Höhe des Codes, in Modulen.</translation>
+    </message>
+    <message>
+        <source>The least red, green, blue and opacity that is left.</source>
+        <translation>Das Mindeste an Rot, Grün, Blau und Deckkraft, das bleibt.</translation>
+    </message>
+    <message>
+        <source>The least width of the code, in modules.</source>
+        <translation>Die kleinste Breite des Codes, in Modulen.</translation>
+    </message>
+    <message>
+        <source>The light it is to look like: temperature in kelvin, and tint.</source>
+        <translation>Das Licht, nach dem es aussehen soll: Temperatur in Kelvin und Tönung.</translation>
+    </message>
+    <message>
+        <source>The light that the picture was taken in: temperature in kelvin, and tint.</source>
+        <translation>Das Licht der Aufnahme: Temperatur in Kelvin und Tönung.</translation>
+    </message>
+    <message>
+        <source>The lines that are drawn, by their ends.</source>
+        <translation>Die gezeichneten Linien, durch ihre Enden.</translation>
+    </message>
+    <message>
+        <source>The lower left corner of the frame in which the picture stands again.</source>
+        <translation>Die untere linke Ecke des Rahmens, in dem das Bild wieder steht.</translation>
+    </message>
+    <message>
+        <source>The lower left corner of the part that grows.</source>
+        <translation>Die untere linke Ecke des Teils, der wächst.</translation>
+    </message>
+    <message>
+        <source>The lower left corner.</source>
+        <translation>Die untere linke Ecke.</translation>
+    </message>
+    <message>
+        <source>The lower right corner.</source>
+        <translation>Die untere rechte Ecke.</translation>
+    </message>
+    <message>
+        <source>The most red, green, blue and opacity that is left.</source>
+        <translation>Das Meiste an Rot, Grün, Blau und Deckkraft, das bleibt.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new blue is computed.</source>
+        <translation>Die Zahlen, aus denen das neue Blau berechnet wird.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new green is computed.</source>
+        <translation>Die Zahlen, aus denen das neue Grün berechnet wird.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new opacity is computed.</source>
+        <translation>Die Zahlen, aus denen die neue Deckkraft berechnet wird.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new red is computed.</source>
+        <translation>Die Zahlen, aus denen das neue Rot berechnet wird.</translation>
+    </message>
+    <message>
+        <source>The part of the picture that counts.</source>
+        <translation>Der Teil des Bildes, der zählt.</translation>
+    </message>
+    <message>
+        <source>The part of the picture that stays.</source>
+        <translation>Der Teil des Bildes, der bleibt.</translation>
+    </message>
+    <message>
+        <source>The part of the picture where there is a shadow.</source>
+        <translation>Der Teil des Bildes, in dem Schatten liegt.</translation>
+    </message>
+    <message>
+        <source>The picture that lies under the other one.</source>
+        <translation>Das Bild, das unter dem anderen liegt.</translation>
+    </message>
+    <message>
+        <source>The picture that the change ends with.</source>
+        <translation>Das Bild, mit dem der Übergang endet.</translation>
+    </message>
+    <message>
+        <source>The picture that the filter changes.</source>
+        <translation>Das Bild, das der Filter verändert.</translation>
+    </message>
+    <message>
+        <source>The picture that the first one is compared with.</source>
+        <translation>Das Bild, mit dem das erste verglichen wird.</translation>
+    </message>
+    <message>
+        <source>The picture whose relief the glass has.</source>
+        <translation>Das Bild, dessen Relief das Glas hat.</translation>
+    </message>
+    <message>
+        <source>The place in the picture that the effect goes out from.</source>
+        <translation>Die Stelle im Bild, von der die Wirkung ausgeht.</translation>
+    </message>
+    <message>
+        <source>The place that the lamp shines at.</source>
+        <translation>Die Stelle, auf die die Lampe scheint.</translation>
+    </message>
+    <message>
+        <source>The point that the pattern grows from.</source>
+        <translation>Der Punkt, von dem das Muster ausgeht.</translation>
+    </message>
+    <message>
+        <source>The second of the two colors; for false colors, what white becomes.</source>
+        <translation>Die zweite der beiden Farben; bei Falschfarben das, was Weiß wird.</translation>
+    </message>
+    <message>
+        <source>The sharp angle of a tile&apos;s corner.</source>
+        <translation>Der spitze Winkel einer Kachelecke.</translation>
+    </message>
+    <message>
+        <source>The small picture that is enlarged.</source>
+        <translation>Das kleine Bild, das vergrößert wird.</translation>
+    </message>
+    <message>
+        <source>The text that the code holds.</source>
+        <translation>Der Text, den der Code enthält.</translation>
+    </message>
+    <message>
+        <source>The typeface.</source>
+        <translation>Die Schriftart.</translation>
+    </message>
+    <message>
+        <source>The upper left corner.</source>
+        <translation>Die obere linke Ecke.</translation>
+    </message>
+    <message>
+        <source>The upper right corner of the frame in which the picture stands again.</source>
+        <translation>Die obere rechte Ecke des Rahmens, in dem das Bild wieder steht.</translation>
+    </message>
+    <message>
+        <source>The upper right corner of the part that grows.</source>
+        <translation>Die obere rechte Ecke des Teils, der wächst.</translation>
+    </message>
+    <message>
+        <source>The upper right corner.</source>
+        <translation>Die obere rechte Ecke.</translation>
+    </message>
+    <message>
+        <source>What is on the back of the page.</source>
+        <translation>Was auf der Rückseite des Blattes ist.</translation>
+    </message>
+    <message>
+        <source>What is written.</source>
+        <translation>Was geschrieben steht.</translation>
+    </message>
+    <message>
+        <source>What lies above it is drawn lighter.</source>
+        <translation>Was darüber liegt, wird heller gezeichnet.</translation>
+    </message>
+    <message>
+        <source>What lies below it is drawn darker.</source>
+        <translation>Was darunter liegt, wird dunkler gezeichnet.</translation>
+    </message>
+    <message>
+        <source>When the second picture begins to come through the light.</source>
+        <translation>Wann das zweite Bild durch das Licht zu kommen beginnt.</translation>
+    </message>
+    <message>
+        <source>Where the first color ends, in pixels from the center.</source>
+        <translation>Wo die erste Farbe endet, in Pixeln von der Mitte.</translation>
+    </message>
+    <message>
+        <source>Where the lamp hangs: to the side, upwards and above the picture.</source>
+        <translation>Wo die Lampe hängt: seitlich, nach oben und über dem Bild.</translation>
+    </message>
+    <message>
+        <source>Where the second color begins, in pixels from the center.</source>
+        <translation>Wo die zweite Farbe beginnt, in Pixeln von der Mitte.</translation>
+    </message>
+    <message>
+        <source>Whether black replaces the inks in the shadows alone (0) or everywhere (1).</source>
+        <translation>Ob Schwarz die Farben nur in den Schatten ersetzt (0) oder überall (1).</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>

@@ -5487,6 +5487,729 @@
     </message>
 </context>
 <context>
+    <name>InputDescription</name>
+    <message>
+        <source>A point of the curve: brightness before and after, from 0 to 1.</source>
+        <translation>Un point de la courbe : clarté avant et après, de 0 à 1.</translation>
+    </message>
+    <message>
+        <source>A round picture that says how light falls on slopes of each direction.</source>
+        <translation>Une image ronde qui dit comment la lumière tombe sur chaque pente.</translation>
+    </message>
+    <message>
+        <source>A row of colors to begin with.</source>
+        <translation>Une rangée de couleurs de départ.</translation>
+    </message>
+    <message>
+        <source>A row of the colors that may be used.</source>
+        <translation>Une rangée des couleurs permises.</translation>
+    </message>
+    <message>
+        <source>Brings the values to 0 to 1, so that they can be shown.</source>
+        <translation>Ramène les valeurs entre 0 et 1 pour les montrer.</translation>
+    </message>
+    <message>
+        <source>From which brightness on something counts.</source>
+        <translation>La clarté à partir de laquelle quelque chose compte.</translation>
+    </message>
+    <message>
+        <source>Goes on beyond white and black as the table ends, instead of clipping.</source>
+        <translation>Prolonge la table au-delà du blanc et du noir au lieu d’écrêter.</translation>
+    </message>
+    <message>
+        <source>How abruptly the color is replaced.</source>
+        <translation>La brusquerie du remplacement de la couleur.</translation>
+    </message>
+    <message>
+        <source>How bright it is.</source>
+        <translation>La clarté.</translation>
+    </message>
+    <message>
+        <source>How bright the colors are.</source>
+        <translation>La clarté des couleurs.</translation>
+    </message>
+    <message>
+        <source>How colorful the picture is: 0 is gray, 1 as it was.</source>
+        <translation>La vivacité des couleurs : 0 est gris, 1 inchangé.</translation>
+    </message>
+    <message>
+        <source>How crisp the enlarged picture is.</source>
+        <translation>Le piqué de l’image agrandie.</translation>
+    </message>
+    <message>
+        <source>How dark the folds are.</source>
+        <translation>L’ombre des plis.</translation>
+    </message>
+    <message>
+        <source>How dark the lines are.</source>
+        <translation>La noirceur des traits.</translation>
+    </message>
+    <message>
+        <source>How dark the shadow is.</source>
+        <translation>L’opacité de l’ombre.</translation>
+    </message>
+    <message>
+        <source>How different in brightness neighbors may be and still count.</source>
+        <translation>L’écart de clarté jusqu’où comptent les voisins.</translation>
+    </message>
+    <message>
+        <source>How far from the middle the picture stays bright, as a share of half its diagonal.</source>
+        <translation>Jusqu’où, depuis le milieu, l’image reste claire, en part de sa demi-diagonale.</translation>
+    </message>
+    <message>
+        <source>How far light and dark are apart; 1 is as it was.</source>
+        <translation>L’écart entre clair et sombre ; 1 est inchangé.</translation>
+    </message>
+    <message>
+        <source>How far neighbors count.</source>
+        <translation>Jusqu’où comptent les voisins.</translation>
+    </message>
+    <message>
+        <source>How far the blur reaches, as a standard deviation in pixels.</source>
+        <translation>L’étendue du flou, en écart type, en pixels.</translation>
+    </message>
+    <message>
+        <source>How far the camera is turned about what it looks at.</source>
+        <translation>De combien l’appareil est tourné autour de son axe.</translation>
+    </message>
+    <message>
+        <source>How far the camera looks to the side.</source>
+        <translation>De combien l’appareil regarde sur le côté.</translation>
+    </message>
+    <message>
+        <source>How far the camera looks up or down.</source>
+        <translation>De combien l’appareil regarde vers le haut ou le bas.</translation>
+    </message>
+    <message>
+        <source>How far the change from one picture to the other has come: 0 is the first, 1 the second.</source>
+        <translation>L’avancement du passage d’une image à l’autre : 0 est la première, 1 la seconde.</translation>
+    </message>
+    <message>
+        <source>How far the colors of the ring lie over each other; 1 makes white.</source>
+        <translation>Le recouvrement des couleurs de l’anneau ; 1 donne du blanc.</translation>
+    </message>
+    <message>
+        <source>How far the cross is turned.</source>
+        <translation>De combien la croix est tournée.</translation>
+    </message>
+    <message>
+        <source>How far the effect reaches, in pixels of the picture.</source>
+        <translation>Jusqu’où va l’effet, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How far the pattern is turned.</source>
+        <translation>De combien le motif est tourné.</translation>
+    </message>
+    <message>
+        <source>How far the rays cover each other instead of adding up.</source>
+        <translation>Dans quelle mesure les rayons se couvrent au lieu de s’ajouter.</translation>
+    </message>
+    <message>
+        <source>How far the rays differ from each other.</source>
+        <translation>L’écart entre les rayons.</translation>
+    </message>
+    <message>
+        <source>How far the rays reach, in radii.</source>
+        <translation>La portée des rayons, en rayons du centre.</translation>
+    </message>
+    <message>
+        <source>How far the shadow lies to the side and upwards.</source>
+        <translation>Le décalage de l’ombre sur le côté et vers le haut.</translation>
+    </message>
+    <message>
+        <source>How far weak edges are followed.</source>
+        <translation>Jusqu’où les contours faibles sont suivis.</translation>
+    </message>
+    <message>
+        <source>How gradually it grows dark beyond the radius.</source>
+        <translation>La douceur de l’assombrissement au-delà du rayon.</translation>
+    </message>
+    <message>
+        <source>How hard edges are.</source>
+        <translation>La dureté des bords.</translation>
+    </message>
+    <message>
+        <source>How hard the rays end.</source>
+        <translation>La netteté des rayons.</translation>
+    </message>
+    <message>
+        <source>How high it is, in pixels of the picture.</source>
+        <translation>La hauteur, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How high the bars are, in modules.</source>
+        <translation>La hauteur des barres, en modules.</translation>
+    </message>
+    <message>
+        <source>How large differences are that count as noise.</source>
+        <translation>La taille des différences tenues pour du bruit.</translation>
+    </message>
+    <message>
+        <source>How large it is, in pixels of the picture.</source>
+        <translation>La taille, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How large the ring of light is, in pixels of the picture.</source>
+        <translation>La taille de l’anneau de lumière, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How large the sun is, in pixels of the picture.</source>
+        <translation>La taille du soleil, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How long the rays of the cross are.</source>
+        <translation>La longueur des rayons de la croix.</translation>
+    </message>
+    <message>
+        <source>How many arms the spiral has.</source>
+        <translation>Le nombre de bras de la spirale.</translation>
+    </message>
+    <message>
+        <source>How many columns of data the code has; 0 chooses.</source>
+        <translation>Le nombre de colonnes de données du code ; 0 choisit.</translation>
+    </message>
+    <message>
+        <source>How many folds there are.</source>
+        <translation>Le nombre de plis.</translation>
+    </message>
+    <message>
+        <source>How many parts there are: bins, colors or sectors.</source>
+        <translation>Le nombre de parties : classes, couleurs ou secteurs.</translation>
+    </message>
+    <message>
+        <source>How many pictures a turn holds.</source>
+        <translation>Le nombre d’images par tour.</translation>
+    </message>
+    <message>
+        <source>How many pixels of the picture a point of the text takes.</source>
+        <translation>Le nombre de pixels de l’image pour un point du texte.</translation>
+    </message>
+    <message>
+        <source>How many rings the code has; 0 takes as few as will do.</source>
+        <translation>Le nombre d’anneaux du code ; 0 en prend le moins possible.</translation>
+    </message>
+    <message>
+        <source>How many rows the code has; 0 chooses.</source>
+        <translation>Le nombre de lignes du code ; 0 choisit.</translation>
+    </message>
+    <message>
+        <source>How many steps each side of the color table has.</source>
+        <translation>Le nombre de pas de chaque côté de la table de couleurs.</translation>
+    </message>
+    <message>
+        <source>How many steps of brightness each color keeps.</source>
+        <translation>Le nombre de niveaux que garde chaque couleur.</translation>
+    </message>
+    <message>
+        <source>How many times brighter than white the picture becomes.</source>
+        <translation>Combien de fois l’image dépasse le blanc.</translation>
+    </message>
+    <message>
+        <source>How many times brighter than white the result may become.</source>
+        <translation>Combien de fois le résultat peut dépasser le blanc.</translation>
+    </message>
+    <message>
+        <source>How much brighter the rim of each disc of light is.</source>
+        <translation>De combien le bord de chaque disque de lumière est plus clair.</translation>
+    </message>
+    <message>
+        <source>How much each neighbor of a pixel counts, row by row from the top left.</source>
+        <translation>Le poids de chaque voisin d’un pixel, ligne par ligne depuis le coin supérieur gauche.</translation>
+    </message>
+    <message>
+        <source>How much edges are sharpened before they are drawn.</source>
+        <translation>Le renforcement des bords avant leur tracé.</translation>
+    </message>
+    <message>
+        <source>How much edges are sharpened.</source>
+        <translation>La force du renforcement des bords.</translation>
+    </message>
+    <message>
+        <source>How much later each bar starts than the one before.</source>
+        <translation>Le retard de chaque bande sur la précédente.</translation>
+    </message>
+    <message>
+        <source>How much light is left from one tile to the next.</source>
+        <translation>La lumière qui reste d’une tuile à l’autre.</translation>
+    </message>
+    <message>
+        <source>How much noise hides the steps between colors.</source>
+        <translation>Le bruit qui cache les pas entre les couleurs.</translation>
+    </message>
+    <message>
+        <source>How much noise is taken away before edges are drawn.</source>
+        <translation>Le bruit enlevé avant le tracé des contours.</translation>
+    </message>
+    <message>
+        <source>How much of the bottom both pictures have in common.</source>
+        <translation>La hauteur du bas que les deux images ont en commun.</translation>
+    </message>
+    <message>
+        <source>How much of the code may be damaged and still be read.</source>
+        <translation>La part du code qui peut être abîmée tout en restant lisible.</translation>
+    </message>
+    <message>
+        <source>How much of the effect is seen.</source>
+        <translation>La part visible de l’effet.</translation>
+    </message>
+    <message>
+        <source>How much of the fitting is done by cutting: 0 only stretches, 1 only cuts.</source>
+        <translation>La part de rognage : 0 ne fait qu’étirer, 1 ne fait que rogner.</translation>
+    </message>
+    <message>
+        <source>How much of the highlights stays: less than 1 lowers them.</source>
+        <translation>Ce qui reste des hautes lumières : moins de 1 les baisse.</translation>
+    </message>
+    <message>
+        <source>How much of the upper picture is seen: 0 shows the background alone, 1 the picture alone.</source>
+        <translation>La part visible de l’image du dessus : 0 montre le fond seul, 1 l’image seule.</translation>
+    </message>
+    <message>
+        <source>How much of what the three inks have in common is printed in black.</source>
+        <translation>La part commune des trois encres imprimée en noir.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new blue.</source>
+        <translation>L’apport du rouge, du vert, du bleu et de l’opacité au nouveau bleu.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new green.</source>
+        <translation>L’apport du rouge, du vert, du bleu et de l’opacité au nouveau vert.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new opacity.</source>
+        <translation>L’apport du rouge, du vert, du bleu et de l’opacité à la nouvelle opacité.</translation>
+    </message>
+    <message>
+        <source>How much red, green, blue and opacity give to the new red.</source>
+        <translation>L’apport du rouge, du vert, du bleu et de l’opacité au nouveau rouge.</translation>
+    </message>
+    <message>
+        <source>How much the middle is stretched along: 0 leaves it to the edges.</source>
+        <translation>La part d’étirement du milieu : 0 la laisse aux bords.</translation>
+    </message>
+    <message>
+        <source>How much the picture is smoothed before edges are looked for.</source>
+        <translation>Le lissage de l’image avant la recherche des contours.</translation>
+    </message>
+    <message>
+        <source>How much the shadows change.</source>
+        <translation>L’effet sur les ombres.</translation>
+    </message>
+    <message>
+        <source>How much wider and higher the picture becomes.</source>
+        <translation>De combien l’image s’élargit et grandit.</translation>
+    </message>
+    <message>
+        <source>How much wider than high the result becomes; 1 keeps the proportions.</source>
+        <translation>De combien le résultat devient plus large que haut ; 1 garde les proportions.</translation>
+    </message>
+    <message>
+        <source>How narrow the cone of light is: smaller is narrower.</source>
+        <translation>L’étroitesse du cône de lumière : plus petit est plus étroit.</translation>
+    </message>
+    <message>
+        <source>How near a color must be to be replaced.</source>
+        <translation>La ressemblance qu’il faut pour être remplacée.</translation>
+    </message>
+    <message>
+        <source>How near the spiral is seen from.</source>
+        <translation>De quelle distance on voit la spirale.</translation>
+    </message>
+    <message>
+        <source>How often the colors are improved.</source>
+        <translation>Le nombre d’améliorations des couleurs.</translation>
+    </message>
+    <message>
+        <source>How opaque it is.</source>
+        <translation>L’opacité.</translation>
+    </message>
+    <message>
+        <source>How small a difference is still no edge, or still light.</source>
+        <translation>La plus petite différence qui compte encore.</translation>
+    </message>
+    <message>
+        <source>How soft edges are.</source>
+        <translation>La douceur des bords.</translation>
+    </message>
+    <message>
+        <source>How soft the enlarged picture is.</source>
+        <translation>La douceur de l’image agrandie.</translation>
+    </message>
+    <message>
+        <source>How soft the shadow is, in pixels of the picture.</source>
+        <translation>La douceur de l’ombre, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How strong an edge must be to be found.</source>
+        <translation>La force qu’il faut à un contour pour être trouvé.</translation>
+    </message>
+    <message>
+        <source>How strong or how large the effect is.</source>
+        <translation>La force ou la taille de l’effet.</translation>
+    </message>
+    <message>
+        <source>How strongly the glass bends light; 1 is air, 1.5 window glass.</source>
+        <translation>La réfraction du verre : 1 est l’air, 1,5 le verre de vitre.</translation>
+    </message>
+    <message>
+        <source>How the message is packed: 0 chooses, 1 digits, 2 text, 3 bytes.</source>
+        <translation>La compression du message : 0 choisit, 1 chiffres, 2 texte, 3 octets.</translation>
+    </message>
+    <message>
+        <source>How the picture is moved, turned, scaled and slanted.</source>
+        <translation>Comment l’image est déplacée, tournée, mise à l’échelle et inclinée.</translation>
+    </message>
+    <message>
+        <source>How tightly the holes are twisted.</source>
+        <translation>Le resserrement de la torsion des trous.</translation>
+    </message>
+    <message>
+        <source>How weak an edge may become that goes on from a strong one.</source>
+        <translation>La faiblesse permise à un contour qui prolonge un contour fort.</translation>
+    </message>
+    <message>
+        <source>How wide one element is, in pixels of the picture.</source>
+        <translation>La largeur d’un élément, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How wide that rim is.</source>
+        <translation>La largeur de ce bord.</translation>
+    </message>
+    <message>
+        <source>How wide the edges are that are sharpened.</source>
+        <translation>La largeur des bords renforcés.</translation>
+    </message>
+    <message>
+        <source>How wide the rays are, in pixels of the picture.</source>
+        <translation>La largeur des rayons, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>How wide the ring of light is.</source>
+        <translation>La largeur de l’anneau de lumière.</translation>
+    </message>
+    <message>
+        <source>How wide the shadow is.</source>
+        <translation>La largeur de l’ombre.</translation>
+    </message>
+    <message>
+        <source>How wide to high the code should be if it can.</source>
+        <translation>Le rapport largeur sur hauteur souhaité pour le code.</translation>
+    </message>
+    <message>
+        <source>In which values the table or gradient is meant.</source>
+        <translation>Les valeurs dans lesquelles la table ou le dégradé s’entend.</translation>
+    </message>
+    <message>
+        <source>Is added to every result; with 0.5 the middle becomes gray.</source>
+        <translation>Est ajouté à chaque résultat ; avec 0,5 le milieu devient gris.</translation>
+    </message>
+    <message>
+        <source>Is added to red, green, blue and opacity.</source>
+        <translation>Est ajouté au rouge, au vert, au bleu et à l’opacité.</translation>
+    </message>
+    <message>
+        <source>Judges differences as the eye does, not by light alone.</source>
+        <translation>Juge les différences comme l’œil, et non d’après la lumière seule.</translation>
+    </message>
+    <message>
+        <source>Leaves out what readers can do without, for a smaller code.</source>
+        <translation>Omet ce dont les lecteurs peuvent se passer, pour un code plus petit.</translation>
+    </message>
+    <message>
+        <source>Makes the result as large as the straightened part alone.</source>
+        <translation>Donne au résultat la taille de la seule partie redressée.</translation>
+    </message>
+    <message>
+        <source>Mirrors every second tile from top to bottom.</source>
+        <translation>Retourne une tuile sur deux de haut en bas.</translation>
+    </message>
+    <message>
+        <source>Moves the picture by its brightness: red to the side, green upwards.</source>
+        <translation>Déplace l’image par sa clarté : le rouge sur le côté, le vert vers le haut.</translation>
+    </message>
+    <message>
+        <source>Of the lens the picture was taken with, on 35 mm film; longer ones bend less.</source>
+        <translation>De l’objectif de prise de vue, en équivalent 35 mm ; les plus longues déforment moins.</translation>
+    </message>
+    <message>
+        <source>One of the points that the filter goes by.</source>
+        <translation>Un des points que suit le filtre.</translation>
+    </message>
+    <message>
+        <source>One of the two color tables between which the mask decides.</source>
+        <translation>Une des deux tables de couleurs entre lesquelles décide le masque.</translation>
+    </message>
+    <message>
+        <source>Says by its brightness how strong the effect is at each place.</source>
+        <translation>Indique par sa clarté la force de l’effet en chaque endroit.</translation>
+    </message>
+    <message>
+        <source>Says by its brightness or transparency where which picture is seen.</source>
+        <translation>Indique par sa clarté ou sa transparence où l’on voit quelle image.</translation>
+    </message>
+    <message>
+        <source>Says in the code how it is packed, also where readers know.</source>
+        <translation>Indique dans le code sa compression, même si les lecteurs la connaissent.</translation>
+    </message>
+    <message>
+        <source>Steps of exposure: each doubles the light.</source>
+        <translation>Valeurs d’exposition : chacune double la lumière.</translation>
+    </message>
+    <message>
+        <source>The brightest step of exposure that is counted.</source>
+        <translation>Le diaphragme le plus clair compté.</translation>
+    </message>
+    <message>
+        <source>The color table: what each color becomes.</source>
+        <translation>La table de couleurs : ce que devient chaque couleur.</translation>
+    </message>
+    <message>
+        <source>The color that is looked for.</source>
+        <translation>La couleur recherchée.</translation>
+    </message>
+    <message>
+        <source>The color that takes its place.</source>
+        <translation>La couleur qui prend sa place.</translation>
+    </message>
+    <message>
+        <source>The color that the filter works with.</source>
+        <translation>La couleur avec laquelle travaille le filtre.</translation>
+    </message>
+    <message>
+        <source>The colors that take the place of dark to light, from left to right.</source>
+        <translation>Les couleurs qui remplacent le sombre au clair, de gauche à droite.</translation>
+    </message>
+    <message>
+        <source>The curves: what becomes of red, green and blue, from dark to light.</source>
+        <translation>Les courbes : ce que deviennent le rouge, le vert et le bleu, du sombre au clair.</translation>
+    </message>
+    <message>
+        <source>The darkest and brightest value that the curves are about.</source>
+        <translation>Les valeurs la plus sombre et la plus claire des courbes.</translation>
+    </message>
+    <message>
+        <source>The darkest step of exposure that is counted.</source>
+        <translation>Le diaphragme le plus sombre compté.</translation>
+    </message>
+    <message>
+        <source>The direction, counted counterclockwise from the right.</source>
+        <translation>La direction, comptée depuis la droite dans le sens inverse des aiguilles d’une montre.</translation>
+    </message>
+    <message>
+        <source>The distance at which white is reached, in pixels of the picture.</source>
+        <translation>La distance où le blanc est atteint, en pixels de l’image.</translation>
+    </message>
+    <message>
+        <source>The exponent: above 1 the middle tones darken, below they brighten.</source>
+        <translation>L’exposant : au-dessus de 1 les tons moyens s’assombrissent, en dessous ils s’éclaircissent.</translation>
+    </message>
+    <message>
+        <source>The first of the two colors; for false colors, what black becomes.</source>
+        <translation>La première des deux couleurs ; en fausses couleurs, ce que devient le noir.</translation>
+    </message>
+    <message>
+        <source>The free space around the code, in modules.</source>
+        <translation>L’espace libre autour du code, en modules.</translation>
+    </message>
+    <message>
+        <source>The free space around the text.</source>
+        <translation>L’espace libre autour du texte.</translation>
+    </message>
+    <message>
+        <source>The greatest height of the code, in modules.</source>
+        <translation>La hauteur maximale du code, en modules.</translation>
+    </message>
+    <message>
+        <source>The greatest width of the code, in modules.</source>
+        <translation>La largeur maximale du code, en modules.</translation>
+    </message>
+    <message>
+        <source>The height of the letters in points.</source>
+        <translation>La hauteur des lettres en points.</translation>
+    </message>
+    <message>
+        <source>The large picture along whose edges the small one is enlarged.</source>
+        <translation>La grande image dont les contours guident l’agrandissement.</translation>
+    </message>
+    <message>
+        <source>The least height of the code, in modules.</source>
+        <translation>La hauteur minimale du code, en modules.</translation>
+    </message>
+    <message>
+        <source>The least red, green, blue and opacity that is left.</source>
+        <translation>Le minimum de rouge, de vert, de bleu et d’opacité.</translation>
+    </message>
+    <message>
+        <source>The least width of the code, in modules.</source>
+        <translation>La largeur minimale du code, en modules.</translation>
+    </message>
+    <message>
+        <source>The light it is to look like: temperature in kelvin, and tint.</source>
+        <translation>La lumière voulue : température en kelvins et teinte.</translation>
+    </message>
+    <message>
+        <source>The light that the picture was taken in: temperature in kelvin, and tint.</source>
+        <translation>La lumière de la prise de vue : température en kelvins et teinte.</translation>
+    </message>
+    <message>
+        <source>The lines that are drawn, by their ends.</source>
+        <translation>Les lignes tracées, par leurs extrémités.</translation>
+    </message>
+    <message>
+        <source>The lower left corner of the frame in which the picture stands again.</source>
+        <translation>Le coin inférieur gauche du cadre où l’image se répète.</translation>
+    </message>
+    <message>
+        <source>The lower left corner of the part that grows.</source>
+        <translation>Le coin inférieur gauche de la partie qui grandit.</translation>
+    </message>
+    <message>
+        <source>The lower left corner.</source>
+        <translation>Le coin inférieur gauche.</translation>
+    </message>
+    <message>
+        <source>The lower right corner.</source>
+        <translation>Le coin inférieur droit.</translation>
+    </message>
+    <message>
+        <source>The most red, green, blue and opacity that is left.</source>
+        <translation>Le maximum de rouge, de vert, de bleu et d’opacité.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new blue is computed.</source>
+        <translation>Les nombres dont on calcule le nouveau bleu.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new green is computed.</source>
+        <translation>Les nombres dont on calcule le nouveau vert.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new opacity is computed.</source>
+        <translation>Les nombres dont on calcule la nouvelle opacité.</translation>
+    </message>
+    <message>
+        <source>The numbers from which the new red is computed.</source>
+        <translation>Les nombres dont on calcule le nouveau rouge.</translation>
+    </message>
+    <message>
+        <source>The part of the picture that counts.</source>
+        <translation>La partie de l’image qui compte.</translation>
+    </message>
+    <message>
+        <source>The part of the picture that stays.</source>
+        <translation>La partie de l’image qui reste.</translation>
+    </message>
+    <message>
+        <source>The part of the picture where there is a shadow.</source>
+        <translation>La partie de l’image où il y a une ombre.</translation>
+    </message>
+    <message>
+        <source>The picture that lies under the other one.</source>
+        <translation>L’image placée sous l’autre.</translation>
+    </message>
+    <message>
+        <source>The picture that the change ends with.</source>
+        <translation>L’image à laquelle aboutit la transition.</translation>
+    </message>
+    <message>
+        <source>The picture that the filter changes.</source>
+        <translation>L’image que le filtre modifie.</translation>
+    </message>
+    <message>
+        <source>The picture that the first one is compared with.</source>
+        <translation>L’image à laquelle la première est comparée.</translation>
+    </message>
+    <message>
+        <source>The picture whose relief the glass has.</source>
+        <translation>L’image dont le verre a le relief.</translation>
+    </message>
+    <message>
+        <source>The place in the picture that the effect goes out from.</source>
+        <translation>L’endroit de l’image d’où part l’effet.</translation>
+    </message>
+    <message>
+        <source>The place that the lamp shines at.</source>
+        <translation>L’endroit que vise la lampe.</translation>
+    </message>
+    <message>
+        <source>The point that the pattern grows from.</source>
+        <translation>Le point d’où part le motif.</translation>
+    </message>
+    <message>
+        <source>The second of the two colors; for false colors, what white becomes.</source>
+        <translation>La seconde des deux couleurs ; en fausses couleurs, ce que devient le blanc.</translation>
+    </message>
+    <message>
+        <source>The sharp angle of a tile&apos;s corner.</source>
+        <translation>L’angle aigu d’un coin de tuile.</translation>
+    </message>
+    <message>
+        <source>The small picture that is enlarged.</source>
+        <translation>La petite image qui est agrandie.</translation>
+    </message>
+    <message>
+        <source>The text that the code holds.</source>
+        <translation>Le texte que contient le code.</translation>
+    </message>
+    <message>
+        <source>The typeface.</source>
+        <translation>La police.</translation>
+    </message>
+    <message>
+        <source>The upper left corner.</source>
+        <translation>Le coin supérieur gauche.</translation>
+    </message>
+    <message>
+        <source>The upper right corner of the frame in which the picture stands again.</source>
+        <translation>Le coin supérieur droit du cadre où l’image se répète.</translation>
+    </message>
+    <message>
+        <source>The upper right corner of the part that grows.</source>
+        <translation>Le coin supérieur droit de la partie qui grandit.</translation>
+    </message>
+    <message>
+        <source>The upper right corner.</source>
+        <translation>Le coin supérieur droit.</translation>
+    </message>
+    <message>
+        <source>What is on the back of the page.</source>
+        <translation>Ce qui est au dos de la page.</translation>
+    </message>
+    <message>
+        <source>What is written.</source>
+        <translation>Ce qui est écrit.</translation>
+    </message>
+    <message>
+        <source>What lies above it is drawn lighter.</source>
+        <translation>Ce qui est au-dessus est tracé plus clair.</translation>
+    </message>
+    <message>
+        <source>What lies below it is drawn darker.</source>
+        <translation>Ce qui est en dessous est tracé plus sombre.</translation>
+    </message>
+    <message>
+        <source>When the second picture begins to come through the light.</source>
+        <translation>Le moment où la seconde image perce la lumière.</translation>
+    </message>
+    <message>
+        <source>Where the first color ends, in pixels from the center.</source>
+        <translation>Où finit la première couleur, en pixels depuis le centre.</translation>
+    </message>
+    <message>
+        <source>Where the lamp hangs: to the side, upwards and above the picture.</source>
+        <translation>Où pend la lampe : sur le côté, vers le haut et au-dessus de l’image.</translation>
+    </message>
+    <message>
+        <source>Where the second color begins, in pixels from the center.</source>
+        <translation>Où commence la seconde couleur, en pixels depuis le centre.</translation>
+    </message>
+    <message>
+        <source>Whether black replaces the inks in the shadows alone (0) or everywhere (1).</source>
+        <translation>Si le noir remplace les encres dans les ombres seules (0) ou partout (1).</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>

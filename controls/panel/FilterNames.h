@@ -9,7 +9,8 @@
 #include <QString>
 
 inline constexpr char kFilterContext[] = "Filter", kInputContext[] = "Input",
-                      kDescriptionContext[] = "FilterDescription", kSearchWordsContext[] = "FilterSearchWords";
+                      kDescriptionContext[] = "FilterDescription", kSearchWordsContext[] = "FilterSearchWords",
+                      kInputDescriptionContext[] = "InputDescription";
 
 /// Of a filter's display name.
 inline QString shownFilterName(const std::string& displayName)
@@ -28,6 +29,13 @@ inline QString shownFilterDescription(const std::string& className)
 {
     const FilterWords* words = filterWords(className);
     return words ? QCoreApplication::translate(kDescriptionContext, words->description.c_str()) : QString();
+}
+
+/// What an input of that class is for, in a sentence; empty when nobody says.
+inline QString shownInputDescription(const std::string& className, const std::string& key)
+{
+    const std::string description = inputDescription(className, key);
+    return description.empty() ? QString() : QCoreApplication::translate(kInputDescriptionContext, description.c_str());
 }
 
 /// Of a FilterWords.

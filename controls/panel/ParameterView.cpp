@@ -2,6 +2,7 @@
 
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/DropImageView.h"
+#include "controls/panel/FilterNames.h"
 #include "controls/panel/TextDescription.h"
 #include "controls/picture/PictureConversion.h"
 #include "widgets/ColorWell.h"
@@ -64,6 +65,13 @@ CIInputAttributes ParameterView::attributes() const
     return found;
 }
 
+/// The name, and what the input is for.
+QString ParameterView::hint(const QString& caption) const
+{
+    const QString use = shownInputDescription(filter->name(), key);
+    return use.isEmpty() ? caption : caption + QLatin1Char('\n') + use;
+}
+
 QString ParameterView::keyCaption() const
 {
     if (key.compare(0, 5, "input") != 0)
@@ -96,7 +104,7 @@ void ParameterView::resizeEvent(QResizeEvent*)
 CaptionLabel* ParameterView::addCaption(const QString& text, const char* name, Placement placement)
 {
     auto* caption = new CaptionLabel(text, this);
-    caption->setToolTip(filter ? tr("%1\nA double click brings the standard value back").arg(text) : text);
+    caption->setToolTip(filter ? tr("%1\nA double click brings the standard value back").arg(hint(text)) : text);
     connect(caption, &CaptionLabel::doubleClicked, this, [this] { m_row->reset(); });
     return place(caption, name, std::move(placement));
 }
@@ -244,7 +252,7 @@ void ParameterView::addCheckBoxForFilterKeyMaster(
     checkBox->setFont(rowFont(font()));
     checkBox->setText(ellipsizedText(caption, checkBox->font(), 155 - 20)); // beside the box
     checkBox->setAccessibleName(caption);
-    checkBox->setToolTip(caption);
+    checkBox->setToolTip(hint(caption));
     place(checkBox, "checkBox", [](int) { return QRect(76, 0, 155, 16); });
 }
 

@@ -114,6 +114,7 @@ private:
         return *row;
     }
     CIInputAttributes attributes() const;
+    QString hint(const QString& caption) const;
     QString keyCaption() const;
     template <class Widget>
     Widget* place(Widget* widget, const char* name, Placement placement);

@@ -15,3 +15,9 @@ struct FilterWords {
 const std::map<std::string, FilterWords, std::less<>>& allFilterWords();
 /// Null when there are none.
 const FilterWords* filterWords(std::string_view className);
+
+/// What inputs are for, each in a sentence, by key or by "class.key" where it means something else in that class; '#'
+/// stands for any digit. From resources/input_words.txt.
+const std::map<std::string, std::string, std::less<>>& allInputDescriptions();
+/// Empty when there is none.
+std::string inputDescription(const std::string& className, const std::string& key);

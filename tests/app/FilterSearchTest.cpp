@@ -116,6 +116,14 @@ TEST_F(FilterSearch, EveryFilterAndEffectHasItsWords)
         EXPECT_TRUE(classes.contains(name)) << name << " is no filter";
 }
 
+TEST_F(FilterSearch, EveryInputSaysWhatItIsFor)
+{
+    for (const std::string& name : CIFilter::filterNamesInCategory(""))
+        for (const std::string& key : CIFilter::filterWithName(name)->inputKeys())
+            EXPECT_TRUE(inputDescription(name, key).ends_with(".")) << name << " " << key;
+    EXPECT_NE(inputDescription("CIToneCurve", "inputPoint3"), inputDescription("CIDepthOfField", "inputPoint1"));
+}
+
 TEST_F(FilterSearch, FindsNamesAndClassesInGroupsOfWhatFits)
 {
     list.search("gauss");

@@ -34,8 +34,12 @@ int main()
         descriptions.insert(words.description);
         searchWords.insert(words.searchWords);
     }
+    std::set<std::string> inputDescriptions;
+    for (const auto& [key, description] : allInputDescriptions())
+        inputDescriptions.insert(description);
     print(kFilterContext, filters);
     print(kInputContext, inputs);
     print(kDescriptionContext, descriptions);
     print(kSearchWordsContext, searchWords);
+    print(kInputDescriptionContext, inputDescriptions);
 }
