@@ -66,6 +66,7 @@ Facts blends()
         mode("Divide", {0.2, 0.5, 0.4}, {0.8, 0.4, 1}, {0, 0.3, 0}),
         mode("Divide", {0.2, 0, 1}, {0, 0, 0}, {0.3, 0.6, 0.5}),
         mode("SoftLight", {0.75, 0.36, 0.48}, {0.25, 0.36, 0.2448}, {1, 0.16, 0.398336}),
+        mode("SoftLight", {1, 0.3, 0.547723}, {1, 0.25, 0.5}, {1, 0.2, 0.448}),
         // Half covered: a quarter of each alone, a quarter of the product.
         over("CIMultiplyBlendMode", gray(0.8, 0.5), gray(0.4, 0.5), {0.38, 0.38, 0.38, 0.75}),
         over("CIScreenBlendMode", kThin, kNothing, kThin),

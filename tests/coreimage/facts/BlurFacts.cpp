@@ -105,6 +105,8 @@ Facts blurs()
             gray(0.25)),
         atDot("CINoiseReduction", {{"inputNoiseLevel", 0.1}}, {{{10.5, 10.5}, gray(0.6 + 0.4 * 0.4 * 0.897144)}},
             ground, gray(0.6)),
+        atDot("CINoiseReduction", {{"inputNoiseLevel", 0.1}}, // one component is enough
+            {{{10.5, 10.5}, straight(0.6 + 0.4 * 0.4 * 0.897144, 0.2, 0.2)}}, ground, straight(0.6, 0.2, 0.2)),
         atDot("CINoiseReduction", {{"inputNoiseLevel", 0.2}}, // 0.3589 is 0.7943 of the way from one to two levels
             {{{10.5, 10.5}, gray(0.241142 + 0.358858 * 0.794289 * 1.4)}}, ground, gray(0.6)),
         atEdge("CIUnsharpMask", softEdge(), {{"inputRadius", 10}, {"inputIntensity", 0.5}},

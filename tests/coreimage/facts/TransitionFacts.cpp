@@ -82,7 +82,7 @@ Facts transitions()
             {{{51.5, 51.5}, kTo}, {{71.5, 71.5}, kFrom}, {{61.5, 61.5}, gray(0.4)}, {{91.5, 51.5}, kTo}})
             .atFullSize(),
         grays("CIModTransition", 0.4, holes(0), {{{59.5, 59.5}, gray(0.2 + 0.4 * 0.747012)}}).atFullSize(),
-        grays("CIModTransition", 0.5, holes(M_PI / 4, 20), {{{71.5, 51.5}, kFrom}}).atFullSize(),
+        grays("CIModTransition", 0.5, holes(M_PI / 4, 20), {{{71.5, 51.5}, kFrom}, {{59.5, 73.5}, kFrom}}).atFullSize(),
         // The veil is white and thins evenly; its rays take away of what is not the color, far from the center.
         grays("CIFlashTransition", 0.9, flash({21, 21}), {{{31, 31}, gray(0.6 * 0.5 + 0.5)}}),
         grays("CIFlashTransition", 0.9, flash({-1100, 21}), {{{21, 21}, straight(0.8, 0.752842, 0.74)}}),
@@ -99,10 +99,15 @@ Facts transitions()
             wave(3, {{"inputTargetImage", ramp()}, {"inputShadingImage", halfRamp}}),
             {{{84.284, 50}, {0.80908, 0.5, 0.25, 1}}}),
         // The line lies at 66: paper up to one radius before it, then upside down on the flat.
-        between("CIPageCurlTransition", ramp(), 0.6, roll(), {{{80, 51}, rampAt(20.584, 51)}, {{51, 51}, kTo}}),
+        between("CIPageCurlTransition", ramp(), 0.6, roll(), {{{80, 51}, rampAt(20.584, 51)}, {{51, 51}, kTo}})
+            .reaching({0, -1, 102, 102}), // to 100.584, and half a pixel on
         // 0.55 of the way up the curl it is 0.6 of the square of that darker, and 0.09 of gloss lies on it.
         between("CIPageCurlTransition", ramp(), 0.6, roll(),
             {{{60.5, 51}, {0.8185 * 0.40408 + 0.09, 0.8185 * 0.51 + 0.09, 0.8185 * 0.25 + 0.09, 1}}})
+            .atFullSize(),
+        // The shading image is light from all sides: 0.55 of its half width from the middle.
+        between("CIPageCurlTransition", ramp(), 0.6, roll({{"inputShadingImage", ramp()}}),
+            {{{60.5, 51}, rampAt(50 - 0.55 * 49, 50)}})
             .atFullSize(),
         between(
             "CIPageCurlTransition", ramp(), 0.1, roll(), {{{31, 51}, rampAt(31, 51)}, {{9, 51}, rampAt(8.986, 51)}}),
