@@ -2,6 +2,7 @@
 // fit it, on one sheet (contact_sheet.jpg), and one line for each in the table at the end of filters.md.
 #include "app/Controller.h"
 #include "app/window/MainWindow.h"
+#include "platform/chain/FilterWords.h"
 #include "platform/coreimage/CIFilter.h"
 #include "platform/foundation/Appearance.h"
 #include "platform/quartz/TextRenderer.h"
@@ -68,9 +69,10 @@ QString tableLine(const QString& className)
     QStringList inputs;
     for (const std::string& key : filter->inputKeys())
         inputs << QString::fromStdString(key).mid(int(std::string_view("input").size()));
-    return QStringLiteral("| `%1` | %2 | %3 |\n")
+    const FilterWords* words = filterWords(className.toStdString());
+    return QStringLiteral("| `%1` | %2 | %3 | %4 |\n")
         .arg(className, QString::fromStdString(CIFilter::localizedNameForFilterName(className.toStdString())),
-            inputs.join(QStringLiteral(", ")));
+            words ? QString::fromStdString(words->description) : QString(), inputs.join(QStringLiteral(", ")));
 }
 
 bool writeTable(const QString& path, const QString& table)
@@ -115,7 +117,8 @@ int main(int argc, char** argv)
     Sheet sheet(rows);
     QString table;
     for (const auto& group : source.groups()) {
-        table += QStringLiteral("\n### %1\n\n| filter | name | inputs |\n|---|---|---|\n").arg(group->label);
+        table += QStringLiteral("\n### %1\n\n| filter | name | what it does | inputs |\n|---|---|---|---|\n")
+                     .arg(group->label);
         for (const auto& row : group->rows) {
             controller.addFilterIndex(row->className, 0);
             controller.fitInputs();
