@@ -105,7 +105,8 @@ bool CIContext::renderInto(
     if (render.isCancelled())
         return false;
 
-    const bool isCovered = common == area, mayBeCodes = isCovered && bytesPerPixel(bitmap.format()) == 4;
+    const bool isCovered = common == area;
+    const bool mayBeCodes = isCovered && bytesPerPixel(bitmap.format()) == 4 && !profiledSpace(bitmap.colorSpace());
     const RowEncoder encoder(
         bitmap.format(), bitmap.alpha(), bitmap.colorSpace(), isCovered && node.isOpaque(), render.floats);
     const Target target{bitmap.mutableRow(0), bitmap.bytesPerRow(), bytesPerPixel(bitmap.format()), left, top};

@@ -277,7 +277,9 @@ Opened BitmapNode::open(const Render& render, const GridRect& area, Form accepts
     const Grid& grid = render.grid;
     const bool isDirect = grid.scale == 1 && isWhole(grid.phaseX) && isWhole(grid.phaseY);
     const GridRect cells = wholeCells(m_bitmap, grid);
-    const bool hasCodes = isDirect && bytesPerPixel(m_bitmap.format()) == 4 && m_bitmap.alpha() == CIAlpha::Opaque;
+    // Codes of other spaces mix: what becomes of one component depends on the others.
+    const bool hasCodes = isDirect && !profiledSpace(m_bitmap.colorSpace()) && bytesPerPixel(m_bitmap.format()) == 4
+        && m_bitmap.alpha() == CIAlpha::Opaque;
     switch (accepts) {
     case Form::Copy:
         return {.copy = copyFor(grid)};

@@ -95,7 +95,8 @@ Level halved(const LevelRows& source, bool wide)
 std::vector<Level> halvedCopies(const CIBitmap& bitmap)
 {
     std::vector<Level> levels;
-    const bool wide = bitmap.format() == CIFormat::RGBAf;
+    const bool wide =
+        bitmap.format() == CIFormat::RGBAf || profiledSpace(bitmap.colorSpace()); // has light beyond 0 to 1
     int width = bitmap.width(), height = bitmap.height();
     while (std::max(width, height) > 32) {
         levels.push_back(halved(LevelRows(bitmap, levels, int(levels.size()), false), wide));

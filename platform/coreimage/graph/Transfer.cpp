@@ -1,5 +1,6 @@
 #include "platform/coreimage/graph/Transfer.h"
 
+#include "platform/coreimage/graph/Profiled.h"
 #include "platform/coreimage/kernel/DisplayValues.h"
 
 #include <cstring>
@@ -123,7 +124,7 @@ Pixel<V> decodePixel(const std::byte* bytes)
 }
 
 template <class V, CIFormat F, CIAlpha A, CIColorSpace S>
-void decodeRow(const std::byte* pixels, int count, const MutableRow& row)
+void decodeRow(const CIProfiledSpace*, const std::byte* pixels, int count, const MutableRow& row)
 {
     constexpr int lanes = kLanes<V>;
     const std::size_t size = bytesPerPixel(F);
@@ -204,7 +205,7 @@ void encodePixel(std::byte* bytes, Pixel<V> p)
 }
 
 template <class V, CIFormat F, CIAlpha A, CIColorSpace S, bool opaque>
-void encodeRow(const Row& row, int count, std::byte* pixels)
+void encodeRow(const CIProfiledSpace*, const Row& row, int count, std::byte* pixels)
 {
     constexpr int lanes = kLanes<V>;
     const std::size_t size = bytesPerPixel(F);
@@ -270,14 +271,24 @@ auto withCoding(CIFormat format, CIAlpha alpha, CIColorSpace space, F f)
 } // namespace
 
 RowDecoder::RowDecoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool floats)
+    : m_space(profiledSpace(space))
 {
+    if (m_space && format != CIFormat::RGBAf) {
+        m_decode = profiledDecoder(format, alpha);
+        return;
+    }
     m_decode = withCoding(format, alpha, space, [&]<CIFormat F, CIAlpha A, CIColorSpace S>() {
         return withLanes(floats, []<class V>() { return &decodeRow<V, F, A, S>; });
     });
 }
 
 RowEncoder::RowEncoder(CIFormat format, CIAlpha alpha, CIColorSpace space, bool opaque, bool floats)
+    : m_space(profiledSpace(space))
 {
+    if (m_space && format != CIFormat::RGBAf) {
+        m_encode = profiledEncoder(format, alpha);
+        return;
+    }
     m_encode = withCoding(format, alpha, space, [&]<CIFormat F, CIAlpha A, CIColorSpace S>() {
         return withLanes(floats, [opaque]<class V>() {
             return opaque || A == CIAlpha::Opaque ? &encodeRow<V, F, A, S, true> : &encodeRow<V, F, A, S, false>;

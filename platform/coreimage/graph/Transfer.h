@@ -1,7 +1,7 @@
 // Between stored pixels and planes of premultiplied linear floats.
 #pragma once
 
-#include "platform/coreimage/CIBitmap.h"
+#include "platform/coreimage/CIColorProfile.h"
 #include "platform/coreimage/graph/Node.h"
 
 namespace ci {
@@ -12,10 +12,14 @@ class RowDecoder {
 public:
     RowDecoder(CIFormat, CIAlpha, CIColorSpace, bool floats);
     /// `count` pixels from `pixels` on, into `row`.
-    void decode(const std::byte* pixels, int count, const MutableRow& row) const { m_decode(pixels, count, row); }
+    void decode(const std::byte* pixels, int count, const MutableRow& row) const
+    {
+        m_decode(m_space, pixels, count, row);
+    }
 
 private:
-    void (*m_decode)(const std::byte*, int, const MutableRow&);
+    const CIProfiledSpace* m_space; // null without a profile
+    void (*m_decode)(const CIProfiledSpace*, const std::byte*, int, const MutableRow&);
 };
 
 /// Planes into stored pixels. Colors outside 0 to 1 are clipped, save in float bitmaps; 8-bit codes are within
@@ -24,10 +28,11 @@ class RowEncoder {
 public:
     /// `opaque`: every alpha is known to be 1.
     RowEncoder(CIFormat, CIAlpha, CIColorSpace, bool opaque, bool floats);
-    void encode(const Row& row, int count, std::byte* pixels) const { m_encode(row, count, pixels); }
+    void encode(const Row& row, int count, std::byte* pixels) const { m_encode(m_space, row, count, pixels); }
 
 private:
-    void (*m_encode)(const Row&, int, std::byte*);
+    const CIProfiledSpace* m_space;
+    void (*m_encode)(const CIProfiledSpace*, const Row&, int, std::byte*);
 };
 
 } // namespace ci
