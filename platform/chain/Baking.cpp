@@ -1,8 +1,10 @@
 #include "platform/chain/Baking.h"
 
+#include "platform/coreimage/CIColorProfile.h"
 #include "platform/coreimage/graph/BitmapNode.h"
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -30,7 +32,37 @@ bool isOpaque(const CIBitmap& bitmap)
     }
 }
 
+CIBitmap rendered(const CIContext& context, const CIImage& image, const StoredForm& form, CIRenderControl* control)
+{
+    if (!profiledSpace(form.space))
+        return context.render(image, image.extent(), 1, form.format, CIAlpha::Straight, control);
+    if (image.isNull() || image.extent().isEmpty() || image.extent().isInfinite())
+        return {};
+    const CIRect area = image.extent().roundedOut();
+    constexpr double kMostPixels = 4e9;
+    if (area.width * area.height > kMostPixels)
+        return {};
+    try {
+        CIBitmap bitmap(int(area.width), int(area.height), form.format, CIAlpha::Straight, form.space);
+        const bool isDone = context.renderInto(bitmap, int(area.x), int(area.y + area.height), image, 1, control);
+        return isDone ? bitmap : CIBitmap();
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
 } // namespace
+
+StoredForm storedLike(const CIBitmap& picture)
+{
+    return {picture.format(), profiledSpace(picture.colorSpace()) ? picture.colorSpace() : CIColorSpace::SRGB};
+}
+
+StoredForm storedLike(const CIImage& picture, CIFormat format)
+{
+    const CIBitmap* const bitmap = bitmapOf(picture);
+    return {format, bitmap ? storedLike(*bitmap).space : CIColorSpace::SRGB};
+}
 
 const CIBitmap* bitmapOf(const CIImage& image)
 {
@@ -38,19 +70,20 @@ const CIBitmap* bitmapOf(const CIImage& image)
     return node ? &node->bitmap() : nullptr;
 }
 
-CIBitmap renderedBitmap(const CIContext& context, const CIImage& image, CIFormat format, CIRenderControl* control)
+CIBitmap renderedBitmap(
+    const CIContext& context, const CIImage& image, const StoredForm& form, CIRenderControl* control)
 {
     if (const CIBitmap* stored = bitmapOf(image))
         return *stored;
-    CIBitmap bitmap = context.render(image, image.extent(), 1, format, CIAlpha::Straight, control);
+    CIBitmap bitmap = rendered(context, image, form, control);
     if (!bitmap.isNull() && isOpaque(bitmap))
         bitmap.setOpaque();
     return bitmap;
 }
 
-CIImage bakedImage(const CIContext& context, const CIImage& image, CIFormat format, CIRenderControl* control)
+CIImage bakedImage(const CIContext& context, const CIImage& image, const StoredForm& form, CIRenderControl* control)
 {
-    return CIImage::fromBitmap(renderedBitmap(context, image, format, control));
+    return CIImage::fromBitmap(renderedBitmap(context, image, form, control));
 }
 
 void makeReducedCopies(const CIImage& image)

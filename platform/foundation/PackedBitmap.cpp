@@ -1,8 +1,12 @@
 #include "platform/foundation/PackedBitmap.h"
 
+#include "platform/coreimage/CIColorProfile.h"
+
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <optional>
+#include <stdexcept>
 #include <vector>
 
 #include <zstd.h>
@@ -11,6 +15,7 @@ namespace {
 
 constexpr int kRowsAtOnce = 64;
 constexpr int kLevel = 1; // nearly as fast as the disk
+constexpr int kProfiled = int(CIColorSpace::LinearSRGB) + 1; // described after the header
 constexpr quint32 kMagic = 0x4c565831; // "LVX1"
 
 struct FreeCompressor {
@@ -26,7 +31,7 @@ struct Header {
     {
         return magic == kMagic && width > 0 && height > 0 && std::int64_t(width) * height <= maxPixels && format >= 0
             && format <= int(CIFormat::RGBAf) && alpha >= 0 && alpha <= int(CIAlpha::Premultiplied) && space >= 0
-            && space <= int(CIColorSpace::LinearSRGB);
+            && space <= kProfiled;
     }
 };
 
@@ -42,15 +47,39 @@ bool get(QIODevice& device, T* data, std::size_t bytes)
     return device.read(reinterpret_cast<char*>(data), qint64(bytes)) == qint64(bytes);
 }
 
+bool putSpace(QIODevice& device, CIColorSpace space)
+{
+    const std::string bytes = packedSpace(space);
+    const auto size = quint32(bytes.size());
+    return put(device, &size, sizeof size) && put(device, bytes.data(), bytes.size());
+}
+
+/// Follows the header when that doesn't say it all.
+std::optional<CIColorSpace> spaceOf(const Header& header, QIODevice& device)
+{
+    if (header.space != kProfiled)
+        return CIColorSpace(header.space);
+    quint32 size = 0;
+    if (!get(device, &size, sizeof size) || qint64(size) > device.bytesAvailable())
+        return {};
+    std::string bytes(size, '\0');
+    try {
+        return get(device, bytes.data(), size) ? std::optional(unpackedSpace(bytes)) : std::nullopt;
+    } catch (const std::invalid_argument&) {
+        return {};
+    }
+}
+
 } // namespace
 
 bool packBitmap(const CIBitmap& bitmap, QIODevice& device, const std::atomic<bool>* stop)
 {
     if (bitmap.isNull())
         return false;
-    const Header header{
-        kMagic, bitmap.width(), bitmap.height(), int(bitmap.format()), int(bitmap.alpha()), int(bitmap.colorSpace())};
-    if (!put(device, &header, sizeof header))
+    const bool isProfiled = profiledSpace(bitmap.colorSpace());
+    const Header header{kMagic, bitmap.width(), bitmap.height(), int(bitmap.format()), int(bitmap.alpha()),
+        isProfiled ? kProfiled : int(bitmap.colorSpace())};
+    if (!put(device, &header, sizeof header) || (isProfiled && !putSpace(device, bitmap.colorSpace())))
         return false;
     const std::unique_ptr<ZSTD_CCtx, FreeCompressor> compressor(ZSTD_createCCtx());
     ZSTD_CCtx_setParameter(compressor.get(), ZSTD_c_compressionLevel, kLevel);
@@ -82,8 +111,10 @@ CIBitmap unpackBitmap(QIODevice& device, std::int64_t maxPixels)
     constexpr std::int64_t kMostBytesPerByte = 128 * 1024 / 3;
     if (std::int64_t(rowBytes) > device.bytesAvailable() * kMostBytesPerByte / header.height)
         return {};
-    CIBitmap bitmap(
-        header.width, header.height, CIFormat(header.format), CIAlpha(header.alpha), CIColorSpace(header.space));
+    const std::optional<CIColorSpace> space = spaceOf(header, device);
+    if (!space)
+        return {};
+    CIBitmap bitmap(header.width, header.height, CIFormat(header.format), CIAlpha(header.alpha), *space);
     std::vector<std::byte> rows(rowBytes * std::size_t(std::min(kRowsAtOnce, header.height)));
     std::vector<std::byte> packed(ZSTD_compressBound(rows.size()));
     for (int top = 0; top < header.height; top += kRowsAtOnce) {

@@ -73,6 +73,7 @@ struct FileFormat {
     int (*encode)(VipsImage*, VipsTarget*, const WriteOptions&) = nullptr;
     int writtenBits = 8; // a component, at most; 32 are floats, and always written
     bool writesAlpha = true;
+    bool writesProfile = true; // others are in sRGB
     FormatOptions options{};
     bool isIcon = false; // one square picture of a side that the format knows
     /// In the menu of the save panel, whose order is that of the table; in lower case it is the extension. Null for

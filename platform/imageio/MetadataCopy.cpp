@@ -133,7 +133,8 @@ void putExif(const PictureMetadata::Entries& entries, Exiv2::ExifData& target, c
     for (const Exiv2::Exifdatum& datum : entries.exif)
         target[datum.key()].setValue(&datum.value());
     target["Exif.Image.Orientation"] = kUpright;
-    target["Exif.Photo.ColorSpace"] = kSrgb;
+    if (about.isSrgb) // other colors are told by the profile alone
+        target["Exif.Photo.ColorSpace"] = kSrgb;
     target["Exif.Photo.PixelXDimension"] = std::uint32_t(about.width);
     target["Exif.Photo.PixelYDimension"] = std::uint32_t(about.height);
     if (about.dotsPerInch <= 0)

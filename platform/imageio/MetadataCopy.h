@@ -20,6 +20,7 @@ std::string plainPath(const std::filesystem::path& file);
 struct NewFile {
     int width, height; // px
     double dotsPerInch; // 0 for none
+    bool isSrgb = true;
 };
 
 /// `encoded` with these entries (null for none) instead of those that its encoder made. `encoded` itself where the

@@ -1,10 +1,12 @@
 #include "platform/imageio/PictureColor.h"
 
 #include "platform/imageio/ImageLog.h"
+#include "platform/imageio/ProfileSpaces.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -14,23 +16,26 @@ namespace imageio {
 
 namespace {
 
-struct CloseProfile {
-    void operator()(void* profile) const { cmsCloseProfile(profile); }
-};
 struct DeleteTransform {
     void operator()(void* transform) const { cmsDeleteTransform(transform); }
 };
-using ProfilePtr = std::unique_ptr<void, CloseProfile>;
 using TransformPtr = std::unique_ptr<void, DeleteTransform>;
 
-ProfilePtr embeddedProfile(VipsImage* image)
+/// As the file holds it; empty when there is none.
+std::span<const std::byte> embeddedBytes(VipsImage* image)
 {
     const void* bytes = nullptr;
     std::size_t size = 0;
     if (!vips_image_get_typeof(image, VIPS_META_ICC_NAME)
         || vips_image_get_blob(image, VIPS_META_ICC_NAME, &bytes, &size) != 0)
-        return nullptr;
-    return ProfilePtr(cmsOpenProfileFromMem(bytes, cmsUInt32Number(size)));
+        return {};
+    return {static_cast<const std::byte*>(bytes), size};
+}
+
+ProfilePtr embeddedProfile(VipsImage* image)
+{
+    const auto bytes = embeddedBytes(image);
+    return ProfilePtr(bytes.empty() ? nullptr : cmsOpenProfileFromMem(bytes.data(), cmsUInt32Number(bytes.size())));
 }
 
 bool isFloatFormat(VipsBandFormat format) { return format == VIPS_FORMAT_FLOAT || format == VIPS_FORMAT_DOUBLE; }
@@ -117,14 +122,122 @@ VipsImagePtr toKeptFormat(VipsImagePtr image)
     }
 }
 
-VipsImagePtr transformToSrgb(VipsImage* image, const char* inputProfile)
+// --- through Little CMS ---
+
+/// Of a picture's rows; alpha is kept.
+cmsUInt32Number layoutOf(VipsImage* image, int colorModel)
 {
-    const int depth = vips_image_get_format(image) == VIPS_FORMAT_UCHAR ? 8 : 16;
-    return derive([&](VipsImage** out) {
-        return vips_icc_transform(image, out, "srgb", "embedded", gboolean(!inputProfile), "input_profile",
-            inputProfile ? inputProfile : "srgb", "intent", VIPS_INTENT_RELATIVE, "black_point_compensation", TRUE,
-            "depth", depth, nullptr);
-    });
+    const VipsBandFormat format = vips_image_get_format(image);
+    const int colors = colorBands(image);
+    return cmsUInt32Number(COLORSPACE_SH(colorModel) | CHANNELS_SH(colors)
+        | EXTRA_SH(vips_image_get_bands(image) - colors) | BYTES_SH(int(vips_format_sizeof(format)))
+        | FLOAT_SH(int(isFloatFormat(format))));
+}
+
+int transformRows(VipsRegion* target, void* source, void*, void* transform, gboolean*)
+{
+    auto* const from = static_cast<VipsRegion*>(source);
+    const VipsRect area = target->valid;
+    if (vips_region_prepare(from, &area) != 0)
+        return -1;
+    for (int y = area.top; y < area.top + area.height; ++y)
+        cmsDoTransform(transform, VIPS_REGION_ADDR(from, area.left, y), VIPS_REGION_ADDR(target, area.left, y),
+            cmsUInt32Number(area.width));
+    return 0;
+}
+
+constexpr cmsUInt32Number kIntent = INTENT_RELATIVE_COLORIMETRIC;
+constexpr cmsUInt32Number kFlags = cmsFLAGS_BLACKPOINTCOMPENSATION | cmsFLAGS_NOCACHE | cmsFLAGS_COPY_ALPHA;
+
+/// As red, green and blue of that format, in the colors of `to`. Null with a pending libvips error.
+VipsImagePtr transformed(VipsImagePtr image, cmsHPROFILE from, cmsHPROFILE to, VipsBandFormat format)
+{
+    const int bands = 3 + vips_image_get_bands(image.get()) - colorBands(image.get());
+    VipsImagePtr result(vips_image_new());
+    if (vips_image_pipelinev(result.get(), VIPS_DEMAND_STYLE_THINSTRIP, image.get(), nullptr) != 0)
+        return nullptr;
+    vips_image_init_fields(result.get(), vips_image_get_width(image.get()), vips_image_get_height(image.get()), bands,
+        format, VIPS_CODING_NONE, format == VIPS_FORMAT_FLOAT ? VIPS_INTERPRETATION_scRGB : VIPS_INTERPRETATION_RGB16,
+        1, 1);
+    const int model = cmsGetColorSpace(from) == cmsSigCmykData ? PT_CMYK
+        : cmsGetColorSpace(from) == cmsSigGrayData             ? PT_GRAY
+                                                               : PT_RGB;
+    TransformPtr transform(
+        cmsCreateTransform(from, layoutOf(image.get(), model), to, layoutOf(result.get(), PT_RGB), kIntent, kFlags));
+    if (!transform) {
+        vips_error("lumivex", "the color profile can't be applied");
+        return nullptr;
+    }
+    void* const held = transform.release();
+    g_object_set_data_full(
+        G_OBJECT(result.get()), "lumivex-transform", held, [](void* owned) { cmsDeleteTransform(owned); });
+    VipsImage* const source = image.release(); // lives as long as what is made of it
+    g_object_set_data_full(G_OBJECT(result.get()), "lumivex-source", source, g_object_unref);
+    return vips_image_generate(result.get(), vips_start_one, transformRows, vips_stop_one, source, held) == 0
+        ? std::move(result)
+        : nullptr;
+}
+
+/// Linear sRGB.
+ProfilePtr lightProfile()
+{
+    const cmsCIExyY white{0.3127, 0.3290, 1};
+    const cmsCIExyYTRIPLE primaries{{0.64, 0.33, 1}, {0.30, 0.60, 1}, {0.15, 0.06, 1}};
+    const std::unique_ptr<cmsToneCurve, void (*)(cmsToneCurve*)> line(cmsBuildGamma(nullptr, 1), cmsFreeToneCurve);
+    cmsToneCurve* const lines[] = {line.get(), line.get(), line.get()};
+    return ProfilePtr(cmsCreateRGBProfile(&white, &primaries, lines));
+}
+
+/// What a profile can show, in linear sRGB: a grid of its colors.
+std::vector<float> colorsOf(cmsHPROFILE profile)
+{
+    const bool hasInks = cmsGetColorSpace(profile) == cmsSigCmykData;
+    constexpr int kSteps = 8;
+    std::vector<std::uint16_t> grid;
+    for (int last = 0; last <= (hasInks ? 1 : 0); ++last) // without black, and with all of it
+        for (int a = 0; a <= kSteps; ++a)
+            for (int b = 0; b <= kSteps; ++b)
+                for (int c = 0; c <= kSteps; ++c) {
+                    for (const int step : {a, b, c})
+                        grid.push_back(std::uint16_t(65535 * step / kSteps));
+                    if (hasInks)
+                        grid.push_back(std::uint16_t(65535 * last));
+                }
+    const std::size_t channels = hasInks ? 4 : 3;
+    std::vector<float> colors(grid.size() / channels * 3);
+    const ProfilePtr light = lightProfile();
+    const TransformPtr transform(
+        cmsCreateTransform(profile, hasInks ? TYPE_CMYK_16 : TYPE_RGB_16, light.get(), TYPE_RGB_FLT, kIntent, kFlags));
+    if (transform)
+        cmsDoTransform(transform.get(), grid.data(), colors.data(), cmsUInt32Number(grid.size() / channels));
+    return colors;
+}
+
+/// 16 bits in the smallest space that holds what the profile can show.
+WorkingColor toSmallestSpace(VipsImagePtr image, cmsHPROFILE profile)
+{
+    const std::vector<float> colors = colorsOf(profile);
+    const ProfilePtr srgb(cmsCreate_sRGBProfile());
+    if (holds(CIColorSpace::SRGB, colors))
+        return {transformed(std::move(image), profile, srgb.get(), VIPS_FORMAT_USHORT), CIColorSpace::SRGB};
+    const std::vector<CIColorSpace>& spaces = wideSpaces();
+    const auto fitting = std::ranges::find_if(spaces, [&](CIColorSpace space) { return holds(space, colors); });
+    const CIColorSpace space = fitting == spaces.end() ? spaces.back() : *fitting;
+    const ProfilePtr to = profileOf(space);
+    return {transformed(std::move(image), profile, to.get(), VIPS_FORMAT_USHORT), space};
+}
+
+/// Of a press, for inks that say nothing about themselves.
+ProfilePtr usualInks()
+{
+    VipsBlob* blob = nullptr;
+    if (vips_profile_load("cmyk", &blob, nullptr) != 0)
+        return nullptr;
+    std::size_t size = 0;
+    const void* const bytes = vips_blob_get(blob, &size);
+    ProfilePtr profile(cmsOpenProfileFromMem(bytes, cmsUInt32Number(size)));
+    vips_area_unref(VIPS_AREA(blob));
+    return profile;
 }
 
 VipsImagePtr withoutSpareBands(VipsImagePtr image)
@@ -155,40 +268,53 @@ bool isRgbOrGrey(VipsImage* image)
     }
 }
 
-VipsImagePtr withoutProfile(VipsImagePtr image)
+WorkingColor withoutProfile(VipsImagePtr image)
 {
-    if (isCmyk(image.get()))
-        return transformToSrgb(image.get(), "cmyk");
+    if (isCmyk(image.get())) {
+        const ProfilePtr inks = usualInks();
+        return inks ? toSmallestSpace(std::move(image), inks.get()) : WorkingColor{nullptr, CIColorSpace::SRGB};
+    }
     if (isRgbOrGrey(image.get()))
-        return image;
-    return derive([&](VipsImage** out) {
-        const bool isEightBit = vips_image_get_format(image.get()) == VIPS_FORMAT_UCHAR;
-        return vips_colourspace(
-            image.get(), out, isEightBit ? VIPS_INTERPRETATION_sRGB : VIPS_INTERPRETATION_RGB16, nullptr);
-    });
+        return {std::move(image), CIColorSpace::SRGB};
+    const bool isEightBit = vips_image_get_format(image.get()) == VIPS_FORMAT_UCHAR;
+    return {derive([&](VipsImage** out) {
+                return vips_colourspace(
+                    image.get(), out, isEightBit ? VIPS_INTERPRETATION_sRGB : VIPS_INTERPRETATION_RGB16, nullptr);
+            }),
+        CIColorSpace::SRGB};
 }
 
-VipsImagePtr applyProfile(VipsImagePtr image)
+WorkingColor applyProfile(VipsImagePtr image)
 {
     if (!vips_image_get_typeof(image.get(), VIPS_META_ICC_NAME))
         return withoutProfile(std::move(image));
     const ProfilePtr profile = embeddedProfile(image.get());
-    if (!profile || !fits(cmsGetColorSpace(profile.get()), image.get())
-        || isFloatFormat(vips_image_get_format(image.get()))) {
+    if (!profile || !fits(cmsGetColorSpace(profile.get()), image.get())) {
         imageLog("The embedded color profile doesn't fit the picture and is ignored.");
         return withoutProfile(std::move(image));
     }
-    if (isSrgbInEffect(profile.get(), vips_image_get_format(image.get()) != VIPS_FORMAT_UCHAR))
-        return image;
-    if (VipsImagePtr transformed = transformToSrgb(image.get(), nullptr))
-        return transformed;
+    const VipsBandFormat format = vips_image_get_format(image.get());
+    if (format == VIPS_FORMAT_FLOAT) {
+        const ProfilePtr light = lightProfile();
+        return {transformed(std::move(image), profile.get(), light.get(), format), CIColorSpace::LinearSRGB};
+    }
+    if (isSrgbInEffect(profile.get(), format != VIPS_FORMAT_UCHAR))
+        return {std::move(image), CIColorSpace::SRGB};
+    const auto icc = embeddedBytes(image.get());
+    if (const std::optional<CIColorSpace> space = spaceOf(profile.get(), {icc.begin(), icc.end()}))
+        return {std::move(image), *space};
+    VipsImage* const source = image.get();
+    g_object_ref(source);
+    VipsImagePtr again(source);
+    if (WorkingColor color = toSmallestSpace(std::move(image), profile.get()); color.image)
+        return color;
     imageLog("The embedded color profile can't be applied: " + takeVipsError());
-    return withoutProfile(std::move(image));
+    return withoutProfile(std::move(again));
 }
 
 } // namespace
 
-VipsImagePtr toWorkingColor(VipsImagePtr image)
+WorkingColor toWorkingColor(VipsImagePtr image)
 {
     const VipsCoding coding = vips_image_get_coding(image.get());
     if (coding != VIPS_CODING_NONE) // packed Lab
@@ -196,21 +322,20 @@ VipsImagePtr toWorkingColor(VipsImagePtr image)
             [&](VipsImage** out) { return vips_colourspace(image.get(), out, VIPS_INTERPRETATION_RGB16, nullptr); });
     if (image && isRgbOrGrey(image.get()))
         image = toKeptFormat(std::move(image));
-    if (image)
-        image = applyProfile(std::move(image));
-    if (image)
-        image = toKeptFormat(std::move(image));
-    return image ? withoutSpareBands(std::move(image)) : nullptr;
+    if (!image)
+        return {nullptr, CIColorSpace::SRGB};
+    WorkingColor color = applyProfile(std::move(image));
+    if (color.image)
+        color.image = toKeptFormat(std::move(color.image));
+    if (color.image)
+        color.image = withoutSpareBands(std::move(color.image));
+    return color;
 }
 
 std::string profileName(VipsImage* image)
 {
     const ProfilePtr profile = embeddedProfile(image);
-    std::array<char, 256> text{};
-    if (!profile
-        || !cmsGetProfileInfoASCII(profile.get(), cmsInfoDescription, "en", "US", text.data(), text.size() - 1))
-        return {};
-    return text.data();
+    return profile ? descriptionOf(profile.get()) : std::string();
 }
 
 } // namespace imageio

@@ -83,13 +83,13 @@ Result<CIBitmap> decodeAs(const PictureInput& input, const ReadOptions& options,
         imageLog(input.name() + " has too few bytes for its size.");
         return damaged(input);
     }
-    VipsImagePtr image = toWorkingColor(std::move(picture.image));
+    auto [image, space] = toWorkingColor(std::move(picture.image));
     if (image)
         image = reducedTo(std::move(image), options.maxSide, picture.isPremultiplied);
     if (!image)
         return damaged(input);
-    SinkResult pulled = pullIntoBitmap(image.get(), picture.orientation,
-        picture.isPremultiplied ? CIAlpha::Premultiplied : CIAlpha::Straight, options, acceptsPart);
+    const CIAlpha alpha = picture.isPremultiplied ? CIAlpha::Premultiplied : CIAlpha::Straight;
+    SinkResult pulled = pullIntoBitmap(image.get(), space, picture.orientation, alpha, options, acceptsPart);
     switch (pulled.end) {
     case SinkEnd::Complete:
         return std::move(pulled.bitmap);

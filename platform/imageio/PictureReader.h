@@ -39,12 +39,13 @@ struct PictureInfo {
     PictureFormat format = PictureFormat::Png;
 };
 
-/// Reads a picture: upright, in sRGB, first frame or page, row 0 on top. Content decides the format, not the name.
+/// Reads a picture: upright, first frame or page, row 0 on top. Content decides the format, not the name.
 ///
-/// The result is RGBA8 (sRGB) for files of up to 8 bits, RGBA16 (sRGB) for deeper ones and RGBAf (linear sRGB, not
-/// clipped) for floating-point ones. Alpha is straight (in OpenEXR files premultiplied, as they are stored), or opaque
-/// when no pixel is transparent. Drawings (SVG, PDF)
-/// are rendered 1024 to 8192 pixels large and see no other file.
+/// The result is RGBA8 for files of up to 8 bits, RGBA16 for deeper ones and RGBAf (linear sRGB, not clipped) for
+/// floating-point ones. Codes are those of the file, in sRGB or in the space of its profile if that is a curve and a
+/// matrix; of other profiles and color models, 16 bits in a space that holds them. Alpha is straight (in OpenEXR files
+/// premultiplied, as they are stored), or opaque when no pixel is transparent. Drawings (SVG, PDF) are rendered 1024 to
+/// 8192 pixels large and see no other file.
 ///
 /// Fails with a message fit to show when the file is missing, damaged, incomplete (see `isIncomplete`), of an unknown
 /// format, over `maxPixels` or too large for the memory; the header is checked before memory is taken, and the

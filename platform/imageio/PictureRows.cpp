@@ -1,5 +1,7 @@
 #include "platform/imageio/PictureRows.h"
 
+#include "platform/coreimage/CIColorProfile.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -51,6 +53,7 @@ public:
     RowConverter(const CIBitmap& bitmap, RowLayout layout)
         : m_bitmap(bitmap)
         , m_layout(layout)
+        , m_profiled(profiledSpace(bitmap.colorSpace()))
     {
     }
 
@@ -88,7 +91,7 @@ private:
                 std::copy_n(source + 4 * i, bands, target + bands * i);
         else
             for (int i = 0; i < count; ++i)
-                storePixel(straightSrgb(loaded(source + 4 * i, m_bitmap.format())), target + bands * i);
+                storePixel(straightCodes(loaded(source + 4 * i, m_bitmap.format())), target + bands * i);
     }
 
     template <class Source>
@@ -106,25 +109,23 @@ private:
     /// Without a detour through codes, which end at 1.
     Pixel premultipliedLight(Pixel pixel) const
     {
-        if (m_bitmap.alpha() == CIAlpha::Opaque)
-            pixel.alpha = 1;
-        const bool isPremultiplied = m_bitmap.alpha() == CIAlpha::Premultiplied;
-        if (m_bitmap.colorSpace() == CIColorSpace::SRGB) {
-            const float factor = isPremultiplied ? (pixel.alpha > 0 ? 1 / pixel.alpha : 0) : 1;
-            changeColor(pixel, [factor, &pixel](float c) { return linearLight(c * factor) * pixel.alpha; });
-        } else if (!isPremultiplied) {
-            changeColor(pixel, [&pixel](float c) { return c * pixel.alpha; });
-        }
+        const bool isLight = m_bitmap.colorSpace() == CIColorSpace::LinearSRGB;
+        if (isLight && m_bitmap.alpha() == CIAlpha::Premultiplied)
+            return pixel;
+        pixel = light(straight(pixel));
+        changeColor(pixel, [&pixel](float c) { return c * pixel.alpha; });
         return pixel;
     }
 
+    bool keepsCodes() const { return m_profiled ? m_layout.keepsProfile : m_bitmap.colorSpace() == CIColorSpace::SRGB; }
+
     bool isStoredAlready() const
     {
-        return m_bitmap.colorSpace() == CIColorSpace::SRGB && m_bitmap.format() != CIFormat::BGRA8
+        return keepsCodes() && m_bitmap.format() != CIFormat::BGRA8
             && (m_bitmap.alpha() == CIAlpha::Opaque || (m_bitmap.alpha() == CIAlpha::Straight && m_layout.hasAlpha));
     }
 
-    Pixel straightSrgb(Pixel pixel) const
+    Pixel straight(Pixel pixel) const
     {
         if (m_bitmap.alpha() == CIAlpha::Opaque)
             pixel.alpha = 1;
@@ -132,8 +133,33 @@ private:
             const float factor = pixel.alpha > 0 ? 1 / pixel.alpha : 0;
             changeColor(pixel, [factor](float c) { return c * factor; });
         }
-        if (m_bitmap.colorSpace() == CIColorSpace::LinearSRGB)
-            changeColor(pixel, srgbCoded);
+        return pixel;
+    }
+
+    /// Linear sRGB, of straight codes.
+    Pixel light(Pixel pixel) const
+    {
+        if (m_bitmap.colorSpace() == CIColorSpace::SRGB) {
+            changeColor(pixel, linearLight);
+        } else if (m_profiled) {
+            const CIColorProfile& profile = m_profiled->profile();
+            changeColor(pixel, [&](float c) { return profile.light[stored<std::uint16_t>(c)]; });
+            const auto& m = profile.toLinearSRGB;
+            const auto [r, g, b, alpha] = pixel;
+            pixel = {
+                m[0] * r + m[1] * g + m[2] * b, m[3] * r + m[4] * g + m[5] * b, m[6] * r + m[7] * g + m[8] * b, alpha};
+        }
+        return pixel;
+    }
+
+    /// Codes of the file.
+    Pixel straightCodes(Pixel pixel) const
+    {
+        pixel = straight(pixel);
+        if (keepsCodes())
+            return pixel;
+        pixel = light(pixel);
+        changeColor(pixel, srgbCoded);
         return pixel;
     }
 
@@ -153,6 +179,7 @@ private:
 
     const CIBitmap& m_bitmap;
     RowLayout m_layout;
+    const CIProfiledSpace* m_profiled; // null without a profile
 };
 
 int generateRows(VipsRegion* region, void*, void* converter, void*, gboolean*)

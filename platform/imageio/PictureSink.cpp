@@ -81,7 +81,7 @@ void spreadOpaqueRow(const T* __restrict source, T* __restrict target, int count
 
 class Sink {
 public:
-    Sink(VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options)
+    Sink(VipsImage* image, CIColorSpace space, int orientation, CIAlpha alpha, const ReadOptions& options)
         : m_bands(vips_image_get_bands(image))
         , m_height(vips_image_get_height(image))
         , m_options(options)
@@ -93,7 +93,8 @@ public:
             : format == VIPS_FORMAT_USHORT     ? CIFormat::RGBA16
                                                : CIFormat::RGBAf;
         const bool swaps = swapsSides(orientation);
-        NewBitmap target = bitmapFor(swaps ? height : width, swaps ? width : height, m_format, alpha, options);
+        const CIColorSpace stored = m_format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : space;
+        NewBitmap target = bitmapFor(swaps ? height : width, swaps ? width : height, m_format, stored, alpha, options);
         m_bitmap = std::move(target.bitmap);
         m_placement = placementFor(orientation, m_bitmap, target.pixels);
     }
@@ -208,10 +209,10 @@ void requireMemory(int width, int height, CIFormat format, const ReadOptions& op
         throw std::bad_alloc();
 }
 
-NewBitmap bitmapFor(int width, int height, CIFormat format, CIAlpha alpha, const ReadOptions& options)
+NewBitmap bitmapFor(
+    int width, int height, CIFormat format, CIColorSpace space, CIAlpha alpha, const ReadOptions& options)
 {
     requireMemory(width, height, format, options);
-    const CIColorSpace space = format == CIFormat::RGBAf ? CIColorSpace::LinearSRGB : CIColorSpace::SRGB;
     const std::size_t rowBytes = std::size_t(width) * bytesPerPixel(format);
     if (options.memory) {
         const std::shared_ptr<std::byte> memory = options.memory(rowBytes * std::size_t(height));
@@ -223,9 +224,9 @@ NewBitmap bitmapFor(int width, int height, CIFormat format, CIAlpha alpha, const
 }
 
 SinkResult pullIntoBitmap(
-    VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions& options, bool acceptsPart)
+    VipsImage* image, CIColorSpace space, int orientation, CIAlpha alpha, const ReadOptions& options, bool acceptsPart)
 {
-    Sink sink(image, orientation, alpha, options);
+    Sink sink(image, space, orientation, alpha, options);
     return acceptsPart ? sink.pullPart(image) : sink.pull(image);
 }
 

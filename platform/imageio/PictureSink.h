@@ -28,14 +28,14 @@ struct NewBitmap {
 };
 
 /// A bitmap of zeroes in the memory that the options name. Throws std::bad_alloc when there is none.
-NewBitmap bitmapFor(int width, int height, CIFormat format, CIAlpha alpha, const ReadOptions& options);
+NewBitmap bitmapFor(
+    int width, int height, CIFormat format, CIColorSpace space, CIAlpha alpha, const ReadOptions& options);
 
 /// Pulls `image` (1 or 3 color bands, optional alpha; 8 or 16 bits or float) through once, strip by strip, and
-/// turns it upright on the way: no second copy of the picture is made. `orientation` is the EXIF number; `alpha`
-/// says what the pixels are if one of them is transparent.
-/// With `acceptsPart` it is pulled row by row, and is complete when the first few are there.
-/// Throws std::bad_alloc when the bitmap has no room.
+/// turns it upright on the way: no second copy of the picture is made. `space` is that of codes; `orientation` is the
+/// EXIF number; `alpha` says what the pixels are if one of them is transparent. With `acceptsPart` it is pulled row by
+/// row, and is complete when the first few are there. Throws std::bad_alloc when the bitmap has no room.
 SinkResult pullIntoBitmap(
-    VipsImage* image, int orientation, CIAlpha alpha, const ReadOptions&, bool acceptsPart = false);
+    VipsImage* image, CIColorSpace space, int orientation, CIAlpha alpha, const ReadOptions&, bool acceptsPart = false);
 
 } // namespace imageio

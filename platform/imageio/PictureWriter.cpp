@@ -1,5 +1,6 @@
 #include "platform/imageio/PictureWriter.h"
 
+#include "platform/coreimage/CIColorProfile.h"
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/MetadataCopy.h"
 #include "platform/imageio/PictureRows.h"
@@ -34,12 +35,18 @@ RowLayout layoutFor(const CIBitmap& bitmap, const WriteOptions& options)
     RowLayout layout;
     const int most = fileFormat(options.format).writtenBits;
     layout.bits = most == 32 ? 32 : wanted > 8 && most > 8 ? 16 : 8;
+    layout.keepsProfile = fileFormat(options.format).writesProfile;
     layout.hasAlpha = bitmap.alpha() != CIAlpha::Opaque && fileFormat(options.format).writesAlpha;
     return layout;
 }
 
-void attachSrgbProfile(VipsImage* image)
+void attachProfile(VipsImage* image, const CIBitmap& bitmap, const RowLayout& layout)
 {
+    if (const CIProfiledSpace* own = layout.keepsProfile ? profiledSpace(bitmap.colorSpace()) : nullptr) {
+        const std::vector<std::byte>& icc = own->profile().icc;
+        vips_image_set_blob_copy(image, VIPS_META_ICC_NAME, icc.data(), icc.size());
+        return;
+    }
     VipsBlob* profile = nullptr;
     if (vips_profile_load("srgb", &profile, nullptr) != 0) {
         vips_error_clear(); // files without a profile count as sRGB too
@@ -59,7 +66,8 @@ bool isInsideImage(const WriteOptions& options)
 
 NewFile aboutFile(const CIBitmap& bitmap, const WriteOptions& options)
 {
-    return {bitmap.width(), bitmap.height(), options.dotsPerInch};
+    const bool keepsProfile = profiledSpace(bitmap.colorSpace()) && fileFormat(options.format).writesProfile;
+    return {bitmap.width(), bitmap.height(), options.dotsPerInch, !keepsProfile};
 }
 
 void attachExif(VipsImage* image, const PictureMetadata* metadata, const NewFile& about)
@@ -80,10 +88,11 @@ void reportProgress(VipsImage* image, VipsProgress* progress, CIRenderControl* c
 bool encodeTo(VipsTarget* target, const CIBitmap& bitmap, const WriteOptions& options)
 {
     const auto encode = fileFormat(options.format).encode;
-    VipsImagePtr image = target && encode ? imageOfBitmap(bitmap, layoutFor(bitmap, options)) : nullptr;
+    const RowLayout layout = layoutFor(bitmap, options);
+    VipsImagePtr image = target && encode ? imageOfBitmap(bitmap, layout) : nullptr;
     if (image) {
-        if (fileFormat(options.format).writtenBits < 32)
-            attachSrgbProfile(image.get());
+        if (layout.bits < 32)
+            attachProfile(image.get(), bitmap, layout);
         if (isInsideImage(options))
             attachExif(image.get(), options.metadata.get(), aboutFile(bitmap, options));
         if (options.dotsPerInch > 0)

@@ -27,8 +27,8 @@ struct WriteOptions {
     CIRenderControl* control = nullptr; // is told how far it is; once cancelled, nothing is written
 };
 
-/// Writes the bitmap in sRGB with straight alpha; formats without alpha get the picture on white. Opaque bitmaps
-/// are stored without alpha.
+/// Writes the bitmap with straight alpha, in its own space where the format has profiles, else in sRGB; formats without
+/// alpha get the picture on white. Opaque bitmaps are stored without alpha.
 ///
 /// The file appears under its name only when it is complete and on the disk: it is written beside `file` and then
 /// renamed, so that an older file of that name survives every failure. A symbolic link is followed, permissions

@@ -80,7 +80,7 @@ Result<CIBitmap> developed(LibRaw& raw, const PictureInput& input, const ReadOpt
     raw.get_mem_image_format(&width, &height, &colors, &bits);
     if (width <= 0 || height <= 0 || colors != 3 || bits != 16)
         return input.failure(Reason::StrangePixels);
-    const NewBitmap target = bitmapFor(width, height, CIFormat::RGBA16, CIAlpha::Opaque, options);
+    const NewBitmap target = bitmapFor(width, height, CIFormat::RGBA16, CIColorSpace::SRGB, CIAlpha::Opaque, options);
     if (const int error = raw.copy_mem_image(target.pixels, int(target.bitmap.bytesPerRow()), 0))
         return failureOf(input, error);
     spreadRows(reinterpret_cast<std::uint16_t*>(target.pixels), width, height);

@@ -1,5 +1,5 @@
 // BMP files and icons of all ages, written byte by byte.
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
@@ -17,13 +17,6 @@ struct BmpReader : testing::Test {
         setImageLog([](std::string_view) {});
     }
     ~BmpReader() override { setImageLog({}); }
-
-    static CIBitmap read(const Bytes& file)
-    {
-        const Result<CIBitmap> result = readPicture(file);
-        EXPECT_TRUE(result) << result.message();
-        return result ? *result : CIBitmap(9, 9);
-    }
 };
 
 Bytes joined(std::initializer_list<Bytes> parts)

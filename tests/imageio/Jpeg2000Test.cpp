@@ -129,6 +129,8 @@ Bytes boxed(const Bytes& stream, const std::vector<Bytes>& headers)
 
 Pixel only(const Bytes& file) { return pixelAt(read(file), 0, 0); }
 
+Pixel shown(const Bytes& file) { return pixelAt(inSrgb(read(file)), 0, 0); }
+
 constexpr int kCmyk = 12, kYcck = 13, kLab = 14, kSrgb = 16, kGrey = 17, kSycc = 18, kEsycc = 24;
 
 TEST(Jpeg2000, KeepsEveryPrecision)
@@ -207,8 +209,8 @@ TEST(Jpeg2000, TurnsItsColorSpacesIntoSrgb)
     expectNear(only(boxed(dot({1224, 1357, 4095}, 12), {enumerated(kSycc)})), {65535, 0, 0, 65535}, 300);
     EXPECT_THAT(only(boxed(dot({90, 128, 128}), {enumerated(kSycc)})), ElementsAre(90, 90, 90, 255));
 
-    expectNear(only(boxed(dot({0, 0, 0, 0}), {enumerated(kCmyk)})), {255, 255, 255, 255}, 2);
-    const Pixel cyan = only(boxed(dot({255, 0, 0, 0}), {enumerated(kCmyk)}));
+    expectNear(shown(boxed(dot({0, 0, 0, 0}), {enumerated(kCmyk)})), {255, 255, 255, 255}, 2);
+    const Pixel cyan = shown(boxed(dot({255, 0, 0, 0}), {enumerated(kCmyk)}));
     EXPECT_LT(cyan[0], 80);
     EXPECT_GT(cyan[2], 180);
 
@@ -248,7 +250,7 @@ TEST(Jpeg2000, AppliesEmbeddedProfiles)
     cmsFreeToneCurve(curve);
     Bytes color = bytesOf({2, 0, 0});
     append(color, savedProfile(srgb));
-    expectNear(only(boxed(dot({55, 55, 55}), {box("colr", color)})), {128, 128, 128, 255}, 1.5);
+    expectNear(shown(boxed(dot({55, 55, 55}), {box("colr", color)})), {128, 128, 128, 255}, 1.5);
 }
 
 TEST(Jpeg2000, ReadsNoMoreDetailThanIsAskedFor)

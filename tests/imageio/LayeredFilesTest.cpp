@@ -49,7 +49,7 @@ constexpr int kGrey = 1, kIndexed = 2, kRgb = 3, kLab = 9;
 
 TEST(PsdReader, InksAndOtherColors)
 {
-    const CIBitmap inks = read(inksFile());
+    const CIBitmap inks = inSrgb(read(inksFile()));
     EXPECT_GT(pixelAt(inks, 0, 0)[1], 250);
     EXPECT_LT(pixelAt(inks, 1, 0)[1], 80);
     EXPECT_LT(pixelAt(inks, 2, 0)[0] + 80, pixelAt(inks, 2, 0)[2]);

@@ -1,5 +1,6 @@
 #include "tests/imageio/PictureFiles.h"
 
+#include "platform/coreimage/CIContext.h"
 #include "platform/imageio/PictureRows.h"
 
 #include <bit>
@@ -244,6 +245,12 @@ CIBitmap noiseBitmap(int width, int height, CIFormat format, CIAlpha alpha)
             byte = std::byte(state >> 24);
         }
     return bitmap;
+}
+
+CIBitmap inSrgb(const CIBitmap& bitmap)
+{
+    const CIImage image = CIImage::fromBitmap(bitmap);
+    return CIContext().render(image, image.extent());
 }
 
 std::array<double, 4> pixelAt(const CIBitmap& bitmap, int x, int y)

@@ -59,6 +59,9 @@ Bytes withExifOrientation(const Bytes& jpeg, int orientation);
 /// Deterministic noise.
 CIBitmap noiseBitmap(int width, int height, CIFormat = CIFormat::RGBA8, CIAlpha = CIAlpha::Straight);
 
+/// As screens show it, of 8 bits.
+CIBitmap inSrgb(const CIBitmap&);
+
 /// The four components of one pixel, 0 to 255 or 0 to 65535 or float.
 std::array<double, 4> pixelAt(const CIBitmap&, int x, int y);
 

@@ -1,5 +1,5 @@
 // What PNG files say about their colors and the way up, and files that end too early.
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
@@ -17,13 +17,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using Chunks = std::vector<std::pair<std::string, Bytes>>;
 
-CIBitmap read(const Bytes& file)
-{
-    const Result<CIBitmap> result = readPicture(file);
-    EXPECT_TRUE(result) << result.message();
-    return result ? *result : CIBitmap(9, 9);
-}
-
 double coded(double l) { return 255 * (l <= 0.0031308 ? 12.92 * l : 1.055 * std::pow(l, 1 / 2.4) - 0.055); }
 
 Bytes bigEndian(std::initializer_list<std::uint32_t> values)
@@ -39,8 +32,8 @@ Bytes greyPng(const Chunks& chunks) { return pngFile(1, 1, 8, 2, bytesOf({100, 1
 TEST(PngReader, HeedsGamma)
 {
     const Chunks linear{{"gAMA", bigEndian({100000})}};
-    EXPECT_NEAR(pixelAt(read(greyPng(linear)), 0, 0)[0], coded(100 / 255.0), 1);
-    EXPECT_NEAR(pixelAt(read(pngFile(1, 1, 8, 0, bytesOf({100}), linear)), 0, 0)[1], coded(100 / 255.0), 1);
+    EXPECT_NEAR(pixelAt(inSrgb(read(greyPng(linear))), 0, 0)[0], coded(100 / 255.0), 1);
+    EXPECT_NEAR(pixelAt(inSrgb(read(pngFile(1, 1, 8, 0, bytesOf({100}), linear))), 0, 0)[1], coded(100 / 255.0), 1);
     EXPECT_THAT(pixelAt(read(greyPng({{"gAMA", bigEndian({45455})}})), 0, 0), ElementsAre(100, 100, 100, 255));
     EXPECT_THAT(pixelAt(read(greyPng({{"sRGB", bytesOf({0})}, {"gAMA", bigEndian({100000})}})), 0, 0),
         ElementsAre(100, 100, 100, 255));
@@ -50,7 +43,7 @@ TEST(PngReader, HeedsCodePointsBeforeAllElse)
 {
     // Linear Rec. 2020, though the file has a gamma, too; white stays white.
     const Chunks wide{{"cICP", bytesOf({9, 8, 0, 1})}, {"gAMA", bigEndian({45455})}};
-    EXPECT_NEAR(pixelAt(read(greyPng(wide)), 0, 0)[2], coded(100 / 255.0), 1);
+    EXPECT_NEAR(pixelAt(inSrgb(read(greyPng(wide))), 0, 0)[2], coded(100 / 255.0), 1);
     // The white of paper, 203 candela of at most 10000, has the code 0.5807 of the perceptual curve.
     const CIBitmap bright =
         read(pngFile(2, 1, 8, 2, bytesOf({148, 148, 148, 255, 255, 255}), {{"cICP", bytesOf({9, 16, 0, 1})}}));

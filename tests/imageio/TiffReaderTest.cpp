@@ -1,5 +1,5 @@
 // TIFF files of rarer kinds.
-#include "tests/imageio/PictureFiles.h"
+#include "tests/imageio/ReadPictures.h"
 
 #include "platform/imageio/ImageLog.h"
 #include "platform/imageio/PictureReader.h"
@@ -11,19 +11,6 @@ namespace {
 using ::testing::ElementsAre;
 
 constexpr int kBits = 258, kPlanar = 284, kExtra = 338, kFormat = 339, kSubsampling = 530;
-
-CIBitmap read(const Bytes& file)
-{
-    const Result<CIBitmap> result = readPicture(file);
-    EXPECT_TRUE(result) << result.message();
-    return result ? *result : CIBitmap(9, 9);
-}
-
-void expectNear(const std::array<double, 4>& actual, const std::array<double, 4>& expected, double tolerance)
-{
-    for (std::size_t i = 0; i < 4; ++i)
-        EXPECT_NEAR(actual[i], expected[i], tolerance) << "component " << i;
-}
 
 TEST(TiffReader, SignedSamplesBeginWithBlack)
 {

@@ -1,5 +1,7 @@
 #include "platform/imageio/reader_process/Messages.h"
 
+#include "platform/coreimage/CIColorProfile.h"
+
 namespace imageio {
 
 namespace {
@@ -75,7 +77,7 @@ Parcel packed(const BitmapShape& shape)
         .put(shape.height)
         .put(shape.format)
         .put(shape.alpha)
-        .put(shape.space)
+        .putText(packedSpace(shape.space))
         .put(shape.isIncomplete);
 }
 
@@ -85,7 +87,12 @@ BitmapShape unpackedShape(std::string_view bytes)
     const int width = takeSide(parcel), height = takeSide(parcel);
     const CIFormat format = parcel.takeEnum(CIFormat::RGBAf);
     const CIAlpha alpha = parcel.takeEnum(CIAlpha::Premultiplied);
-    const CIColorSpace space = parcel.takeEnum(CIColorSpace::LinearSRGB);
+    CIColorSpace space = CIColorSpace::SRGB;
+    try {
+        space = unpackedSpace(parcel.takeText());
+    } catch (const std::invalid_argument& error) {
+        throw std::runtime_error(error.what());
+    }
     return {width, height, format, alpha, space, parcel.takeBool()};
 }
 

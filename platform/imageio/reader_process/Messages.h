@@ -12,7 +12,7 @@ struct BitmapShape {
     int width, height;
     CIFormat format;
     CIAlpha alpha;
-    CIColorSpace space;
+    CIColorSpace space = CIColorSpace::SRGB;
     bool isIncomplete = false;
     std::size_t bytes() const { return std::size_t(width) * std::size_t(height) * bytesPerPixel(format); }
 };
