@@ -352,7 +352,9 @@ void Controller::readImage(const QString& path, std::function<void(const CIImage
 CIBitmap Controller::createObjectImage()
 {
     const LaterPicture picture = laterEffectedImage();
-    return picture ? renderedBitmap(*m_document.context(), picture(nullptr), m_document.format()) : CIBitmap();
+    return picture
+        ? renderedBitmap(*m_document.context(), picture(nullptr), storedLike(m_document.picture(), m_document.format()))
+        : CIBitmap();
 }
 
 CIBitmap Controller::getCGImage() { return renderedBitmap(*m_document.context(), getImage(true), CIFormat::RGBA8); }

@@ -70,7 +70,9 @@ try {
     if (settings.size != QSize(picture.width(), picture.height())) {
         const CIImage recipe =
             ci::resampled(CIImage::fromBitmap(picture), settings.size.width(), settings.size.height());
-        sized = CIContext().render(recipe, recipe.extent(), 1, picture.format());
+        sized = CIBitmap(
+            settings.size.width(), settings.size.height(), picture.format(), CIAlpha::Straight, picture.colorSpace());
+        CIContext().renderInto(sized, 0, sized.height(), recipe);
         if (picture.alpha() == CIAlpha::Opaque)
             sized.setOpaque();
     }

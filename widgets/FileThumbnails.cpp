@@ -1,5 +1,6 @@
 #include "widgets/FileThumbnails.h"
 
+#include "platform/coreimage/CIColorProfile.h"
 #include "platform/imageio/LooseThread.h"
 #include "platform/imageio/PictureReader.h"
 #include "widgets/DropFileTypes.h"
@@ -10,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include <QColorSpace>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -52,7 +54,15 @@ QImage smallPicture(const QString& path, int side, const std::atomic<bool>& canc
         : (isOpaque ? QImage::Format_RGBX8888 : QImage::Format_RGBA8888);
     const QImage whole(reinterpret_cast<const uchar*>(read->row(0)), read->width(), read->height(),
         qsizetype(read->bytesPerRow()), format);
-    return whole.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+    QImage colored = whole;
+    if (const CIProfiledSpace* const profiled = profiledSpace(read->colorSpace())) {
+        const std::vector<std::byte>& icc = profiled->profile().icc;
+        colored.setColorSpace(
+            QColorSpace::fromIccProfile(QByteArray(reinterpret_cast<const char*>(icc.data()), qsizetype(icc.size()))));
+        if (colored.colorSpace().isValid())
+            colored.convertToColorSpace(QColorSpace::SRgb);
+    }
+    return colored.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation)
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 

@@ -23,7 +23,8 @@ void Clipboard::copy()
     const LaterPicture picture = m_document.isIdle() ? m_finished() : LaterPicture();
     if (!picture)
         return;
-    const auto make = [picture, context = m_document.context(), format = m_document.format()](WorkControl& control) {
+    const auto make = [picture, context = m_document.context(),
+                          format = storedLike(m_document.picture(), m_document.format())](WorkControl& control) {
         const CIBitmap bitmap = renderedBitmap(*context, picture(&control.rendering), format, &control.rendering);
         Copied copied;
         Result<std::vector<std::byte>> encoded =

@@ -81,7 +81,8 @@ void Cropping::straighten(double angle, bool fills)
     const CIImage turned =
         ci::turned(fills ? picture.clampedToExtent() : picture, straighteningMotion(extent, angle, size))
             .cropped({0, 0, size.x, size.y});
-    const auto make = [turned, format = m_document.format(), context = m_document.context()](
+    const auto make = [turned, format = storedLike(m_document.picture(), m_document.format()),
+                          context = m_document.context()](
                           WorkControl& control) { return bakedImage(*context, turned, format, &control.rendering); };
     m_document.work({.title = tr("Straightening the picture…")}, make,
         [this](const std::optional<CIImage>& made, bool isCancelled) { replace(made, isCancelled, tr("Straighten")); });

@@ -49,7 +49,8 @@ void DraggingOut::start()
     if (name.isEmpty())
         name = tr("Picture");
     const QString path = freshPath(nameInFormat(name, format));
-    const auto make = [picture = m_finished(), context = m_document.context(), depth = m_document.format(), path,
+    const auto make = [picture = m_finished(), context = m_document.context(),
+                          depth = storedLike(m_document.picture(), m_document.format()), path,
                           metadata = m_document.metadata(), remembered = ExportSettings::remembered(format.format)](
                           WorkControl& control) -> Result<void> {
         const CIImage finished = picture ? picture(&control.rendering) : CIImage();

@@ -16,8 +16,8 @@ void Printing::run()
 {
     if (!m_document.isIdle() || !m_document.picture())
         return;
-    const auto make = [picture = m_finished(), context = m_document.context(), format = m_document.format()](
-                          WorkControl& control) {
+    const auto make = [picture = m_finished(), context = m_document.context(),
+                          format = storedLike(m_document.picture(), m_document.format())](WorkControl& control) {
         const CIImage finished = picture ? picture(&control.rendering) : CIImage();
         return screenPicture(renderedBitmap(*context, finished, format, &control.rendering));
     };

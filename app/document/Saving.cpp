@@ -210,7 +210,8 @@ Saving::Writer Saving::pdfWriter(const QString& path) const
 void Saving::write(const QString& path, Writer writer, Then then)
 {
     const auto make = [picture = m_finished(), writer = std::move(writer), context = m_document.context(),
-                          format = m_document.format()](WorkControl& control) -> Result<void> {
+                          format = storedLike(m_document.picture(), m_document.format())](
+                          WorkControl& control) -> Result<void> {
         const CIImage finished = picture ? picture(&control.rendering) : CIImage();
         const CIBitmap bitmap = renderedBitmap(*context, finished, format, &control.rendering);
         control.rendering.setProgress(1);

@@ -51,8 +51,8 @@ void CustomMode::apply(const std::function<void()>& done)
 {
     if (!hasItem())
         return done();
-    const auto make = [draw = effect()->laterDrawImage(), context = m_document.context(), format = m_document.format()](
-                          WorkControl& control) {
+    const auto make = [draw = effect()->laterDrawImage(), context = m_document.context(),
+                          format = storedLike(m_document.picture(), m_document.format())](WorkControl& control) {
         const CIImage drawn = draw(&control.rendering);
         const CIImage baked = bakedImage(*context, drawn, format, &control.rendering);
         makeReducedCopies(baked);

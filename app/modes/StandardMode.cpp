@@ -159,7 +159,8 @@ void StandardMode::apply(const std::function<void()>& done)
             replacePicture(applied);
         return done();
     }
-    const auto make = [applied, context = m_document.context(), format = m_document.format()](
+    const auto make = [applied, context = m_document.context(),
+                          format = storedLike(m_document.picture(), m_document.format())](
                           WorkControl& control) { return bakedImage(*context, applied, format, &control.rendering); };
     m_document.work({.title = tr("Applying the filter…")}, make,
         [this, applied, done](const std::optional<CIImage>& baked, bool isCancelled) {

@@ -1,6 +1,8 @@
 #include "app/window/StatusRow.h"
 
 #include "app/document/Document.h"
+#include "platform/chain/Baking.h"
+#include "platform/coreimage/CIColorProfile.h"
 #include "widgets/BackgroundWork.h"
 
 #include <QAbstractButton>
@@ -23,15 +25,17 @@ constexpr auto kMessageTime = 8s;
 constexpr auto kOfferTime = 10s;
 constexpr auto kTick = 50ms;
 
-QString depthText(CIFormat format)
+QString depthText(const Document& document)
 {
-    switch (format) {
+    const CIProfiledSpace* const profiled = profiledSpace(storedLike(document.picture(), document.format()).space);
+    const QString name = profiled ? QString::fromStdString(profiled->profile().name) : QString();
+    switch (document.format()) {
     case CIFormat::RGBA16:
-        return StatusRow::tr("sRGB 16-bit");
+        return profiled ? StatusRow::tr("%1 16-bit", "name of a color space").arg(name) : StatusRow::tr("sRGB 16-bit");
     case CIFormat::RGBAf:
         return StatusRow::tr("sRGB 32-bit float");
     default:
-        return StatusRow::tr("sRGB 8-bit");
+        return profiled ? StatusRow::tr("%1 8-bit", "name of a color space").arg(name) : StatusRow::tr("sRGB 8-bit");
     }
 }
 
@@ -43,7 +47,7 @@ QString pictureText(const Document& document)
     return StatusRow::tr("%1 × %2 px · %3", "width, height, color space and depth")
         .arg(std::lround(extent.width))
         .arg(std::lround(extent.height))
-        .arg(depthText(document.format()));
+        .arg(depthText(document));
 }
 
 } // namespace

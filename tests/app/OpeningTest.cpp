@@ -214,4 +214,19 @@ TEST_F(OpeningTest, StoppedPasteChangesNothing)
     EXPECT_EQ(undo.canUndo(), couldUndo);
 }
 
+TEST_F(OpeningTest, SaysThatTheRestOfAFileIsMissing)
+{
+    QImage noise(300, 200, QImage::Format_RGB32);
+    for (int y = 0; y < noise.height(); ++y)
+        for (int x = 0; x < noise.width(); ++x)
+            noise.setPixel(x, y, QRgb(x * 2654435761u ^ y * 40503u * x));
+    const QString cut = folder.filePath("cut.png");
+    ASSERT_TRUE(noise.save(cut) && QFile::resize(cut, QFileInfo(cut).size() * 2 / 3));
+    controller.openFile(cut);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !controller.isOpening(); }));
+    EXPECT_EQ(controller.getFilePath(), cut);
+    EXPECT_TRUE(controller.getBgImageExtent() == CIRect(0, 0, 300, 200));
+    EXPECT_EQ(ui.pictureInfoField->text(), "cut.png is incomplete: the rest of the picture is missing.");
+}
+
 } // namespace

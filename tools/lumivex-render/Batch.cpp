@@ -161,7 +161,7 @@ private:
             throw std::runtime_error(m_filterName + " makes no picture of it");
         if (extent.width * extent.height > kMaxOutputPixels)
             throw std::runtime_error("the result would have more than 500 million pixels");
-        const CIBitmap bitmap = renderedBitmap(m_context, result, read->format(), &m_control);
+        const CIBitmap bitmap = renderedBitmap(m_context, result, storedLike(*read), &m_control);
         if (bitmap.isNull())
             throw std::bad_alloc();
         const std::shared_ptr<const PictureMetadata> metadata = file.reader->readMetadata();
