@@ -7565,6 +7565,16 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <comment>after the picture&apos;s size, for a result that is larger</comment>
         <translation> · Ergebnis: %1 × %2 px</translation>
     </message>
+    <message>
+        <source>%1 16-bit</source>
+        <comment>name of a color space</comment>
+        <translation>%1, 16 Bit</translation>
+    </message>
+    <message>
+        <source>%1 8-bit</source>
+        <comment>name of a color space</comment>
+        <translation>%1, 8 Bit</translation>
+    </message>
 </context>
 <context>
     <name>StraightenCanvas</name>

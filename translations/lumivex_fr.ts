@@ -7565,6 +7565,16 @@ Un double-clic rétablit la valeur par défaut</translation>
         <comment>after the picture&apos;s size, for a result that is larger</comment>
         <translation> · résultat : %1 × %2 px</translation>
     </message>
+    <message>
+        <source>%1 16-bit</source>
+        <comment>name of a color space</comment>
+        <translation>%1 16 bits</translation>
+    </message>
+    <message>
+        <source>%1 8-bit</source>
+        <comment>name of a color space</comment>
+        <translation>%1 8 bits</translation>
+    </message>
 </context>
 <context>
     <name>StraightenCanvas</name>
