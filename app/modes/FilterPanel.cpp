@@ -20,7 +20,7 @@ FilterPanel::FilterPanel(QWidget& place, QScrollArea& scroller, QWidget& before,
 
 void FilterPanel::build(const std::shared_ptr<CIFilter>& filter, int tag)
 {
-    m_view = new FilterView(&m_place);
+    m_view = new FilterView(&m_place, m_openFolds);
     m_view->setFilter(filter);
     m_view->setMaster(m_master);
     m_view->setTag(tag);

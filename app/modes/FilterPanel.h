@@ -18,7 +18,7 @@ public:
     void clear();
     /// The same rows with the filter's present values; keyboard and scroller stay where they are. No rows without one.
     void rebuild(const std::shared_ptr<CIFilter>& filter, int tag);
-    bool isEmpty() const { return !m_view || m_view->rowCount() == 0; }
+    bool isEmpty() const { return !m_view || m_view->isEmpty(); }
     /// As the look is now.
     void dress();
 
@@ -29,5 +29,6 @@ private:
     QScrollArea& m_scroller;
     QWidget& m_before;
     ParameterMaster& m_master;
+    const OpenFolds m_openFolds = std::make_shared<std::set<std::string>>();
     QPointer<FilterView> m_view;
 };

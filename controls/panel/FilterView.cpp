@@ -1,5 +1,6 @@
 #include "controls/panel/FilterView.h"
 
+#include "controls/editors/EditorFold.h"
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/ParameterView.h"
 
@@ -51,8 +52,9 @@ void EffectStackBox::paintEvent(QPaintEvent*)
         drawBorder();
 }
 
-FilterView::FilterView(QWidget* parent)
+FilterView::FilterView(QWidget* parent, OpenFolds openFolds)
     : EffectStackBox(parent)
+    , m_openFolds(std::move(openFolds))
 {
     setGeometry(parent->rect());
     controlTopPosition = height();
@@ -80,8 +82,9 @@ void FilterView::addRow(RowKind kind, const std::function<void(ParameterView&)>&
 {
     auto* row = new ParameterView(this);
     m_rows.push_back({kind, row});
-    setTopFrame(*row, place(kind, width()));
+    setTopFrame(*row, placeRow(m_rows.back()));
     build(*row);
+    connect(row, &ParameterView::edited, this, [this, row] { showValuesBeside(*row); });
     row->show();
 }
 
@@ -120,12 +123,24 @@ void FilterView::addHeaderCaption(const QString& text)
     controlTopPosition = height() - m_headerHeight;
 }
 
-void FilterView::resizeEvent(QResizeEvent*)
+QRect FilterView::placeRow(const Row& row)
+{
+    if (const auto* fold = qobject_cast<const EditorFold*>(row.widget))
+        return placeFold(fold->heightFor(foldWidth(width())), width());
+    return place(row.kind, width());
+}
+
+void FilterView::placeRows()
 {
     controlTopPosition = height() - m_headerHeight;
     lastControlType = RowKind::None;
     for (const Row& row : m_rows)
-        setTopFrame(*row.widget, place(row.kind, width()));
+        setTopFrame(*row.widget, placeRow(row));
+}
+
+void FilterView::resizeEvent(QResizeEvent*)
+{
+    placeRows();
     if (m_headerCaption)
         setTopFrame(*m_headerCaption, {controlLeftPosition, height() - 38, width() - 125, 22});
 }
@@ -137,18 +152,64 @@ void FilterView::forEachRow(const std::function<void(RowKind kind, const std::st
     const bool background = hasBackgroundImage(*filter);
     for (const std::string& key : filter->inputKeys())
         if (const CIInputAttributes* input = filter->attributesForKey(key))
-            if (const RowKind kind = rowKindOf(*input, background); kind != RowKind::None)
-                act(kind, key);
+            act(rowKindOf(*input, background), key);
 }
 
 void FilterView::tryRows()
 {
-    forEachRow([this](RowKind kind, const std::string&) { measure(kind); });
+    forEachRow([this](RowKind kind, const std::string&) {
+        if (kind != RowKind::None)
+            measure(kind);
+    });
 }
 
 void FilterView::addRows()
 {
-    forEachRow([this](RowKind kind, const std::string& key) { addRow(kind, filter, key); });
+    forEachRow([this](RowKind kind, const std::string& key) {
+        if (kind != RowKind::None)
+            addRow(kind, filter, key);
+        addFold(key);
+    });
+}
+
+// --- editors under the rows ---
+
+void FilterView::addFold(const std::string& key)
+{
+    const EditorEntry* entry = editorFor(*filter, *filter->attributesForKey(key));
+    if (!entry)
+        return;
+    const std::string name = filter->name() + "/" + key;
+    auto* fold = new EditorFold(*entry, {filter, key, *master}, m_openFolds->contains(name), this);
+    m_rows.push_back({RowKind::None, fold});
+    setTopFrame(*fold, placeRow(m_rows.back()));
+    fold->show();
+    connect(fold, &EditorFold::resized, this, &FilterView::foldResized);
+    connect(fold, &EditorFold::edited, this, [this, fold] { showValuesBeside(*fold); });
+    connect(fold, &EditorFold::toggled, this, [open = m_openFolds, name](bool isOpen) {
+        if (isOpen)
+            open->insert(name);
+        else
+            open->erase(name);
+    });
+}
+
+void FilterView::foldResized()
+{
+    placeRows();
+    setMinimumHeight(contentHeight());
+}
+
+void FilterView::showValuesBeside(const QWidget& edited)
+{
+    const bool byRow = qobject_cast<const ParameterView*>(&edited);
+    for (const Row& row : m_rows) {
+        auto* fold = qobject_cast<EditorFold*>(row.widget);
+        if (fold && fold != &edited)
+            fold->showValues();
+        else if (!fold && !byRow) // rows of other inputs show what they did
+            static_cast<ParameterView*>(row.widget)->showValue();
+    }
 }
 
 int FilterView::contentHeight() const { return height() - controlTopPosition + kBottomMargin; }
@@ -157,8 +218,12 @@ std::vector<QWidget*> FilterView::controls() const
 {
     std::vector<QWidget*> found;
     for (const Row& row : m_rows)
-        for (QWidget* part : row.widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            if (part->focusPolicy() & Qt::TabFocus)
+        if (const auto* fold = qobject_cast<const EditorFold*>(row.widget))
+            for (QWidget* part : fold->controls())
                 found.push_back(part);
+        else
+            for (QWidget* part : row.widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+                if (part->focusPolicy() & Qt::TabFocus)
+                    found.push_back(part);
     return found;
 }

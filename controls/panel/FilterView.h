@@ -6,13 +6,18 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <vector>
 
 #include <QColor>
 #include <QWidget>
 
 class CaptionLabel;
+class EditorFold;
 class ParameterView;
+
+/// The folds that are open, each as "filter's name/input's key". They outlive the panel, which is built anew often.
+using OpenFolds = std::shared_ptr<std::set<std::string>>;
 
 /// Draws a rounded line around itself.
 class MyBorderView : public QWidget {
@@ -52,7 +57,7 @@ class FilterView : public EffectStackBox, private RowStack {
     Q_OBJECT
 public:
     /// Takes the size of `parent`, its place is up to that one's layout.
-    explicit FilterView(QWidget* parent);
+    explicit FilterView(QWidget* parent, OpenFolds openFolds = std::make_shared<std::set<std::string>>());
 
     void setTag(int newTag) { tag = newTag; }
 
@@ -93,8 +98,8 @@ public:
     void tryRows();
     void addRows();
 
-    std::size_t rowCount() const { return m_rows.size(); }
-    /// The height that the rows need, with a margin below them.
+    bool isEmpty() const { return m_rows.empty(); }
+    /// The height that rows and folds need, with a margin below them.
     int contentHeight() const;
     /// The controls that take the keyboard, from top to bottom.
     std::vector<QWidget*> controls() const;
@@ -103,12 +108,17 @@ protected:
     void resizeEvent(QResizeEvent*) override;
 
 private:
-    struct Row {
+    struct Row { // or a fold
         RowKind kind;
         QWidget* widget;
     };
 
     void forEachRow(const std::function<void(RowKind kind, const std::string& key)>& act);
+    void placeRows();
+    QRect placeRow(const Row& row);
+    void addFold(const std::string& key);
+    void foldResized();
+    void showValuesBeside(const QWidget& edited);
     void measure(RowKind kind) { place(kind, width()); }
     void measureHeader();
     void addRow(RowKind kind, const Filter& of, const std::string& key);
@@ -119,6 +129,7 @@ private:
     std::int32_t tag = 0;
     CaptionLabel* filterNameField = nullptr; // the name is shown above the panel
     std::vector<Row> m_rows;
+    const OpenFolds m_openFolds;
     QWidget* m_headerCaption = nullptr;
     int m_headerHeight = 10; // above the first row
 };

@@ -75,3 +75,11 @@ QRect RowStack::place(RowKind kind, int panelWidth)
     lastControlType = kind;
     return frame;
 }
+
+QRect RowStack::placeFold(int height, int panelWidth)
+{
+    const QRect frame(controlLeftPosition, controlTopPosition - height, foldWidth(panelWidth), height);
+    controlTopPosition -= height + 1;
+    lastControlType = RowKind::None;
+    return frame;
+}

@@ -35,4 +35,8 @@ struct RowStack {
 
     /// The place of the next row in a panel of that width. Two color wells one after the other share a line.
     QRect place(RowKind kind, int panelWidth);
+    /// The same for what is not a row and has a height of its own.
+    QRect placeFold(int height, int panelWidth);
+    /// How wide that is.
+    int foldWidth(int panelWidth) const { return panelWidth - controlLeftPosition - 10; }
 };

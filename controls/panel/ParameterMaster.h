@@ -17,6 +17,8 @@ public:
     /// The same as for a filter, for a dictionary of settings; the step gets no name.
     virtual void setDictValueForKey(
         const std::shared_ptr<CIDictionary>& dictionary, const CIValue& value, const std::string& key) = 0;
+    /// The picture that the filter gets; null when there is none.
+    virtual CIImage backImage() { return {}; }
     /// Shows what the changed filter makes of the picture.
     virtual void updateView() = 0;
 

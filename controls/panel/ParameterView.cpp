@@ -3,6 +3,7 @@
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/DropImageView.h"
 #include "controls/panel/FilterNames.h"
+#include "controls/panel/InputBinding.h"
 #include "controls/panel/TextDescription.h"
 #include "controls/picture/PictureConversion.h"
 #include "widgets/ColorWell.h"
@@ -17,6 +18,7 @@
 #include <QContextMenuEvent>
 #include <QLocale>
 #include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QTextEdit>
 
@@ -43,18 +45,14 @@ ValueBinding ParameterView::bind(const Filter& newFilter, const std::string& new
     filter = newFilter;
     key = newKey;
     master = &newMaster;
-    // Without this view: a row goes with its children, when its members have gone.
-    return {.get = [=] { return newFilter->valueForKey(newKey); },
-        .set =
-            [=, &newMaster](const CIValue& value) {
-                newMaster.setFilterValueForKey(*newFilter, value, newKey);
-                newMaster.setActionNameForFilterKey(*newFilter, newKey);
-                newMaster.updateView();
-            },
-        .standard = [=, &newMaster] { return newMaster.standardValueForKey(*newFilter, newKey); },
-        .begin = [&newMaster] { newMaster.beginChange(); },
-        .end = [&newMaster] { newMaster.endChange(); },
-        .preview = [=](const CIValue& value) { newFilter->setValueForKey(value, newKey); }};
+    ValueBinding value = inputBinding(newFilter, newKey, newMaster);
+    // A row goes with its children, when its members have gone.
+    value.set = [set = value.set, row = QPointer<ParameterView>(this)](const CIValue& changed) {
+        set(changed);
+        if (row)
+            emit row->edited();
+    };
+    return value;
 }
 
 CIInputAttributes ParameterView::attributes() const

@@ -25,7 +25,7 @@ class QTextEdit;
 
 /// Exactly one of the builders is called. It binds a row of that kind to the input: every change of the user goes to
 /// the master: the value, the name of the undo step, then the wish to see it. A value that comes from elsewhere is not
-/// noticed; the panel is then built anew.
+/// noticed; an editor says so by `showValue`, otherwise the panel is built anew.
 ///
 /// Geometry is in points with y up, from the widths that the row has at any time. A double click on the caption, and
 /// the row's menu, bring the standard value back. Numbers that aren't any, or beyond reason, never reach the filter.
@@ -52,6 +52,9 @@ public:
     /// A number of a text's description.
     void addSliderForTextKeyLoHiMaster(const std::shared_ptr<CIDictionary>& dictionary, const std::string& key,
         float lo, float hi, ParameterMaster& master);
+
+    /// Shows the filter's value again, for an editor has set one.
+    void showValue() { m_row->show(); }
 
     /// True if the text view shows other than the description says, or there is no text view.
     bool textViewDiffers(const CIDictionary& description) const;
@@ -92,6 +95,10 @@ public slots:
     void pushButtonChanged() { act(&ImageRow::chooseFile); }
     void imageLayerImageWellChanged() { master->updateView(); }
     void imageLayerPushButtonChanged() { act(&ImageRow::chooseFile); }
+
+signals:
+    /// The user has set the value.
+    void edited();
 
 protected:
     void resizeEvent(QResizeEvent*) override;

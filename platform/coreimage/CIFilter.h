@@ -100,6 +100,17 @@ enum class Automatic { None, Texture, AlphaEMap, ShadingEMap, Ramp, Mask, ViewCe
 /// the picture, distances grow with it, other numbers don't, and a picture is another one.
 enum class Meaning { ByKind, Amount, Length, SamePicture, SmallPicture, SpotMask, Palette };
 
+/// What an input is for, where editors can't tell it from its kind.
+enum class Role {
+    ByKind,
+    Weights, // of neighbors, in a grid of so many columns, read as a page is
+    TonePoint, // of a curve: display values from 0 to 1, across and up
+    ToneTable, // red, green and blue curves as data
+    Polynomial, // of a color component in linear light, from the constant up
+    Cube, // a table of colors as data; its side is "inputCubeDimension"
+    White, // temperature in kelvin and tint
+};
+
 /// One input of a filter, in C++ types; the same facts as its dictionary in `CIFilter::attributes`.
 struct CIInputAttributes {
     std::string key; // "inputRadius"
@@ -113,6 +124,8 @@ struct CIInputAttributes {
     /// What shows better than the value above what the filter is for; as on a picture of 300 x 300 pixels.
     CIValue tellingValue = {};
     Meaning meaning = Meaning::ByKind;
+    Role role = Role::ByKind;
+    int columns = 0; // of weights
 
     bool isNumber() const { return kind <= InputKind::Boolean; }
     bool isVector() const { return kind >= InputKind::Vector && kind <= InputKind::Rectangle; }

@@ -116,6 +116,13 @@ CIInputAttributes fitted(CIInputAttributes input, Meaning meaning)
     return input;
 }
 
+CIInputAttributes meant(Role role, CIInputAttributes input, int columns)
+{
+    input.role = role;
+    input.columns = columns;
+    return input;
+}
+
 CIInputAttributes boolean(std::string key, std::string displayName, bool standard, std::optional<double> identity)
 {
     return number(std::move(key), std::move(displayName), InputKind::Boolean,

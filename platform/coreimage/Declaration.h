@@ -74,6 +74,9 @@ CIInputAttributes automatic(CIInputAttributes, Automatic);
 CIInputAttributes fitted(CIInputAttributes, CIValue tellingValue, Meaning = Meaning::ByKind);
 CIInputAttributes fitted(CIInputAttributes, Meaning);
 
+/// The same input with what it is for.
+CIInputAttributes meant(Role, CIInputAttributes, int columns = 0);
+
 inline CIInputAttributes scalar(std::string k, std::string n, const Range& r)
 {
     return number(k, n, InputKind::Scalar, r);

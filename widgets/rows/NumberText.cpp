@@ -59,6 +59,21 @@ QString formattedNumber(double displayed, ReadoutFormat format)
     return QString::fromLatin1(text);
 }
 
+QString shortText(double number)
+{
+    QString text = formattedNumber(number, kComponentFormat);
+    while (text.endsWith(QLatin1Char('0')))
+        text.chop(1);
+    if (text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    if (text == QLatin1String("-0"))
+        return QStringLiteral("0");
+    const qsizetype sign = text.startsWith(QLatin1Char('-')) ? 1 : 0;
+    if (QStringView(text).mid(sign).startsWith(QLatin1String("0.")))
+        text.remove(sign, 1);
+    return text;
+}
+
 QString shownText(double stored, std::int32_t unitClass, ReadoutFormat format)
 {
     return formattedNumber(displayedNumber(stored, unitClass), format);

@@ -28,6 +28,10 @@ inline constexpr ReadoutFormat kComponentFormat{1, 3}; // of vectors and offsets
 ReadoutFormat readoutFormatOf(std::int32_t unitClass);
 /// The number as it stands, in no unit; at most 31 characters.
 QString formattedNumber(double displayed, ReadoutFormat format);
+/// A number of a vector.
+inline QString componentText(double stored) { return formattedNumber(stored, kComponentFormat); }
+/// With three digits after the point at most, and without a first or last 0 that says nothing: ".25", "-1".
+QString shortText(double number);
 /// A stored number as its readout shows it.
 QString shownText(double stored, std::int32_t unitClass, ReadoutFormat format);
 

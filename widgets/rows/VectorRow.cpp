@@ -1,10 +1,12 @@
 #include "widgets/rows/VectorRow.h"
 
 #include "widgets/ReadoutField.h"
-#include "widgets/rows/NumberText.h"
 
-VectorRow::VectorRow(QWidget* panel, int count, ValueBinding value)
+#include <algorithm>
+
+VectorRow::VectorRow(QWidget* panel, int count, ValueBinding value, QString (*text)(double))
     : ValueRow(panel, std::move(value))
+    , m_text(text)
 {
     for (std::size_t i = 0; i < std::size_t(count); ++i) {
         auto* field = m_readouts.emplace_back(new ReadoutField(panel));
@@ -23,7 +25,7 @@ void VectorRow::show()
 
 QString VectorRow::text(std::size_t component) const
 {
-    return formattedNumber(m_value.get().toVector().valueAtIndex(component), kComponentFormat);
+    return m_text(m_value.get().toVector().valueAtIndex(component));
 }
 
 void VectorRow::typed(std::size_t component)
@@ -35,8 +37,8 @@ void VectorRow::typed(std::size_t component)
         return;
     if (!isChanging())
         m_before = m_value.get();
-    const CIVector old = m_value.get().toVector();
-    std::vector<double> values{old.X(), old.Y(), old.Z(), old.W()};
+    std::vector<double> values = m_value.get().toVector().values();
+    values.resize(std::max<std::size_t>(4, m_readouts.size()));
     values[component] = *number;
     beginChange();
     m_value.set(CIVector(std::move(values)));

@@ -1,6 +1,7 @@
 // Fields for the numbers of a vector.
 #pragma once
 
+#include "widgets/rows/NumberText.h"
 #include "widgets/rows/ValueRow.h"
 
 #include <vector>
@@ -8,11 +9,12 @@
 class ReadoutField;
 
 /// The first `count` numbers of a vector. It follows every key; all keys until Return are one step of undo, and Escape
-/// takes them back. A vector that was edited has four numbers, whatever it had.
+/// takes them back. A vector that was edited has four numbers, whatever it had, or `count` when that is more.
 class VectorRow : public ValueRow {
     Q_OBJECT
 public:
-    VectorRow(QWidget* panel, int count, ValueBinding value);
+    /// `text` is how a number reads.
+    VectorRow(QWidget* panel, int count, ValueBinding value, QString (*text)(double) = componentText);
 
     void show() override;
     /// Takes what has been typed so far into one of the fields; nothing if there is no such.
@@ -26,6 +28,7 @@ private:
     QString text(std::size_t component) const;
     void giveUp();
 
+    QString (*const m_text)(double);
     std::vector<ReadoutField*> m_readouts;
     CIValue m_before; // typing began
 };

@@ -99,13 +99,19 @@ struct TemperatureAndTint {
     V weight[3][3];
 };
 
+CIInputAttributes white(std::string key, std::string displayName)
+{
+    const CIVector daylight{6500, 0};
+    return meant(Role::White, offset(std::move(key), std::move(displayName), daylight, daylight));
+}
+
 const RecipeFilter temperatureAndTint{
     {.name = "CITemperatureAndTint",
         .displayName = "Temperature and Tint",
         .category = kCICategoryColorAdjustment,
         .usage = Anything,
-        .inputs = {image(), offset("inputNeutral", "Neutral", {6500, 0}, CIVector{6500, 0}),
-            fitted(offset("inputTargetNeutral", "Target Neutral", {6500, 0}, CIVector{6500, 0}), CIVector{4500, 0})}},
+        .inputs = {image(), white("inputNeutral", "Neutral"),
+            fitted(white("inputTargetNeutral", "Target Neutral"), CIVector{4500, 0})}},
     [](const Values& in) {
         const CIImage source = in.image();
         return in.point("inputNeutral") == in.point("inputTargetNeutral")

@@ -119,7 +119,7 @@ CIInputAttributes cubeData(std::string key, std::string displayName)
 {
     CIInputAttributes input = object(std::move(key), std::move(displayName), InputKind::Data, identityCube());
     input.identity = input.defaultValue;
-    return fitted(std::move(input), fadedCube());
+    return meant(Role::Cube, fitted(std::move(input), fadedCube()));
 }
 CIInputAttributes extrapolate()
 {
@@ -188,9 +188,10 @@ const RecipeFilter colorCurves{
         .category = kCICategoryColorEffect,
         .usage = AnyVideo,
         .inputs = {image(),
-            fitted(object("inputCurvesData", "Curves Data", InputKind::Data,
-                       tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
-                tableData(std::vector<float>{0.06f, 0, 0.12f, 0.56f, 0.5f, 0.46f, 1, 0.97f, 0.88f})),
+            meant(Role::ToneTable,
+                fitted(object("inputCurvesData", "Curves Data", InputKind::Data,
+                           tableData(std::vector<float>{0, 0, 0, 0.5f, 0.5f, 0.5f, 1, 1, 1})),
+                    tableData(std::vector<float>{0.06f, 0, 0.12f, 0.56f, 0.5f, 0.46f, 1, 0.97f, 0.88f}))),
             vector("inputCurvesDomain", "Curves Domain", CIVector{0, 1}), colorSpace()}},
     [](const Values& in) {
         const CIImage source = in.image();

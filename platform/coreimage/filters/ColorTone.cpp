@@ -167,17 +167,20 @@ struct ColorPolynomial {
     Pixel<V> red, green, blue, alpha;
 };
 
+CIInputAttributes coefficients(std::string key, std::string displayName)
+{
+    const CIVector identity{0, 1, 0, 0};
+    return meant(Role::Polynomial, vector(std::move(key), std::move(displayName), identity, identity));
+}
+
 const ColorFilter<ColorPolynomial> colorPolynomial{{.name = "CIColorPolynomial",
     .displayName = "Color Polynomial",
     .category = kCICategoryColorAdjustment,
     .usage = Anything,
-    .inputs = {image(),
-        fitted(vector("inputRedCoefficients", "Red Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-            CIVector{0, 1.5, -0.5, 0}),
-        vector("inputGreenCoefficients", "Green Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-        fitted(vector("inputBlueCoefficients", "Blue Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0}),
-            CIVector{0, 0.7, 0.3, 0}),
-        vector("inputAlphaCoefficients", "Alpha Coefficients", CIVector{0, 1, 0, 0}, CIVector{0, 1, 0, 0})}}};
+    .inputs = {image(), fitted(coefficients("inputRedCoefficients", "Red Coefficients"), CIVector{0, 1.5, -0.5, 0}),
+        coefficients("inputGreenCoefficients", "Green Coefficients"),
+        fitted(coefficients("inputBlueCoefficients", "Blue Coefficients"), CIVector{0, 0.7, 0.3, 0}),
+        coefficients("inputAlphaCoefficients", "Alpha Coefficients")}}};
 
 /// Each component is a quadratic of all three: coefficients of r, g, b, r², g², b², rg, gb, br and 1.
 template <class V>

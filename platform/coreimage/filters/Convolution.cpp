@@ -9,7 +9,7 @@ namespace {
 /// everywhere.
 struct ConvolutionFilter : RecipeFilter {
     ConvolutionFilter(const std::string& shape, const std::string& displayName, int columns, int rows, bool keepsAlpha)
-        : RecipeFilter(declared(shape, displayName, columns * rows), [=](const Values& in) {
+        : RecipeFilter(declared(shape, displayName, columns, columns * rows), [=](const Values& in) {
             const std::vector<double> values = in.vector("inputWeights").values();
             return convolved(in.image(), {values, columns, rows, in.number("inputBias"), keepsAlpha});
         })
@@ -25,7 +25,7 @@ private:
         weights[count / 2] = 1;
         return CIVector(weights);
     }
-    static Declaration declared(const std::string& shape, const std::string& displayName, int count)
+    static Declaration declared(const std::string& shape, const std::string& displayName, int columns, int count)
     {
         std::vector<double> nothing(std::size_t(count), 0.0);
         nothing[nothing.size() / 2] = 1;
@@ -34,8 +34,10 @@ private:
             .category = kCICategoryStylize,
             .usage = Video | HighDynamicRange,
             .inputs = {image(),
-                fitted(vector("inputWeights", "Weights", CIVector(nothing), CIVector(nothing)),
-                    relief(std::size_t(count))),
+                meant(Role::Weights,
+                    fitted(vector("inputWeights", "Weights", CIVector(nothing), CIVector(nothing)),
+                        relief(std::size_t(count))),
+                    columns),
                 scalar("inputBias", "Bias", {.standard = 0, .identity = 0})}};
     }
 };

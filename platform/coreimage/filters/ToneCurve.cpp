@@ -23,17 +23,21 @@ struct ToneCurve {
     Curve<V> curve;
 };
 
-const RecipeFilter toneCurve{
-    {.name = "CIToneCurve",
-        .displayName = "Tone Curve",
-        .category = kCICategoryColorAdjustment,
-        .usage = Anything,
-        .inputs = {image(), offset("inputPoint0", "Point 0", {0, 0}, CIVector{0, 0}),
-            fitted(offset("inputPoint1", "Point 1", {0.25, 0.25}, CIVector{0.25, 0.25}), CIVector{0.25, 0.15}),
-            offset("inputPoint2", "Point 2", {0.5, 0.5}, CIVector{0.5, 0.5}),
-            fitted(offset("inputPoint3", "Point 3", {0.75, 0.75}, CIVector{0.75, 0.75}), CIVector{0.75, 0.87}),
-            offset("inputPoint4", "Point 4", {1, 1}, CIVector{1, 1}),
-            number("inputExtrapolate", "Extrapolate", InputKind::Boolean, {.standard = 0})}},
+CIInputAttributes tonePoint(std::string key, std::string displayName, const CIVector& onDiagonal)
+{
+    return meant(Role::TonePoint, offset(std::move(key), std::move(displayName), onDiagonal, onDiagonal));
+}
+
+const RecipeFilter toneCurve{{.name = "CIToneCurve",
+                                 .displayName = "Tone Curve",
+                                 .category = kCICategoryColorAdjustment,
+                                 .usage = Anything,
+                                 .inputs = {image(), tonePoint("inputPoint0", "Point 0", {0, 0}),
+                                     fitted(tonePoint("inputPoint1", "Point 1", {0.25, 0.25}), CIVector{0.25, 0.15}),
+                                     tonePoint("inputPoint2", "Point 2", {0.5, 0.5}),
+                                     fitted(tonePoint("inputPoint3", "Point 3", {0.75, 0.75}), CIVector{0.75, 0.87}),
+                                     tonePoint("inputPoint4", "Point 4", {1, 1}),
+                                     number("inputExtrapolate", "Extrapolate", InputKind::Boolean, {.standard = 0})}},
     [](const Values& in) {
         std::vector<CIPoint> points;
         for (const char* key : {"inputPoint0", "inputPoint1", "inputPoint2", "inputPoint3", "inputPoint4"})

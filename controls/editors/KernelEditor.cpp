@@ -1,0 +1,191 @@
+#include "controls/editors/KernelEditor.h"
+
+#include "controls/panel/ParameterText.h"
+#include "platform/foundation/Appearance.h"
+#include "widgets/PanelPopUp.h"
+#include "widgets/ReadoutField.h"
+#include "widgets/rows/VectorRow.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include <QCoreApplication>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+
+namespace {
+
+constexpr int kPictureSide = 54, kFieldHeight = 20, kGap = 2, kMostWidth = 56; // points
+
+bool areNear(const KernelWeights& a, const KernelWeights& b)
+{
+    return std::equal(
+        a.begin(), a.end(), b.begin(), b.end(), [](double one, double other) { return std::abs(one - other) < 1e-6; });
+}
+
+} // namespace
+
+// --- the picture ---
+
+KernelPicture::KernelPicture(QWidget* parent)
+    : QWidget(parent)
+{
+    setFixedSize(kPictureSide, kPictureSide);
+}
+
+void KernelPicture::setWeights(const KernelWeights& weights, int columns)
+{
+    m_weights = weights;
+    m_columns = columns;
+    update();
+}
+
+void KernelPicture::paintEvent(QPaintEvent*)
+{
+    double most = 0;
+    for (double weight : m_weights)
+        most = std::max(most, std::abs(weight));
+    QPainter painter(this);
+    const int rows = int(m_weights.size()) / m_columns, longest = std::max(m_columns, rows);
+    const double cell = std::floor(10.0 * (kPictureSide - 2) / longest) / 10;
+    const QRectF grid(
+        (kPictureSide - cell * m_columns) / 2, (kPictureSide - cell * rows) / 2, cell * m_columns, cell * rows);
+    for (int i = 0; i < m_columns * rows; ++i) {
+        const double part = most > 0 ? m_weights[std::size_t(i)] / most : 0; // -1 to 1
+        const int grey = int(std::lround(127.5 + 127.5 * part));
+        const QPointF corner = grid.topLeft() + QPointF(cell * (i % m_columns), cell * (i / m_columns));
+        // On whole pixels, lest lines shine through between the cells.
+        painter.fillRect(
+            QRect(corner.toPoint(), (corner + QPointF(cell, cell)).toPoint() - QPoint(1, 1)), QColor(grey, grey, grey));
+    }
+    painter.setPen(Appearance::shared().look().border);
+    painter.drawRect(QRect(grid.topLeft().toPoint() - QPoint(1, 1), grid.bottomRight().toPoint()));
+}
+
+// --- the editor ---
+
+KernelEditor::KernelEditor(const EditedInput& input, QWidget* parent)
+    : InputEditor(input, parent)
+    , m_columns(std::max(1, input.attributes().columns))
+    , m_rows(int(input.attributes().defaultValue.toVector().count()) / m_columns)
+    , m_picture(new KernelPicture(this))
+    , m_presets(new PanelPopUp(this))
+    , m_normalize(new QPushButton(tr("Normalize"), this))
+    , m_sum(new QLabel(this))
+    , m_fields(new VectorRow(this, m_columns * m_rows, binding(input.key), shortText))
+{
+    m_presets->setFont(rowFont(font()));
+    m_presets->setAccessibleName(tr("Known weights"));
+    m_presets->setToolTip(tr("Sets all weights to ones that are known by a name"));
+    m_presets->addItem(tr("Own weights"));
+    for (const KernelPreset& preset : kernelPresets())
+        if (preset.isFor(m_columns, m_rows))
+            m_presets->addItem(QCoreApplication::translate("KernelPreset", preset.name),
+                QVariant::fromValue(preset.weights(m_columns, m_rows)));
+    connect(m_presets, &QComboBox::activated, this, [this](int index) {
+        if (index > 0)
+            setWeights(m_presets->itemData(index).value<KernelWeights>());
+        else
+            showSummary();
+    });
+    m_normalize->setFont(rowFont(font()));
+    m_normalize->setProperty("mini", true);
+    m_normalize->setAutoDefault(false);
+    m_normalize->setToolTip(tr("Makes the sum of all weights 1, so that the picture stays as light as it is"));
+    connect(m_normalize, &QPushButton::clicked, this, [this] {
+        if (const auto result = normalized(weights()))
+            setWeights(*result);
+    });
+    m_sum->setFont(rowFont(font()));
+    m_sum->setForegroundRole(QPalette::PlaceholderText);
+
+    auto* grid = new QGridLayout;
+    fill(*grid);
+    auto* top = new QGridLayout;
+    top->setHorizontalSpacing(8);
+    top->setVerticalSpacing(4);
+    top->addWidget(m_picture, 0, 0, 2, 1, Qt::AlignTop);
+    top->addWidget(m_presets, 0, 1, 1, 2);
+    top->addWidget(m_normalize, 1, 1);
+    top->addWidget(m_sum, 1, 2);
+    top->setColumnStretch(2, 1);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(4, 2, 4, 8);
+    all->setSpacing(8);
+    all->addLayout(top);
+    all->addLayout(grid);
+    showSummary();
+    connect(this, &InputEditor::edited, this, &KernelEditor::showSummary);
+}
+
+void KernelEditor::fill(QGridLayout& grid)
+{
+    grid.setSpacing(kGap);
+    const std::vector<ReadoutField*>& fields = m_fields->readouts();
+    for (int i = 0; i < int(fields.size()); ++i) {
+        ReadoutField& field = *fields[std::size_t(i)];
+        const int row = i / m_columns, column = i % m_columns;
+        field.setFont(rowFont(font()));
+        field.setProperty("bezeled", true);
+        field.setAlignment(Qt::AlignCenter);
+        field.setMinimumWidth(0);
+        field.setMaximumWidth(kMostWidth);
+        field.setFixedHeight(kFieldHeight);
+        field.setObjectName(QStringLiteral("weight%1").arg(i));
+        field.setAccessibleName(tr("Weight in row %1, column %2").arg(row + 1).arg(column + 1));
+        field.installEventFilter(this);
+        grid.addWidget(&field, row, column);
+        grid.setColumnStretch(column, 1);
+    }
+}
+
+bool KernelEditor::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        const auto& fields = m_fields->readouts();
+        const auto at = int(std::find(fields.begin(), fields.end(), watched) - fields.begin());
+        const int to = key == Qt::Key_Up ? at - m_columns : key == Qt::Key_Down ? at + m_columns : -1;
+        if (at < int(fields.size()) && to >= 0 && to < int(fields.size())) {
+            fields[std::size_t(to)]->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    }
+    return InputEditor::eventFilter(watched, event);
+}
+
+KernelWeights KernelEditor::weights() const
+{
+    KernelWeights values = value(m_input.key).toVector().values();
+    values.resize(std::size_t(m_columns * m_rows));
+    return values;
+}
+
+void KernelEditor::setWeights(const KernelWeights& weights)
+{
+    setValue(m_input.key, CIVector(weights));
+    showValues();
+}
+
+void KernelEditor::showValues()
+{
+    m_fields->show();
+    showSummary();
+}
+
+void KernelEditor::showSummary()
+{
+    const KernelWeights now = weights();
+    m_picture->setWeights(now, m_columns);
+    m_sum->setText(tr("Sum %1").arg(shortText(std::accumulate(now.begin(), now.end(), 0.0))));
+    m_normalize->setEnabled(normalized(now).has_value());
+    int known = 0;
+    for (int i = 1; i < m_presets->count() && known == 0; ++i)
+        if (areNear(m_presets->itemData(i).value<KernelWeights>(), now))
+            known = i;
+    m_presets->setCurrentIndex(known);
+}
