@@ -313,6 +313,8 @@ double Controller::sliderGrowthForKey(const CIFilter& filter, const std::string&
     return input ? std::max(1.0, ci::fittedGrowth(filter, *input, getBgImageExtent())) : 1;
 }
 
+void Controller::pickPlace(std::function<void(std::optional<CIPoint>)> take) { ciView->pickPlace(std::move(take)); }
+
 void Controller::addFavourite()
 {
     m_modes.current().addFavourite();

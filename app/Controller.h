@@ -157,6 +157,7 @@ public:
         return m_standard.standardValueForKey(filter, key);
     }
     double sliderGrowthForKey(const CIFilter& filter, const std::string& key) override;
+    void pickPlace(std::function<void(std::optional<CIPoint>)> take) override;
     void fitInputs() { m_standard.fitInputs(); }
     void resetAllInputs() { m_standard.resetAllInputs(); }
     void randomizeInputs() { m_standard.randomizeInputs(); }

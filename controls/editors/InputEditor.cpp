@@ -6,6 +6,15 @@
 
 #include <QPointer>
 
+std::vector<std::string> keysOf(const CIFilter& filter, Role role)
+{
+    std::vector<std::string> keys;
+    for (const std::string& key : filter.inputKeys())
+        if (filter.attributesForKey(key)->role == role)
+            keys.push_back(key);
+    return keys;
+}
+
 ValueBinding InputEditor::binding(const std::string& key)
 {
     ValueBinding value = inputBinding(m_input.filter, key, m_input.master);

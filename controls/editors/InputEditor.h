@@ -15,6 +15,9 @@ struct EditedInput {
     const CIInputAttributes& attributes() const { return *filter->attributesForKey(key); }
 };
 
+/// The inputs of that role, in the filter's order.
+std::vector<std::string> keysOf(const CIFilter& filter, Role role);
+
 /// Edits an input, or several that belong together, in the fold under their rows. Its layout says how high it is in the
 /// panel's width, which may be as little as 220 points. It stays as long as the fold is open, and is made anew when
 /// values come from elsewhere, by undo for instance.

@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kPictureSide = 54, kFieldHeight = 20, kGap = 2, kMostWidth = 56; // points
+constexpr int kPictureSide = 54, kFieldHeight = 20, kGap = 2, kMostWidth = 76; // points
 
 bool areNear(const KernelWeights& a, const KernelWeights& b)
 {
@@ -51,19 +51,21 @@ void KernelPicture::paintEvent(QPaintEvent*)
         most = std::max(most, std::abs(weight));
     QPainter painter(this);
     const int rows = int(m_weights.size()) / m_columns, longest = std::max(m_columns, rows);
-    const double cell = std::floor(10.0 * (kPictureSide - 2) / longest) / 10;
-    const QRectF grid(
-        (kPictureSide - cell * m_columns) / 2, (kPictureSide - cell * rows) / 2, cell * m_columns, cell * rows);
+    // Cells of whole pixels of the screen, lest lines shine through between them.
+    const auto edge = [&](int cell, int cells) {
+        return kPictureSide / 2 + (2 * cell - cells) * (kPictureSide - 2) / (2 * longest);
+    };
     for (int i = 0; i < m_columns * rows; ++i) {
         const double part = most > 0 ? m_weights[std::size_t(i)] / most : 0; // -1 to 1
         const int grey = int(std::lround(127.5 + 127.5 * part));
-        const QPointF corner = grid.topLeft() + QPointF(cell * (i % m_columns), cell * (i / m_columns));
-        // On whole pixels, lest lines shine through between the cells.
-        painter.fillRect(
-            QRect(corner.toPoint(), (corner + QPointF(cell, cell)).toPoint() - QPoint(1, 1)), QColor(grey, grey, grey));
+        const int column = i % m_columns, row = i / m_columns;
+        const QPoint corner(edge(column, m_columns), edge(row, rows));
+        const QPoint next(edge(column + 1, m_columns), edge(row + 1, rows));
+        painter.fillRect(QRect(corner, next - QPoint(1, 1)), QColor(grey, grey, grey));
     }
     painter.setPen(Appearance::shared().look().border);
-    painter.drawRect(QRect(grid.topLeft().toPoint() - QPoint(1, 1), grid.bottomRight().toPoint()));
+    const QPoint corner(edge(0, m_columns), edge(0, rows)), last(edge(m_columns, m_columns), edge(rows, rows));
+    painter.drawRect(QRect(corner - QPoint(1, 1), last));
 }
 
 // --- the editor ---
@@ -131,7 +133,6 @@ void KernelEditor::fill(QGridLayout& grid)
         const int row = i / m_columns, column = i % m_columns;
         field.setFont(rowFont(font()));
         field.setProperty("bezeled", true);
-        field.setAlignment(Qt::AlignCenter);
         field.setMinimumWidth(0);
         field.setMaximumWidth(kMostWidth);
         field.setFixedHeight(kFieldHeight);
@@ -139,8 +140,8 @@ void KernelEditor::fill(QGridLayout& grid)
         field.setAccessibleName(tr("Weight in row %1, column %2").arg(row + 1).arg(column + 1));
         field.installEventFilter(this);
         grid.addWidget(&field, row, column);
-        grid.setColumnStretch(column, 1);
     }
+    grid.setColumnStretch(m_columns, 1); // the fields stay together where there is more room
 }
 
 bool KernelEditor::eventFilter(QObject* watched, QEvent* event)

@@ -4,7 +4,9 @@
 #include "controls/rows/PictureSource.h"
 #include "platform/coreimage/CIFilter.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 /// In tests, a small fake. Everything is called on the main thread.
@@ -21,6 +23,10 @@ public:
     virtual CIImage backImage() { return {}; }
     /// Shows what the changed filter makes of the picture.
     virtual void updateView() = 0;
+
+    /// Asks the user to click on a place of the picture, and then calls `take` with it, or with nothing when the user
+    /// goes elsewhere. Picture pixels, y up. A null `take` ends the asking.
+    virtual void pickPlace(std::function<void(std::optional<CIPoint>)>) { }
 
     /// What is set from here to `endChange` is one step of undo: all of a drag.
     virtual void beginChange() = 0;

@@ -53,7 +53,23 @@ QColor faint(QColor color, double alpha)
     return color;
 }
 
+/// The highest but for the ends: clipped ones may be cut.
+double topOf(const Curve& curve) { return std::max(1.0, *std::max_element(curve.begin() + 1, curve.end() - 1)); }
+
 } // namespace
+
+std::array<QColor, 3> channelColors()
+{
+    if (Appearance::shared().isDark())
+        return {QColor(240, 98, 98), QColor(84, 190, 106), QColor(104, 152, 255)};
+    return {QColor(200, 48, 48), QColor(28, 128, 56), QColor(44, 92, 214)};
+}
+
+void drawLevels(QPainter& painter, const Histogram::Levels& levels, const QRectF& place, const QColor& color)
+{
+    const Curve curve = curveOf(levels);
+    fillBelow(painter, pointsOf(curve, place, topOf(curve)), place, faint(color, 0.3));
+}
 
 HistogramView::HistogramView(QWidget* parent)
     : QWidget(parent)
@@ -112,7 +128,6 @@ QSize HistogramView::sizeHint() const { return {200, kMargin + kCurveHeight + 4 
 void HistogramView::paintEvent(QPaintEvent*)
 {
     const Look& look = Appearance::shared().look();
-    const bool dark = Appearance::shared().isDark();
     QPainter painter(this);
     const int legend = fontMetrics().height();
     const QRectF frame = QRectF(rect()).adjusted(16, kMargin, -16, -kMargin - legend - 4);
@@ -127,21 +142,22 @@ void HistogramView::paintEvent(QPaintEvent*)
         painter.drawLine(QPointF(x, place.top()), QPointF(x, place.bottom()));
     }
 
+    const std::array<QColor, 3> colors = channelColors();
     const struct {
         const Histogram::Levels& levels;
         QString name;
         QColor color;
     } channels[] = {
         {m_histogram.luma, tr("Luma"), look.secondaryText},
-        {m_histogram.red, tr("Red"), dark ? QColor(240, 98, 98) : QColor(200, 48, 48)},
-        {m_histogram.green, tr("Green"), dark ? QColor(84, 190, 106) : QColor(28, 128, 56)},
-        {m_histogram.blue, tr("Blue"), dark ? QColor(104, 152, 255) : QColor(44, 92, 214)},
+        {m_histogram.red, tr("Red"), colors[0]},
+        {m_histogram.green, tr("Green"), colors[1]},
+        {m_histogram.blue, tr("Blue"), colors[2]},
     };
     std::array<Curve, 4> curves;
     double top = 1;
     for (std::size_t i = 0; i < curves.size(); ++i) {
         curves[i] = curveOf(channels[i].levels);
-        top = std::max(top, *std::max_element(curves[i].begin() + 1, curves[i].end() - 1)); // clipped ends may be cut
+        top = std::max(top, topOf(curves[i]));
     }
     painter.save();
     painter.setClipRect(place);

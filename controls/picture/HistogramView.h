@@ -8,6 +8,11 @@
 
 #include <functional>
 
+/// For red, green and blue on the background of fields, in the present look.
+std::array<QColor, 3> channelColors();
+/// An area as high as the levels are frequent.
+void drawLevels(QPainter& painter, const Histogram::Levels& levels, const QRectF& place, const QColor& color);
+
 /// Curves of red, green and blue over an area of luma. A part of the image is counted, some 20 times a second at most,
 /// after the image is on the screen: a moving slider doesn't feel it.
 class HistogramView : public QWidget {

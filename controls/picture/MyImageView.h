@@ -6,6 +6,9 @@
 #include "controls/picture/ImageViewMaster.h"
 #include "widgets/ControlledCanvas.h"
 
+#include <functional>
+#include <optional>
+
 #include <QPointer>
 
 class PictureScrollView;
@@ -38,6 +41,11 @@ public:
     /// Premultiplied; null when there is none.
     QImage shownFrame() const;
 
+    /// The next click on the picture is told by its place and grabs no point. Nothing is told when it is beside the
+    /// picture, the user presses Escape or goes elsewhere, or when another place is asked for, or null.
+    void pickPlace(std::function<void(std::optional<CIPoint>)> take);
+    bool isPickingPlace() const;
+
     /// Waits until the picture is rendered in full and shown; for tests and screenshots.
     bool waitForFrame(int milliseconds = 10000);
 
@@ -58,7 +66,7 @@ protected:
     void dragged(CIPoint point) override;
     void released(CIPoint point) override;
     void hovered(const QPointF& position) override { hover(position); }
-    Qt::CursorShape pointer() const override { return displayingPoints ? Qt::PointingHandCursor : Qt::ArrowCursor; }
+    Qt::CursorShape pointer() const override;
 
     bool event(QEvent*) override;
     void paintEvent(QPaintEvent*) override;
@@ -88,6 +96,7 @@ private:
     void dragGrabbedPoint(CIPoint to);
     void beginChange();
     void endChange();
+    void endPicking(std::optional<CIPoint> place);
     void selectPoint(std::optional<std::size_t> index);
     bool moveSelectedPoint(int key, bool far);
 

@@ -32,6 +32,10 @@ bool MyImageView::event(QEvent* event)
             event->accept();
             return true;
         }
+        if (key == Qt::Key_Escape && d->pick) {
+            event->accept();
+            return true;
+        }
     }
     return ControlledCanvas::event(event);
 }
@@ -45,6 +49,13 @@ void MyImageView::enterEvent(QEnterEvent* event)
 }
 
 void MyImageView::leaveEvent(QEvent*) { mouseExited(); }
+
+Qt::CursorShape MyImageView::pointer() const
+{
+    if (d->pick)
+        return Qt::CrossCursor;
+    return displayingPoints ? Qt::PointingHandCursor : Qt::ArrowCursor;
+}
 
 void MyImageView::mouseEntered()
 {
@@ -73,6 +84,28 @@ void MyImageView::hover(const QPointF& position)
     const auto nearest = nearestControlPoint(points, toPicture(position));
     if (nearest != std::exchange(d->hovered, nearest))
         update();
+}
+
+// --- a place that is asked for ---
+
+void MyImageView::pickPlace(std::function<void(std::optional<CIPoint>)> take)
+{
+    endPicking({});
+    if (take)
+        setFocus();
+    d->pick = std::move(take);
+    updateCursor();
+}
+
+bool MyImageView::isPickingPlace() const { return d->pick != nullptr; }
+
+void MyImageView::endPicking(std::optional<CIPoint> place)
+{
+    if (!d->pick)
+        return;
+    const auto take = std::exchange(d->pick, nullptr);
+    updateCursor();
+    take(place);
 }
 
 // --- dragging ---
@@ -106,6 +139,9 @@ void MyImageView::pressed(CIPoint point)
     parmKey.clear();
     parmMode = ParmMode::kNothing;
     const std::vector<ControlPoint> points = pointsOf(d->showsOriginal ? nullptr : controller); // none is seen on it
+    if (d->pick)
+        return endPicking(
+            controller && controller->backImage().extent().contains(point) ? std::optional(point) : std::nullopt);
     const bool isPicture = QGuiApplication::keyboardModifiers() & Qt::ControlModifier;
     // However far away it is: small marks need no aim.
     if (const auto nearest = nearestControlPoint(points, point); nearest && !isPicture) {
@@ -180,6 +216,8 @@ void MyImageView::focusOutEvent(QFocusEvent* event)
 {
     if (!movingNow)
         endChange();
+    if (event->reason() != Qt::ActiveWindowFocusReason)
+        endPicking({});
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         selectPoint({});
     ControlledCanvas::focusOutEvent(event);
@@ -236,6 +274,8 @@ void MyImageView::keyPressEvent(QKeyEvent* event)
     const bool sideways = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
     if (sideways && event->modifiers() & Qt::ControlModifier && d->isSplit())
         QCoreApplication::sendEvent(d->divider, event);
+    else if (event->key() == Qt::Key_Escape && d->pick)
+        endPicking({});
     else if (event->key() == Qt::Key_Escape && d->selected)
         selectPoint({});
     else if (!moveSelectedPoint(event->key(), event->modifiers() & Qt::ShiftModifier))

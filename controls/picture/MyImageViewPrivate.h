@@ -24,6 +24,7 @@ struct MyImageView::Private {
     SplitDivider* divider = nullptr; // seen while the view is split
     bool isSplit() const { return !divider->isHidden() && !showsOriginal; }
 
+    std::function<void(std::optional<CIPoint>)> pick; // while a place is asked for
     std::optional<CIPoint> pressed; // where the button went down on the picture itself
     bool isChanging = false; // between beginChange and endChange
     std::optional<std::size_t> hovered; // index of the point that a click would grab

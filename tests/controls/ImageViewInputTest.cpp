@@ -173,3 +173,25 @@ TEST_F(ImageViewTest, ItsPointsAreThereForAssistiveTechnology)
     EXPECT_EQ(canvas->childCount(), widgets);
     EXPECT_FALSE(corner->isValid());
 }
+
+TEST_F(ImageViewTest, APlaceThatIsAskedForIsToldOnceAndMovesNoPoint)
+{
+    edit("CIBumpDistortion");
+    open(pattern(300, 200));
+    std::vector<std::optional<CIPoint>> told;
+    const auto ask = [&] { view.pickPlace([&](std::optional<CIPoint> place) { told.push_back(place); }); };
+    ask();
+    EXPECT_EQ(view.cursor().shape(), Qt::CrossCursor);
+    QTest::mouseClick(&view, Qt::LeftButton, {}, at(20.5, 30.5));
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_NEAR(told[0].value().x, 20.5, 1);
+    EXPECT_NEAR(told[0].value().y, 30.5, 1);
+    EXPECT_TRUE(master.sent.empty());
+
+    ask();
+    QTest::keyClick(&view, Qt::Key_Escape);
+    EXPECT_EQ(told.back(), std::nullopt);
+    EXPECT_FALSE(view.isPickingPlace());
+    QTest::mouseClick(&view, Qt::LeftButton, {}, at(20.5, 30.5));
+    EXPECT_EQ(told.size(), 2u);
+}

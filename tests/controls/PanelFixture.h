@@ -14,7 +14,8 @@ struct FakeParameterMaster : ParameterMaster {
     std::vector<std::string> log; // what was called, in order
     std::vector<CIValue> sent;
     std::map<std::string, CIValue> standard;
-    CIImage picture; // of every file but bad ones
+    CIImage picture; // what is open, and of every file but bad ones
+    std::function<void(std::optional<CIPoint>)> pick;
     int openChanges = 0;
 
     void setFilterValueForKey(CIFilter& f, const CIValue& value, const std::string& key) override
@@ -30,6 +31,8 @@ struct FakeParameterMaster : ParameterMaster {
         (*d)[key] = value;
         log.push_back("dict " + key);
     }
+    CIImage backImage() override { return picture; }
+    void pickPlace(std::function<void(std::optional<CIPoint>)> take) override { pick = std::move(take); }
     void updateView() override { log.push_back("update"); }
     void beginChange() override { ++openChanges, log.push_back("begin"); }
     void endChange() override { --openChanges, log.push_back("end"); }

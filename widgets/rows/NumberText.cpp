@@ -120,7 +120,7 @@ QString NumberLook::text(double stored) const
 double NumberLook::typed(double shown) const
 {
     const double stored = storedNumber(shown, unitClass);
-    return decimals ? rounded(std::clamp(stored, min, max)) : double(float(stored));
+    return decimals ? rounded(std::clamp(stored, numberAt(min), numberAt(max))) : double(float(stored));
 }
 
 double NumberLook::rounded(double stored) const

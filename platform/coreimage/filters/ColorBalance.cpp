@@ -1,5 +1,6 @@
 // Balance: white, saturation and range brought to where they are wanted.
 #include "platform/coreimage/kernel/PointwiseFilter.h"
+#include "platform/coreimage/WhitePoint.h"
 
 #include <array>
 
@@ -67,6 +68,27 @@ Vector3 whiteOf(CIPoint neutral)
     const double off = std::clamp(neutral.y, -150.0, 150.0) / 3000 / along;
     const double u = here.x + (beside.y - here.y) * off, v = std::max(here.y - (beside.x - here.x) * off, 0.05);
     return {3 * u / (2 * v), 1, (4 - u - 10 * v) / (2 * v)};
+}
+
+/// Temperature and tint of a white: the inverse of `whiteOf`.
+CIPoint neutralOf(const Vector3& white)
+{
+    const double sum = white[0] + 15 * white[1] + 3 * white[2];
+    const double u = 4 * white[0] / sum, v = 6 * white[1] / sum;
+    // How far the color lies along the black body's line from a temperature; it falls as that rises.
+    const auto beyond = [&](double kelvin) {
+        const CIPoint here = blackBody(kelvin), beside = blackBody(kelvin * 1.001);
+        return (u - here.x) * (beside.x - here.x) + (v - here.y) * (beside.y - here.y);
+    };
+    double low = 1000, high = 40000;
+    for (int i = 0; i < 60; ++i) {
+        const double middle = std::sqrt(low * high);
+        (beyond(middle) > 0 ? low : high) = middle;
+    }
+    const CIPoint here = blackBody(low), beside = blackBody(low * 1.001);
+    const double x = beside.x - here.x, y = beside.y - here.y;
+    const double off = ((u - here.x) * y - (v - here.y) * x) / std::hypot(x, y);
+    return {low, std::clamp(3000 * off, -150.0, 150.0)};
 }
 
 /// Adapts what looked white under one light to another, by Bradford's cone responses.
@@ -216,3 +238,17 @@ const ColorFilter<Reciprocal> disparityToDepth{{.name = "CIDisparityToDepth",
 
 } // namespace
 } // namespace ci
+
+CIPoint CINeutralForColor(const std::array<double, 3>& color, CIPoint target)
+{
+    using namespace ci;
+    if (std::max({color[0], color[1], color[2]}) <= 0)
+        return target;
+    // The filter multiplies each cone's response; the wanted factors take the color to grey.
+    const Vector3 to = kBradford * whiteOf(target), found = kBradford * (kXYZFromRGB * color);
+    const Vector3 grey = kBradford * (kXYZFromRGB * Vector3{1, 1, 1});
+    Vector3 from{};
+    for (std::size_t i = 0; i < 3; ++i)
+        from[i] = std::max(to[i], 1e-3) * std::max(found[i], 1e-6) / grey[i];
+    return neutralOf(inverse(kBradford) * from);
+}
