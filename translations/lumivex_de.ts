@@ -249,6 +249,33 @@
     </message>
 </context>
 <context>
+    <name>ColorLook</name>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Golden</source>
+        <translation>Golden</translation>
+    </message>
+    <message>
+        <source>Teal, orange</source>
+        <translation>Türkis, Orange</translation>
+    </message>
+    <message>
+        <source>Faded</source>
+        <translation>Verblasst</translation>
+    </message>
+    <message>
+        <source>Dusk</source>
+        <translation>Dämmerung</translation>
+    </message>
+    <message>
+        <source>Noir</source>
+        <translation>Noir</translation>
+    </message>
+</context>
+<context>
     <name>Command</name>
     <message>
         <source>&amp;File</source>
@@ -835,6 +862,156 @@
     </message>
 </context>
 <context>
+    <name>CubeEditor</name>
+    <message>
+        <source>This is no table of colors: its size is missing.</source>
+        <translation>Das ist keine Farbtabelle: Ihre Größe fehlt.</translation>
+    </message>
+    <message>
+        <source>The file has two sizes.</source>
+        <translation>Die Datei hat zwei Größen.</translation>
+    </message>
+    <message>
+        <source>The size is not possible.</source>
+        <translation>Die Größe ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The domain is not possible.</source>
+        <translation>Der Bereich ist nicht möglich.</translation>
+    </message>
+    <message>
+        <source>The title is not in quotation marks.</source>
+        <translation>Der Titel steht nicht in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <source>There is a word that means nothing here.</source>
+        <translation>Dort steht ein Wort, das hier nichts bedeutet.</translation>
+    </message>
+    <message>
+        <source>There are not three numbers.</source>
+        <translation>Dort stehen nicht drei Zahlen.</translation>
+    </message>
+    <message>
+        <source>There is a word among the colors.</source>
+        <translation>Zwischen den Farben steht ein Wort.</translation>
+    </message>
+    <message>
+        <source>Colors are missing at the end.</source>
+        <translation>Am Ende fehlen Farben.</translation>
+    </message>
+    <message>
+        <source>There are more colors than the size says.</source>
+        <translation>Es sind mehr Farben, als die Größe sagt.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Load .cube File…</source>
+        <translation>.cube-Datei laden …</translation>
+    </message>
+    <message>
+        <source>Opens a table of colors, as other programs write it</source>
+        <translation>Öffnet eine Farbtabelle, wie andere Programme sie schreiben</translation>
+    </message>
+    <message>
+        <source>%1 × %1 × %1 colors</source>
+        <translation>%1 × %1 × %1 Farben</translation>
+    </message>
+    <message>
+        <source>Load a Table of Colors</source>
+        <translation>Farbtabelle laden</translation>
+    </message>
+    <message>
+        <source>Tables of colors (*.cube *.CUBE)</source>
+        <translation>Farbtabellen (*.cube *.CUBE)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be opened.</source>
+        <translation>„%1“ lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a table of colors.</source>
+        <translation>„%1“ ist zu groß für eine Farbtabelle.</translation>
+    </message>
+    <message>
+        <source>%1: %2 × %2 × %2 colors</source>
+        <comment>title of a table</comment>
+        <translation>%1: %2 × %2 × %2 Farben</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged.</source>
+        <translation>„%1“ ist beschädigt.</translation>
+    </message>
+</context>
+<context>
+    <name>CurveCanvas</name>
+    <message>
+        <source>Point %1</source>
+        <translation>Punkt %1</translation>
+    </message>
+    <message>
+        <source>%1 %, becomes %2 %</source>
+        <comment>a brightness and what a curve makes of it</comment>
+        <translation>%1 %, wird zu %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>CurveEditor</name>
+    <message>
+        <source>Curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Drag the points, or go to them by Tab and move them by the arrow keys.
+A double click or Delete brings a point back.</source>
+        <translation>Ziehen Sie die Punkte, oder gehen Sie mit der Tabulatortaste zu ihnen und verschieben Sie sie mit den Pfeiltasten.
+Ein Doppelklick oder Entf bringt einen Punkt zurück.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Brings all points back</source>
+        <translation>Bringt alle Punkte zurück</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>The curves of all colors are edited</source>
+        <translation>Die Kurven aller Farben werden bearbeitet</translation>
+    </message>
+    <message>
+        <source>The curve of this color is edited</source>
+        <translation>Die Kurve dieser Farbe wird bearbeitet</translation>
+    </message>
+    <message>
+        <source>%1 % becomes %2 %</source>
+        <comment>a brightness and what a curve makes of it</comment>
+        <translation>%1 % wird zu %2 %</translation>
+    </message>
+</context>
+<context>
     <name>CustomMode</name>
     <message>
         <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
@@ -931,6 +1108,40 @@
     <message>
         <source>Drop a picture file here, or drag this one elsewhere</source>
         <translation>Ziehen Sie eine Bilddatei hierher, oder dieses Bild anderswohin</translation>
+    </message>
+</context>
+<context>
+    <name>EditorFold</name>
+    <message>
+        <source>Closes the editor</source>
+        <translation>Schließt den Editor</translation>
+    </message>
+    <message>
+        <source>Opens an editor for these values</source>
+        <translation>Öffnet einen Editor für diese Werte</translation>
+    </message>
+</context>
+<context>
+    <name>EditorTable</name>
+    <message>
+        <source>Edit as a grid</source>
+        <translation>Als Raster bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit as a curve</source>
+        <translation>Als Kurve bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit as curves</source>
+        <translation>Als Kurven bearbeiten</translation>
+    </message>
+    <message>
+        <source>Looks and .cube files</source>
+        <translation>Looks und .cube-Dateien</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Weißabgleich</translation>
     </message>
 </context>
 <context>
@@ -6210,6 +6421,72 @@
     </message>
 </context>
 <context>
+    <name>KernelEditor</name>
+    <message>
+        <source>Normalize</source>
+        <translation>Normieren</translation>
+    </message>
+    <message>
+        <source>Known weights</source>
+        <translation>Bekannte Gewichte</translation>
+    </message>
+    <message>
+        <source>Sets all weights to ones that are known by a name</source>
+        <translation>Setzt alle Gewichte auf bekannte mit einem Namen</translation>
+    </message>
+    <message>
+        <source>Own weights</source>
+        <translation>Eigene Gewichte</translation>
+    </message>
+    <message>
+        <source>Makes the sum of all weights 1, so that the picture stays as light as it is</source>
+        <translation>Macht die Summe aller Gewichte zu 1, damit das Bild so hell bleibt, wie es ist</translation>
+    </message>
+    <message>
+        <source>Weight in row %1, column %2</source>
+        <translation>Gewicht in Zeile %1, Spalte %2</translation>
+    </message>
+    <message>
+        <source>Sum %1</source>
+        <translation>Summe %1</translation>
+    </message>
+</context>
+<context>
+    <name>KernelPreset</name>
+    <message>
+        <source>No change</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <source>Box blur</source>
+        <translation>Kastenunschärfe</translation>
+    </message>
+    <message>
+        <source>Gaussian blur</source>
+        <translation>Gaußsche Unschärfe</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Emboss</source>
+        <translation>Relief</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Kanten</translation>
+    </message>
+    <message>
+        <source>Upright edges</source>
+        <translation>Senkrechte Kanten</translation>
+    </message>
+    <message>
+        <source>Level edges</source>
+        <translation>Waagerechte Kanten</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>
@@ -6354,6 +6631,13 @@
     <message>
         <source>poster, pop art, flat colors, screen print</source>
         <translation>plakat, poster, pop-art, flächige farben, siebdruck</translation>
+    </message>
+</context>
+<context>
+    <name>LookButton</name>
+    <message>
+        <source>Sets the table of colors to the look “%1”</source>
+        <translation>Setzt die Farbtabelle auf den Look „%1“</translation>
     </message>
 </context>
 <context>
@@ -7733,6 +8017,37 @@ Alles andere geht auch ohne.</translation>
         <source>Change to %1 %2</source>
         <comment>%1 is a filter, %2 one of its parameters</comment>
         <translation>%1: %2 ändern</translation>
+    </message>
+</context>
+<context>
+    <name>WhiteEditor</name>
+    <message>
+        <source>Pick a Grey</source>
+        <translation>Grau aufnehmen</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>The light of the picture in kelvin: to the right, the picture becomes warmer</source>
+        <translation>Das Licht des Bildes in Kelvin: nach rechts wird das Bild wärmer</translation>
+    </message>
+    <message>
+        <source>To the right, the picture becomes more magenta, to the left greener</source>
+        <translation>Nach rechts wird das Bild mehr purpur, nach links grüner</translation>
+    </message>
+    <message>
+        <source>Click on something in the picture that is grey or white. Escape leaves it as it is.</source>
+        <translation>Klicken Sie im Bild auf etwas Graues oder Weißes. Esc lässt es, wie es ist.</translation>
+    </message>
+    <message>
+        <source>%1: type a number</source>
+        <translation>%1: eine Zahl eingeben</translation>
     </message>
 </context>
 <context>

@@ -249,6 +249,33 @@
     </message>
 </context>
 <context>
+    <name>ColorLook</name>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Golden</source>
+        <translation>Doré</translation>
+    </message>
+    <message>
+        <source>Teal, orange</source>
+        <translation>Bleu-orange</translation>
+    </message>
+    <message>
+        <source>Faded</source>
+        <translation>Délavé</translation>
+    </message>
+    <message>
+        <source>Dusk</source>
+        <translation>Crépuscule</translation>
+    </message>
+    <message>
+        <source>Noir</source>
+        <translation>Noir</translation>
+    </message>
+</context>
+<context>
     <name>Command</name>
     <message>
         <source>&amp;File</source>
@@ -835,6 +862,156 @@
     </message>
 </context>
 <context>
+    <name>CubeEditor</name>
+    <message>
+        <source>This is no table of colors: its size is missing.</source>
+        <translation>Ce n’est pas une table de couleurs : sa taille manque.</translation>
+    </message>
+    <message>
+        <source>The file has two sizes.</source>
+        <translation>Le fichier a deux tailles.</translation>
+    </message>
+    <message>
+        <source>The size is not possible.</source>
+        <translation>La taille n’est pas possible.</translation>
+    </message>
+    <message>
+        <source>The domain is not possible.</source>
+        <translation>Le domaine n’est pas possible.</translation>
+    </message>
+    <message>
+        <source>The title is not in quotation marks.</source>
+        <translation>Le titre n’est pas entre guillemets.</translation>
+    </message>
+    <message>
+        <source>There is a word that means nothing here.</source>
+        <translation>Il s’y trouve un mot qui ne signifie rien ici.</translation>
+    </message>
+    <message>
+        <source>There are not three numbers.</source>
+        <translation>Il ne s’y trouve pas trois nombres.</translation>
+    </message>
+    <message>
+        <source>There is a word among the colors.</source>
+        <translation>Un mot se trouve parmi les couleurs.</translation>
+    </message>
+    <message>
+        <source>Colors are missing at the end.</source>
+        <translation>Des couleurs manquent à la fin.</translation>
+    </message>
+    <message>
+        <source>There are more colors than the size says.</source>
+        <translation>Il y a plus de couleurs que la taille ne le dit.</translation>
+    </message>
+    <message>
+        <source>Line %1: %2</source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Load .cube File…</source>
+        <translation>Charger un fichier .cube…</translation>
+    </message>
+    <message>
+        <source>Opens a table of colors, as other programs write it</source>
+        <translation>Ouvre une table de couleurs, comme d’autres programmes en écrivent</translation>
+    </message>
+    <message>
+        <source>%1 × %1 × %1 colors</source>
+        <translation>%1 × %1 × %1 couleurs</translation>
+    </message>
+    <message>
+        <source>Load a Table of Colors</source>
+        <translation>Charger une table de couleurs</translation>
+    </message>
+    <message>
+        <source>Tables of colors (*.cube *.CUBE)</source>
+        <translation>Tables de couleurs (*.cube *.CUBE)</translation>
+    </message>
+    <message>
+        <source>All files (*)</source>
+        <translation>Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>“%1” can&apos;t be opened.</source>
+        <translation>« %1 » ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a table of colors.</source>
+        <translation>« %1 » est trop grand pour une table de couleurs.</translation>
+    </message>
+    <message>
+        <source>%1: %2 × %2 × %2 colors</source>
+        <comment>title of a table</comment>
+        <translation>%1 : %2 × %2 × %2 couleurs</translation>
+    </message>
+    <message>
+        <source>“%1” is damaged.</source>
+        <translation>« %1 » est endommagé.</translation>
+    </message>
+</context>
+<context>
+    <name>CurveCanvas</name>
+    <message>
+        <source>Point %1</source>
+        <translation>Point %1</translation>
+    </message>
+    <message>
+        <source>%1 %, becomes %2 %</source>
+        <comment>a brightness and what a curve makes of it</comment>
+        <translation>%1 %, devient %2 %</translation>
+    </message>
+</context>
+<context>
+    <name>CurveEditor</name>
+    <message>
+        <source>Curve</source>
+        <translation>Courbe</translation>
+    </message>
+    <message>
+        <source>Drag the points, or go to them by Tab and move them by the arrow keys.
+A double click or Delete brings a point back.</source>
+        <translation>Déplacez les points, ou passez de l’un à l’autre par Tab et déplacez-les par les flèches.
+Un double-clic ou Suppr ramène un point.</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Réinitialiser</translation>
+    </message>
+    <message>
+        <source>Brings all points back</source>
+        <translation>Ramène tous les points</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>The curves of all colors are edited</source>
+        <translation>Les courbes de toutes les couleurs sont modifiées</translation>
+    </message>
+    <message>
+        <source>The curve of this color is edited</source>
+        <translation>La courbe de cette couleur est modifiée</translation>
+    </message>
+    <message>
+        <source>%1 % becomes %2 %</source>
+        <comment>a brightness and what a curve makes of it</comment>
+        <translation>%1 % devient %2 %</translation>
+    </message>
+</context>
+<context>
     <name>CustomMode</name>
     <message>
         <source>Drag on the picture to move the effect. The arrow keys move it as well.</source>
@@ -931,6 +1108,40 @@
     <message>
         <source>Drop a picture file here, or drag this one elsewhere</source>
         <translation>Déposez un fichier d’image ici, ou faites glisser celle-ci ailleurs</translation>
+    </message>
+</context>
+<context>
+    <name>EditorFold</name>
+    <message>
+        <source>Closes the editor</source>
+        <translation>Ferme l’éditeur</translation>
+    </message>
+    <message>
+        <source>Opens an editor for these values</source>
+        <translation>Ouvre un éditeur pour ces valeurs</translation>
+    </message>
+</context>
+<context>
+    <name>EditorTable</name>
+    <message>
+        <source>Edit as a grid</source>
+        <translation>Modifier sur une grille</translation>
+    </message>
+    <message>
+        <source>Edit as a curve</source>
+        <translation>Modifier sur une courbe</translation>
+    </message>
+    <message>
+        <source>Edit as curves</source>
+        <translation>Modifier sur des courbes</translation>
+    </message>
+    <message>
+        <source>Looks and .cube files</source>
+        <translation>Looks et fichiers .cube</translation>
+    </message>
+    <message>
+        <source>White balance</source>
+        <translation>Balance des blancs</translation>
     </message>
 </context>
 <context>
@@ -6210,6 +6421,72 @@
     </message>
 </context>
 <context>
+    <name>KernelEditor</name>
+    <message>
+        <source>Normalize</source>
+        <translation>Normaliser</translation>
+    </message>
+    <message>
+        <source>Known weights</source>
+        <translation>Poids connus</translation>
+    </message>
+    <message>
+        <source>Sets all weights to ones that are known by a name</source>
+        <translation>Remplace tous les poids par des poids connus sous un nom</translation>
+    </message>
+    <message>
+        <source>Own weights</source>
+        <translation>Poids personnels</translation>
+    </message>
+    <message>
+        <source>Makes the sum of all weights 1, so that the picture stays as light as it is</source>
+        <translation>Ramène la somme des poids à 1, pour que l’image reste aussi claire</translation>
+    </message>
+    <message>
+        <source>Weight in row %1, column %2</source>
+        <translation>Poids de la ligne %1, colonne %2</translation>
+    </message>
+    <message>
+        <source>Sum %1</source>
+        <translation>Somme %1</translation>
+    </message>
+</context>
+<context>
+    <name>KernelPreset</name>
+    <message>
+        <source>No change</source>
+        <translation>Sans changement</translation>
+    </message>
+    <message>
+        <source>Box blur</source>
+        <translation>Flou uniforme</translation>
+    </message>
+    <message>
+        <source>Gaussian blur</source>
+        <translation>Flou gaussien</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Netteté</translation>
+    </message>
+    <message>
+        <source>Emboss</source>
+        <translation>Relief</translation>
+    </message>
+    <message>
+        <source>Edges</source>
+        <translation>Contours</translation>
+    </message>
+    <message>
+        <source>Upright edges</source>
+        <translation>Contours verticaux</translation>
+    </message>
+    <message>
+        <source>Level edges</source>
+        <translation>Contours horizontaux</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>
@@ -6354,6 +6631,13 @@
     <message>
         <source>poster, pop art, flat colors, screen print</source>
         <translation>affiche, poster, pop art, aplats, sérigraphie</translation>
+    </message>
+</context>
+<context>
+    <name>LookButton</name>
+    <message>
+        <source>Sets the table of colors to the look “%1”</source>
+        <translation>Donne à la table de couleurs le look « %1 »</translation>
     </message>
 </context>
 <context>
@@ -7733,6 +8017,37 @@ Tout le reste fonctionne sans.</translation>
         <source>Change to %1 %2</source>
         <comment>%1 is a filter, %2 one of its parameters</comment>
         <translation>%1&#xa0;: changer %2</translation>
+    </message>
+</context>
+<context>
+    <name>WhiteEditor</name>
+    <message>
+        <source>Pick a Grey</source>
+        <translation>Prélever un gris</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Tint</source>
+        <translation>Teinte</translation>
+    </message>
+    <message>
+        <source>The light of the picture in kelvin: to the right, the picture becomes warmer</source>
+        <translation>La lumière de l’image en kelvins : vers la droite, l’image devient plus chaude</translation>
+    </message>
+    <message>
+        <source>To the right, the picture becomes more magenta, to the left greener</source>
+        <translation>Vers la droite, l’image tire sur le magenta, vers la gauche sur le vert</translation>
+    </message>
+    <message>
+        <source>Click on something in the picture that is grey or white. Escape leaves it as it is.</source>
+        <translation>Cliquez dans l’image sur quelque chose de gris ou de blanc. Échap la laisse telle quelle.</translation>
+    </message>
+    <message>
+        <source>%1: type a number</source>
+        <translation>%1 : saisir un nombre</translation>
     </message>
 </context>
 <context>
