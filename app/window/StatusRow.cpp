@@ -28,7 +28,7 @@ constexpr auto kTick = 50ms;
 QString depthText(const Document& document)
 {
     const CIProfiledSpace* const profiled = profiledSpace(storedLike(document.picture(), document.format()).space);
-    const QString name = profiled ? QString::fromStdString(profiled->profile().name) : QString();
+    const QString name = profiled ? QString::fromStdString(profiled->profile().name).simplified() : QString();
     switch (document.format()) {
     case CIFormat::RGBA16:
         return profiled ? StatusRow::tr("%1 16-bit", "name of a color space").arg(name) : StatusRow::tr("sRGB 16-bit");

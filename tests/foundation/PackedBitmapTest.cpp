@@ -1,5 +1,7 @@
 #include "platform/foundation/PackedBitmap.h"
 
+#include "platform/coreimage/CIColorProfile.h"
+
 #include <algorithm>
 #include <cstring>
 #include <limits>
@@ -37,6 +39,18 @@ TEST(PackedBitmap, TakesPicturesOfOneColorBack)
         EXPECT_EQ(back.height(), height);
         EXPECT_EQ(back.format(), format);
     }
+}
+
+TEST(PackedBitmap, KeepsTheColorsOfAProfile)
+{
+    CIColorProfile profile{.name = "wide", .light = {}, .toLinearSRGB = {2, 0, 0, 0, 2, 0, 0, 0, 2}, .icc = {}};
+    for (int code = 0; code < 65536; ++code)
+        profile.light.push_back(float(code) / 65535);
+    const CIColorSpace space = colorSpaceOf(std::move(profile));
+    const QByteArray bytes = packed(CIBitmap(6, 4, CIFormat::RGBA16, CIAlpha::Straight, space));
+    EXPECT_EQ(unpacked(bytes).colorSpace(), space);
+    for (const int size : {24, 30, 2000, 200'000})
+        EXPECT_TRUE(unpacked(bytes.left(size)).isNull()) << size;
 }
 
 TEST(PackedBitmap, BelievesNoSize)
