@@ -114,10 +114,10 @@ Facts generators()
             .atFullSize()
             .inPlace(),
         Fact{"CIMeshGenerator",
-            {{"inputMesh", CIArray{CIVector{10, 11, 51, 11}, CIArray{10, 11, 40, 51}, CIVector{1, 2}}},
+            {{"inputMesh", CIArray{CIVector{30, 11, 61, 11}, CIArray{10, 11, 40, 51}, CIVector{1, 2}}},
                 {"inputWidth", 4}, {"inputColor", kRed}},
             {{{31, 11}, kRedLight}, {{31, 13}, straight(1, 0, 0, 0.5)}, {{31, 15}, kNothing}, {{25, 31}, kRedLight},
-                {{19, 35}, kNothing}}}
+                {{19, 35}, kNothing}, {{22, 11}, kNothing}}}
             .inPlace(),
     };
 }
