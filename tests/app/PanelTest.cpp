@@ -1,6 +1,8 @@
 // The panel in the real window, for every filter of the catalogue.
 #include "WindowFixture.h"
 
+#include "controls/editors/CubeEditor.h"
+#include "controls/editors/EditorFold.h"
 #include "controls/panel/BezelStyle.h"
 #include "controls/panel/CaptionLabel.h"
 #include "controls/panel/FilterView.h"
@@ -236,6 +238,36 @@ TEST_F(PanelTest, ScrollsWhenThereIsNoRoomAndTabGoesDown)
         EXPECT_TRUE(control->hasFocus()) << control->objectName().toStdString();
         QTest::keyClick(control, Qt::Key_Tab);
     }
+}
+
+TEST_F(PanelTest, AnEditorsGestureIsOneStepAndItsFoldOutlivesUndo)
+{
+    openPicture(pictureFile("brown.png", 60, 40));
+    pick("CIColorCubeWithColorSpace");
+    settle();
+    const CIValue before = controller.getCurrentFilter()->valueForKey("inputCubeData");
+    const auto former = undo.undoMenuItemTitle();
+    QTest::mouseClick(&control<FoldButton>("editorFold"), Qt::LeftButton);
+    settle();
+    ASSERT_FALSE(ui.placeCntrlView->findChildren<LookButton*>().isEmpty());
+    ui.placeCntrlView->findChildren<LookButton*>().last()->click();
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputCubeDimension").toDouble(), 17);
+    controller.undo();
+    settle();
+    EXPECT_EQ(undo.undoMenuItemTitle(), former) << "data and dimension came in one step";
+    EXPECT_TRUE(controller.getCurrentFilter()->valueForKey("inputCubeData") == before);
+    EXPECT_EQ(controller.getCurrentFilter()->valueForKey("inputCubeDimension").toDouble(), 2);
+    EXPECT_TRUE(ui.placeCntrlView->findChild<EditorFold*>()->isOpen());
+
+    pick("CITemperatureAndTint");
+    settle();
+    QTest::mouseClick(&control<FoldButton>("editorFold"), Qt::LeftButton);
+    ui.placeCntrlView->findChild<InputEditor*>()->findChild<QPushButton*>()->click();
+    MyImageView& view = *ui.pictureScrollView->imageView();
+    ASSERT_TRUE(view.isPickingPlace());
+    QTest::mouseClick(&view, Qt::LeftButton, {}, view.toWidget({30, 20}).toPoint());
+    EXPECT_FALSE(view.isPickingPlace());
+    EXPECT_NE(controller.getCurrentFilter()->valueForKey("inputNeutral").toVector(), (CIVector{6500, 0}));
 }
 
 TEST_F(PanelTest, RestylingMakesRoundedPushButtonsSquare)
