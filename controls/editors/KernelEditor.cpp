@@ -1,6 +1,7 @@
 #include "controls/editors/KernelEditor.h"
 
 #include "controls/panel/ParameterText.h"
+#include "platform/coreimage/CIContext.h"
 #include "platform/foundation/Appearance.h"
 #include "widgets/PanelPopUp.h"
 #include "widgets/ReadoutField.h"
@@ -20,6 +21,17 @@
 namespace {
 
 constexpr int kPictureSide = 54, kFieldHeight = 20, kGap = 2, kMostWidth = 76; // points
+
+/// Whether opacity is weighted as the colors are: weights with a sum of 0 then leave nothing to see.
+bool weighsOpacity(const CIFilter& filter, const std::string& key, int count)
+{
+    const std::shared_ptr<CIFilter> copy = CIFilter::filterWithName(filter.name());
+    copy->setDefaults();
+    copy->setValueForKey(CIVector(KernelWeights(std::size_t(count), 0.0)), key);
+    copy->setValueForKey(CIImage::fromBitmap(CIBitmap(1, 1, CIFormat::RGBA8, CIAlpha::Opaque)), "inputImage");
+    const CIBitmap result = CIContext().render(copy->outputImage(), {0, 0, 1, 1});
+    return result.isNull() || result.row<std::uint8_t>(0)[3] == 0;
+}
 
 bool areNear(const KernelWeights& a, const KernelWeights& b)
 {
@@ -84,8 +96,9 @@ KernelEditor::KernelEditor(const EditedInput& input, QWidget* parent)
     m_presets->setAccessibleName(tr("Known weights"));
     m_presets->setToolTip(tr("Sets all weights to ones that are known by a name"));
     m_presets->addItem(tr("Own weights"));
+    const bool needsSum = weighsOpacity(*input.filter, input.key, m_columns * m_rows);
     for (const KernelPreset& preset : kernelPresets())
-        if (preset.isFor(m_columns, m_rows))
+        if (preset.isFor(m_columns, m_rows) && !(needsSum && preset.hasNoSum))
             m_presets->addItem(QCoreApplication::translate("KernelPreset", preset.name),
                 QVariant::fromValue(preset.weights(m_columns, m_rows)));
     connect(m_presets, &QComboBox::activated, this, [this](int index) {

@@ -88,9 +88,9 @@ const KernelPreset kPresets[] = {
     {QT_TRANSLATE_NOOP("KernelPreset", "Gaussian blur"), gaussian},
     {QT_TRANSLATE_NOOP("KernelPreset", "Sharpen"), sharpen},
     {QT_TRANSLATE_NOOP("KernelPreset", "Emboss"), emboss},
-    {QT_TRANSLATE_NOOP("KernelPreset", "Edges"), edges},
-    {QT_TRANSLATE_NOOP("KernelPreset", "Upright edges"), uprightEdges, true},
-    {QT_TRANSLATE_NOOP("KernelPreset", "Level edges"), levelEdges, true},
+    {QT_TRANSLATE_NOOP("KernelPreset", "Edges"), edges, true},
+    {QT_TRANSLATE_NOOP("KernelPreset", "Upright edges"), uprightEdges, true, true},
+    {QT_TRANSLATE_NOOP("KernelPreset", "Level edges"), levelEdges, true, true},
 };
 
 } // namespace

@@ -11,6 +11,7 @@ using KernelWeights = std::vector<double>;
 struct KernelPreset {
     const char* name; // in English, context "KernelPreset"
     KernelWeights (*weights)(int columns, int rows);
+    bool hasNoSum = false; // blackens even areas
     bool needsArea = false; // makes no sense for a single line
 
     bool isFor(int columns, int rows) const { return !needsArea || (columns > 1 && rows > 1); }
