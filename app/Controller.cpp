@@ -351,6 +351,20 @@ void Controller::readImage(const QString& path, std::function<void(const CIImage
         std::move(take));
 }
 
+void Controller::takeSecondPicture(const QString& path)
+{
+    if (path.isEmpty() || !backImage())
+        return;
+    readImage(path, [this, path](const CIImage& second) {
+        if (!second)
+            return showReadFailure(path);
+        if (!m_standard.isOn())
+            m_modes.changeFilterMode(&m_standard.button());
+        m_standard.takeSecondPicture(second);
+        updateMainBtnState();
+    });
+}
+
 CIBitmap Controller::createObjectImage()
 {
     const LaterPicture picture = laterEffectedImage();

@@ -213,6 +213,12 @@ public:
     void cancelOpening() { m_opening.cancel(); }
     Opening& opening() { return m_opening; }
     bool isOpening() const { return m_document.state() == Document::State::Opening; }
+    void openSecondPicture()
+    {
+        m_opening.runSecondPanel(m_window, [this](const QString& path) { takeSecondPicture(path); });
+    }
+    /// The picture of the file becomes the second one of the filter, in standard mode.
+    void takeSecondPicture(const QString& path) override;
     void readImage(const QString& path, std::function<void(const CIImage&)> take) override;
 
     // Saving and exporting

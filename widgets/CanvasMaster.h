@@ -21,4 +21,6 @@ public:
     virtual void setZoom(float zoom) = 0;
     /// Makes it the current file, and what can be read of it the picture, undoably. May take effect later.
     virtual void takeDroppedFile(const QString& path) = 0;
+    /// Of a file that is dropped with Alt held.
+    virtual void takeSecondPicture(const QString&) { }
 };

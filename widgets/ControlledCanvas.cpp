@@ -105,5 +105,5 @@ void ControlledCanvas::dropEvent(QDropEvent* event)
     takeAsCopy(*event);
     const QMimeData& data = *event->mimeData();
     if (const QString path = firstDroppedFile(data); m_master && !path.isEmpty() && !isPictureItself(data))
-        m_master->takeDroppedFile(path);
+        event->modifiers() & Qt::AltModifier ? m_master->takeSecondPicture(path) : m_master->takeDroppedFile(path);
 }

@@ -2,6 +2,7 @@
 
 #include "controls/panel/FilterNames.h"
 #include "controls/picture/ControlPoints.h"
+#include "platform/chain/Layers.h"
 #include "platform/foundation/Log.h"
 #include "platform/foundation/TintedIcon.h"
 
@@ -31,6 +32,14 @@ const std::vector<GroupDeclaration>& groupDeclarations()
         {QT_TRANSLATE_NOOP("DataSource", "Generator"), {kCICategoryGenerator}},
     };
     return groups;
+}
+
+/// All that put two pictures together, also those that other groups have.
+std::vector<std::string> blendingFilters()
+{
+    std::vector<std::string> names = CIFilter::filterNamesInCategory({});
+    std::erase_if(names, [](const std::string& name) { return !blendsPictures(*CIFilter::filterWithName(name)); });
+    return names;
 }
 
 const FilterGroup* asGroup(const OutlineItem* item) { return dynamic_cast<const FilterGroup*>(item); }
@@ -67,13 +76,19 @@ void DataSource::buildFilters()
             const std::vector<std::string> more = CIFilter::filterNamesInCategory(category);
             names.insert(names.end(), more.begin(), more.end());
         }
-        if (names.empty())
-            continue;
-        auto group = std::make_unique<FilterGroup>();
-        group->label = QCoreApplication::translate("DataSource", declaration.label);
-        group->rows = buildFilterDictionary(names);
-        m_cifilters.push_back(std::move(group));
+        addGroup(declaration.label, names);
     }
+    addGroup(QT_TRANSLATE_NOOP("DataSource", "Blending"), blendingFilters());
+}
+
+void DataSource::addGroup(const char* label, const std::vector<std::string>& names)
+{
+    if (names.empty())
+        return;
+    auto group = std::make_unique<FilterGroup>();
+    group->label = QCoreApplication::translate("DataSource", label);
+    group->rows = buildFilterDictionary(names);
+    m_cifilters.push_back(std::move(group));
 }
 
 std::vector<std::unique_ptr<FilterRow>> DataSource::buildFilterDictionary(const std::vector<std::string>& names)

@@ -23,8 +23,9 @@ public:
     std::vector<std::unique_ptr<FilterRow>> rows;
 };
 
-/// The filters that the engine knows, in nine groups. Built once; rows stand in the order in which the engine lists
-/// the filters of a category, and a filter that belongs in two places is listed in both.
+/// The filters that the engine knows, in nine groups by what they do to a picture and a tenth of those that blend two.
+/// Built once; rows stand in the order in which the engine lists the filters of a category, and a filter that belongs
+/// in two places is listed in both.
 class DataSource : public OutlineDataSource {
 public:
     /// Column identifiers of the list.
@@ -61,6 +62,7 @@ public:
 
 private:
     void buildFilters();
+    void addGroup(const char* label, const std::vector<std::string>& names);
 
-    std::vector<std::unique_ptr<FilterGroup>> m_cifilters; // in the order of the table in buildFilters
+    std::vector<std::unique_ptr<FilterGroup>> m_cifilters; // in the order in which buildFilters adds them
 };

@@ -30,6 +30,7 @@ public:
     void setPicture(const CIImage& picture);
     /// The row whose filter is the current one, which the search may hide; null for none. Selects nothing by itself.
     void setChosenRow(const OutlineItem* row) { m_chosenRow = m_shown.rowInGroup(row); }
+    const OutlineItem* chosenRow() const { return m_chosenRow; }
     /// Chooses and selects the first row of that class. Nobody is told.
     void selectClass(const QString& className);
     /// Of a row that can't be chosen: folds or unfolds a group, or asks for an effect. True when it was an effect.

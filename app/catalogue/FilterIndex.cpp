@@ -9,6 +9,7 @@ constexpr double kNotFound = std::numeric_limits<double>::infinity();
 constexpr double kMissing = 100; // what a word costs that is not found, where that is allowed
 constexpr double kAsWords = 2; // found as words here and there, not as a whole
 constexpr double kPlace = 0.03, kNoPlace = 0.6; // later search words fit less
+constexpr double kSpecial = 3; // of what fewer people look for
 constexpr double kInPhrase = 0.25; // so do those of which it is a part
 constexpr int kShortWord = 3, kStem = 4, kEnding = 3, kLongWord = 8; // letters
 constexpr std::size_t kMostNear = 6;
@@ -87,13 +88,14 @@ FilterIndex::Texts::Texts(const IndexedTexts& texts)
         phrases << folded(phrase);
 }
 
-void FilterIndex::add(const OutlineItem* row, const QString& className, const std::vector<IndexedTexts>& languages)
+void FilterIndex::add(
+    const OutlineItem* row, const QString& className, const std::vector<IndexedTexts>& languages, bool isSpecial)
 {
     const QString key = folded(className);
     const bool isKnown =
         std::ranges::any_of(m_entries, [&](const Entry& entry) { return !key.isEmpty() && entry.className == key; });
     if (!isKnown) // a filter may stand in two groups
-        m_entries.push_back({row, key, {languages.begin(), languages.end()}});
+        m_entries.push_back({row, key, {languages.begin(), languages.end()}, isSpecial});
 }
 
 /// Of a word, or of all that is typed.
@@ -150,7 +152,7 @@ double FilterIndex::cost(const Entry& entry, const QString& typed, Slips slips)
         if (slips != Slips::None)
             best = std::min(best, costOfSlips(texts, typed, slips));
     }
-    return best;
+    return best + (entry.isSpecial && best > 0 ? kSpecial : 0);
 }
 
 double FilterIndex::cost(const Entry& entry, const QStringList& words, Slips slips)

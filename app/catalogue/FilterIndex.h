@@ -22,7 +22,9 @@ struct IndexedTexts {
 class FilterIndex {
 public:
     /// The row is found in each of the languages. Rows that fit equally well keep the order in which they were added.
-    void add(const OutlineItem* row, const QString& className, const std::vector<IndexedTexts>& languages);
+    /// One that `isSpecial` comes after others that fit nearly as well.
+    void add(const OutlineItem* row, const QString& className, const std::vector<IndexedTexts>& languages,
+        bool isSpecial = false);
 
     struct Found {
         std::vector<const OutlineItem*> rows;
@@ -42,6 +44,7 @@ private:
         const OutlineItem* row;
         QString className;
         std::vector<Texts> languages;
+        bool isSpecial;
     };
     enum class Slips { None, Few, Many };
 

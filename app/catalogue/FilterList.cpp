@@ -46,7 +46,7 @@ void FilterList::buildIndex()
     if (std::exchange(m_isIndexed, true))
         return;
     const auto index = [this](const OutlineItem* row, const std::string& className, const QString& english,
-                           IndexedTexts shown) {
+                           IndexedTexts shown, bool isSpecial = false) {
         std::vector<IndexedTexts> languages{{.name = english}};
         if (const FilterWords* words = filterWords(className)) {
             languages[0].searchWords = QString::fromStdString(words->searchWords);
@@ -55,13 +55,15 @@ void FilterList::buildIndex()
             shown.description = shownFilterDescription(className);
         }
         languages.push_back(std::move(shown));
-        m_index.add(row, QString::fromStdString(className), languages);
+        m_index.add(row, QString::fromStdString(className), languages, isSpecial);
     };
     for (const auto& group : m_filters.groups())
         for (const auto& row : group->rows) {
             const std::string className = row->className.toStdString();
             const QString english = QString::fromStdString(CIFilter::localizedNameForFilterName(className));
-            index(row.get(), className, english, {.name = row->name, .category = group->label});
+            // Who wants two pictures blended says so.
+            index(row.get(), className, english, {.name = row->name, .category = group->label},
+                group == m_filters.groups().back());
         }
     for (const auto& link : m_effects)
         index(link.get(), link->className.toStdString(), link->englishName, {.name = link->name});

@@ -1,6 +1,7 @@
 #include "app/catalogue/FilterMaker.h"
 
 #include "platform/chain/FilterChain.h"
+#include "platform/chain/Layers.h"
 
 #include <optional>
 
@@ -24,6 +25,10 @@ std::shared_ptr<CIFilter> FilterMaker::newFilter(const std::string& name, const 
         filter->setDefaults();
         setupAllImageInputsToNotNil(*filter, picture);
         setAutomaticDefaults(*filter, view);
+        if (secondPicture && blendsPictures(*filter)) {
+            filter->setValueForKey(secondPicture, "inputImage");
+            filter->setValueForKey(double(Placing::Fit), placingKey("inputImage"));
+        }
         if (startsFitted)
             fitToPicture(*filter, picture);
         if (picture)

@@ -16,6 +16,7 @@ public:
     void setAutomaticDefaults(CIFilter& filter, const CIRect& view);
 
     bool startsFitted = false; // new filters have values that fit the picture
+    CIImage secondPicture; // of new filters that blend pictures, if there is one
 
     DefaultImage texture{"smoothtexture"}, shadingemap{"lightball"}, alphaemap{"restrictedshine"}, ramp{"colormap"},
         mask{"mask"};

@@ -57,23 +57,41 @@ Opening::~Opening() = default;
 
 // --- what is opened ---
 
-void Opening::runPanel(QWidget& window)
+QFileDialog* Opening::newPanel(QWidget& window, const QString& title)
 {
-    auto* panel = new QFileDialog(&window, tr("Open Picture"));
+    auto* panel = new QFileDialog(&window, title);
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     panel->setWindowModality(Qt::WindowModal);
     panel->setNameFilters(nameFilters());
     panel->setOption(QFileDialog::DontUseNativeDialog); // the desktop's has no place for our button
-    addNewWindowButton(*panel);
     FileThumbnails::installIn(*panel);
     dressFilePanel(*panel);
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     addPlace(*panel, pictures);
     panel->setDirectory(m_document.folder().isEmpty() && QFileInfo(pictures).isDir() ? pictures : m_document.folder());
-    connect(panel, &QFileDialog::finished, this, [this, panel](int code) {
-        m_document.setFolder(panel->directory().absolutePath());
-        panelDidEnd(code, panel->selectedFiles());
+    connect(panel, &QFileDialog::finished, this,
+        [this, panel] { m_document.setFolder(panel->directory().absolutePath()); });
+    return panel;
+}
+
+void Opening::runPanel(QWidget& window)
+{
+    QFileDialog* panel = newPanel(window, tr("Open Picture"));
+    addNewWindowButton(*panel);
+    connect(
+        panel, &QFileDialog::finished, this, [this, panel](int code) { panelDidEnd(code, panel->selectedFiles()); });
+    panel->open();
+}
+
+void Opening::runSecondPanel(QWidget& window, std::function<void(const QString&)> take)
+{
+    QFileDialog* panel = newPanel(window, tr("Open as Second Picture"));
+    connect(panel, &QFileDialog::accepted, this, [panel, take] {
+        // When the panel has gone, for reading may take long.
+        QMetaObject::invokeMethod(
+            panel->parentWidget(), [take, path = panel->selectedFiles().value(0)] { take(path); },
+            Qt::QueuedConnection);
     });
     panel->open();
 }

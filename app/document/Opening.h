@@ -26,6 +26,8 @@ public:
 
     /// Asks for a file, in a panel on the window.
     void runPanel(QWidget& window);
+    /// The same for a file that doesn't become the document's.
+    void runSecondPanel(QWidget& window, std::function<void(const QString&)> take);
     void panelDidEnd(int returnCode, const QStringList& files);
     static QStringList nameFilters();
 
@@ -70,6 +72,7 @@ private:
     };
     struct Job;
 
+    QFileDialog* newPanel(QWidget& window, const QString& title);
     void addNewWindowButton(QFileDialog& panel);
     void start(const Order& order);
     void take(const Order& order, const CIImage& image);

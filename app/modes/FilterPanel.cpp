@@ -32,19 +32,54 @@ void FilterPanel::build(const std::shared_ptr<CIFilter>& filter, int tag)
     m_view->addRows();
 
     // The container grows with the rows, and its scroll area then scrolls.
-    m_view->setMinimumHeight(isEmpty() ? 0 : m_view->contentHeight());
+    m_view->setMinimumHeight(m_view->isEmpty() ? 0 : m_view->contentHeight());
+    m_writing = addLayerRows(filter, &LayerRows::addWriting);
     m_place.layout()->addWidget(m_view);
     m_view->show();
+    m_places = addLayerRows(filter, &LayerRows::addPlaces);
+    if (m_writing || m_places) {
+        static_cast<QVBoxLayout*>(m_place.layout())->addStretch(1);
+        dress();
+    }
 
     QWidget* before = &m_before;
     for (QWidget* control : controls())
         QWidget::setTabOrder(std::exchange(before, control), control);
 }
 
+/// Null when the filter has no such rows.
+LayerRows* FilterPanel::addLayerRows(const std::shared_ptr<CIFilter>& filter, void (LayerRows::*fill)())
+{
+    auto* rows = new LayerRows(filter, m_master, &m_place);
+    (rows->*fill)();
+    if (rows->isEmpty()) {
+        delete rows;
+        return nullptr;
+    }
+    m_place.layout()->addWidget(rows);
+    rows->show();
+    return rows;
+}
+
+std::vector<QWidget*> FilterPanel::controls() const
+{
+    std::vector<QWidget*> all;
+    const auto append = [&](const std::vector<QWidget*>& more) { all.insert(all.end(), more.begin(), more.end()); };
+    if (m_writing)
+        append(m_writing->controls());
+    if (m_view)
+        append(m_view->controls());
+    if (m_places)
+        append(m_places->controls());
+    return all;
+}
+
 void FilterPanel::clear()
 {
     while (QWidget* row = m_place.findChild<QWidget*>({}, Qt::FindDirectChildrenOnly))
         delete row;
+    while (const QLayoutItem* room = m_place.layout()->takeAt(0))
+        delete room;
 }
 
 void FilterPanel::rebuild(const std::shared_ptr<CIFilter>& filter, int tag)
@@ -67,6 +102,7 @@ void FilterPanel::rebuild(const std::shared_ptr<CIFilter>& filter, int tag)
 
 void FilterPanel::dress()
 {
+    const bool isAlone = !m_writing && !m_places; // with rows above or below, the line would part them
     if (m_view)
-        m_view->setBorderColor(Appearance::shared().look().separator);
+        m_view->setBorderColor(isAlone ? Appearance::shared().look().separator : QColor(Qt::transparent));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "controls/panel/FilterView.h"
+#include "controls/panel/LayerRows.h"
 
 #include <QPointer>
 
@@ -18,12 +19,13 @@ public:
     void clear();
     /// The same rows with the filter's present values; keyboard and scroller stay where they are. No rows without one.
     void rebuild(const std::shared_ptr<CIFilter>& filter, int tag);
-    bool isEmpty() const { return !m_view || m_view->isEmpty(); }
+    bool isEmpty() const { return (!m_view || m_view->isEmpty()) && !m_writing && !m_places; }
     /// As the look is now.
     void dress();
 
 private:
-    std::vector<QWidget*> controls() const { return m_view ? m_view->controls() : std::vector<QWidget*>(); }
+    std::vector<QWidget*> controls() const; // from top to bottom
+    LayerRows* addLayerRows(const std::shared_ptr<CIFilter>& filter, void (LayerRows::*fill)());
 
     QWidget& m_place;
     QScrollArea& m_scroller;
@@ -31,4 +33,5 @@ private:
     ParameterMaster& m_master;
     const OpenFolds m_openFolds = std::make_shared<std::set<std::string>>();
     QPointer<FilterView> m_view;
+    QPointer<LayerRows> m_writing, m_places; // above and below the inputs' rows
 };

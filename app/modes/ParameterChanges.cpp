@@ -2,6 +2,7 @@
 
 #include "app/document/UndoNames.h"
 #include "app/modes/InputValues.h"
+#include "platform/chain/Layers.h"
 #include "platform/foundation/UndoManager.h"
 
 void ParameterChanges::add(const std::shared_ptr<CIFilter>& filter)
@@ -49,6 +50,14 @@ void ParameterChanges::setAllInputs(CIFilter& filter, const QString& actionName,
     }
     m_undoManager.setActionName(actionName);
     m_undoManager.endUndoGrouping();
+}
+
+void ParameterChanges::setNotes(CIFilter& filter, const CIFilter& from)
+{
+    for (const CIFilter* notes : std::initializer_list<const CIFilter*>{&filter, &from})
+        for (const std::string& key : noteKeys(*notes))
+            if (const CIValue value = from.valueForKey(key); value != filter.valueForKey(key))
+                setFilterValueForKey(filter, value, key);
 }
 
 void ParameterChanges::dropImagesOfPastFilters(const CIFilter* current)

@@ -31,6 +31,8 @@ public:
     /// Sets all inputs for which there is a value as one step; none when no value is another.
     using ValueFor = std::function<std::optional<CIValue>(const CIInputAttributes&)>;
     void setAllInputs(CIFilter& filter, const QString& actionName, const ValueFor& valueFor);
+    /// The other filter's notes become the filter's.
+    void setNotes(CIFilter& filter, const CIFilter& from);
 
     /// Filters that only steps keep will never draw again, and must not hold on to pictures. `current` does draw.
     void dropImagesOfPastFilters(const CIFilter* current);

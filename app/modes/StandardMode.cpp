@@ -10,11 +10,13 @@
 #include "app/modes/FilterOptions.h"
 #include "app/modes/FilterPanel.h"
 #include "app/modes/InputValues.h"
+#include "app/modes/StoredInputs.h"
 #include "controls/panel/FilterNames.h"
 #include "controls/picture/ControlPoints.h"
 #include "controls/picture/MyImageView.h"
 #include "platform/chain/Baking.h"
 #include "platform/chain/FilterChain.h"
+#include "platform/chain/Layers.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>
@@ -24,7 +26,6 @@
 
 namespace {
 
-const std::string kInput = "input:"; // followed by the input's key
 constexpr int kPanelTag = 111;
 
 CIImage movedToOrigin(const CIImage& image)
@@ -90,6 +91,27 @@ void StandardMode::chooseLook(const PictureLook* look)
     m_document.setWasChanged(true);
     updateView();
     emit changed();
+}
+
+void StandardMode::takeSecondPicture(const CIImage& second)
+{
+    m_tools.filters.secondPicture = second;
+    m_tools.catalogue.renewPictures();
+    const std::optional<std::string> key = currentFilter ? secondPictureKey(*currentFilter) : std::nullopt;
+    if (!key) {
+        const QString className = QStringLiteral("CISourceOverCompositing");
+        m_tools.catalogue.selectClass(className);
+        choose(m_tools.catalogue.chosenRow());
+        emit changed();
+        return;
+    }
+    m_document.undoManager().beginUndoGrouping();
+    m_tools.changes.setFilterValueForKey(*currentFilter, second, *key);
+    m_tools.changes.setFilterValueForKey(*currentFilter, double(Placing::Fit), placingKey(*key));
+    m_document.undoManager().setActionName(tr("Open as Second Picture"));
+    m_document.undoManager().endUndoGrouping();
+    updateView();
+    updateLayout();
 }
 
 void StandardMode::dropItem()
@@ -187,7 +209,8 @@ void StandardMode::resetAllInputs()
 {
     if (const std::shared_ptr<CIFilter> fresh = isEdited() ? newFilter(currentFilter->name()) : nullptr)
         setAllInputs(
-            tr("Reset All Inputs"), [&](const CIInputAttributes& input) { return fresh->valueForKey(input.key); });
+            tr("Reset All Inputs"), [&](const CIInputAttributes& input) { return fresh->valueForKey(input.key); },
+            *fresh);
 }
 
 void StandardMode::randomizeInputs()
@@ -195,9 +218,12 @@ void StandardMode::randomizeInputs()
     if (!isEdited())
         return;
     std::mt19937 random(QRandomGenerator::global()->generate());
-    setAllInputs(tr("Randomize Inputs"), [&](const CIInputAttributes& input) {
-        return randomValue(input, currentFilter->valueForKey(input.key), m_document.picture().extent(), random);
-    });
+    setAllInputs(
+        tr("Randomize Inputs"),
+        [&](const CIInputAttributes& input) {
+            return randomValue(input, currentFilter->valueForKey(input.key), m_document.picture().extent(), random);
+        },
+        *currentFilter);
 }
 
 void StandardMode::fitInputs()
@@ -206,29 +232,28 @@ void StandardMode::fitInputs()
         return;
     CIFilter fitted = *currentFilter;
     fitToPicture(fitted, m_document.picture());
-    setAllInputs(tr("Fit to Picture"), [&](const CIInputAttributes& input) { return fitted.valueForKey(input.key); });
+    setAllInputs(
+        tr("Fit to Picture"), [&](const CIInputAttributes& input) { return fitted.valueForKey(input.key); }, fitted);
 }
 
-void StandardMode::setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor)
+void StandardMode::setAllInputs(
+    const QString& actionName, const ParameterChanges::ValueFor& valueFor, const CIFilter& notes)
 {
+    m_document.undoManager().beginUndoGrouping();
+    m_tools.changes.setNotes(*currentFilter, notes);
     m_tools.changes.setAllInputs(*currentFilter, actionName, valueFor);
+    m_document.undoManager().endUndoGrouping();
     updateView();
     updateLayout();
 }
 
 // --- favourites and sessions ---
 
-/// The image that drawing replaces by the picture is left out.
 void StandardMode::makeFavourite(const TakeFavourite& take)
 {
     const QImage thumbnail = currentFilter ? favouriteThumbnail(coreImageResult()) : QImage();
-    if (thumbnail.isNull())
-        return;
-    CIDictionary values{{"class", currentFilter->name()}};
-    for (const std::string& key : currentFilter->inputKeys())
-        if (CIValue value = currentFilter->valueForKey(key); !value.isNothing() && key != pictureKey(*currentFilter))
-            values[key] = std::move(value);
-    take({thumbnail, QString::fromStdString(currentFilter->displayName()), std::move(values)});
+    if (!thumbnail.isNull())
+        take({thumbnail, QString::fromStdString(currentFilter->displayName()), favouriteValues(*currentFilter)});
 }
 
 /// One that brings nothing counts as the selected one, too: pressed again, it takes the filter away.
@@ -247,10 +272,12 @@ bool StandardMode::bringBack(const Favourite* favourite)
     clearControls();
     addFilterIndex(QString::fromStdString(favourite->valueForKey("class").toString()), 0);
     m_document.undoManager().beginUndoGrouping(); // one step of undo
-    if (currentFilter)
-        for (const std::string& key : currentFilter->inputKeys())
-            if (const CIValue value = favourite->valueForKey(key); !value.isNothing())
+    if (currentFilter) {
+        forgetNotes(*currentFilter);
+        for (const std::string& key : favourite->keys())
+            if (const CIValue value = favourite->valueForKey(key); !value.isNothing() && takesKey(*currentFilter, key))
                 m_tools.changes.setFilterValueForKey(*currentFilter, value, key);
+    }
     m_document.undoManager().setActionName(QCoreApplication::translate("CustomMode", "Choose Favourite"));
     m_document.undoManager().endUndoGrouping();
     updateLayout(); // the rows were made for the filter's own values
@@ -261,18 +288,8 @@ void StandardMode::save(SessionState& state, const CIImage& picture) const
 {
     if (!currentFilter)
         return;
-    CIDictionary inputs;
-    for (const CIInputAttributes* input : usersInputs(*currentFilter)) {
-        const CIValue value = currentFilter->valueForKey(input->key);
-        if (const CIImage image = value.toImage(); image) {
-            if (image.node() != picture.node() && !image.extent().isInfinite())
-                state.pictures[kInput + input->key] = image;
-        } else if (!value.isNothing() && !value.isImage()) {
-            inputs[input->key] = value;
-        }
-    }
+    saveInputs(*currentFilter, picture, state);
     state.values["filter"] = currentFilter->name();
-    state.values["inputs"] = inputs;
 }
 
 void StandardMode::restore(const SessionState& state)
@@ -283,13 +300,7 @@ void StandardMode::restore(const SessionState& state)
         addFilterIndex(name, kPanelTag);
     if (!currentFilter)
         return;
-    const CIDictionary inputs = state.dictionary("inputs");
-    for (const std::string& key : currentFilter->inputKeys()) {
-        if (const auto stored = inputs.find(key); stored != inputs.end())
-            currentFilter->setValueForKey(stored->second, key);
-        if (const auto stored = state.pictures.find(kInput + key); stored != state.pictures.end())
-            currentFilter->setValueForKey(stored->second, key);
-    }
+    restoreInputs(*currentFilter, state);
     m_tools.catalogue.selectClass(name);
     updateLayout(); // the rows were made for the filter's own values
 }
@@ -337,6 +348,8 @@ bool StandardMode::isControlsPresent() const
 {
     if (!currentFilter)
         return false;
+    if (hasFreeLayers(*currentFilter))
+        return true;
     const std::vector<std::string> keys = currentFilter->inputKeys();
     return std::any_of(keys.begin(), keys.end(), [this](const std::string& key) {
         const CIInputAttributes* input = currentFilter->attributesForKey(key);

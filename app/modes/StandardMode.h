@@ -44,6 +44,10 @@ public:
     /// Makes the look's filter the current one, with the look's values on the present picture.
     void chooseLook(const PictureLook* look);
 
+    /// Puts it into the filter's own second picture, as large as it is seen whole; a filter that has none gives way to
+    /// one that lays it over the picture. Filters that blend start with it from now on. An undo step.
+    void takeSecondPicture(const CIImage& second);
+
     // --- all inputs at once, if the filter is edited ---
 
     /// Whether there are inputs that the operations below would set.
@@ -91,7 +95,7 @@ protected:
 
 private:
     std::shared_ptr<CIFilter> newFilter(const std::string& name);
-    void setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor);
+    void setAllInputs(const QString& actionName, const ParameterChanges::ValueFor& valueFor, const CIFilter& notes);
 
     Tools m_tools;
     std::shared_ptr<CIFilter> currentFilter;

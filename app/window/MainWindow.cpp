@@ -264,8 +264,10 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 void MainWindow::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
+    const QString path = onlyDroppedFile(*event->mimeData());
     if (m_controller)
-        m_controller->openDroppedFile(onlyDroppedFile(*event->mimeData()));
+        event->modifiers() & Qt::AltModifier ? m_controller->takeSecondPicture(path)
+                                             : m_controller->openDroppedFile(path);
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)

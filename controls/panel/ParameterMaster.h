@@ -34,6 +34,8 @@ public:
 
     /// What the input holds when such a filter is newly chosen; nothing for an unknown key.
     virtual CIValue standardValueForKey(const CIFilter& filter, const std::string& key) = 0;
+    /// Of the source picture, px; empty without one.
+    virtual CIRect getBgImageExtent() const { return {}; }
     /// How much longer than declared a slider may become, for the picture asks for larger numbers.
     virtual double sliderGrowthForKey(const CIFilter&, const std::string&) { return 1; }
 };

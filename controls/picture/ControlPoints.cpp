@@ -2,6 +2,7 @@
 
 #include "controls/panel/FilterNames.h"
 
+#include <algorithm>
 #include <utility>
 
 using namespace ParmMode;
@@ -61,6 +62,13 @@ std::vector<ControlPoint> controlPoints(const CIFilter& filter)
         appendPoints(points, *input, filter.valueForKey(key), label.toStdString());
     }
     return points;
+}
+
+bool isLinearGradient(const CIFilter& filter)
+{
+    const std::vector<std::string> ends{"inputPoint0", "inputPoint1"}, colors{"inputColor0", "inputColor1"};
+    const auto has = [&](const std::string& key) { return filter.attributesForKey(key) != nullptr; };
+    return std::ranges::all_of(ends, has) && std::ranges::all_of(colors, has);
 }
 
 std::optional<std::size_t> nearestControlPoint(std::span<const ControlPoint> points, CIPoint p)

@@ -37,6 +37,9 @@ bool hasControlPoint(const CIInputAttributes& input);
 /// corners as top right, top left, bottom right, bottom left.
 std::vector<ControlPoint> controlPoints(const CIFilter& filter);
 
+/// True if the first two points are the ends of a gradient from "inputColor0" to "inputColor1".
+bool isLinearGradient(const CIFilter& filter);
+
 /// The index of the point nearest to `p`, the earlier of equally near ones; nothing when there are no points.
 /// Distances are compared in single precision.
 std::optional<std::size_t> nearestControlPoint(std::span<const ControlPoint> points, CIPoint p);

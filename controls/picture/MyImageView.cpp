@@ -5,6 +5,7 @@
 #include "controls/picture/PointMark.h"
 #include "widgets/Checkerboard.h"
 #include "widgets/DropFileTypes.h"
+#include "widgets/rows/ColorRow.h"
 
 #include <cmath>
 
@@ -14,6 +15,13 @@
 namespace {
 
 constexpr int kPaintPatience = 12; // ms that a repaint waits for a frame that is likely to be ready by then
+
+QColor opaqueColor(const CIFilter& filter, const char* key)
+{
+    QColor color = colorOf(filter.valueForKey(key).toColor());
+    color.setAlpha(255); // a color that isn't seen is one all the same
+    return color;
+}
 
 /// Grid steps per picture pixel: the screen's resolution, but never finer than the picture.
 double gridScale(double pixelsPerPicturePixel) { return std::min(pixelsPerPicturePixel, 1.0); }
@@ -53,6 +61,7 @@ void MyImageView::setContext(std::shared_ptr<CIContext> context)
 void MyImageView::setNeedsDisplay()
 {
     d->result.changed = d->original.changed = true;
+    d->areLayersKnown = false;
     update();
 }
 
@@ -227,15 +236,40 @@ QRectF MyImageView::placeOfPixels(const CIImage& picture) const
         QPointF(std::floor(bottomRight.x() + tiny), std::floor(bottomRight.y() + tiny)) / ratio};
 }
 
+/// The middle of the pixel.
+QPointF MyImageView::markPlace(CIPoint point) const
+{
+    return toWidget({std::floor(point.x) + 0.5, std::floor(point.y) + 0.5});
+}
+
+/// A line in white beside one in black, seen on any picture.
+void MyImageView::drawLayerFrames(QPainter& painter) const
+{
+    for (const FreeLayer& layer : layers()) {
+        const CIRect frame = layer.frame();
+        const QPointF topLeft = toWidget({frame.left(), frame.top()});
+        const QPointF bottomRight = toWidget({frame.right(), frame.bottom()});
+        const QRectF line(QPointF(std::round(topLeft.x()), std::round(topLeft.y())),
+            QPointF(std::round(bottomRight.x()), std::round(bottomRight.y())));
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(0, 0, 0, 110), 1));
+        painter.drawRect(line.adjusted(-0.5, -0.5, 0.5, 0.5));
+        painter.setPen(QPen(Qt::white, 1));
+        painter.drawRect(line.adjusted(0.5, 0.5, -0.5, -0.5));
+    }
+}
+
 void MyImageView::drawPoints(QPainter& painter) const
 {
+    drawLayerFrames(painter);
+    const std::vector<ControlPoint> points = this->points();
     const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
-    if (!filter)
-        return;
-    const std::vector<ControlPoint> points = controlPoints(*filter);
+    if (filter && isLinearGradient(*filter))
+        drawGradientLine(painter, markPlace(points[0].position), markPlace(points[1].position),
+            opaqueColor(*filter, "inputColor0"), opaqueColor(*filter, "inputColor1"));
     for (std::size_t i = 0; i < points.size(); ++i) {
         const ControlPoint& point = points[i];
-        const QPointF where = toWidget({std::floor(point.position.x) + 0.5, std::floor(point.position.y) + 0.5});
+        const QPointF where = markPlace(point.position);
         const bool grabbed = movingNow && point.key == parmKey && point.mode == parmMode;
         const bool selected = hasFocus() && d->selected == i;
         const bool hovered = selected || (displayingPoints && d->hovered == i);

@@ -12,6 +12,7 @@
 #include <QPointer>
 
 class PictureScrollView;
+struct FreeLayer;
 
 /// Shows the controller's picture, lets points be dragged on it, and takes a dropped picture file.
 ///
@@ -93,6 +94,12 @@ private:
     void mouseEntered();
     void mouseExited();
     void hover(const QPointF& position);
+    const std::vector<FreeLayer>& layers() const;
+    std::vector<ControlPoint> points() const; // of the filter's inputs, then of its layers
+    std::optional<std::size_t> pointAt(const std::vector<ControlPoint>& points, CIPoint place) const;
+    void setPoint(const CIFilter& filter, const std::string& key, std::uint32_t mode, CIPoint to);
+    QPointF markPlace(CIPoint point) const;
+    void drawLayerFrames(QPainter&) const;
     void dragGrabbedPoint(CIPoint to);
     void beginChange();
     void endChange();

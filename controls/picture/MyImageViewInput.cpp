@@ -15,13 +15,65 @@ namespace {
 
 constexpr double kFarDrag = 24; // points: what takes the picture along is no trembling hand
 
-std::vector<ControlPoint> pointsOf(ImageViewMaster* master)
-{
-    const std::shared_ptr<CIFilter> filter = master ? master->getCurrentFilter() : nullptr;
-    return filter ? controlPoints(*filter) : std::vector<ControlPoint>();
-}
+constexpr double kReach = 12; // points from a layer's corner that still take hold of it
 
 } // namespace
+
+// --- points ---
+
+const std::vector<FreeLayer>& MyImageView::layers() const
+{
+    const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
+    if (!d->areLayersKnown || d->layersOf.lock() != filter) {
+        d->areLayersKnown = true;
+        d->layersOf = filter;
+        d->layers = filter ? freeLayers(*filter, controller->backImage().extent()) : std::vector<FreeLayer>();
+    }
+    return d->layers;
+}
+
+std::vector<ControlPoint> MyImageView::points() const
+{
+    const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
+    if (!filter)
+        return {};
+    std::vector<ControlPoint> all = controlPoints(*filter);
+    const std::vector<ControlPoint> more = layerPoints(*filter, layers());
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
+
+/// Where layers lie they are taken hold of; else the nearest point of an input, however far away it is: small marks
+/// need no aim.
+std::optional<std::size_t> MyImageView::pointAt(const std::vector<ControlPoint>& points, CIPoint place) const
+{
+    if (const auto found =
+            layers().empty() ? std::nullopt : layerPointAt(points, layers(), place, kReach / double(zoom)))
+        return found;
+    const std::size_t stated = points.size() - layerPoints(*controller->getCurrentFilter(), layers()).size();
+    return nearestControlPoint(std::span(points).first(stated), place);
+}
+
+/// As the user has dragged it.
+void MyImageView::setPoint(const CIFilter& filter, const std::string& key, std::uint32_t mode, CIPoint to)
+{
+    const auto set = [&](const CIValue& value) {
+        controller->setFilterValueForKey(*controller->getCurrentFilter(), value, key);
+        controller->setActionNameForFilterKey(filter, key);
+        setNeedsDisplay();
+    };
+    if (!isLayerMode(mode)) {
+        if (const std::optional<DraggedValue> dragged = draggedValue(filter.valueForKey(key), mode, to)) {
+            if (movingNow)
+                parmMode = dragged->mode;
+            set(dragged->value);
+        }
+        return;
+    }
+    for (const FreeLayer& layer : std::vector<FreeLayer>(layers()))
+        if (layer.placeKey == key)
+            set(draggedLayer(layer, mode, to).vector());
+}
 
 bool MyImageView::event(QEvent* event)
 {
@@ -80,8 +132,8 @@ void MyImageView::hover(const QPointF& position)
     const bool present = controller && controller->isControlsPresent();
     if (present != displayingPoints)
         present ? mouseEntered() : mouseExited();
-    const std::vector<ControlPoint> points = pointsOf(present ? controller : nullptr);
-    const auto nearest = nearestControlPoint(points, toPicture(position));
+    const std::vector<ControlPoint> all = present ? points() : std::vector<ControlPoint>();
+    const auto nearest = all.empty() ? std::nullopt : pointAt(all, toPicture(position));
     if (nearest != std::exchange(d->hovered, nearest))
         update();
 }
@@ -138,16 +190,19 @@ void MyImageView::pressed(CIPoint point)
     parmIndex = -1;
     parmKey.clear();
     parmMode = ParmMode::kNothing;
-    const std::vector<ControlPoint> points = pointsOf(d->showsOriginal ? nullptr : controller); // none is seen on it
     if (d->pick)
         return endPicking(
             controller && controller->backImage().extent().contains(point) ? std::optional(point) : std::nullopt);
+    const std::vector<ControlPoint> all =
+        d->showsOriginal ? std::vector<ControlPoint>() : points(); // none is seen on it
     const bool isPicture = QGuiApplication::keyboardModifiers() & Qt::ControlModifier;
-    // However far away it is: small marks need no aim.
-    if (const auto nearest = nearestControlPoint(points, point); nearest && !isPicture) {
+    if (const auto nearest = all.empty() ? std::nullopt : pointAt(all, point); nearest && !isPicture) {
+        const ControlPoint& taken = all[*nearest];
         parmIndex = 0;
-        parmKey = points[*nearest].key;
-        parmMode = points[*nearest].mode;
+        parmKey = taken.key;
+        parmMode = taken.mode;
+        const bool jumps = !isLayerMode(parmMode);
+        d->grabOffset = jumps ? CIPoint() : CIPoint(taken.position.x - point.x, taken.position.y - point.y);
         if (d->selected)
             d->selected = nearest;
         beginChange();
@@ -180,20 +235,14 @@ void MyImageView::dragGrabbedPoint(CIPoint to)
     const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
     if (!filter || parmMode == ParmMode::kNothing || parmIndex == -1)
         return;
-    const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(parmKey), parmMode, to);
-    if (!dragged)
-        return;
-    parmMode = dragged->mode;
-    controller->setFilterValueForKey(*filter, dragged->value, parmKey);
-    controller->setActionNameForFilterKey(*filter, parmKey);
-    setNeedsDisplay();
+    setPoint(*filter, parmKey, parmMode, {to.x + d->grabOffset.x, to.y + d->grabOffset.y});
 }
 
 // --- keys ---
 
 bool MyImageView::focusNextPrevChild(bool next)
 {
-    const std::size_t count = pointsOf(controller).size();
+    const std::size_t count = points().size();
     // Entering by Tab selects nothing yet, so that nobody is caught here who only passes by.
     std::optional<std::size_t> wanted;
     if (count > 0 && !d->selected)
@@ -226,11 +275,14 @@ void MyImageView::focusOutEvent(QFocusEvent* event)
 bool MyImageView::moveSelectedPoint(int key, bool far)
 {
     const std::shared_ptr<CIFilter> filter = controller ? controller->getCurrentFilter() : nullptr;
-    const std::vector<ControlPoint> points = pointsOf(controller);
-    if (!filter || !d->selected || *d->selected >= points.size())
+    const std::vector<ControlPoint> all = points();
+    if (!filter || !d->selected || *d->selected >= all.size())
         return false;
-    const ControlPoint& point = points[*d->selected];
-    const double step = far ? 10 : 1; // picture pixels
+    const ControlPoint& point = all[*d->selected];
+    double step = far ? 10 : 1; // picture pixels
+    for (const FreeLayer& layer : layers())
+        if (layer.isWhole && layer.placeKey == point.key && point.mode != ParmMode::kLayerMiddle)
+            step *= layer.size.x + layer.size.y; // to the next whole scale
     CIPoint to = point.position;
     switch (key) {
     case Qt::Key_Left:
@@ -250,10 +302,7 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
     }
     if (!d->isChanging)
         beginChange(); // until the key is released
-    const std::optional<DraggedValue> dragged = draggedValue(filter->valueForKey(point.key), point.mode, to);
-    controller->setFilterValueForKey(*filter, dragged->value, point.key);
-    controller->setActionNameForFilterKey(*filter, point.key);
-    setNeedsDisplay();
+    setPoint(*filter, point.key, point.mode, to);
     notifyPoint(this, qsizetype(*d->selected), QAccessible::DescriptionChanged);
     return true;
 }
@@ -261,7 +310,7 @@ bool MyImageView::moveSelectedPoint(int key, bool far)
 QList<CanvasPoint> MyImageView::canvasPoints() const
 {
     QList<CanvasPoint> result;
-    for (const ControlPoint& point : pointsOf(d->showsOriginal ? nullptr : controller)) {
+    for (const ControlPoint& point : d->showsOriginal ? std::vector<ControlPoint>() : points()) {
         const QString position = tr("%1, %2").arg(std::lround(point.position.x)).arg(std::lround(point.position.y));
         const bool selected = d->selected == std::size_t(result.size());
         result.append({QString::fromStdString(point.label), position, toWidget(point.position), selected});

@@ -1,6 +1,7 @@
 // What the files of MyImageView share.
 #pragma once
 
+#include "controls/picture/LayerPoints.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/SplitDivider.h"
 
@@ -25,6 +26,11 @@ struct MyImageView::Private {
     bool isSplit() const { return !divider->isHidden() && !showsOriginal; }
 
     std::function<void(std::optional<CIPoint>)> pick; // while a place is asked for
+    std::vector<FreeLayer> layers; // of the filter
+    std::weak_ptr<CIFilter> layersOf;
+    bool areLayersKnown = false;
+
+    CIPoint grabOffset; // from the pointer to a layer's point, which doesn't jump to it
     std::optional<CIPoint> pressed; // where the button went down on the picture itself
     bool isChanging = false; // between beginChange and endChange
     std::optional<std::size_t> hovered; // index of the point that a click would grab

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include <QColor>
+#include <QLinearGradient>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QPen>
@@ -52,6 +53,30 @@ void drawPointMark(QPainter& painter, QPointF where, float zoom, PointEmphasis e
     strokeMark(painter, center + QPointF(1, 1), radius);
     painter.setPen(QPen(Qt::white, penWidth / ratio, Qt::SolidLine, Qt::FlatCap));
     strokeMark(painter, center, radius);
+    painter.restore();
+}
+
+void drawGradientLine(QPainter& painter, QPointF from, QPointF to, const QColor& first, const QColor& last)
+{
+    constexpr double kDisc = 9; // points, the radius: larger than the mark's circle
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient colors(from, to);
+    colors.setColorAt(0, first);
+    colors.setColorAt(1, last);
+    for (const auto& [brush, width] :
+        {std::pair<QBrush, double>(QColor(0, 0, 0, 130), 6), {Qt::white, 4}, {colors, 2}}) {
+        painter.setPen(QPen(brush, width, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(from, to);
+    }
+    for (const auto& [place, color] : {std::pair(from, first), {to, last}}) {
+        painter.setPen(QPen(QColor(0, 0, 0, 130), 1));
+        painter.setBrush(Qt::white);
+        painter.drawEllipse(place, kDisc, kDisc);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawEllipse(place, kDisc - 2, kDisc - 2);
+    }
     painter.restore();
 }
 

@@ -3,6 +3,7 @@
 
 #include <QPointF>
 
+class QColor;
 class QPainter;
 class QString;
 
@@ -14,6 +15,9 @@ enum class PointEmphasis {
 
 /// Draws a cross hair with a circle in white over a black shadow, `where` in points. It looks the same at every zoom.
 void drawPointMark(QPainter&, QPointF where, float zoom, PointEmphasis);
+
+/// Draws the line along which a gradient goes, in its colors and with a disc of color at each end.
+void drawGradientLine(QPainter&, QPointF from, QPointF to, const QColor& first, const QColor& last);
 
 /// Draws the name of a point beside its mark.
 void drawPointLabel(QPainter&, QPointF where, const QString& label);

@@ -1,5 +1,6 @@
 #include "platform/chain/FilterChain.h"
 
+#include "platform/chain/Layers.h"
 #include "platform/coreimage/Fitting.h"
 #include "platform/foundation/Log.h"
 
@@ -49,9 +50,14 @@ void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture)
 
 void fitToPicture(CIFilter& filter, const CIImage& picture)
 {
+    const auto isChosen = [&](const CIValue& value) {
+        const CIImage second = value.toImage();
+        return (second && !second.isSameAs(picture)) || !value.toString().empty() || value.isDictionary();
+    };
     for (const auto& [key, value] : ci::fittedValues(filter, picture))
-        if (key != pictureKey(filter))
+        if (key != pictureKey(filter) && !isChosen(filter.valueForKey(key)))
             filter.setValueForKey(value, key);
+    fitLayers(filter, picture.extent());
 }
 
 bool filterHasMissingImage(const CIFilter& filter)
@@ -77,15 +83,15 @@ CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSi
     if (const CIInputAttributes* extent = filter.attributesForKey("inputExtent"); extent && extent->isVector())
         filter.setValueForKey(CIVector{0, 0, viewSize.x, viewSize.y}, "inputExtent");
 
-    CIImage output = filter.outputImage();
+    CIImage output = layeredOutput(filter, picture.extent());
     const CIRect whole = picture.extent();
     if (output && output.extent().width > kLargestExcess * whole.width
         && output.extent().height > kLargestExcess * whole.height)
         output = croppedTo(output, whole);
     if (layers.empty())
-        return output;
+        return mixedByAmount(filter, output, picture);
     const CIImage background = foldedLayers(layers);
-    return output ? layOver(background, output) : background;
+    return output ? mixedByAmount(filter, layOver(background, output), picture) : background;
 }
 
 bool isLargerThanPicture(const CIFilter& filter, const CIImage& result, const CIImage& picture)
@@ -102,10 +108,12 @@ CIImage filteredPictureOfSameSize(CIFilter& filter, const CIImage& picture, CIPo
     if (!isLargerThanPicture(filter, result, picture))
         return result;
     const char* const key = pictureKey(filter);
+    if (!filter.attributesForKey(key))
+        return croppedTo(result, picture.extent());
     filter.setValueForKey(picture.clampedToExtent(), key);
-    const CIImage endless = filter.attributesForKey(key) ? filter.outputImage() : result;
+    const CIImage endless = layeredOutput(filter, picture.extent());
     filter.setValueForKey(picture, key);
-    return croppedTo(endless, picture.extent());
+    return mixedByAmount(filter, croppedTo(endless, picture.extent()), picture);
 }
 
 CIImage foldedLayers(const std::vector<CIImage>& layers)

@@ -14,15 +14,15 @@ const char* pictureKey(const CIFilter& filter);
 void setupAllImageInputsToNotNil(CIFilter& filter, const CIImage& picture);
 
 /// Gives the filter the values that suit the picture (`ci::fittedValues`). The input that receives the picture is left
-/// as it is, and so are pictures that depend on the editor.
+/// as it is, and so are pictures that depend on the editor, and pictures and texts that the user has given it.
 void fitToPicture(CIFilter& filter, const CIImage& picture);
 
 /// True if an image input other than the one that receives the picture is empty.
 bool filterHasMissingImage(const CIFilter& filter);
 
 /// What the filter makes of the picture. Filters without an "inputImage" (generators, gradients) lie over it; a
-/// result more than 1.3 times as wide and as high as the picture is cut to the picture. `viewSize` is given to
-/// filters that ask for an extent (picture pixels). May be null.
+/// result more than 1.3 times as wide and as high as the picture is cut to the picture. Layers lie where `Layers.h`
+/// says. `viewSize` is given to filters that ask for an extent (picture pixels). May be null.
 ///
 /// The input that receives the picture and "inputExtent" are set in `filter` on the way.
 CIImage filteredPicture(CIFilter& filter, const CIImage& picture, CIPoint viewSize);

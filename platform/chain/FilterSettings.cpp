@@ -37,6 +37,16 @@ FilterSettings settingsFrom(const StoredRecord& record, const QString& leftOut)
     return settings;
 }
 
+std::vector<std::string> FilterSettings::keys() const
+{
+    std::vector<std::string> all;
+    for (const auto& [key, value] : values)
+        all.push_back(key);
+    for (const auto& [key, data] : unread)
+        all.push_back(key);
+    return all;
+}
+
 std::vector<std::string> namesOf(const std::vector<FilterSettings>& list)
 {
     std::vector<std::string> names;
@@ -57,7 +67,7 @@ std::vector<std::string> namesOf(const std::vector<FilterSettings>& list)
 
 void applySettings(const FilterSettings& settings, CIFilter& filter)
 {
-    for (const std::string& key : filter.inputKeys())
+    for (const std::string& key : settings.keys())
         if (const CIValue value = settings.valueForKey(key); !value.isNothing())
             filter.setValueForKey(value, key);
 }

@@ -22,6 +22,7 @@ struct FilterSettings {
 
     /// Reads it if need be. Nothing when there is none, or (with a line in the log) when it is damaged.
     CIValue valueForKey(const std::string& key) const;
+    std::vector<std::string> keys() const; // of all that are there
     bool hasClass() const { return values.contains("class"); }
 };
 
@@ -35,5 +36,5 @@ FilterSettings settingsFrom(const StoredRecord& record, const QString& leftOut =
 /// "Gaussian Blur", "Gaussian Blur (2)". Empty for entries without a class.
 std::vector<std::string> namesOf(const std::vector<FilterSettings>& list);
 
-/// Sets the inputs for which there is a value; the others stay.
+/// Sets the inputs and notes for which there is a value; the others stay.
 void applySettings(const FilterSettings& settings, CIFilter& filter);

@@ -149,7 +149,8 @@ CIValue CIFilter::valueForKey(std::string_view key) const
 
 void CIFilter::setValueForKey(const CIValue& value, std::string_view key)
 {
-    if (!m_declaration->input(key))
+    // An editor's notes on layers, which no formula sees, go wherever the values go.
+    if (!m_declaration->input(key) && !key.starts_with("layer"))
         return;
     if (value.isNothing())
         m_values.erase(std::string(key));

@@ -97,6 +97,9 @@ QMenu::separator { height: 1px; background: @separator; margin: 4px 8px; }
 QLineEdit { background: @field; border: 1px solid @edge; border-radius: 6px; padding: 3px 7px;
             selection-background-color: @accent; selection-color: @accentText; }
 QLineEdit:focus { border-color: @accentMark; }
+TextField { background: @field; border: 1px solid @edge; border-radius: 6px; padding: 1px 3px;
+            selection-background-color: @accent; selection-color: @accentText; }
+TextField:focus { border-color: @accentMark; }
 QLineEdit:disabled { color: @disabledText; background: @window; }
 
 Overlay QAbstractSpinBox, ExportPanel QAbstractSpinBox { background: @field; border: 1px solid @edge; border-radius: 6px;
