@@ -717,6 +717,14 @@
         <source>How the program looks, and what it remembers</source>
         <translation>Wie das Programm aussieht und was es sich merkt</translation>
     </message>
+    <message>
+        <source>Open as Second Pict&amp;ure…</source>
+        <translation>Als z&amp;weites Bild öffnen …</translation>
+    </message>
+    <message>
+        <source>Opens a picture file that is blended with the picture</source>
+        <translation>Öffnet eine Bilddatei, die mit dem Bild überblendet wird</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -1075,6 +1083,10 @@ Ein Doppelklick oder Entf bringt einen Punkt zurück.</translation>
     <message>
         <source>Generator</source>
         <translation>Generatoren</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Überblenden</translation>
     </message>
 </context>
 <context>
@@ -6487,6 +6499,132 @@ Ein Doppelklick oder Entf bringt einen Punkt zurück.</translation>
     </message>
 </context>
 <context>
+    <name>LayerRows</name>
+    <message>
+        <source>%1
+A double click brings the standard value back</source>
+        <translation>%1
+Ein Doppelklick stellt den Standardwert wieder her</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>%1 zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Schriftgröße</translation>
+    </message>
+    <message>
+        <source>How large the letters are, in points</source>
+        <translation>Wie groß die Buchstaben sind, in Punkt</translation>
+    </message>
+    <message>
+        <source>Type here</source>
+        <translation>Hier eingeben</translation>
+    </message>
+    <message>
+        <source>%1: what is written on the picture</source>
+        <translation>%1: was auf das Bild geschrieben wird</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>font</comment>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>The family of letters</source>
+        <translation>Die Schriftfamilie</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>The color of the letters, and how opaque they are</source>
+        <translation>Die Farbe der Buchstaben, und wie deckend sie sind</translation>
+    </message>
+    <message>
+        <source>Low (7 %)</source>
+        <translation>Gering (7 %)</translation>
+    </message>
+    <message>
+        <source>Medium (15 %)</source>
+        <translation>Mittel (15 %)</translation>
+    </message>
+    <message>
+        <source>Good (25 %)</source>
+        <translation>Gut (25 %)</translation>
+    </message>
+    <message>
+        <source>High (30 %)</source>
+        <translation>Hoch (30 %)</translation>
+    </message>
+    <message>
+        <source>Correction</source>
+        <translation>Korrektur</translation>
+    </message>
+    <message>
+        <source>How much of the code may be hidden or dirty</source>
+        <translation>Wie viel vom Code verdeckt oder schmutzig sein darf</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>How much of the result is seen, in percent</source>
+        <translation>Wie viel man vom Ergebnis sieht, in Prozent</translation>
+    </message>
+    <message>
+        <source>Own Size</source>
+        <translation>Eigene Größe</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Strecken</translation>
+    </message>
+    <message>
+        <source>Tile</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platzieren</translation>
+    </message>
+    <message>
+        <source>How the second picture is brought onto the picture. Drag it where it is to be when it is placed or tiled</source>
+        <translation>Wie das zweite Bild auf das Bild kommt. Platziert oder gekachelt lässt es sich dorthin ziehen, wo es sein soll</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Zentrieren</translation>
+    </message>
+    <message>
+        <source>Moves it to the middle of the picture</source>
+        <translation>Rückt es in die Mitte des Bildes</translation>
+    </message>
+    <message>
+        <source>As large as it is seen whole, in the middle of the picture</source>
+        <translation>So groß, dass man es ganz sieht, in der Mitte des Bildes</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>
@@ -6970,6 +7108,10 @@ Ein Doppelklick oder Entf bringt einen Punkt zurück.</translation>
     <message>
         <source>%1 is incomplete: the rest of the picture is missing.</source>
         <translation>%1 ist unvollständig: Der Rest des Bildes fehlt.</translation>
+    </message>
+    <message>
+        <source>Open as Second Picture</source>
+        <translation>Als zweites Bild öffnen</translation>
     </message>
 </context>
 <context>
@@ -7811,6 +7953,10 @@ Ein Doppelklick stellt den Standardwert wieder her</translation>
         <source>Fit to Picture</source>
         <translation>An das Bild anpassen</translation>
     </message>
+    <message>
+        <source>Open as Second Picture</source>
+        <translation>Als zweites Bild öffnen</translation>
+    </message>
 </context>
 <context>
     <name>StatusRow</name>
@@ -8017,6 +8163,14 @@ Alles andere geht auch ohne.</translation>
         <source>Change to %1 %2</source>
         <comment>%1 is a filter, %2 one of its parameters</comment>
         <translation>%1: %2 ändern</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Anordnung</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Platzieren</translation>
     </message>
 </context>
 <context>

@@ -717,6 +717,14 @@
         <source>How the program looks, and what it remembers</source>
         <translation>L’aspect du programme, et ce qu’il retient</translation>
     </message>
+    <message>
+        <source>Open as Second Pict&amp;ure…</source>
+        <translation>Ouvrir comme seconde ima&amp;ge…</translation>
+    </message>
+    <message>
+        <source>Opens a picture file that is blended with the picture</source>
+        <translation>Ouvre un fichier image qui se mêle à l’image</translation>
+    </message>
 </context>
 <context>
     <name>CommandLine</name>
@@ -1075,6 +1083,10 @@ Un double-clic ou Suppr ramène un point.</translation>
     <message>
         <source>Generator</source>
         <translation>Générateurs</translation>
+    </message>
+    <message>
+        <source>Blending</source>
+        <translation>Fusion</translation>
     </message>
 </context>
 <context>
@@ -6487,6 +6499,132 @@ Un double-clic ou Suppr ramène un point.</translation>
     </message>
 </context>
 <context>
+    <name>LayerRows</name>
+    <message>
+        <source>%1
+A double click brings the standard value back</source>
+        <translation>%1
+Un double-clic rétablit la valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Reset %1</source>
+        <translation>Réinitialiser&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Font Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>How large the letters are, in points</source>
+        <translation>La taille des lettres, en points</translation>
+    </message>
+    <message>
+        <source>Type here</source>
+        <translation>Saisir ici</translation>
+    </message>
+    <message>
+        <source>%1: what is written on the picture</source>
+        <translation>%1 : ce qui s’écrit sur l’image</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <comment>font</comment>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Font</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>The family of letters</source>
+        <translation>La famille des lettres</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>The color of the letters, and how opaque they are</source>
+        <translation>La couleur des lettres, et leur opacité</translation>
+    </message>
+    <message>
+        <source>Low (7 %)</source>
+        <translation>Faible (7 %)</translation>
+    </message>
+    <message>
+        <source>Medium (15 %)</source>
+        <translation>Moyenne (15 %)</translation>
+    </message>
+    <message>
+        <source>Good (25 %)</source>
+        <translation>Bonne (25 %)</translation>
+    </message>
+    <message>
+        <source>High (30 %)</source>
+        <translation>Forte (30 %)</translation>
+    </message>
+    <message>
+        <source>Correction</source>
+        <translation>Correction</translation>
+    </message>
+    <message>
+        <source>How much of the code may be hidden or dirty</source>
+        <translation>Ce qui du code peut être caché ou sali</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Quantité</translation>
+    </message>
+    <message>
+        <source>How much of the result is seen, in percent</source>
+        <translation>Ce que l’on voit du résultat, en pour cent</translation>
+    </message>
+    <message>
+        <source>Own Size</source>
+        <translation>Taille propre</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Ajuster</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Remplir</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Étirer</translation>
+    </message>
+    <message>
+        <source>Tile</source>
+        <translation>Mosaïque</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Placer</translation>
+    </message>
+    <message>
+        <source>How the second picture is brought onto the picture. Drag it where it is to be when it is placed or tiled</source>
+        <translation>Comment la seconde image vient sur l’image. Placée ou en mosaïque, elle se déplace là où elle doit être</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centrer</translation>
+    </message>
+    <message>
+        <source>Moves it to the middle of the picture</source>
+        <translation>Le met au milieu de l’image</translation>
+    </message>
+    <message>
+        <source>As large as it is seen whole, in the middle of the picture</source>
+        <translation>Aussi grand qu’on le voie en entier, au milieu de l’image</translation>
+    </message>
+</context>
+<context>
     <name>Look</name>
     <message>
         <source>Film Grain</source>
@@ -6970,6 +7108,10 @@ Un double-clic ou Suppr ramène un point.</translation>
     <message>
         <source>%1 is incomplete: the rest of the picture is missing.</source>
         <translation>%1 est incomplet : le reste de l’image manque.</translation>
+    </message>
+    <message>
+        <source>Open as Second Picture</source>
+        <translation>Ouvrir comme seconde image</translation>
     </message>
 </context>
 <context>
@@ -7811,6 +7953,10 @@ Un double-clic rétablit la valeur par défaut</translation>
         <source>Fit to Picture</source>
         <translation>Adapter à l’image</translation>
     </message>
+    <message>
+        <source>Open as Second Picture</source>
+        <translation>Ouvrir comme seconde image</translation>
+    </message>
 </context>
 <context>
     <name>StatusRow</name>
@@ -8017,6 +8163,14 @@ Tout le reste fonctionne sans.</translation>
         <source>Change to %1 %2</source>
         <comment>%1 is a filter, %2 one of its parameters</comment>
         <translation>%1&#xa0;: changer %2</translation>
+    </message>
+    <message>
+        <source>Placing</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <source>Place</source>
+        <translation>Placer</translation>
     </message>
 </context>
 <context>
