@@ -9,15 +9,18 @@
 #include "controls/panel/ParameterView.h"
 #include "controls/picture/MyImageView.h"
 #include "controls/picture/PictureScrollView.h"
+#include "platform/chain/Layers.h"
 #include "ui_MainWindow.h"
 #include "widgets/ColorWell.h"
 #include "widgets/PanelCheckBox.h"
 #include "widgets/ReadoutField.h"
 #include "widgets/ValueSlider.h"
 
+#include <QLayout>
 #include <QScrollBar>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -108,7 +111,7 @@ TEST_F(PanelTest, EverySliderChangesItsValueAndUndoBringsBothBack)
             SCOPED_TRACE(slider->accessibleName().toStdString());
             const double before = slider->value();
             const CIDictionary values = [&] {
-                CIDictionary all;
+                CIDictionary all{{kLayerAmountKey, filter.valueForKey(kLayerAmountKey)}};
                 for (const std::string& key : filter.inputKeys())
                     if (key != "inputExtent") // every frame sets it
                         all[key] = filter.valueForKey(key);
@@ -172,8 +175,13 @@ TEST_F(PanelTest, OtherControlsChangeTheirValueToo)
             EXPECT_TRUE(undo.canUndo()) << well->accessibleName().toStdString();
         }
         bool found = filter.inputKeys().empty() || ui.placeCntrlView->findChildren<ColorWell*>().isEmpty();
-        for (const std::string& key : filter.inputKeys())
-            found = found || std::abs(filter.valueForKey(key).toColor().blue() - 3 / 255.0) < 1e-3;
+        const auto isPicked = [](const CIValue& value) { return std::abs(value.toColor().blue() - 3 / 255.0) < 1e-3; };
+        for (const std::string& key : filter.inputKeys()) {
+            const CIDictionary parts = filter.valueForKey(key).toDictionary();
+            found = found || isPicked(filter.valueForKey(key))
+                || std::ranges::any_of(parts, [&](const auto& part) { return isPicked(part.second); });
+        }
+        found = found || isPicked(filter.valueForKey(kLayerColorKey));
         EXPECT_TRUE(found);
     });
 }
@@ -215,7 +223,7 @@ TEST_F(PanelTest, ScrollsWhenThereIsNoRoomAndTabGoesDown)
     std::string longest;
     int most = 0;
     forEachFilter([&](const CIFilter& filter) {
-        const int height = panel()->minimumHeight();
+        const int height = ui.placeCntrlView->layout()->minimumSize().height();
         if (height > most) {
             most = height;
             longest = filter.name();
