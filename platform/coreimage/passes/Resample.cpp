@@ -1,4 +1,4 @@
-// Separable resizing: rows are summed up first, as they are read, then each sum along itself.
+// Separable resizing: sums across rows first, then along them.
 #include "platform/coreimage/passes/Resample.h"
 
 #include "platform/coreimage/graph/Basics.h"
@@ -101,17 +101,8 @@ public:
     const float* weights(int i) const { return m_weights + std::size_t(i) * std::size_t(m_most); }
     int low() const { return m_low; }
     int high() const { return m_high; }
-    /// The most cells of the result that wait for one source cell at a time.
-    int mostOpen(int count) const
-    {
-        int most = 1;
-        for (int i = 0, j = 0; i < count; ++i) {
-            while (j < count && m_starts[j] < end(i))
-                ++j;
-            most = std::max(most, j - i);
-        }
-        return most;
-    }
+    /// The most source cells that a cell of the result is made of.
+    int mostTaps(int count) const { return *std::max_element(m_counts, m_counts + count); }
 
 private:
     int m_most;
@@ -130,79 +121,97 @@ public:
         const Axes& axes, const GridRect& area, Scratch& scratch)
         : m_floats(render.floats)
         , m_maximum(window.isMaximum())
+        , m_planes(source.isOpaque() ? 3 : 4)
         , m_axes(axes)
         , m_area(area)
         , m_width(axes.columns.high() - axes.columns.low())
-        , m_open(axes.lines.mostOpen(area.height()))
+        , m_kept(axes.lines.mostTaps(area.height()))
+        , m_rows(static_cast<MutableRow*>(scratch.bytes(std::size_t(m_kept) * sizeof(MutableRow))))
+        , m_taps(static_cast<const float**>(scratch.bytes(std::size_t(m_kept) * sizeof(float*))))
+        , m_sums(allocateRow(scratch, m_width))
         , m_quads(scratch.floats(std::size_t(4 * m_width)))
         , m_result(scratch.floats(std::size_t(4 * area.width())))
         , m_out(allocateRow(scratch, area.width()))
     {
-        m_sums = static_cast<MutableRow*>(scratch.bytes(std::size_t(m_open) * sizeof(MutableRow)));
-        for (int i = 0; i < m_open; ++i)
-            m_sums[i] = allocateRow(scratch, m_width);
+        for (int i = 0; i < m_kept; ++i)
+            m_rows[i] = allocateRow(scratch, m_width);
+        std::fill_n(m_sums.a, m_width, 1.0f);
         m_source = source.rows(render.withGrid(sourceGrid),
             {axes.columns.low(), axes.lines.low(), axes.columns.high(), axes.lines.high()}, scratch);
     }
     Row row(int y) override
     {
         const int line = y - m_area.y0;
-        if (line != m_next) // the sums of other rows are of no use here
+        if (line != m_next) // the rows that are kept are of no use here
             m_read = m_axes.lines.start(line);
-        for (; m_read < m_axes.lines.end(line); ++m_read)
-            withLanes(m_floats, [&]<class V>() { take<V>(line); });
+        for (m_read = std::max(m_read, m_axes.lines.start(line)); m_read < m_axes.lines.end(line); ++m_read)
+            keep(m_source->row(m_read));
         m_next = line + 1;
-        m_maximum ? combine<true>(m_sums[line % m_open]) : combine<false>(m_sums[line % m_open]);
+        withLanes(m_floats, [&]<class V>() { m_maximum ? sum<V, true>(line) : sum<V, false>(line); });
+        m_maximum ? combine<true>() : combine<false>();
         return m_out;
     }
 
 private:
-    /// Adds source row m_read to the sums of all rows from `line` on that it is part of.
-    template <class V>
-    void take(int line)
+    MutableRow& kept(int sourceRow) const { return m_rows[sourceRow - floorDiv(sourceRow, m_kept) * m_kept]; }
+    void keep(const Row& from) const
     {
-        const Row from = m_source->row(m_read);
-        for (int i = line; i < m_area.height() && m_axes.lines.start(i) <= m_read; ++i) {
-            const int tap = m_read - m_axes.lines.start(i);
-            if (tap >= m_axes.lines.taps(i))
-                continue;
-            const MutableRow& to = m_sums[i % m_open];
-            const V weight(m_axes.lines.weights(i)[tap]);
-            add(from.r, to.r, weight, tap == 0);
-            add(from.g, to.g, weight, tap == 0);
-            add(from.b, to.b, weight, tap == 0);
-            add(from.a, to.a, weight, tap == 0);
+        const MutableRow& to = kept(m_read);
+        std::copy_n(from.r, m_width, to.r);
+        std::copy_n(from.g, m_width, to.g);
+        std::copy_n(from.b, m_width, to.b);
+        if (m_planes == 4)
+            std::copy_n(from.a, m_width, to.a);
+    }
+    /// What all source rows of a row of the result add to it.
+    template <class V, bool maximum>
+    void sum(int line) const
+    {
+        constexpr float* MutableRow::*planes[] = {&MutableRow::r, &MutableRow::g, &MutableRow::b, &MutableRow::a};
+        constexpr int lanes = kLanes<V>;
+        const int start = m_axes.lines.start(line), taps = m_axes.lines.taps(line);
+        const float* const weights = m_axes.lines.weights(line);
+        for (int c = 0; c < m_planes; ++c) {
+            for (int k = 0; k < taps; ++k)
+                m_taps[k] = kept(start + k).*planes[c];
+            float* const to = m_sums.*planes[c];
+            for (int x = 0; x < m_width; x += 2 * lanes) { // two sums at a time, since one would wait for itself
+                V near = loadRow<V>(m_taps[0] + x), far = loadRow<V>(m_taps[0] + x + lanes);
+                if constexpr (!maximum)
+                    near = near * weights[0], far = far * weights[0];
+                for (int k = 1; k < taps; ++k) {
+                    const V a = loadRow<V>(m_taps[k] + x), b = loadRow<V>(m_taps[k] + x + lanes);
+                    near = maximum ? max(near, a) : mulAdd(V(weights[k]), a, near);
+                    far = maximum ? max(far, b) : mulAdd(V(weights[k]), b, far);
+                }
+                storeRow(to + x, near);
+                storeRow(to + x + lanes, far);
+            }
         }
     }
-    template <class V>
-    void add(const float* from, float* to, const V& weight, bool first) const
-    {
-        if (first)
-            for (int x = 0; x < m_width; x += kLanes<V>)
-                storeRow(to + x, m_maximum ? loadRow<V>(from + x) : V(weight * loadRow<V>(from + x)));
-        else if (m_maximum)
-            for (int x = 0; x < m_width; x += kLanes<V>)
-                storeRow(to + x, max(loadRow<V>(from + x), loadRow<V>(to + x)));
-        else
-            for (int x = 0; x < m_width; x += kLanes<V>)
-                storeRow(to + x, mulAdd(weight, loadRow<V>(from + x), loadRow<V>(to + x)));
-    }
     template <bool maximum>
-    void combine(const MutableRow& sums)
+    void combine()
     {
-        interleave(sums, m_width, m_quads);
+        interleave(m_sums, m_width, m_quads);
         const Shares& columns = m_axes.columns;
         for (int x = 0; x < m_area.width(); ++x) {
             const float* p = m_quads + std::ptrdiff_t(columns.start(x) - columns.low()) * 4;
             const float* weights = columns.weights(x);
             const int taps = columns.taps(x);
             Quad sum = maximum ? loadQuad(p) : weights[0] * loadQuad(p);
-            for (int k = 1; k < taps; ++k) {
-                const Quad q = loadQuad(p + 4 * k);
-                if constexpr (maximum)
-                    sum = sum > q ? sum : q;
-                else
-                    sum += weights[k] * q;
+            if constexpr (maximum) {
+                for (int k = 1; k < taps; ++k)
+                    sum = sum > loadQuad(p + 4 * k) ? sum : loadQuad(p + 4 * k);
+            } else {
+                Quad others = {}; // two sums, since one would wait for itself
+                int k = 1;
+                for (; k + 1 < taps; k += 2) {
+                    sum += weights[k] * loadQuad(p + 4 * k);
+                    others += weights[k + 1] * loadQuad(p + 4 * k + 4);
+                }
+                if (k < taps)
+                    sum += weights[k] * loadQuad(p + 4 * k);
+                sum += others;
             }
             __builtin_memcpy(m_result + 4 * x, &sum, sizeof sum);
         }
@@ -210,13 +219,16 @@ private:
     }
 
     bool m_floats, m_maximum;
+    int m_planes; // that are summed: alpha of an opaque image is 1
     Axes m_axes;
     GridRect m_area;
-    int m_width, m_open; // of a source row; sums at a time
-    int m_next = -1, m_read = 0; // the row that may go on with the sums; the next source row
+    int m_width, m_kept; // of a source row; how many of them
+    MutableRow* m_rows; // the last ones that were read, each at its number modulo how many are kept
+    const float** m_taps;
+    MutableRow m_sums;
+    int m_next = -1, m_read = 0; // the row that may go on with those kept; the next source row
     float *m_quads, *m_result;
     MutableRow m_out;
-    MutableRow* m_sums;
     std::unique_ptr<RowReader> m_source;
 };
 
