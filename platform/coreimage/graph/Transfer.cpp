@@ -59,8 +59,9 @@ void storeRow(const MutableRow& row, int i, const Pixel<V>& p)
 
 // --- reading
 
+// What follows is inlined by force: pixels of vectors would go from function to function through memory.
 template <class V, CIFormat F>
-Pixel<V> load8(const std::byte* p)
+[[gnu::always_inline]] inline Pixel<V> load8(const std::byte* p)
 {
     const auto w = loadWords<V>(p);
     const V low = toFloat(w & 255) * (1 / 255.0f), high = toFloat((w >> 16) & 255) * (1 / 255.0f);
@@ -85,7 +86,7 @@ Pixel<V> loadSpread(const T* p, float scale)
 }
 
 template <class V, CIFormat F>
-Pixel<V> loadCoded(const std::byte* p)
+[[gnu::always_inline]] inline Pixel<V> loadCoded(const std::byte* p)
 {
     if constexpr (F == CIFormat::RGBA16)
         return loadSpread<V, std::uint16_t, 4>(reinterpret_cast<const std::uint16_t*>(p), 1 / 65535.0f);
@@ -103,13 +104,17 @@ V finite(const V& v)
 }
 
 template <class V, CIFormat F, CIAlpha A, CIColorSpace S>
-Pixel<V> decodePixel(const std::byte* bytes)
+[[gnu::always_inline]] inline Pixel<V> decodePixel(const std::byte* bytes)
 {
     Pixel<V> p = loadCoded<V, F>(bytes);
     if constexpr (F == CIFormat::RGBAf)
         p = {finite(p.r), finite(p.g), finite(p.b), saturate(finite(p.a))};
-    if constexpr (A == CIAlpha::Premultiplied && S == CIColorSpace::SRGB)
-        p = unpremultiplied(p); // the curve applies to the color itself
+    if constexpr (A == CIAlpha::Premultiplied && S == CIColorSpace::SRGB) {
+        if (!any(p.a > V(0.0f))) // as many pixels of overlays are
+            return {V(0.0f), V(0.0f), V(0.0f), V(0.0f)};
+        if (any(p.a < V(1.0f)))
+            p = unpremultiplied(p); // the curve applies to the color itself
+    }
     if constexpr (S == CIColorSpace::SRGB) {
         if constexpr (F == CIFormat::RGBA8 || F == CIFormat::BGRA8)
             p = {decodeCode(p.r), decodeCode(p.g), decodeCode(p.b), p.a};
@@ -152,14 +157,14 @@ inline Batch roughInverseRoot(const Batch& v)
 }
 
 inline float encodeForByte(float v) { return encodeLinear(v); }
-inline Batch encodeForByte(const Batch& v)
+[[gnu::always_inline]] inline Batch encodeForByte(const Batch& v)
 {
     const Batch root = v * roughInverseRoot(v), fourth = root * roughInverseRoot(root); // no number for 0
     return select(v <= Batch(0.0031308f), v * 12.92f, encodeFourthRoot(fourth));
 }
 
 template <class V, CIFormat F>
-void storeCoded(std::byte* bytes, const Pixel<V>& p)
+[[gnu::always_inline]] inline void storeCoded(std::byte* bytes, const Pixel<V>& p)
 {
     if constexpr (F == CIFormat::RGBA8 || F == CIFormat::BGRA8) {
         const auto code = [](const V& v) { return toWords(mulAdd(v, V(255.0f), V(0.5f))); };
@@ -182,7 +187,7 @@ void storeCoded(std::byte* bytes, const Pixel<V>& p)
 }
 
 template <class V, CIFormat F, CIAlpha A, CIColorSpace S, bool opaque>
-void encodePixel(std::byte* bytes, Pixel<V> p)
+[[gnu::always_inline]] inline void encodePixel(std::byte* bytes, Pixel<V> p)
 {
     constexpr bool clipped = F != CIFormat::RGBAf, coded = S == CIColorSpace::SRGB;
     if constexpr (opaque)
@@ -211,7 +216,10 @@ void encodeRow(const CIProfiledSpace*, const Row& row, int count, std::byte* pix
     const std::size_t size = bytesPerPixel(F);
     int i = 0;
     for (; i + lanes <= count; i += lanes)
-        encodePixel<V, F, A, S, opaque>(pixels + std::size_t(i) * size, loadRow<V>(row, i));
+        if (opaque || !any(ci::loadRow<V>(row.a + i) != V(1.0f))) // mostly so, and dividing takes long
+            encodePixel<V, F, A, S, true>(pixels + std::size_t(i) * size, loadRow<V>(row, i));
+        else
+            encodePixel<V, F, A, S, false>(pixels + std::size_t(i) * size, loadRow<V>(row, i));
     if (i < count) {
         alignas(64) std::byte rest[16 * lanes];
         encodePixel<V, F, A, S, opaque>(rest, loadRow<V>(row, i));
