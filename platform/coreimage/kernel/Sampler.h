@@ -65,9 +65,27 @@ inline TwoQuads loadTwoQuads(const float* p)
     return q;
 }
 
+// a b + c, in one instruction where there is one.
+inline Quad mulAdd(float a, const Quad& b, const Quad& c)
+{
+#ifdef __FMA__
+    return _mm_fmadd_ps(_mm_set1_ps(a), b, c);
+#else
+    return a * b + c;
+#endif
+}
+inline TwoQuads mulAdd(float a, const TwoQuads& b, const TwoQuads& c)
+{
+#ifdef __FMA__
+    return _mm256_fmadd_ps(_mm256_set1_ps(a), b, c);
+#else
+    return a * b + c;
+#endif
+}
+
 /// Pixels of the lanes, from interleaved to planes.
 template <class V>
-Pixel<V> gathered(const Quad* quads)
+[[gnu::always_inline]] inline Pixel<V> gathered(const Quad* quads)
 {
     if constexpr (std::is_same_v<V, float>) {
         return {quads[0][0], quads[0][1], quads[0][2], quads[0][3]};
@@ -108,10 +126,10 @@ Pixel<V> SampledArea::linear(const Point<V>& at) const
         const float* p = m_pixels + starts[i];
         // Both neighbors of a row at once: they lie side by side.
         const TwoQuads lower = loadTwoQuads(p), upper = loadTwoQuads(p + m_stride);
-        const TwoQuads between = lower + fy[i] * (upper - lower);
+        const TwoQuads between = mulAdd(fy[i], upper - lower, lower);
         const Quad left = __builtin_shufflevector(between, between, 0, 1, 2, 3);
         const Quad right = __builtin_shufflevector(between, between, 4, 5, 6, 7);
-        quads[i] = left + fx[i] * (right - left);
+        quads[i] = mulAdd(fx[i], right - left, left);
     }
     return gathered<V>(quads);
 }
