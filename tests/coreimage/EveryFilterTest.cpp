@@ -119,6 +119,28 @@ TEST_P(EveryFilter, TilesEqualOnePiece)
         }
 }
 
+TEST_P(EveryFilter, HalfScaleResemblesTheReducedWhole)
+{
+    if (declaration().boundToPixelGrid)
+        GTEST_SKIP() << "tied to the pixel grid";
+    const CIImage image = filter(GetParam(), CIImage::fromBitmap(smooth(240, 160)))->outputImage();
+    if (image.isNull())
+        return;
+    const CIRect rect{20, 20, 200, 120};
+    const CIBitmap full = rendered(image, rect), half = rendered(image, rect, 0.5);
+    ASSERT_EQ(half.width(), 100);
+    double sum = 0;
+    for (int y = 0; y < half.height(); ++y)
+        for (int x = 0; x < half.width(); ++x)
+            for (int c = 0; c < 4; ++c) {
+                const float mean = (at(full, 2 * x, 2 * y, c) + at(full, 2 * x + 1, 2 * y, c)
+                                       + at(full, 2 * x, 2 * y + 1, c) + at(full, 2 * x + 1, 2 * y + 1, c))
+                    / 4;
+                sum += std::abs(double(mean) - double(at(half, x, y, c)));
+            }
+    EXPECT_LT(sum / (4 * half.width() * half.height()), 0.02);
+}
+
 INSTANTIATE_TEST_SUITE_P(All, EveryFilter, testing::ValuesIn(CIFilter::filterNamesInCategory("")),
     [](const auto& info) { return info.param; });
 
