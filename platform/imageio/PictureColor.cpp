@@ -58,15 +58,28 @@ bool fits(cmsColorSpaceSignature space, VipsImage* image)
     }
 }
 
-/// True when applying the profile would move no color by more than half an 8-bit step (or a 16-bit one of
-/// 1/1024): most files carry one of the many spellings of sRGB, and leaving them alone is exact and quick.
-bool isSrgbInEffect(cmsHPROFILE profile, bool isDeep)
+/// The one that files of ours carry, whose primaries are rounded. Null when libvips has none.
+ProfilePtr writtenSrgb()
 {
-    if (cmsGetColorSpace(profile) != cmsSigRgbData)
-        return false;
-    const ProfilePtr srgb(cmsCreate_sRGBProfile());
-    const TransformPtr transform(cmsCreateTransform(
-        profile, TYPE_RGB_16, srgb.get(), TYPE_RGB_16, INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE));
+    VipsBlob* loaded = nullptr;
+    if (vips_profile_load("srgb", &loaded, nullptr) != 0) {
+        vips_error_clear();
+        return nullptr;
+    }
+    std::size_t size = 0;
+    const void* bytes = vips_blob_get(loaded, &size);
+    ProfilePtr profile(cmsOpenProfileFromMem(bytes, cmsUInt32Number(size)));
+    vips_area_unref(VIPS_AREA(loaded));
+    return profile;
+}
+
+/// True when going over to the other profile would move no color by more than half an 8-bit step (or a 16-bit one of
+/// 1/1024).
+bool areAlike(cmsHPROFILE profile, cmsHPROFILE other, bool isDeep)
+{
+    const TransformPtr transform(other ? cmsCreateTransform(profile, TYPE_RGB_16, other, TYPE_RGB_16,
+                                     INTENT_RELATIVE_COLORIMETRIC, cmsFLAGS_NOOPTIMIZE)
+                                       : nullptr);
     if (!transform)
         return false;
     constexpr int kSteps = 8;
@@ -83,6 +96,14 @@ bool isSrgbInEffect(cmsHPROFILE profile, bool isDeep)
         if (std::abs(int(before[i]) - int(after[i])) > tolerance)
             return false;
     return true;
+}
+
+/// Most files carry one of the many spellings of sRGB, and leaving them alone is exact and quick.
+bool isSrgbInEffect(cmsHPROFILE profile, bool isDeep)
+{
+    return cmsGetColorSpace(profile) == cmsSigRgbData
+        && (areAlike(profile, ProfilePtr(cmsCreate_sRGBProfile()).get(), isDeep)
+            || areAlike(profile, writtenSrgb().get(), isDeep));
 }
 
 VipsImagePtr cast(VipsImagePtr image, VipsBandFormat format)

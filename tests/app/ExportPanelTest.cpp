@@ -53,6 +53,7 @@ protected:
             EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
             QTest::keySequence(&window, QKeySequence("Ctrl+Shift+E"));
             EXPECT_TRUE(QTest::qWaitFor([&] { return (found = window.findChild<ExportPanel*>()); }, kPatience));
+            EXPECT_TRUE(QTest::qWaitForWindowActive(found)); // else fields don't take what is typed
         }
         return *found;
     }
