@@ -163,7 +163,8 @@ public:
     void setDefaults();
     /// Nothing when the key is unknown or has no value.
     CIValue valueForKey(std::string_view key) const;
-    /// Unknown keys are ignored. A number out of its range is kept, and brought into it when rendering.
+    /// Unknown keys are ignored, save those of notes, which begin with "layer". A number out of its range is kept, and
+    /// brought into it when rendering.
     void setValueForKey(const CIValue& value, std::string_view key);
 
     /// The result, or a null image when an image input that the filter can't do without is empty.
