@@ -1,6 +1,7 @@
 #include "controls/panel/LayerRows.h"
 
 #include "controls/panel/CaptionLabel.h"
+#include "controls/panel/InputBinding.h"
 #include "controls/panel/ParameterText.h"
 #include "platform/chain/Layers.h"
 #include "widgets/ColorWell.h"
@@ -79,23 +80,12 @@ LayerRows::LayerRows(std::shared_ptr<CIFilter> filter, ParameterMaster& master, 
 
 ValueBinding LayerRows::bind(const std::string& key)
 {
-    const std::shared_ptr<CIFilter> filter = m_filter;
-    ParameterMaster& master = m_master;
-    return {.get = [=] { return filter->valueForKey(key); },
-        .set =
-            [=, &master](const CIValue& value) {
-                master.setFilterValueForKey(*filter, value, key);
-                master.setActionNameForFilterKey(*filter, key);
-                master.updateView();
-            },
-        .standard = [=, &master] { return master.standardValueForKey(*filter, key); },
-        .begin = [&master] { master.beginChange(); },
-        .end = [&master] { master.endChange(); },
-        .preview =
-            [=, &master](const CIValue& value) {
-                filter->setValueForKey(value, key);
-                master.updateView();
-            }};
+    ValueBinding binding = inputBinding(m_filter, key, m_master);
+    binding.preview = [preview = binding.preview, &master = m_master](const CIValue& value) {
+        preview(value);
+        master.updateView();
+    };
+    return binding;
 }
 
 /// The first part fills the line.
